@@ -299,55 +299,19 @@ RT_INLINE uint64_t rtxBigEndian64(uint64_t w) {
 #endif
 }
 
-/* Big-endian window of 64 bits starting at byte `bi`, zero past the end. Near the end of a
-   buffer of 8 bytes or more, the last 8 bytes are loaded and shifted into place. */
-RT_INLINE uint64_t rtxLoadWindow(const rtxContext* ctx, uint32_t bi) {
-  const uint8_t* data = ctx->buffer_data;
-  const uint32_t size = ctx->buffer_size;
-  uint64_t w;
-  if ((uint64_t)bi + 8u <= size) {
-    memcpy(&w, data + bi, 8);
-    return rtxBigEndian64(w);
-  }
-  if (bi >= size) return 0;
-  if (size >= 8u) {
-    memcpy(&w, data + size - 8u, 8);
-    return rtxBigEndian64(w) << (8u * (bi + 8u - size));
-  }
-  {
-    uint32_t i;
-    w = 0;
-    for (i = bi; i < size; i++) w |= (uint64_t)data[i] << (56u - 8u * (i - bi));
-  }
-  return w;
-}
+/* Big-endian window of 64 bits starting at byte `bi`, zero past the end, for a window that
+   does not lie wholly inside the buffer (out of line: only the last bytes of a buffer). */
+uint64_t rtxLoadWindowTail(const rtxContext* ctx, uint32_t bi);
 
-/* Read `nbits` (0..32) as an unsigned number, first bit most significant. With 8 bytes
-   ahead the read cannot pass the end (at most 7 + 32 bits are taken), so only reads near
-   the end of the buffer test it. */
-RT_INLINE int rtxDecBitsFast(rtxContext* ctx, uint32_t* pvalue, uint32_t nbits) {
-  const uint32_t bi = ctx->byte_index;
-  const uint32_t used = (uint32_t)(8 - ctx->bit_offset);
+/* Big-endian window of 64 bits starting at byte `bi`, zero past the end. */
+RT_INLINE uint64_t rtxLoadWindow(const rtxContext* ctx, uint32_t bi) {
   uint64_t w;
   if (RT_LIKELY((uint64_t)bi + 8u <= ctx->buffer_size)) {
     memcpy(&w, ctx->buffer_data + bi, 8);
-    w = rtxBigEndian64(w);
-  } else {
-    if ((uint64_t)bi * 8u + used + nbits > (uint64_t)ctx->buffer_size * 8u) return RT_ERR_ENDOFBUF;
-    w = rtxLoadWindow(ctx, bi);
+    return rtxBigEndian64(w);
   }
-  /* Two shifts, so that a read of 0 bits gives 0 without a shift by 64. */
-  *pvalue = (uint32_t)(((w << used) >> (63u - nbits)) >> 1);
-  {
-    const uint32_t end = used + nbits;
-    ctx->byte_index = bi + (end >> 3);
-    ctx->bit_offset = (int16_t)(8u - (end & 7u));
-  }
-  return 0;
+  return rtxLoadWindowTail(ctx, bi);
 }
-
-int rtxDecBit(rtxContext* ctx, uint8_t* pvalue);
-int rtxDecBits(rtxContext* ctx, uint32_t* pvalue, uint32_t nbits);
 
 /* Number of bits PER gives to a constrained whole number of the range 0..range. */
 RT_INLINE uint32_t rtxRangeBits(uint64_t range) {
@@ -362,6 +326,102 @@ RT_INLINE uint32_t rtxRangeBits(uint64_t range) {
   return n;
 #endif
 }
+
+/* ---- The read cursor -------------------------------------------------------------------
+
+   The generated decoders read through a cursor that the bodies of one message hand to each
+   other, so that it lives in registers while fields are read: the next bits of the buffer,
+   first bit on top, as many as one 8-byte load gives. A read takes its bits from the top and
+   shifts them out; only when too few are left does it load again, and only a load near the
+   end of the buffer looks for the end. byte_index and bit_offset are brought up to date where
+   the context must show the position: before a runtime call that reads through the context,
+   at a failure, and when the outermost decoder returns. A read that fails leaves the position
+   where it was. */
+typedef struct rtxDecCur {
+  uint64_t w;    /* the unread bits, first on top, zero below them */
+  uint64_t left; /* bits of w that are unread and inside the buffer */
+  uint64_t end;  /* bit position just past them: the next read is at end - left */
+} rtxDecCur;
+
+RT_INLINE uint64_t rtxCurPos(const rtxDecCur* cur) { return cur->end - cur->left; }
+
+/* Start reading at bit `pos`; the first read loads. */
+RT_INLINE void rtxCurStart(rtxDecCur* cur, uint64_t pos) {
+  cur->w = 0;
+  cur->left = 0;
+  cur->end = pos;
+}
+
+/* The context shows the cursor's position. */
+RT_INLINE void rtxCurSync(rtxContext* ctx, const rtxDecCur* cur) { rtxSetBitPos(ctx, rtxCurPos(cur)); }
+
+/* The bits of the buffer from bit `pos` on, first on top, zero past the end (out of line:
+   the last 8 bytes of a buffer). */
+uint64_t rtxLoadTail(const rtxContext* ctx, uint64_t pos);
+
+/* Load the bits from the cursor's position on: at least 57 of them while 8 bytes are left. */
+RT_INLINE void rtxCurFill(const rtxContext* ctx, rtxDecCur* cur) {
+  const uint64_t p = cur->end - cur->left;
+  const uint32_t bi = (uint32_t)(p >> 3);
+  if (RT_LIKELY((uint64_t)bi + 8u <= ctx->buffer_size)) {
+    uint64_t w;
+    memcpy(&w, ctx->buffer_data + bi, 8);
+    cur->w = rtxBigEndian64(w) << (p & 7u);
+    cur->end = ((uint64_t)bi + 8u) * 8u;
+  } else {
+    cur->w = rtxLoadTail(ctx, p);
+    cur->end = (uint64_t)ctx->buffer_size * 8u;
+  }
+  cur->left = cur->end - p;
+}
+
+/* Make `nbits` (0..57) readable: RT_ERR_ENDOFBUF if the buffer ends before them. */
+RT_INLINE int rtxCurNeed(const rtxContext* ctx, rtxDecCur* cur, uint32_t nbits) {
+  if (RT_LIKELY(cur->left >= nbits)) return 0;
+  rtxCurFill(ctx, cur);
+  return cur->left >= nbits ? 0 : RT_ERR_ENDOFBUF;
+}
+
+/* The next `nbits` (0..57) as a number, after rtxCurNeed; two shifts, so that 0 bits give 0. */
+RT_INLINE uint64_t rtxCurPeek(const rtxDecCur* cur, uint32_t nbits) { return (cur->w >> (63u - nbits)) >> 1; }
+
+RT_INLINE void rtxCurSkip(rtxDecCur* cur, uint32_t nbits) {
+  cur->w <<= nbits;
+  cur->left -= nbits;
+}
+
+/* Read `nbits` (0..32) as an unsigned number, first bit most significant. */
+RT_INLINE int rtxDecBitsAt(const rtxContext* ctx, rtxDecCur* cur, uint32_t nbits, uint32_t* pvalue) {
+  if (nbits == 0) {
+    *pvalue = 0;
+    return 0;
+  }
+  if (RT_UNLIKELY(rtxCurNeed(ctx, cur, nbits) != 0)) return RT_ERR_ENDOFBUF;
+  *pvalue = (uint32_t)rtxCurPeek(cur, nbits);
+  rtxCurSkip(cur, nbits);
+  return 0;
+}
+
+/* One presence or BOOLEAN bit. */
+RT_INLINE int rtxDecBitAt(const rtxContext* ctx, rtxDecCur* cur, uint8_t* pbit) {
+  uint32_t v;
+  int stat = rtxDecBitsAt(ctx, cur, 1, &v);
+  if (stat == 0) *pbit = (uint8_t)v;
+  return stat;
+}
+
+/* Read `nbits` (0..32) at the context's position. */
+RT_INLINE int rtxDecBitsFast(rtxContext* ctx, uint32_t* pvalue, uint32_t nbits) {
+  rtxDecCur cur;
+  int stat;
+  rtxCurStart(&cur, rtxBitPos(ctx));
+  stat = rtxDecBitsAt(ctx, &cur, nbits, pvalue);
+  if (stat == 0) rtxCurSync(ctx, &cur);
+  return stat;
+}
+
+int rtxDecBit(rtxContext* ctx, uint8_t* pvalue);
+int rtxDecBits(rtxContext* ctx, uint32_t* pvalue, uint32_t nbits);
 
 /* Read one presence or BOOLEAN bit: inline while the buffer lasts, rtxDecBit at its end. */
 RT_INLINE int rtxDecBitInline(rtxContext* ctx, uint8_t* pbit) {
@@ -381,77 +441,86 @@ RT_INLINE int rtxDecBitInline(rtxContext* ctx, uint8_t* pbit) {
 }
 
 int pd_ConsUnsignedSlow(rtxContext* ctx, uint64_t* pvalue, uint64_t lower, uint64_t upper);
+int rtxDecConsRangeWide(rtxContext* ctx, uint64_t* praw, uint64_t range);
+
+/* A runtime call at the context's position: the context shows the cursor's position first,
+   and the cursor goes on from where the call left the context. */
+RT_INLINE int rtxCurResume(const rtxContext* ctx, rtxDecCur* cur, int stat) {
+  rtxCurStart(cur, rtxBitPos(ctx));
+  return stat;
+}
+#define RT_CUR_CALL(ctx, cur, call) (rtxCurSync((ctx), (cur)), rtxCurResume((ctx), (cur), (call)))
 
 /* Constrained whole number lower..upper. The value is not tested against `upper` here: a
    CHOICE index or ENUMERATED value is tested (or not) by the generated code. */
-RT_INLINE int pd_ConsUnsigned(rtxContext* ctx, uint32_t* pvalue, uint64_t lower, uint64_t upper) {
+RT_INLINE int pd_ConsUnsignedAt(rtxContext* ctx, rtxDecCur* cur, uint32_t* pvalue, uint64_t lower, uint64_t upper) {
   uint64_t range = upper - lower;
   if (range <= 0xFFFFFFFFull) {
     uint32_t raw;
-    int stat = rtxDecBitsFast(ctx, &raw, rtxRangeBits(range));
+    int stat = rtxDecBitsAt(ctx, cur, rtxRangeBits(range), &raw);
     if (stat != 0) return stat;
     *pvalue = (uint32_t)(lower + raw);
     return 0;
   } else {
     uint64_t v;
-    int stat = pd_ConsUnsignedSlow(ctx, &v, lower, upper);
+    int stat = RT_CUR_CALL(ctx, cur, pd_ConsUnsignedSlow(ctx, &v, lower, upper));
     if (stat == 0) *pvalue = (uint32_t)v;
     return stat;
   }
 }
 
-/* Integer reads: the value must lie within lower..upper, else RT_ERR_CONSVIO. Ranges wider
-   than 32 bits take the out-of-line path. */
-int rtxDecConsRangeWide(rtxContext* ctx, uint64_t* praw, uint64_t range);
-
-RT_INLINE int rtxDecConsRange(rtxContext* ctx, uint64_t* praw, uint64_t range) {
-  uint32_t nbits = rtxRangeBits(range);
-  uint32_t raw;
-  int stat;
-  if (nbits > 32) return rtxDecConsRangeWide(ctx, praw, range);
-  stat = rtxDecBitsFast(ctx, &raw, nbits);
-  if (stat != 0) return stat;
+/* Offset from the lower bound of a constrained integer; beyond `range` it fails with
+   RT_ERR_CONSVIO and reads nothing. Ranges wider than 32 bits take the out-of-line path. */
+RT_INLINE int rtxDecConsRangeAt(rtxContext* ctx, rtxDecCur* cur, uint64_t* praw, uint64_t range) {
+  const uint32_t nbits = rtxRangeBits(range);
+  uint64_t raw;
+  if (nbits > 32) return RT_CUR_CALL(ctx, cur, rtxDecConsRangeWide(ctx, praw, range));
+  if (nbits == 0) {
+    *praw = 0;
+    return 0;
+  }
+  if (RT_UNLIKELY(rtxCurNeed(ctx, cur, nbits) != 0)) return RT_ERR_ENDOFBUF;
+  raw = rtxCurPeek(cur, nbits);
   if (raw > range) return RT_ERR_CONSVIO;
+  rtxCurSkip(cur, nbits);
   *praw = raw;
   return 0;
 }
 
-RT_INLINE int pd_ConsUInt8(rtxContext* ctx, uint8_t* pvalue, uint64_t lower, uint64_t upper) {
-  uint64_t raw;
-  int stat = rtxDecConsRange(ctx, &raw, upper - lower);
-  if (stat == 0) *pvalue = (uint8_t)(lower + raw);
-  return stat;
-}
-RT_INLINE int pd_ConsUInt16(rtxContext* ctx, uint16_t* pvalue, uint64_t lower, uint64_t upper) {
-  uint64_t raw;
-  int stat = rtxDecConsRange(ctx, &raw, upper - lower);
-  if (stat == 0) *pvalue = (uint16_t)(lower + raw);
-  return stat;
-}
-RT_INLINE int pd_ConsUInt32(rtxContext* ctx, uint32_t* pvalue, uint64_t lower, uint64_t upper) {
-  uint64_t raw;
-  int stat = rtxDecConsRange(ctx, &raw, upper - lower);
-  if (stat == 0) *pvalue = (uint32_t)(lower + raw);
-  return stat;
-}
-RT_INLINE int pd_ConsInt8(rtxContext* ctx, int8_t* pvalue, int64_t lower, int64_t upper) {
-  uint64_t raw;
-  int stat = rtxDecConsRange(ctx, &raw, (uint64_t)upper - (uint64_t)lower);
-  if (stat == 0) *pvalue = (int8_t)(lower + (int64_t)raw);
-  return stat;
-}
-RT_INLINE int pd_ConsInt16(rtxContext* ctx, int16_t* pvalue, int64_t lower, int64_t upper) {
-  uint64_t raw;
-  int stat = rtxDecConsRange(ctx, &raw, (uint64_t)upper - (uint64_t)lower);
-  if (stat == 0) *pvalue = (int16_t)(lower + (int64_t)raw);
-  return stat;
-}
-RT_INLINE int pd_ConsInteger(rtxContext* ctx, int32_t* pvalue, int64_t lower, int64_t upper) {
-  uint64_t raw;
-  int stat = rtxDecConsRange(ctx, &raw, (uint64_t)upper - (uint64_t)lower);
-  if (stat == 0) *pvalue = (int32_t)(lower + (int64_t)raw);
-  return stat;
-}
+/* Integer reads: the value must lie within lower..upper, else RT_ERR_CONSVIO. */
+#define RT_DEFINE_CONS_AT(name, ctype, btype)                                                          \
+  RT_INLINE int name(rtxContext* ctx, rtxDecCur* cur, ctype* pvalue, btype lower, btype upper) {      \
+    uint64_t raw;                                                                                       \
+    int stat = rtxDecConsRangeAt(ctx, cur, &raw, (uint64_t)upper - (uint64_t)lower);                   \
+    if (stat == 0) *pvalue = (ctype)((uint64_t)lower + raw);                                           \
+    return stat;                                                                                        \
+  }
+RT_DEFINE_CONS_AT(pd_ConsUInt8At, uint8_t, uint64_t)
+RT_DEFINE_CONS_AT(pd_ConsUInt16At, uint16_t, uint64_t)
+RT_DEFINE_CONS_AT(pd_ConsUInt32At, uint32_t, uint64_t)
+RT_DEFINE_CONS_AT(pd_ConsInt8At, int8_t, int64_t)
+RT_DEFINE_CONS_AT(pd_ConsInt16At, int16_t, int64_t)
+RT_DEFINE_CONS_AT(pd_ConsIntegerAt, int32_t, int64_t)
+#undef RT_DEFINE_CONS_AT
+
+/* The same reads at the context's position. */
+#define RT_DEFINE_CONS(name, at, ctype, btype)                                                         \
+  RT_INLINE int name(rtxContext* ctx, ctype* pvalue, btype lower, btype upper) {                      \
+    rtxDecCur cur;                                                                                      \
+    int stat;                                                                                           \
+    rtxCurStart(&cur, rtxBitPos(ctx));                                                                  \
+    stat = at(ctx, &cur, pvalue, lower, upper);                                                         \
+    if (stat == 0) rtxCurSync(ctx, &cur);                                                               \
+    return stat;                                                                                        \
+  }
+RT_DEFINE_CONS(pd_ConsUnsigned, pd_ConsUnsignedAt, uint32_t, uint64_t)
+RT_DEFINE_CONS(pd_ConsUInt8, pd_ConsUInt8At, uint8_t, uint64_t)
+RT_DEFINE_CONS(pd_ConsUInt16, pd_ConsUInt16At, uint16_t, uint64_t)
+RT_DEFINE_CONS(pd_ConsUInt32, pd_ConsUInt32At, uint32_t, uint64_t)
+RT_DEFINE_CONS(pd_ConsInt8, pd_ConsInt8At, int8_t, int64_t)
+RT_DEFINE_CONS(pd_ConsInt16, pd_ConsInt16At, int16_t, int64_t)
+RT_DEFINE_CONS(pd_ConsInteger, pd_ConsIntegerAt, int32_t, int64_t)
+#undef RT_DEFINE_CONS
 
 /* Length determinant under size_constraint: a constrained count when the upper bound is
    below 64K, the general form otherwise. A count outside lower..upper fails. */
@@ -465,6 +534,91 @@ int pd_DynOctetString(rtxContext* ctx, rtxDynOctStr* pvalue);
 /* Copy `nbits` from the buffer to `dst` (first bit in the top of dst[0]); the caller has
    checked that dst holds (nbits + 7) / 8 bytes. Unused low bits of the last byte are 0. */
 int rtxDecBitsToBytes(rtxContext* ctx, uint8_t* dst, uint32_t nbits);
+/* The same at bit `*pos`, which it advances. */
+int rtxDecBitsToBytesAt(const rtxContext* ctx, uint64_t* pos, uint8_t* dst, uint32_t nbits);
+
+/* Length determinant. A constrained count (upper bound below 64K) is read in line. */
+RT_INLINE int pd_LengthAt(rtxContext* ctx, rtxDecCur* cur, uint32_t* pvalue) {
+  const rtxSizeConstraint* sc = ctx->size_constraint;
+  if (sc != 0 && sc->upper < 65536u && sc->lower <= sc->upper) {
+    uint64_t raw;
+    int stat = rtxDecConsRangeAt(ctx, cur, &raw, sc->upper - sc->lower);
+    if (stat == 0) *pvalue = sc->lower + (uint32_t)raw;
+    return stat;
+  }
+  return RT_CUR_CALL(ctx, cur, pd_Length(ctx, pvalue));
+}
+
+/* Bit string of at most 32 bits, read in line. */
+RT_INLINE int pd_BitString32At(rtxContext* ctx, rtxDecCur* cur, rtxBitStr32* pvalue, uint32_t lower, uint32_t upper) {
+  if (pvalue != 0 && upper <= 32u && lower <= upper) {
+    const uint32_t k = rtxRangeBits(upper - lower);
+    uint32_t numbits, bits;
+    if (RT_UNLIKELY(rtxCurNeed(ctx, cur, k) != 0)) return RT_ERR_ENDOFBUF;
+    numbits = lower + (uint32_t)rtxCurPeek(cur, k);
+    if (numbits > upper) return RT_ERR_CONSVIO;
+    if (RT_UNLIKELY(rtxCurNeed(ctx, cur, k + numbits) != 0)) return RT_ERR_ENDOFBUF;
+    bits = (uint32_t)(((cur->w << k) >> 32) & ~(0xFFFFFFFFull >> numbits));
+    rtxCurSkip(cur, k + numbits);
+    pvalue->numbits = numbits;
+    pvalue->data[0] = (uint8_t)(bits >> 24);
+    pvalue->data[1] = (uint8_t)(bits >> 16);
+    pvalue->data[2] = (uint8_t)(bits >> 8);
+    pvalue->data[3] = (uint8_t)bits;
+    return 0;
+  }
+  return RT_CUR_CALL(ctx, cur, pd_BitString32(ctx, pvalue, lower, upper));
+}
+
+/* A string of `unit`-bit units (1 or 8) whose count is constrained below 64K, copied into
+   `data` of `capacity` bytes. Returns 1 when the string is not of that kind. */
+RT_INLINE int rtxDecBoundedStringAt(rtxContext* ctx, rtxDecCur* cur, uint32_t unit, uint32_t* pcount, uint8_t* data,
+                                    uint32_t capacity, int* pstat) {
+  const rtxSizeConstraint* sc = ctx->size_constraint;
+  if (pcount == 0 || data == 0 || sc == 0 || sc->upper >= 65536u || sc->lower > sc->upper) return 1;
+  {
+    const uint32_t k = rtxRangeBits(sc->upper - sc->lower);
+    uint32_t count;
+    uint64_t pos;
+    if (RT_UNLIKELY(rtxCurNeed(ctx, cur, k) != 0)) {
+      *pstat = RT_ERR_ENDOFBUF;
+      return 0;
+    }
+    count = sc->lower + (uint32_t)rtxCurPeek(cur, k);
+    if (count > sc->upper || ((uint64_t)count * unit + 7u) / 8u > capacity) {
+      *pstat = RT_ERR_CONSVIO;
+      return 0;
+    }
+    pos = rtxCurPos(cur) + k;
+    *pstat = rtxDecBitsToBytesAt(ctx, &pos, data, count * unit);
+    if (*pstat == 0) {
+      rtxCurStart(cur, pos);
+      *pcount = count;
+    }
+    return 0;
+  }
+}
+
+/* Bounded bit and octet strings: those with a count below 64K are read without a call. */
+RT_INLINE int pd_BitStringAt(rtxContext* ctx, rtxDecCur* cur, uint32_t* numbits, uint8_t* data, uint32_t capacity) {
+  int stat;
+  if (rtxDecBoundedStringAt(ctx, cur, 1, numbits, data, capacity, &stat) == 0) return stat;
+  return RT_CUR_CALL(ctx, cur, pd_BitString(ctx, numbits, data, capacity));
+}
+
+RT_INLINE int pd_OctetStringAt(rtxContext* ctx, rtxDecCur* cur, uint32_t* numocts, uint8_t* data, uint32_t capacity) {
+  int stat;
+  if (rtxDecBoundedStringAt(ctx, cur, 8, numocts, data, capacity, &stat) == 0) return stat;
+  return RT_CUR_CALL(ctx, cur, pd_OctetString(ctx, numocts, data, capacity));
+}
+
+RT_INLINE int pd_DynBitStringAt(rtxContext* ctx, rtxDecCur* cur, rtxDynBitStr* pvalue) {
+  return RT_CUR_CALL(ctx, cur, pd_DynBitString(ctx, pvalue));
+}
+
+RT_INLINE int pd_DynOctetStringAt(rtxContext* ctx, rtxDecCur* cur, rtxDynOctStr* pvalue) {
+  return RT_CUR_CALL(ctx, cur, pd_DynOctetString(ctx, pvalue));
+}
 
 /* ---- Encoding ------------------------------------------------------------------------- */
 

@@ -14,11 +14,18 @@ struct OutFile {
   std::string text;
 };
 
-// Text of one function (or table) per type, in code order, for a family.
+// Text of one function (or table) per type, in code order, for a family. A decoder or
+// encoder unit also has the declaration of its body (a static function of its file) and the
+// types whose bodies it calls, which its file declares or reaches through a shim.
 struct Unit {
   const Def* def;
   std::string text;
+  std::string decl;
+  std::vector<const Def*> calls;
 };
+
+// How a family's files reach bodies that other files hold: the shim line for a type.
+using ShimFn = std::string (*)(const Def*);
 
 // Code writer with indentation by three spaces, as the generated files are laid out.
 class Writer {
@@ -53,8 +60,11 @@ std::vector<OutFile> emitRegistry(const Model& m);
 OutFile emitVectors(const Model& m, unsigned seed, int per_type);
 
 // Packs the units of a family into files of about `lines_per_file` lines.
+// Each file starts with the declarations of its bodies and a shim for every body that it
+// calls from another file.
 std::vector<OutFile> packUnits(const std::vector<Unit>& units, const std::string& prefix,
-                               const std::string& what, size_t lines_per_file);
+                               const std::string& what, size_t lines_per_file, ShimFn shim = nullptr);
+std::string decodeShim(const Def* d);
 
 // Counts by construct, as printed by the compiler.
 std::string countsTable(const Model& m);

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <map>
+#include <set>
 #include <sstream>
 
 #include "emit.h"
@@ -57,30 +58,46 @@ std::string banner(const std::string& what) {
 }
 
 std::vector<OutFile> packUnits(const std::vector<Unit>& units, const std::string& prefix,
-                               const std::string& what, size_t lines_per_file) {
-  std::vector<OutFile> files;
-  std::string body;
+                               const std::string& what, size_t lines_per_file, ShimFn shim) {
+  // Files are cut at about lines_per_file lines, in code order.
+  std::vector<std::vector<const Unit*>> groups(1);
   size_t lines = 0;
-  auto flush = [&]() {
-    if (body.empty()) return;
+  for (const Unit& u : units) {
+    groups.back().push_back(&u);
+    lines += static_cast<size_t>(std::count(u.text.begin(), u.text.end(), '\n')) + 1;
+    if (lines >= lines_per_file) {
+      groups.emplace_back();
+      lines = 0;
+    }
+  }
+  if (groups.back().empty()) groups.pop_back();
+
+  std::vector<OutFile> files;
+  for (const auto& group : groups) {
+    std::string decls, shims, body;
+    std::set<const Def*> here, shimmed;
+    for (const Unit* u : group) here.insert(u->def);
+    for (const Unit* u : group) {
+      decls += u->decl;
+      for (const Def* c : u->calls)
+        if (!here.count(c) && shimmed.insert(c).second) shims += shim(c);
+      body += u->text;
+      body += '\n';
+    }
     char name[64];
     std::snprintf(name, sizeof name, "%s_%02zu.cpp", prefix.c_str(), files.size());
     OutFile f;
     f.name = name;
-    f.text = banner(what) + "#include \"umts_rrc_codec_internal.h\"\n\n" + body;
+    f.text = banner(what) + "#include \"umts_rrc_codec_internal.h\"\n\n";
+    if (!decls.empty()) f.text += "/* The bodies of this unit. */\n" + decls + "\n";
+    if (!shims.empty()) f.text += "/* Bodies held by other units. */\n" + shims + "\n";
+    f.text += body;
     files.push_back(std::move(f));
-    body.clear();
-    lines = 0;
-  };
-  for (const Unit& u : units) {
-    body += u.text;
-    body += '\n';
-    lines += static_cast<size_t>(std::count(u.text.begin(), u.text.end(), '\n')) + 1;
-    if (lines >= lines_per_file) flush();
   }
-  flush();
   return files;
 }
+
+std::string decodeShim(const Def* d) { return "RT_DECODE_EXTERN(" + d->c_name + ")\n"; }
 
 std::string countsTable(const Model& m) {
   int seq = 0, seq_empty = 0, choice = 0, enums = 0, enums1 = 0, lists = 0, arrays = 0, ints = 0,

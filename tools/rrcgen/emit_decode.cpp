@@ -1,5 +1,11 @@
 // Decoder family: asn1PD_UMTS_<T>, one function per type, straight-line PER steps.
 //
+// Each type has a body, dec_<T>, static to its file, that reads through a cursor held by its
+// caller (rtxDecCur): the unread bits stay in registers from field to field and from level to
+// level, and small bodies are merged into their callers. The exported asn1PD_UMTS_<T> runs the
+// body at the context's position. The context shows the position again at a failure (the step
+// that failed brings it up to date) and when the exported function returns.
+//
 // A decoder pushes no names while it works: each failure site names its own level (the type
 // of a scalar read in line, the element, the function's type) as the failure travels up, so
 // that the context's name path ends at the failing element while a message that decodes pays
@@ -13,13 +19,16 @@ namespace {
 
 class DecodeEmitter {
  public:
-  std::string function(const Def* d) {
+  Unit function(const Def* d) {
     Writer& w = w_;
+    calls_.clear();
     own_ = d->named ? quote(d->asn_name) : "0";
     elem_ = "0";
     index_ = "-1";
     inner_ = "0";
-    w.line("int asn1PD_UMTS_" + d->c_name + "(rtxContext* RT_RESTRICT ctx, " + d->c_name + "* RT_RESTRICT pvalue)");
+    const std::string sig = std::string(d->inline_body ? "RT_MERGED_BODY" : "static") + " int dec_" + d->c_name +
+                            "(rtxContext* RT_RESTRICT ctx, " + d->c_name + "* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)";
+    w.line(sig);
     w.open("{");
     switch (d->kind) {
       case Kind::Sequence:
@@ -47,37 +56,53 @@ class DecodeEmitter {
         break;
       case Kind::Alias:
         w.line("int stat;");
-        w.line("stat = asn1PD_UMTS_" + d->target->c_name + "(ctx, pvalue);");
-        check();
+        call(d->target, "pvalue");
         w.line("return 0;");
         break;
       case Kind::Null:
         throw std::logic_error("NULL has no decoder");
     }
     w.close("}");
-    return w.take();
+    w.line();
+    w.line("int asn1PD_UMTS_" + d->c_name + "(rtxContext* RT_RESTRICT ctx, " + d->c_name + "* RT_RESTRICT pvalue)");
+    w.open("{");
+    w.line("RT_DECODE_ENTRY(ctx, dec_" + d->c_name + ", pvalue);");
+    w.close("}");
+    Unit u{d, w.take(), sig + ";\n", calls_};
+    return u;
   }
 
  private:
   Writer w_;
+  std::vector<const Def*> calls_;  // bodies that this function calls
   // Names of the level that a failure site reports, as C literals or "0".
   std::string own_, elem_, index_, inner_;
   bool in_array_ = false;  // a failing array element cuts the count back first
 
   std::string names() const { return inner_ + ", " + elem_ + ", " + index_ + ", " + own_; }
 
-  void check() {
+  // The check after a step: a step of this level (`local`) brings the context's position up
+  // to date before it reports; a call has done so where it failed.
+  void check(bool local = true) {
+    const std::string how = local ? "_AT(ctx, cur, stat, " : "(ctx, stat, ";
     if (!in_array_) {
-      w_.line("RT_CHECK(ctx, stat, " + names() + ");");
+      w_.line("RT_CHECK" + how + names() + ");");
       return;
     }
     w_.open("if (stat != 0) {");
     w_.line("pvalue->n = i + 1;");
-    w_.line("RT_FAIL(ctx, stat, " + names() + ");");
+    w_.line("RT_FAIL" + how + names() + ");");
     w_.close("}");
   }
 
-  void fail(const std::string& status) { w_.line("RT_FAIL(ctx, " + status + ", " + names() + ");"); }
+  void fail(const std::string& status) { w_.line("RT_FAIL_AT(ctx, cur, " + status + ", " + names() + ");"); }
+
+  // The body of type t on the record at `ptr`.
+  void call(const Def* t, const std::string& ptr) {
+    calls_.push_back(t);
+    w_.line("stat = dec_" + t->c_name + "(ctx, " + ptr + ", cur);");
+    check(false);
+  }
 
   // Address of an lvalue: "*pvalue" is "pvalue", "pvalue->x" is "&pvalue->x".
   static std::string addr(const std::string& lv) { return lv[0] == '*' ? lv.substr(1) : "&" + lv; }
@@ -88,15 +113,15 @@ class DecodeEmitter {
     switch (t->kind) {
       case Kind::Integer: {
         std::string ct = intCType(t->lo, t->hi);
-        std::string op = ct == "uint8_t"    ? "pd_ConsUInt8"
-                         : ct == "uint16_t" ? "pd_ConsUInt16"
-                         : ct == "uint32_t" ? "pd_ConsUInt32"
-                         : ct == "int8_t"   ? "pd_ConsInt8"
-                         : ct == "int16_t"  ? "pd_ConsInt16"
-                         : ct == "int32_t"  ? "pd_ConsInteger"
+        std::string op = ct == "uint8_t"    ? "pd_ConsUInt8At"
+                         : ct == "uint16_t" ? "pd_ConsUInt16At"
+                         : ct == "uint32_t" ? "pd_ConsUInt32At"
+                         : ct == "int8_t"   ? "pd_ConsInt8At"
+                         : ct == "int16_t"  ? "pd_ConsInt16At"
+                         : ct == "int32_t"  ? "pd_ConsIntegerAt"
                                             : "";
         if (op.empty()) throw std::runtime_error("no decoder for INTEGER storage " + ct);
-        w.line("stat = " + op + "(ctx, " + addr(lv) + ", " + num(t->lo) + ", " + num(t->hi) + ");");
+        w.line("stat = " + op + "(ctx, cur, " + addr(lv) + ", " + num(t->lo) + ", " + num(t->hi) + ");");
         check();
         break;
       }
@@ -105,19 +130,19 @@ class DecodeEmitter {
           // One name: no bits are read, and any value but 0 would be a bad enumerated value.
           w.open("{");
           w.line("uint32_t ui;");
-          w.line("stat = pd_ConsUnsigned(ctx, &ui, 0, 0);");
+          w.line("stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);");
           check();
           w.line("stat = ui != 0 ? RT_ERR_INVENUM : 0;");
           check();
           w.line(lv + " = ui;");
           w.close("}");
         } else {
-          w.line("stat = pd_ConsUnsigned(ctx, " + addr(lv) + ", 0, " + std::to_string(t->enumerators.size() - 1) + ");");
+          w.line("stat = pd_ConsUnsignedAt(ctx, cur, " + addr(lv) + ", 0, " + std::to_string(t->enumerators.size() - 1) + ");");
           check();
         }
         break;
       case Kind::Boolean:
-        w.line("stat = rtxDecBitInline(ctx, " + addr(lv) + ");");
+        w.line("stat = rtxDecBitAt(ctx, cur, " + addr(lv) + ");");
         check();
         break;
       default:
@@ -138,8 +163,7 @@ class DecodeEmitter {
       string(t, "&" + lv, lv + ".");
       return;
     }
-    w_.line("stat = asn1PD_UMTS_" + t->c_name + "(ctx, &" + lv + ");");
-    check();
+    call(t, "&" + lv);
   }
 
   // Reads a BIT or OCTET STRING into the record at `ptr`, whose members are `mem` + name.
@@ -147,17 +171,17 @@ class DecodeEmitter {
     Writer& w = w_;
     bool bits = d->kind == Kind::BitString;
     if (!d->sized) {
-      w.line(std::string("stat = ") + (bits ? "pd_DynBitString" : "pd_DynOctetString") + "(ctx, " + ptr + ");");
+      w.line(std::string("stat = ") + (bits ? "pd_DynBitStringAt" : "pd_DynOctetStringAt") + "(ctx, cur, " + ptr + ");");
       check();
       return;
     }
     w.line("RT_SET_SIZE(ctx, " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
     if (bits && bitStringKind(d) == "32") {
-      w.line("stat = pd_BitString32(ctx, " + ptr + ", " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
+      w.line("stat = pd_BitString32At(ctx, cur, " + ptr + ", " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
     } else if (bits) {
-      w.line("stat = pd_BitString(ctx, &" + mem + "numbits, " + mem + "data, sizeof(" + mem + "data));");
+      w.line("stat = pd_BitStringAt(ctx, cur, &" + mem + "numbits, " + mem + "data, sizeof(" + mem + "data));");
     } else {
-      w.line("stat = pd_OctetString(ctx, &" + mem + "numocts, " + mem + "data, sizeof(" + mem + "data));");
+      w.line("stat = pd_OctetStringAt(ctx, cur, &" + mem + "numocts, " + mem + "data, sizeof(" + mem + "data));");
     }
     check();
   }
@@ -173,14 +197,14 @@ class DecodeEmitter {
     if (k > 0) {
       w.line("/* presence bits of the OPTIONAL and DEFAULT elements, in schema order */");
       if (k <= 32) {
-        w.line("stat = rtxDecBitsFast(ctx, &present, " + std::to_string(k) + ");");
+        w.line("stat = rtxDecBitsAt(ctx, cur, " + std::to_string(k) + ", &present);");
         check();
       } else {
         w.open("{");
         w.line("uint32_t hi, lo;");
-        w.line("stat = rtxDecBitsFast(ctx, &hi, " + std::to_string(k - 32) + ");");
+        w.line("stat = rtxDecBitsAt(ctx, cur, " + std::to_string(k - 32) + ", &hi);");
         check();
-        w.line("stat = rtxDecBitsFast(ctx, &lo, 32);");
+        w.line("stat = rtxDecBitsAt(ctx, cur, 32, &lo);");
         check();
         w.line("present = ((uint64_t)hi << 32) | lo;");
         w.close("}");
@@ -211,24 +235,27 @@ class DecodeEmitter {
     w.line(carriers ? "return stat;" : "return 0;");
   }
 
-  // An element that carries a complete encoding of its type in a BIT or OCTET STRING.
+  // An element that carries a complete encoding of its type in a BIT or OCTET STRING. The
+  // contained type is decoded by its exported function on a buffer of its own.
   void carrier(const Field& f) {
     Writer& w = w_;
     bool octs = f.containing_octets;
     w.open("{");
     w.line(std::string(octs ? "rtxDynOctStr" : "rtxDynBitStr") + " carrier;");
     w.line("rtxContext outer;");
-    w.line(std::string("stat = ") + (octs ? "pd_DynOctetString" : "pd_DynBitString") + "(ctx, &carrier);");
+    w.line(std::string("stat = ") + (octs ? "pd_DynOctetStringAt" : "pd_DynBitStringAt") + "(ctx, cur, &carrier);");
     check();
+    w.line("rtxCurSync(ctx, cur);");
     w.line("rtxCopyContext(&outer, ctx);");
     if (octs) w.line("stat = pu_setBuffer(ctx, carrier.data, carrier.numocts, ctx->aligned);");
     else w.line("stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);");
     w.open("if (stat == 0) {");
     w.line("/* a failure leaves the context on the inner buffer: nothing goes on decoding on it */");
     w.line("stat = asn1PD_UMTS_" + f.type->c_name + "(ctx, &pvalue->" + f.c_name + ");");
-    check();
+    check(false);
     w.close("}");
     w.line("rtxCopyContext(ctx, &outer);");
+    w.line("rtxCurStart(cur, rtxBitPos(ctx));");
     w.line("rtxMemHeapFreePtr(ctx, (void*)carrier.data);");
     w.close("}");
   }
@@ -238,7 +265,7 @@ class DecodeEmitter {
     size_t n = d->fields.size();
     w.line("int stat;");
     w.line("uint32_t ui;");
-    w.line("stat = pd_ConsUnsigned(ctx, &ui, 0, " + std::to_string(n - 1) + ");");
+    w.line("stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, " + std::to_string(n - 1) + ");");
     check();
     w.line("pvalue->t = ui + 1;");
     w.open("switch (ui) {");
@@ -255,16 +282,15 @@ class DecodeEmitter {
       } else if (isInlineString(f.type)) {
         std::string ct = cType(f.type);
         w.line(lv + " = (" + ct + "*)rtxMemHeapAlloc(ctx, sizeof(" + ct + "));");
-        w.line("if (" + lv + " == 0) RT_FAIL(ctx, RT_ERR_NOMEM, " + names() + ");");
+        w.line("if (" + lv + " == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, " + names() + ");");
         string(f.type, lv, lv + "->");
       } else {
         const std::string& ct = f.type->c_name;
         w.line(lv + " = (" + ct + "*)" + (f.type->has_init ? "rtxMemHeapAlloc" : "rtxMemHeapAllocZ") + "(ctx, sizeof(" +
                ct + "));");
-        w.line("if (" + lv + " == 0) RT_FAIL(ctx, RT_ERR_NOMEM, " + names() + ");");
+        w.line("if (" + lv + " == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, " + names() + ");");
         if (f.type->has_init) w.line("asn1Init_UMTS_" + ct + "(" + lv + ");");
-        w.line("stat = asn1PD_UMTS_" + ct + "(ctx, " + lv + ");");
-        check();
+        call(f.type, lv);
       }
       elem_ = "0";
       w.line("break;");
@@ -286,7 +312,7 @@ class DecodeEmitter {
     w.line("int stat;");
     w.line("uint32_t count, i;");
     w.line("RT_SET_SIZE(ctx, " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
-    w.line("stat = pd_Length(ctx, &count);");
+    w.line("stat = pd_LengthAt(ctx, cur, &count);");
     check();
     w.line("rtxDListInit(pvalue);");
     w.open("for (i = 0; i < count; i++) {");
@@ -295,13 +321,12 @@ class DecodeEmitter {
     elem_ = quote(elementName(e));
     index_ = "(int32_t)i";
     w.line("node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(" + ct + "));");
-    w.line("if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, " + names() + ");");
+    w.line("if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, " + names() + ");");
     w.line("elem = (" + ct + "*)(node + 1);");
     w.line("node->data = elem;");
     if (e->has_init) w.line("asn1Init_UMTS_" + ct + "(elem);");
     w.line("rtxDListAppendNode(pvalue, node);");
-    w.line("stat = asn1PD_UMTS_" + ct + "(ctx, elem);");
-    check();
+    call(e, "elem");
     elem_ = "0";
     index_ = "-1";
     w.close("}");
@@ -312,24 +337,24 @@ class DecodeEmitter {
     Writer& w = w_;
     const Def* e = d->element;
     w.line("int stat;");
-    w.line("uint32_t i;");
+    w.line("uint32_t i, n;");
     if (d->size_lo == d->size_hi) {
-      w.line("pvalue->n = " + num(d->size_hi) + ";");
+      w.line("pvalue->n = n = " + num(d->size_hi) + ";");
     } else {
       long long range = d->size_hi - d->size_lo;
       w.open("{");
       w.line("uint32_t raw;");
-      w.line("stat = rtxDecBits(ctx, &raw, " + std::to_string(rangeBits(static_cast<unsigned long long>(range))) + ");");
+      w.line("stat = rtxDecBitsAt(ctx, cur, " + std::to_string(rangeBits(static_cast<unsigned long long>(range))) + ", &raw);");
       check();
-      w.line("pvalue->n = raw + " + num(d->size_lo) + ";");
+      w.line("pvalue->n = n = raw + " + num(d->size_lo) + ";");
       w.open("if (raw > " + num(range) + ") {");
       w.line("rtxErrAddStrParm(ctx, " + quote(d->asn_name) + ");");
-      w.line("rtxErrAddUIntParm(ctx, pvalue->n);");
+      w.line("rtxErrAddUIntParm(ctx, n);");
       fail("RT_ERR_CONSVIO");
       w.close("}");
       w.close("}");
     }
-    w.open("for (i = 0; i < pvalue->n; i++) {");
+    w.open("for (i = 0; i < n; i++) {");
     std::string lv = "pvalue->elem[i]";
     if (e->has_init) w.line("asn1Init_UMTS_" + e->c_name + "(&" + lv + ");");
     else if (isScalar(e)) w.line(lv + " = 0;");
@@ -350,7 +375,7 @@ class DecodeEmitter {
 std::vector<Unit> emitDecoders(const Model& m) {
   std::vector<Unit> units;
   DecodeEmitter e;
-  for (const Def* d : m.code_order) units.push_back({d, e.function(d)});
+  for (const Def* d : m.code_order) units.push_back(e.function(d));
   return units;
 }
 

@@ -338,7 +338,7 @@ class EncodeEmitter {
 std::vector<Unit> emitEncoders(const Model& m) {
   std::vector<Unit> units;
   EncodeEmitter e;
-  for (const Def* d : m.code_order) units.push_back({d, e.function(d)});
+  for (const Def* d : m.code_order) units.push_back({d, e.function(d), "", {}});
   return units;
 }
 

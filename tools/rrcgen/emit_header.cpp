@@ -7,6 +7,79 @@
 namespace rrcgen {
 namespace {
 
+// The helpers that every generated unit includes.
+const char* const kInternalHeader = R"(#ifndef UMTS_RRC_CODEC_INTERNAL_H
+#define UMTS_RRC_CODEC_INTERNAL_H
+
+#include "umts_rrc.h"
+
+/* The record being decoded never overlaps the context or the cursor. */
+#if defined(__GNUC__) || defined(__clang__)
+#define RT_RESTRICT __restrict
+#else
+#define RT_RESTRICT
+#endif
+
+/* A failure of one level: its status and source position, and the names of the level,
+   innermost first: the type of a scalar read in line, the element (with its array index,
+   or -1), the type of this function; 0 leaves a name out. */
+#define RT_FAIL(ctx, stat, inner, elem, index, outer) \
+   return rtxErrUnwind((ctx), (stat), RT_CODEC_SRC, __LINE__, (inner), (elem), (index), (outer))
+/* The failure of a call to another level, which has reported its own. */
+#define RT_CHECK(ctx, stat, inner, elem, index, outer) \
+   do { \
+      if (RT_UNLIKELY((stat) != 0)) RT_FAIL(ctx, stat, inner, elem, index, outer); \
+   } while (0)
+/* The failure of a step of this level: the context shows the position first. */
+#define RT_FAIL_AT(ctx, cur, stat, inner, elem, index, outer) \
+   do { \
+      rtxCurSync((ctx), (cur)); \
+      RT_FAIL(ctx, stat, inner, elem, index, outer); \
+   } while (0)
+#define RT_CHECK_AT(ctx, cur, stat, inner, elem, index, outer) \
+   do { \
+      if (RT_UNLIKELY((stat) != 0)) RT_FAIL_AT(ctx, cur, stat, inner, elem, index, outer); \
+   } while (0)
+
+/* The size constraint that the next length or string operation applies. */
+#define RT_SET_SIZE(ctx, lo, hi) \
+   do { \
+      (ctx)->size_constraint->lower = (lo); \
+      (ctx)->size_constraint->upper = (hi); \
+      (ctx)->size_constraint->ext_lower = 0; \
+      (ctx)->size_constraint->ext_upper = 0; \
+   } while (0)
+
+/* Each type's decoder is a body that reads through a cursor held by its caller, and the
+   exported function that runs the body at the context's position. Small bodies, and those
+   that one place uses, are merged into their callers. */
+#if defined(__GNUC__) || defined(__clang__)
+#define RT_MERGED_BODY static inline __attribute__((always_inline))
+#else
+#define RT_MERGED_BODY static inline
+#endif
+#define RT_DECODE_ENTRY(ctx, body, pvalue) \
+   rtxDecCur cur; \
+   int stat; \
+   rtxCurStart(&cur, rtxBitPos(ctx)); \
+   stat = body((ctx), (pvalue), &cur); \
+   if (stat == 0) rtxCurSync((ctx), &cur); \
+   return stat
+
+/* The bodies of types that another unit holds, reached through their exported functions. */
+#define RT_DECODE_EXTERN(T) \
+   static inline int dec_##T(rtxContext* RT_RESTRICT ctx, T* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur) \
+   { \
+      int stat; \
+      rtxCurSync(ctx, cur); \
+      stat = asn1PD_UMTS_##T(ctx, pvalue); \
+      rtxCurStart(cur, rtxBitPos(ctx)); \
+      return stat; \
+   }
+
+#endif /* UMTS_RRC_CODEC_INTERNAL_H */
+)";
+
 bool isStructKind(const Def* d) {
   switch (d->kind) {
     case Kind::Sequence:
@@ -173,38 +246,7 @@ std::vector<OutFile> emitHeader(const Model& m) {
   std::vector<OutFile> files;
   files.push_back({"umts_rrc.h", banner("Decoded records and codec functions of every RRC type.") + w.take()});
 
-  Writer in;
-  in.line("#ifndef UMTS_RRC_CODEC_INTERNAL_H");
-  in.line("#define UMTS_RRC_CODEC_INTERNAL_H");
-  in.line();
-  in.line("#include \"umts_rrc.h\"");
-  in.line();
-  in.line("/* The record being decoded never overlaps the context. */");
-  in.line("#if defined(__GNUC__) || defined(__clang__)");
-  in.line("#define RT_RESTRICT __restrict");
-  in.line("#else");
-  in.line("#define RT_RESTRICT");
-  in.line("#endif");
-  in.line("/* A failure of one level: its status and source position, and the names of the level,");
-  in.line("   innermost first: the type of a scalar read in line, the element (with its array index,");
-  in.line("   or -1), the type of this function; 0 leaves a name out. */");
-  in.line("#define RT_FAIL(ctx, stat, inner, elem, index, outer) \\");
-  in.line("   return rtxErrUnwind((ctx), (stat), RT_CODEC_SRC, __LINE__, (inner), (elem), (index), (outer))");
-  in.line("#define RT_CHECK(ctx, stat, inner, elem, index, outer) \\");
-  in.line("   do { \\");
-  in.line("      if (RT_UNLIKELY((stat) != 0)) RT_FAIL(ctx, stat, inner, elem, index, outer); \\");
-  in.line("   } while (0)");
-  in.line("/* The size constraint that the next length or string operation applies. */");
-  in.line("#define RT_SET_SIZE(ctx, lo, hi) \\");
-  in.line("   do { \\");
-  in.line("      (ctx)->size_constraint->lower = (lo); \\");
-  in.line("      (ctx)->size_constraint->upper = (hi); \\");
-  in.line("      (ctx)->size_constraint->ext_lower = 0; \\");
-  in.line("      (ctx)->size_constraint->ext_upper = 0; \\");
-  in.line("   } while (0)");
-  in.line();
-  in.line("#endif /* UMTS_RRC_CODEC_INTERNAL_H */");
-  files.push_back({"umts_rrc_codec_internal.h", banner("Helpers of the generated codec units.") + in.take()});
+  files.push_back({"umts_rrc_codec_internal.h", banner("Helpers of the generated codec units.") + kInternalHeader});
   return files;
 }
 

@@ -44,7 +44,7 @@ std::vector<Unit> emitInits(const Model& m) {
         break;
     }
     w.close("}");
-    units.push_back({d, w.take()});
+    units.push_back({d, w.take(), "", {}});
   }
   return units;
 }

@@ -54,7 +54,7 @@ std::vector<Unit> emitNames(const Model& m) {
     w.open("{");
     w.line("return UMTS_" + c + "_ToEnum2(ctx, text, rtxUTF8LenBytes(text), pvalue);");
     w.close("}");
-    units.push_back({d, w.take()});
+    units.push_back({d, w.take(), "", {}});
   }
   return units;
 }

@@ -152,7 +152,7 @@ class PrintEmitter {
 std::vector<Unit> emitPrinters(const Model& m) {
   std::vector<Unit> units;
   PrintEmitter e;
-  for (const Def* d : m.code_order) units.push_back({d, e.function(d)});
+  for (const Def* d : m.code_order) units.push_back({d, e.function(d), "", {}});
   return units;
 }
 

@@ -62,7 +62,7 @@ std::vector<OutFile> generate(const Model& m) {
   auto add = [&](std::vector<OutFile> more) {
     for (auto& f : more) files.push_back(std::move(f));
   };
-  add(packUnits(emitDecoders(m), "umts_rrc_dec", "Decoders (asn1PD_UMTS_*).", 9000));
+  add(packUnits(emitDecoders(m), "umts_rrc_dec", "Decoders (asn1PD_UMTS_*).", 9000, decodeShim));
   add(packUnits(emitEncoders(m), "umts_rrc_enc", "Encoders (asn1PE_UMTS_*).", 9000));
   add(packUnits(emitPrinters(m), "umts_rrc_print", "Print functions (asn1Print_UMTS_*).", 12000));
   add(packUnits(emitInits(m), "umts_rrc_init", "Init functions (asn1Init_UMTS_*).", 20000));

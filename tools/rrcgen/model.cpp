@@ -53,6 +53,7 @@ class Builder {
     orderForHeader();
     markReachedAndTop();
     orderForCode();
+    for (Def* d : m_.code_order) bodySteps(d);
     checkNames();
   }
 
@@ -412,6 +413,51 @@ class Builder {
                                 "SysInfoType11bis", "SysInfoType12", "SysInfoType16"};
     for (const char* h : hot) visit(m_.by_asn_name[h]);
     for (Def* d : m_.types) visit(d);
+  }
+
+  // Bodies that are merged into their callers: those of at most kSmallBody steps, and those
+  // of at most kSingleUseBody steps that one place uses. Steps are counted with the merged
+  // bodies of the callees, so that no body grows beyond these sizes by merging.
+  static constexpr int kSmallBody = 12;
+  static constexpr int kSingleUseBody = 40;
+
+  // Steps that a value of type t takes where it is used.
+  int useSteps(Def* t) {
+    if (isScalar(t)) return 1;
+    if (isInlineString(t)) return 2;
+    if (base(t)->kind == Kind::Null) return 0;
+    int steps = bodySteps(t);
+    return t->inline_body ? steps : 2;
+  }
+
+  int bodySteps(Def* d) {
+    if (d->body_steps >= 0) return d->body_steps;
+    int steps = 0;
+    switch (d->kind) {
+      case Kind::Sequence:
+        steps = d->preamble_bits > 0 ? 1 : 0;
+        for (auto& f : d->fields) steps += f.containing ? 6 : useSteps(f.type);
+        break;
+      case Kind::Choice:
+        steps = 2;
+        for (auto& f : d->fields) {
+          if (isScalar(f.type) || base(f.type)->kind == Kind::Null) steps += useSteps(f.type);
+          else if (isInlineString(f.type)) steps += 3;
+          else steps += 2 + useSteps(f.type);
+        }
+        break;
+      case Kind::SequenceOf:
+        steps = (isArray(d) ? 2 : 4) + useSteps(d->element);
+        break;
+      case Kind::Alias:
+        steps = useSteps(d->target);
+        break;
+      default:
+        steps = 2;
+    }
+    d->body_steps = steps;
+    d->inline_body = d->emitted && (steps <= kSmallBody || (d->refcount <= 1 && steps <= kSingleUseBody));
+    return steps;
   }
 
   void checkNames() {

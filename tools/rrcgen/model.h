@@ -56,6 +56,10 @@ struct Def {
   bool reached = false;    // reached from the blocks that the library decodes
   bool toplevel = false;   // referred to by no other type, or a system information block
   int refcount = 0;
+  // Steps of the decoder or encoder body, with the bodies that are merged into it, and whether
+  // this body is itself merged into its callers.
+  int body_steps = -1;
+  bool inline_body = false;
 };
 
 struct Model {

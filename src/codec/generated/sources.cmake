@@ -16,6 +16,9 @@ set(UMTS_GENERATED_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_13.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_14.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_15.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_16.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_17.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_18.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_00.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_01.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_02.cpp

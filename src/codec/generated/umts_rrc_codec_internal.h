@@ -9,21 +9,34 @@
 
 #include "umts_rrc.h"
 
-/* The record being decoded never overlaps the context. */
+/* The record being decoded never overlaps the context or the cursor. */
 #if defined(__GNUC__) || defined(__clang__)
 #define RT_RESTRICT __restrict
 #else
 #define RT_RESTRICT
 #endif
+
 /* A failure of one level: its status and source position, and the names of the level,
    innermost first: the type of a scalar read in line, the element (with its array index,
    or -1), the type of this function; 0 leaves a name out. */
 #define RT_FAIL(ctx, stat, inner, elem, index, outer) \
    return rtxErrUnwind((ctx), (stat), RT_CODEC_SRC, __LINE__, (inner), (elem), (index), (outer))
+/* The failure of a call to another level, which has reported its own. */
 #define RT_CHECK(ctx, stat, inner, elem, index, outer) \
    do { \
       if (RT_UNLIKELY((stat) != 0)) RT_FAIL(ctx, stat, inner, elem, index, outer); \
    } while (0)
+/* The failure of a step of this level: the context shows the position first. */
+#define RT_FAIL_AT(ctx, cur, stat, inner, elem, index, outer) \
+   do { \
+      rtxCurSync((ctx), (cur)); \
+      RT_FAIL(ctx, stat, inner, elem, index, outer); \
+   } while (0)
+#define RT_CHECK_AT(ctx, cur, stat, inner, elem, index, outer) \
+   do { \
+      if (RT_UNLIKELY((stat) != 0)) RT_FAIL_AT(ctx, cur, stat, inner, elem, index, outer); \
+   } while (0)
+
 /* The size constraint that the next length or string operation applies. */
 #define RT_SET_SIZE(ctx, lo, hi) \
    do { \
@@ -32,5 +45,32 @@
       (ctx)->size_constraint->ext_lower = 0; \
       (ctx)->size_constraint->ext_upper = 0; \
    } while (0)
+
+/* Each type's decoder is a body that reads through a cursor held by its caller, and the
+   exported function that runs the body at the context's position. Small bodies, and those
+   that one place uses, are merged into their callers. */
+#if defined(__GNUC__) || defined(__clang__)
+#define RT_MERGED_BODY static inline __attribute__((always_inline))
+#else
+#define RT_MERGED_BODY static inline
+#endif
+#define RT_DECODE_ENTRY(ctx, body, pvalue) \
+   rtxDecCur cur; \
+   int stat; \
+   rtxCurStart(&cur, rtxBitPos(ctx)); \
+   stat = body((ctx), (pvalue), &cur); \
+   if (stat == 0) rtxCurSync((ctx), &cur); \
+   return stat
+
+/* The bodies of types that another unit holds, reached through their exported functions. */
+#define RT_DECODE_EXTERN(T) \
+   static inline int dec_##T(rtxContext* RT_RESTRICT ctx, T* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur) \
+   { \
+      int stat; \
+      rtxCurSync(ctx, cur); \
+      stat = asn1PD_UMTS_##T(ctx, pvalue); \
+      rtxCurStart(cur, rtxBitPos(ctx)); \
+      return stat; \
+   }
 
 #endif /* UMTS_RRC_CODEC_INTERNAL_H */

@@ -6,316 +6,796 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_SFN_Prime(rtxContext* RT_RESTRICT ctx, SFN_Prime* RT_RESTRICT pvalue)
+/* The bodies of this unit. */
+RT_MERGED_BODY int dec_SFN_Prime(rtxContext* RT_RESTRICT ctx, SFN_Prime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIB_Type(rtxContext* RT_RESTRICT ctx, SIB_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SegCount(rtxContext* RT_RESTRICT ctx, SegCount* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIB_Data_fixed(rtxContext* RT_RESTRICT ctx, SIB_Data_fixed* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FirstSegment(rtxContext* RT_RESTRICT ctx, FirstSegment* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SegmentIndex(rtxContext* RT_RESTRICT ctx, SegmentIndex* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SubsequentSegment(rtxContext* RT_RESTRICT ctx, SubsequentSegment* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIB_Data_variable(rtxContext* RT_RESTRICT ctx, SIB_Data_variable* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_LastSegmentShort(rtxContext* RT_RESTRICT ctx, LastSegmentShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FirstSegmentShort(rtxContext* RT_RESTRICT ctx, FirstSegmentShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SystemInformation_BCH_payload_lastAndFirst(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_lastAndFirst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompleteSIBshort(rtxContext* RT_RESTRICT ctx, CompleteSIBshort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompleteSIB_List(rtxContext* RT_RESTRICT ctx, CompleteSIB_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SystemInformation_BCH_payload_lastAndComplete(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_lastAndComplete* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SystemInformation_BCH_payload_lastAndCompleteAndFirst(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_lastAndCompleteAndFirst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SystemInformation_BCH_payload_completeAndFirst(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_completeAndFirst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompleteSIB_sib_Data_fixed(rtxContext* RT_RESTRICT ctx, CompleteSIB_sib_Data_fixed* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompleteSIB(rtxContext* RT_RESTRICT ctx, CompleteSIB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_LastSegment(rtxContext* RT_RESTRICT ctx, LastSegment* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SystemInformation_BCH_payload(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SystemInformation_BCH(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BCCH_BCH_Message(rtxContext* RT_RESTRICT ctx, BCCH_BCH_Message* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIB_ValueTag(rtxContext* RT_RESTRICT ctx, MIB_ValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Digit(rtxContext* RT_RESTRICT ctx, Digit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MCC(rtxContext* RT_RESTRICT ctx, MCC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MNC(rtxContext* RT_RESTRICT ctx, MNC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMN_Identity(rtxContext* RT_RESTRICT ctx, PLMN_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMN_Type_gsm_MAP(rtxContext* RT_RESTRICT ctx, PLMN_Type_gsm_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_P_REV(rtxContext* RT_RESTRICT ctx, P_REV* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Min_P_REV(rtxContext* RT_RESTRICT ctx, Min_P_REV* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SID(rtxContext* RT_RESTRICT ctx, SID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NID(rtxContext* RT_RESTRICT ctx, NID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMN_Type_ansi_41(rtxContext* RT_RESTRICT ctx, PLMN_Type_ansi_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMN_Type_gsm_MAP_and_ANSI_41(rtxContext* RT_RESTRICT ctx, PLMN_Type_gsm_MAP_and_ANSI_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMN_Type(rtxContext* RT_RESTRICT ctx, PLMN_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMN_ValueTag(rtxContext* RT_RESTRICT ctx, PLMN_ValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellValueTag(rtxContext* RT_RESTRICT ctx, CellValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PredefinedConfigIdentity(rtxContext* RT_RESTRICT ctx, PredefinedConfigIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PredefinedConfigValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PredefinedConfigIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigIdentityAndValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIBOccurIdentity(rtxContext* RT_RESTRICT ctx, SIBOccurIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIBOccurValueTag(rtxContext* RT_RESTRICT ctx, SIBOccurValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIBOccurrenceIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, SIBOccurrenceIdentityAndValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, SIBSb_TypeAndTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SchedulingInformation_scheduling_sib_Pos(rtxContext* RT_RESTRICT ctx, SchedulingInformation_scheduling_sib_Pos* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SibOFF(rtxContext* RT_RESTRICT ctx, SibOFF* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SibOFF_List(rtxContext* RT_RESTRICT ctx, SibOFF_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SchedulingInformation_scheduling(rtxContext* RT_RESTRICT ctx, SchedulingInformation_scheduling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SchedulingInformation(rtxContext* RT_RESTRICT ctx, SchedulingInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SchedulingInformationSIBSb(rtxContext* RT_RESTRICT ctx, SchedulingInformationSIBSb* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SIBSb_ReferenceList(rtxContext* RT_RESTRICT ctx, SIBSb_ReferenceList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMN_IdentityWithOptionalMCC_r6(rtxContext* RT_RESTRICT ctx, PLMN_IdentityWithOptionalMCC_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiplePLMN_List_r6_multiplePLMNs(rtxContext* RT_RESTRICT ctx, MultiplePLMN_List_r6_multiplePLMNs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiplePLMN_List_r6(rtxContext* RT_RESTRICT ctx, MultiplePLMN_List_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MasterInformationBlock_v690ext(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIB_TypeExt(rtxContext* RT_RESTRICT ctx, SIB_TypeExt* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ValueTagInfo(rtxContext* RT_RESTRICT ctx, ValueTagInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ExtSIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ExtSIBTypeInfoSchedulingInfo_List(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MasterInformationBlock_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIB_TypeExt2(rtxContext* RT_RESTRICT ctx, SIB_TypeExt2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ExtSIBTypeInfoSchedulingInfo2(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ExtSIBTypeInfoSchedulingInfo_List2(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo_List2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_SBAS_ID(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_SBAS_ID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIB_TypeExtGANSS(rtxContext* RT_RESTRICT ctx, SIB_TypeExtGANSS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ExtGANSS_SchedulingInfo(rtxContext* RT_RESTRICT ctx, ExtGANSS_SchedulingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(rtxContext* RT_RESTRICT ctx, ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ExtGANSS_SIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, ExtGANSS_SIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ExtGANSS_SIBTypeInfoSchedulingInfoList(rtxContext* RT_RESTRICT ctx, ExtGANSS_SIBTypeInfoSchedulingInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MasterInformationBlock_v860ext_IEs_csg_Indicator(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v860ext_IEs_csg_Indicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MasterInformationBlock_v860ext_IEs(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MasterInformationBlock_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MasterInformationBlock(rtxContext* RT_RESTRICT ctx, MasterInformationBlock* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellIdentity(rtxContext* RT_RESTRICT ctx, CellIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAT(rtxContext* RT_RESTRICT ctx, RAT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MappingFunctionType(rtxContext* RT_RESTRICT ctx, MappingFunctionType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MapParameter(rtxContext* RT_RESTRICT ctx, MapParameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UpperLimit(rtxContext* RT_RESTRICT ctx, UpperLimit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MappingFunctionParameter(rtxContext* RT_RESTRICT ctx, MappingFunctionParameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MappingFunctionParameterList(rtxContext* RT_RESTRICT ctx, MappingFunctionParameterList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Mapping(rtxContext* RT_RESTRICT ctx, Mapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MappingInfo(rtxContext* RT_RESTRICT ctx, MappingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Q_Hyst_S(rtxContext* RT_RESTRICT ctx, Q_Hyst_S* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_S_SearchQual(rtxContext* RT_RESTRICT ctx, S_SearchQual* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_S_SearchRXLEV(rtxContext* RT_RESTRICT ctx, S_SearchRXLEV* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAT_Identifier(rtxContext* RT_RESTRICT ctx, RAT_Identifier* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAT_FDD_Info(rtxContext* RT_RESTRICT ctx, RAT_FDD_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAT_FDD_InfoList(rtxContext* RT_RESTRICT ctx, RAT_FDD_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Q_QualMin(rtxContext* RT_RESTRICT ctx, Q_QualMin* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Q_RxlevMin(rtxContext* RT_RESTRICT ctx, Q_RxlevMin* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAT_TDD_Info(rtxContext* RT_RESTRICT ctx, RAT_TDD_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAT_TDD_InfoList(rtxContext* RT_RESTRICT ctx, RAT_TDD_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_Reselection_S(rtxContext* RT_RESTRICT ctx, T_Reselection_S* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HCS_PRIO(rtxContext* RT_RESTRICT ctx, HCS_PRIO* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Q_HCS(rtxContext* RT_RESTRICT ctx, Q_HCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, T_CRMaxHyst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_CR_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, N_CR_T_CRMaxHyst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_T_CRMax(rtxContext* RT_RESTRICT ctx, T_CRMax* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HCS_ServingCellInformation(rtxContext* RT_RESTRICT ctx, HCS_ServingCellInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxAllowedUL_TX_Power(rtxContext* RT_RESTRICT ctx, MaxAllowedUL_TX_Power* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellSelectReselectInfoSIB_3_4(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AllowedIndicator(rtxContext* RT_RESTRICT ctx, AllowedIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_Barred(rtxContext* RT_RESTRICT ctx, T_Barred* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellBarred_barred(rtxContext* RT_RESTRICT ctx, CellBarred_barred* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellBarred(rtxContext* RT_RESTRICT ctx, CellBarred* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReservedIndicator(rtxContext* RT_RESTRICT ctx, ReservedIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessClassBarred(rtxContext* RT_RESTRICT ctx, AccessClassBarred* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessClassBarredList(rtxContext* RT_RESTRICT ctx, AccessClassBarredList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellAccessRestriction(rtxContext* RT_RESTRICT ctx, CellAccessRestriction* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Mapping_LCR_r4(rtxContext* RT_RESTRICT ctx, Mapping_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeltaQrxlevmin(rtxContext* RT_RESTRICT ctx, DeltaQrxlevmin* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeltaRSCP(rtxContext* RT_RESTRICT ctx, DeltaRSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfo_v590ext(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfo_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType3_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SpeedDependentScalingFactor(rtxContext* RT_RESTRICT ctx, SpeedDependentScalingFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TreselectionScalingFactor(rtxContext* RT_RESTRICT ctx, TreselectionScalingFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoTreselectionScaling_v5c0ext(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoTreselectionScaling_v5c0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v5c0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DomainSpecificAccessRestriction_v670ext_restriction(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestriction_v670ext_restriction* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DomainSpecificAccessRestriction_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestriction_v670ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DomainSpecificAccessRestrictionParam_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestrictionParam_v670ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DomainSpecificAccessRestrictionList_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestrictionList_v670ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestrictionForSharedNetwork_v670ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v670ext(rtxContext* RT_RESTRICT ctx, SysInfoType3_v670ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_FDD_sib3(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD_sib3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_TDD_sib3List_element(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD_sib3List_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_TDD_sib3List(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD_sib3List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeferredMeasurementControlReadingSupport_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DeferredMeasurementControlReadingSupport_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeferredMeasurementControlReadingSupport(rtxContext* RT_RESTRICT ctx, DeferredMeasurementControlReadingSupport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Q_QualMin_Offset(rtxContext* RT_RESTRICT ctx, Q_QualMin_Offset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Q_RxlevMin_Offset(rtxContext* RT_RESTRICT ctx, Q_RxlevMin_Offset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFNOnlyService(rtxContext* RT_RESTRICT ctx, MBSFNOnlyService* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_LocationRegistrationAccessClassBarredList(rtxContext* RT_RESTRICT ctx, LocationRegistrationAccessClassBarredList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_LocationRegistrationParameters(rtxContext* RT_RESTRICT ctx, LocationRegistrationParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingPermissionWithAccessControlParameters(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PagingPermissionWithAccessControlList(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingPermissionWithAccessControlForSharedNetwork(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlForSharedNetwork* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v830ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v830ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSG_Identity(rtxContext* RT_RESTRICT ctx, CSG_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSG_PSCSplitInfo_numberOfPSCs(rtxContext* RT_RESTRICT ctx, CSG_PSCSplitInfo_numberOfPSCs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSG_PSCSplitInfo(rtxContext* RT_RESTRICT ctx, CSG_PSCSplitInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellAccessRestriction_v870ext_cellReservedForCSG(rtxContext* RT_RESTRICT ctx, CellAccessRestriction_v870ext_cellReservedForCSG* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellAccessRestriction_v870ext(rtxContext* RT_RESTRICT ctx, CellAccessRestriction_v870ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v870ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v870ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v920ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType3(rtxContext* RT_RESTRICT ctx, SysInfoType3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, SIB_TypeAndTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SchedulingInformationSIB(rtxContext* RT_RESTRICT ctx, SchedulingInformationSIB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIB_ReferenceList(rtxContext* RT_RESTRICT ctx, SIB_ReferenceList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoTypeSB1_v6b0ext(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoTypeSB1_v860ext(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoTypeSB1_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoTypeSB1(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoTypeSB2_v6b0ext(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoTypeSB2_v860ext(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoTypeSB2_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoTypeSB2(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NAS_SystemInformationGSM_MAP(rtxContext* RT_RESTRICT ctx, NAS_SystemInformationGSM_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CN_DomainIdentity(rtxContext* RT_RESTRICT ctx, CN_DomainIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ANSI_41_NAS_Parameter(rtxContext* RT_RESTRICT ctx, ANSI_41_NAS_Parameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NAS_SystemInformationANSI_41(rtxContext* RT_RESTRICT ctx, NAS_SystemInformationANSI_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CN_DomainSysInfo_cn_Type(rtxContext* RT_RESTRICT ctx, CN_DomainSysInfo_cn_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, CN_DRX_CycleLengthCoefficient* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CN_DomainSysInfo(rtxContext* RT_RESTRICT ctx, CN_DomainSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CN_DomainSysInfoList(rtxContext* RT_RESTRICT ctx, CN_DomainSysInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_301(rtxContext* RT_RESTRICT ctx, T_301* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_301(rtxContext* RT_RESTRICT ctx, N_301* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_302(rtxContext* RT_RESTRICT ctx, T_302* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_302(rtxContext* RT_RESTRICT ctx, N_302* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_304(rtxContext* RT_RESTRICT ctx, T_304* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_304(rtxContext* RT_RESTRICT ctx, N_304* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_305(rtxContext* RT_RESTRICT ctx, T_305* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_307(rtxContext* RT_RESTRICT ctx, T_307* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_308(rtxContext* RT_RESTRICT ctx, T_308* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_309(rtxContext* RT_RESTRICT ctx, T_309* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_310(rtxContext* RT_RESTRICT ctx, T_310* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_310(rtxContext* RT_RESTRICT ctx, N_310* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_311(rtxContext* RT_RESTRICT ctx, T_311* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_312(rtxContext* RT_RESTRICT ctx, T_312* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_312(rtxContext* RT_RESTRICT ctx, N_312* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_313(rtxContext* RT_RESTRICT ctx, T_313* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_313(rtxContext* RT_RESTRICT ctx, N_313* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_314(rtxContext* RT_RESTRICT ctx, T_314* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_315(rtxContext* RT_RESTRICT ctx, T_315* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_315(rtxContext* RT_RESTRICT ctx, N_315* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_316(rtxContext* RT_RESTRICT ctx, T_316* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_317(rtxContext* RT_RESTRICT ctx, T_317* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_ConnTimersAndConstants(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_300(rtxContext* RT_RESTRICT ctx, T_300* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_300(rtxContext* RT_RESTRICT ctx, N_300* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_IdleTimersAndConstants(rtxContext* RT_RESTRICT ctx, UE_IdleTimersAndConstants* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_312ext(rtxContext* RT_RESTRICT ctx, N_312ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_315ext(rtxContext* RT_RESTRICT ctx, N_315ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_ConnTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_IdleTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, UE_IdleTimersAndConstants_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType1_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_323(rtxContext* RT_RESTRICT ctx, T_323* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_ConnTimersAndConstants_v860ext(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType1_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType1_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType1_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType1(rtxContext* RT_RESTRICT ctx, SysInfoType1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_URA_Identity(rtxContext* RT_RESTRICT ctx, URA_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_URA_IdentityList(rtxContext* RT_RESTRICT ctx, URA_IdentityList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType2_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType2(rtxContext* RT_RESTRICT ctx, SysInfoType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_Interference(rtxContext* RT_RESTRICT ctx, UL_Interference* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DynamicPersistenceLevel(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DynamicPersistenceLevelList(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevelList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ExpirationTimeFactor(rtxContext* RT_RESTRICT ctx, ExpirationTimeFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType7_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType7(rtxContext* RT_RESTRICT ctx, SysInfoType7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, PLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, PLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, PLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, PLMNsOfInterFreqCellsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMNsOfInterRATCellsList_element(rtxContext* RT_RESTRICT ctx, PLMNsOfInterRATCellsList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLMNsOfInterRATCellsList(rtxContext* RT_RESTRICT ctx, PLMNsOfInterRATCellsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PLMNIdentitiesOfNeighbourCells(rtxContext* RT_RESTRICT ctx, PLMNIdentitiesOfNeighbourCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType18_v6b0ext(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiplePLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiplePLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiplePLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiplePLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfInterFreqCellsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PLMNIdentitiesOfNeighbourCells_v860ext(rtxContext* RT_RESTRICT ctx, PLMNIdentitiesOfNeighbourCells_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType18_v860ext(rtxContext* RT_RESTRICT ctx, SysInfoType18_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType18_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType18(rtxContext* RT_RESTRICT ctx, SysInfoType18* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PICH_PowerOffset(rtxContext* RT_RESTRICT ctx, PICH_PowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AICH_PowerOffset(rtxContext* RT_RESTRICT ctx, AICH_PowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_Identity(rtxContext* RT_RESTRICT ctx, PUSCH_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_IdentityPlain(rtxContext* RT_RESTRICT ctx, TFCS_IdentityPlain* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondInterleavingMode(rtxContext* RT_RESTRICT ctx, SecondInterleavingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCI_Coding(rtxContext* RT_RESTRICT ctx, TFCI_Coding* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PuncturingLimit(rtxContext* RT_RESTRICT ctx, PuncturingLimit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RepetitionPeriodAndLength(rtxContext* RT_RESTRICT ctx, RepetitionPeriodAndLength* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonTimeslotInfo(rtxContext* RT_RESTRICT ctx, CommonTimeslotInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotNumber(rtxContext* RT_RESTRICT ctx, TimeslotNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleConfigurationBurstType1and3(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1and3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftLong(rtxContext* RT_RESTRICT ctx, MidambleShiftLong* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleConfigurationBurstType2(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftShort(rtxContext* RT_RESTRICT ctx, MidambleShiftShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type3(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MidambleShiftAndBurstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualTimeslotInfo(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TS_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UplinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PUSCH_Info(rtxContext* RT_RESTRICT ctx, PUSCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BitModeRLC_SizeInfo_sizeType2(rtxContext* RT_RESTRICT ctx, BitModeRLC_SizeInfo_sizeType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BitModeRLC_SizeInfo_sizeType3(rtxContext* RT_RESTRICT ctx, BitModeRLC_SizeInfo_sizeType3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BitModeRLC_SizeInfo_sizeType4(rtxContext* RT_RESTRICT ctx, BitModeRLC_SizeInfo_sizeType4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_BitModeRLC_SizeInfo(rtxContext* RT_RESTRICT ctx, BitModeRLC_SizeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_OctetModeRLC_SizeInfoType1_sizeType2(rtxContext* RT_RESTRICT ctx, OctetModeRLC_SizeInfoType1_sizeType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_OctetModeRLC_SizeInfoType1_sizeType3(rtxContext* RT_RESTRICT ctx, OctetModeRLC_SizeInfoType1_sizeType3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_OctetModeRLC_SizeInfoType1(rtxContext* RT_RESTRICT ctx, OctetModeRLC_SizeInfoType1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DedicatedDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NumberOfTransportBlocks(rtxContext* RT_RESTRICT ctx, NumberOfTransportBlocks* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DedicatedDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_Identity(rtxContext* RT_RESTRICT ctx, RB_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_LogicalChannelByRB(rtxContext* RT_RESTRICT ctx, LogicalChannelByRB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_LogicalChannelList_explicitList(rtxContext* RT_RESTRICT ctx, LogicalChannelList_explicitList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_LogicalChannelList(rtxContext* RT_RESTRICT ctx, LogicalChannelList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DedicatedDynamicTF_Info(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DedicatedDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_DynamicTTI_rlc_Size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TransmissionTimeInterval(rtxContext* RT_RESTRICT ctx, TransmissionTimeInterval* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NumberOfTbSizeAndTTIList_element(rtxContext* RT_RESTRICT ctx, NumberOfTbSizeAndTTIList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NumberOfTbSizeAndTTIList(rtxContext* RT_RESTRICT ctx, NumberOfTbSizeAndTTIList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DedicatedDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DedicatedDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DedicatedTransChTFS_tti(rtxContext* RT_RESTRICT ctx, DedicatedTransChTFS_tti* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CodingRate(rtxContext* RT_RESTRICT ctx, CodingRate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ChannelCodingType(rtxContext* RT_RESTRICT ctx, ChannelCodingType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RateMatchingAttribute(rtxContext* RT_RESTRICT ctx, RateMatchingAttribute* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CRC_Size(rtxContext* RT_RESTRICT ctx, CRC_Size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SemistaticTF_Information(rtxContext* RT_RESTRICT ctx, SemistaticTF_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DedicatedTransChTFS(rtxContext* RT_RESTRICT ctx, DedicatedTransChTFS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_OctetModeRLC_SizeInfoType2(rtxContext* RT_RESTRICT ctx, OctetModeRLC_SizeInfoType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_rlc_Size_fdd(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_rlc_Size_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_rlc_Size_tdd(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_rlc_Size_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonDynamicTF_Info(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CommonDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CommonDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonTransChTFS_tti(rtxContext* RT_RESTRICT ctx, CommonTransChTFS_tti* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonTransChTFS(rtxContext* RT_RESTRICT ctx, CommonTransChTFS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TransportFormatSet(rtxContext* RT_RESTRICT ctx, TransportFormatSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GainFactor(rtxContext* RT_RESTRICT ctx, GainFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SignalledGainFactors_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SignalledGainFactors_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SignalledGainFactors_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SignalledGainFactors_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReferenceTFC_ID(rtxContext* RT_RESTRICT ctx, ReferenceTFC_ID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SignalledGainFactors(rtxContext* RT_RESTRICT ctx, SignalledGainFactors* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GainFactorInformation(rtxContext* RT_RESTRICT ctx, GainFactorInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PowerOffsetPp_m(rtxContext* RT_RESTRICT ctx, PowerOffsetPp_m* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PowerOffsetInformation(rtxContext* RT_RESTRICT ctx, PowerOffsetInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc2Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc4Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc6Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc8Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc12Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc16Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc24Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TFCS_ReconfAdd_ctfcSize(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_ReconfAdd(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_Removal(rtxContext* RT_RESTRICT ctx, TFCS_Removal* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_RemovalList(rtxContext* RT_RESTRICT ctx, TFCS_RemovalList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ExplicitTFCS_Configuration_replacement(rtxContext* RT_RESTRICT ctx, ExplicitTFCS_Configuration_replacement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ExplicitTFCS_Configuration(rtxContext* RT_RESTRICT ctx, ExplicitTFCS_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SplitType(rtxContext* RT_RESTRICT ctx, SplitType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_InfoForDSCH(rtxContext* RT_RESTRICT ctx, TFCS_InfoForDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCI_Range(rtxContext* RT_RESTRICT ctx, TFCI_Range* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCI_RangeList(rtxContext* RT_RESTRICT ctx, TFCI_RangeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCI_Field2_Information(rtxContext* RT_RESTRICT ctx, TFCI_Field2_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SplitTFCI_Signalling(rtxContext* RT_RESTRICT ctx, SplitTFCI_Signalling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TFCS(rtxContext* RT_RESTRICT ctx, TFCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_SysInfo(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+
+RT_MERGED_BODY int dec_SFN_Prime(rtxContext* RT_RESTRICT ctx, SFN_Prime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 2047);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-Prime");
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 2047);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SFN-Prime");
+   return 0;
+}
+
+int asn1PD_UMTS_SFN_Prime(rtxContext* RT_RESTRICT ctx, SFN_Prime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SFN_Prime, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIB_Type(rtxContext* RT_RESTRICT ctx, SIB_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIB-Type");
    return 0;
 }
 
 int asn1PD_UMTS_SIB_Type(rtxContext* RT_RESTRICT ctx, SIB_Type* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SIB_Type, pvalue);
+}
+
+RT_MERGED_BODY int dec_SegCount(rtxContext* RT_RESTRICT ctx, SegCount* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-Type");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SegCount");
    return 0;
 }
 
 int asn1PD_UMTS_SegCount(rtxContext* RT_RESTRICT ctx, SegCount* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SegCount, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIB_Data_fixed(rtxContext* RT_RESTRICT ctx, SIB_Data_fixed* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SegCount");
+   RT_SET_SIZE(ctx, 222, 222);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIB-Data-fixed");
    return 0;
 }
 
 int asn1PD_UMTS_SIB_Data_fixed(rtxContext* RT_RESTRICT ctx, SIB_Data_fixed* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 222, 222);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-Data-fixed");
+   RT_DECODE_ENTRY(ctx, dec_SIB_Data_fixed, pvalue);
+}
+
+RT_MERGED_BODY int dec_FirstSegment(rtxContext* RT_RESTRICT ctx, FirstSegment* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sib-Type */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sib_Type, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "FirstSegment");
+   /* seg-Count */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->seg_Count, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, "SegCount", "seg-Count", -1, "FirstSegment");
+   /* sib-Data-fixed */
+   stat = dec_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "FirstSegment");
    return 0;
 }
 
 int asn1PD_UMTS_FirstSegment(rtxContext* RT_RESTRICT ctx, FirstSegment* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* sib-Type */
-   stat = pd_ConsUnsigned(ctx, &pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "FirstSegment");
-   /* seg-Count */
-   stat = pd_ConsUInt8(ctx, &pvalue->seg_Count, 1, 16);
-   RT_CHECK(ctx, stat, "SegCount", "seg-Count", -1, "FirstSegment");
-   /* sib-Data-fixed */
-   stat = asn1PD_UMTS_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed);
-   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "FirstSegment");
+   RT_DECODE_ENTRY(ctx, dec_FirstSegment, pvalue);
+}
+
+RT_MERGED_BODY int dec_SegmentIndex(rtxContext* RT_RESTRICT ctx, SegmentIndex* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SegmentIndex");
    return 0;
 }
 
 int asn1PD_UMTS_SegmentIndex(rtxContext* RT_RESTRICT ctx, SegmentIndex* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SegmentIndex");
+   RT_DECODE_ENTRY(ctx, dec_SegmentIndex, pvalue);
+}
+
+RT_MERGED_BODY int dec_SubsequentSegment(rtxContext* RT_RESTRICT ctx, SubsequentSegment* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sib-Type */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sib_Type, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "SubsequentSegment");
+   /* segmentIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->segmentIndex, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, "SegmentIndex", "segmentIndex", -1, "SubsequentSegment");
+   /* sib-Data-fixed */
+   stat = dec_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "SubsequentSegment");
    return 0;
 }
 
 int asn1PD_UMTS_SubsequentSegment(rtxContext* RT_RESTRICT ctx, SubsequentSegment* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* sib-Type */
-   stat = pd_ConsUnsigned(ctx, &pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "SubsequentSegment");
-   /* segmentIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->segmentIndex, 1, 15);
-   RT_CHECK(ctx, stat, "SegmentIndex", "segmentIndex", -1, "SubsequentSegment");
-   /* sib-Data-fixed */
-   stat = asn1PD_UMTS_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed);
-   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "SubsequentSegment");
+   RT_DECODE_ENTRY(ctx, dec_SubsequentSegment, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIB_Data_variable(rtxContext* RT_RESTRICT ctx, SIB_Data_variable* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 214);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIB-Data-variable");
    return 0;
 }
 
 int asn1PD_UMTS_SIB_Data_variable(rtxContext* RT_RESTRICT ctx, SIB_Data_variable* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 1, 214);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-Data-variable");
+   RT_DECODE_ENTRY(ctx, dec_SIB_Data_variable, pvalue);
+}
+
+RT_MERGED_BODY int dec_LastSegmentShort(rtxContext* RT_RESTRICT ctx, LastSegmentShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sib-Type */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sib_Type, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "LastSegmentShort");
+   /* segmentIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->segmentIndex, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, "SegmentIndex", "segmentIndex", -1, "LastSegmentShort");
+   /* sib-Data-variable */
+   stat = dec_SIB_Data_variable(ctx, &pvalue->sib_Data_variable, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "LastSegmentShort");
    return 0;
 }
 
 int asn1PD_UMTS_LastSegmentShort(rtxContext* RT_RESTRICT ctx, LastSegmentShort* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_LastSegmentShort, pvalue);
+}
+
+RT_MERGED_BODY int dec_FirstSegmentShort(rtxContext* RT_RESTRICT ctx, FirstSegmentShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    /* sib-Type */
-   stat = pd_ConsUnsigned(ctx, &pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "LastSegmentShort");
-   /* segmentIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->segmentIndex, 1, 15);
-   RT_CHECK(ctx, stat, "SegmentIndex", "segmentIndex", -1, "LastSegmentShort");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sib_Type, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "FirstSegmentShort");
+   /* seg-Count */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->seg_Count, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, "SegCount", "seg-Count", -1, "FirstSegmentShort");
    /* sib-Data-variable */
-   stat = asn1PD_UMTS_SIB_Data_variable(ctx, &pvalue->sib_Data_variable);
-   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "LastSegmentShort");
+   stat = dec_SIB_Data_variable(ctx, &pvalue->sib_Data_variable, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "FirstSegmentShort");
    return 0;
 }
 
 int asn1PD_UMTS_FirstSegmentShort(rtxContext* RT_RESTRICT ctx, FirstSegmentShort* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_FirstSegmentShort, pvalue);
+}
+
+RT_MERGED_BODY int dec_SystemInformation_BCH_payload_lastAndFirst(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_lastAndFirst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* sib-Type */
-   stat = pd_ConsUnsigned(ctx, &pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "FirstSegmentShort");
-   /* seg-Count */
-   stat = pd_ConsUInt8(ctx, &pvalue->seg_Count, 1, 16);
-   RT_CHECK(ctx, stat, "SegCount", "seg-Count", -1, "FirstSegmentShort");
-   /* sib-Data-variable */
-   stat = asn1PD_UMTS_SIB_Data_variable(ctx, &pvalue->sib_Data_variable);
-   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "FirstSegmentShort");
+   /* lastSegmentShort */
+   stat = dec_LastSegmentShort(ctx, &pvalue->lastSegmentShort, cur);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+   /* firstSegment */
+   stat = dec_FirstSegmentShort(ctx, &pvalue->firstSegment, cur);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SystemInformation_BCH_payload_lastAndFirst(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_lastAndFirst* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SystemInformation_BCH_payload_lastAndFirst, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompleteSIBshort(rtxContext* RT_RESTRICT ctx, CompleteSIBshort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* lastSegmentShort */
-   stat = asn1PD_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
-   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
-   /* firstSegment */
-   stat = asn1PD_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
-   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
+   /* sib-Type */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sib_Type, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "CompleteSIBshort");
+   /* sib-Data-variable */
+   stat = dec_SIB_Data_variable(ctx, &pvalue->sib_Data_variable, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "CompleteSIBshort");
    return 0;
 }
 
 int asn1PD_UMTS_CompleteSIBshort(rtxContext* RT_RESTRICT ctx, CompleteSIBshort* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* sib-Type */
-   stat = pd_ConsUnsigned(ctx, &pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "CompleteSIBshort");
-   /* sib-Data-variable */
-   stat = asn1PD_UMTS_SIB_Data_variable(ctx, &pvalue->sib_Data_variable);
-   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "CompleteSIBshort");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CompleteSIBshort, pvalue);
 }
 
-int asn1PD_UMTS_CompleteSIB_List(rtxContext* RT_RESTRICT ctx, CompleteSIB_List* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CompleteSIB_List(rtxContext* RT_RESTRICT ctx, CompleteSIB_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompleteSIB-List");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompleteSIB-List");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       CompleteSIBshort* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompleteSIBshort));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompleteSIBshort", (int32_t)i, "CompleteSIB-List");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CompleteSIBshort", (int32_t)i, "CompleteSIB-List");
       elem = (CompleteSIBshort*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_CompleteSIBshort(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompleteSIBshort(ctx, elem);
+      stat = dec_CompleteSIBshort(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "CompleteSIBshort", (int32_t)i, "CompleteSIB-List");
    }
    return 0;
 }
 
-int asn1PD_UMTS_SystemInformation_BCH_payload_lastAndComplete(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_lastAndComplete* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CompleteSIB_List(rtxContext* RT_RESTRICT ctx, CompleteSIB_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompleteSIB_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_SystemInformation_BCH_payload_lastAndComplete(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_lastAndComplete* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* lastSegmentShort */
-   stat = asn1PD_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
+   stat = dec_LastSegmentShort(ctx, &pvalue->lastSegmentShort, cur);
    RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
    /* completeSIB-List */
-   stat = asn1PD_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
+   stat = dec_CompleteSIB_List(ctx, &pvalue->completeSIB_List, cur);
    RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformation_BCH_payload_lastAndComplete(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_lastAndComplete* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SystemInformation_BCH_payload_lastAndComplete, pvalue);
+}
+
+RT_MERGED_BODY int dec_SystemInformation_BCH_payload_lastAndCompleteAndFirst(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_lastAndCompleteAndFirst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* lastSegmentShort */
+   stat = dec_LastSegmentShort(ctx, &pvalue->lastSegmentShort, cur);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+   /* completeSIB-List */
+   stat = dec_CompleteSIB_List(ctx, &pvalue->completeSIB_List, cur);
+   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
+   /* firstSegment */
+   stat = dec_FirstSegmentShort(ctx, &pvalue->firstSegment, cur);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SystemInformation_BCH_payload_lastAndCompleteAndFirst(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_lastAndCompleteAndFirst* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SystemInformation_BCH_payload_lastAndCompleteAndFirst, pvalue);
+}
+
+RT_MERGED_BODY int dec_SystemInformation_BCH_payload_completeAndFirst(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_completeAndFirst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* lastSegmentShort */
-   stat = asn1PD_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
-   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
    /* completeSIB-List */
-   stat = asn1PD_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
+   stat = dec_CompleteSIB_List(ctx, &pvalue->completeSIB_List, cur);
    RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
    /* firstSegment */
-   stat = asn1PD_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
+   stat = dec_FirstSegmentShort(ctx, &pvalue->firstSegment, cur);
    RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SystemInformation_BCH_payload_completeAndFirst(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload_completeAndFirst* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* completeSIB-List */
-   stat = asn1PD_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
-   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
-   /* firstSegment */
-   stat = asn1PD_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
-   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SystemInformation_BCH_payload_completeAndFirst, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompleteSIB_sib_Data_fixed(rtxContext* RT_RESTRICT ctx, CompleteSIB_sib_Data_fixed* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 226, 226);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_CompleteSIB_sib_Data_fixed(rtxContext* RT_RESTRICT ctx, CompleteSIB_sib_Data_fixed* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 226, 226);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_CompleteSIB_sib_Data_fixed, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompleteSIB(rtxContext* RT_RESTRICT ctx, CompleteSIB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sib-Type */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sib_Type, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "CompleteSIB");
+   /* sib-Data-fixed */
+   stat = dec_CompleteSIB_sib_Data_fixed(ctx, &pvalue->sib_Data_fixed, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "CompleteSIB");
    return 0;
 }
 
 int asn1PD_UMTS_CompleteSIB(rtxContext* RT_RESTRICT ctx, CompleteSIB* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CompleteSIB, pvalue);
+}
+
+RT_MERGED_BODY int dec_LastSegment(rtxContext* RT_RESTRICT ctx, LastSegment* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    /* sib-Type */
-   stat = pd_ConsUnsigned(ctx, &pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "CompleteSIB");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sib_Type, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "LastSegment");
+   /* segmentIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->segmentIndex, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, "SegmentIndex", "segmentIndex", -1, "LastSegment");
    /* sib-Data-fixed */
-   stat = asn1PD_UMTS_CompleteSIB_sib_Data_fixed(ctx, &pvalue->sib_Data_fixed);
-   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "CompleteSIB");
+   stat = dec_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "LastSegment");
    return 0;
 }
 
 int asn1PD_UMTS_LastSegment(rtxContext* RT_RESTRICT ctx, LastSegment* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* sib-Type */
-   stat = pd_ConsUnsigned(ctx, &pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "LastSegment");
-   /* segmentIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->segmentIndex, 1, 15);
-   RT_CHECK(ctx, stat, "SegmentIndex", "segmentIndex", -1, "LastSegment");
-   /* sib-Data-fixed */
-   stat = asn1PD_UMTS_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed);
-   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "LastSegment");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_LastSegment, pvalue);
 }
 
-int asn1PD_UMTS_SystemInformation_BCH_payload(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload* RT_RESTRICT pvalue)
+static int dec_SystemInformation_BCH_payload(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* noSegment */
          break;
       case 1: /* firstSegment */
          pvalue->u.firstSegment = (FirstSegment*)rtxMemHeapAlloc(ctx, sizeof(FirstSegment));
-         if (pvalue->u.firstSegment == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "firstSegment", -1, 0);
+         if (pvalue->u.firstSegment == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "firstSegment", -1, 0);
          asn1Init_UMTS_FirstSegment(pvalue->u.firstSegment);
-         stat = asn1PD_UMTS_FirstSegment(ctx, pvalue->u.firstSegment);
+         stat = dec_FirstSegment(ctx, pvalue->u.firstSegment, cur);
          RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
          break;
       case 2: /* subsequentSegment */
          pvalue->u.subsequentSegment = (SubsequentSegment*)rtxMemHeapAlloc(ctx, sizeof(SubsequentSegment));
-         if (pvalue->u.subsequentSegment == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "subsequentSegment", -1, 0);
+         if (pvalue->u.subsequentSegment == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "subsequentSegment", -1, 0);
          asn1Init_UMTS_SubsequentSegment(pvalue->u.subsequentSegment);
-         stat = asn1PD_UMTS_SubsequentSegment(ctx, pvalue->u.subsequentSegment);
+         stat = dec_SubsequentSegment(ctx, pvalue->u.subsequentSegment, cur);
          RT_CHECK(ctx, stat, 0, "subsequentSegment", -1, 0);
          break;
       case 3: /* lastSegmentShort */
          pvalue->u.lastSegmentShort = (LastSegmentShort*)rtxMemHeapAlloc(ctx, sizeof(LastSegmentShort));
-         if (pvalue->u.lastSegmentShort == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "lastSegmentShort", -1, 0);
+         if (pvalue->u.lastSegmentShort == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "lastSegmentShort", -1, 0);
          asn1Init_UMTS_LastSegmentShort(pvalue->u.lastSegmentShort);
-         stat = asn1PD_UMTS_LastSegmentShort(ctx, pvalue->u.lastSegmentShort);
+         stat = dec_LastSegmentShort(ctx, pvalue->u.lastSegmentShort, cur);
          RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
          break;
       case 4: /* lastAndFirst */
          pvalue->u.lastAndFirst = (SystemInformation_BCH_payload_lastAndFirst*)rtxMemHeapAlloc(ctx, sizeof(SystemInformation_BCH_payload_lastAndFirst));
-         if (pvalue->u.lastAndFirst == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "lastAndFirst", -1, 0);
+         if (pvalue->u.lastAndFirst == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "lastAndFirst", -1, 0);
          asn1Init_UMTS_SystemInformation_BCH_payload_lastAndFirst(pvalue->u.lastAndFirst);
-         stat = asn1PD_UMTS_SystemInformation_BCH_payload_lastAndFirst(ctx, pvalue->u.lastAndFirst);
+         stat = dec_SystemInformation_BCH_payload_lastAndFirst(ctx, pvalue->u.lastAndFirst, cur);
          RT_CHECK(ctx, stat, 0, "lastAndFirst", -1, 0);
          break;
       case 5: /* lastAndComplete */
          pvalue->u.lastAndComplete = (SystemInformation_BCH_payload_lastAndComplete*)rtxMemHeapAlloc(ctx, sizeof(SystemInformation_BCH_payload_lastAndComplete));
-         if (pvalue->u.lastAndComplete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "lastAndComplete", -1, 0);
+         if (pvalue->u.lastAndComplete == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "lastAndComplete", -1, 0);
          asn1Init_UMTS_SystemInformation_BCH_payload_lastAndComplete(pvalue->u.lastAndComplete);
-         stat = asn1PD_UMTS_SystemInformation_BCH_payload_lastAndComplete(ctx, pvalue->u.lastAndComplete);
+         stat = dec_SystemInformation_BCH_payload_lastAndComplete(ctx, pvalue->u.lastAndComplete, cur);
          RT_CHECK(ctx, stat, 0, "lastAndComplete", -1, 0);
          break;
       case 6: /* lastAndCompleteAndFirst */
          pvalue->u.lastAndCompleteAndFirst = (SystemInformation_BCH_payload_lastAndCompleteAndFirst*)rtxMemHeapAlloc(ctx, sizeof(SystemInformation_BCH_payload_lastAndCompleteAndFirst));
-         if (pvalue->u.lastAndCompleteAndFirst == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "lastAndCompleteAndFirst", -1, 0);
+         if (pvalue->u.lastAndCompleteAndFirst == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "lastAndCompleteAndFirst", -1, 0);
          asn1Init_UMTS_SystemInformation_BCH_payload_lastAndCompleteAndFirst(pvalue->u.lastAndCompleteAndFirst);
-         stat = asn1PD_UMTS_SystemInformation_BCH_payload_lastAndCompleteAndFirst(ctx, pvalue->u.lastAndCompleteAndFirst);
+         stat = dec_SystemInformation_BCH_payload_lastAndCompleteAndFirst(ctx, pvalue->u.lastAndCompleteAndFirst, cur);
          RT_CHECK(ctx, stat, 0, "lastAndCompleteAndFirst", -1, 0);
          break;
       case 7: /* completeSIB-List */
          pvalue->u.completeSIB_List = (CompleteSIB_List*)rtxMemHeapAlloc(ctx, sizeof(CompleteSIB_List));
-         if (pvalue->u.completeSIB_List == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "completeSIB-List", -1, 0);
+         if (pvalue->u.completeSIB_List == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "completeSIB-List", -1, 0);
          asn1Init_UMTS_CompleteSIB_List(pvalue->u.completeSIB_List);
-         stat = asn1PD_UMTS_CompleteSIB_List(ctx, pvalue->u.completeSIB_List);
+         stat = dec_CompleteSIB_List(ctx, pvalue->u.completeSIB_List, cur);
          RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
          break;
       case 8: /* completeAndFirst */
          pvalue->u.completeAndFirst = (SystemInformation_BCH_payload_completeAndFirst*)rtxMemHeapAlloc(ctx, sizeof(SystemInformation_BCH_payload_completeAndFirst));
-         if (pvalue->u.completeAndFirst == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "completeAndFirst", -1, 0);
+         if (pvalue->u.completeAndFirst == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "completeAndFirst", -1, 0);
          asn1Init_UMTS_SystemInformation_BCH_payload_completeAndFirst(pvalue->u.completeAndFirst);
-         stat = asn1PD_UMTS_SystemInformation_BCH_payload_completeAndFirst(ctx, pvalue->u.completeAndFirst);
+         stat = dec_SystemInformation_BCH_payload_completeAndFirst(ctx, pvalue->u.completeAndFirst, cur);
          RT_CHECK(ctx, stat, 0, "completeAndFirst", -1, 0);
          break;
       case 9: /* completeSIB */
          pvalue->u.completeSIB = (CompleteSIB*)rtxMemHeapAlloc(ctx, sizeof(CompleteSIB));
-         if (pvalue->u.completeSIB == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "completeSIB", -1, 0);
+         if (pvalue->u.completeSIB == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "completeSIB", -1, 0);
          asn1Init_UMTS_CompleteSIB(pvalue->u.completeSIB);
-         stat = asn1PD_UMTS_CompleteSIB(ctx, pvalue->u.completeSIB);
+         stat = dec_CompleteSIB(ctx, pvalue->u.completeSIB, cur);
          RT_CHECK(ctx, stat, 0, "completeSIB", -1, 0);
          break;
       case 10: /* lastSegment */
          pvalue->u.lastSegment = (LastSegment*)rtxMemHeapAlloc(ctx, sizeof(LastSegment));
-         if (pvalue->u.lastSegment == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "lastSegment", -1, 0);
+         if (pvalue->u.lastSegment == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "lastSegment", -1, 0);
          asn1Init_UMTS_LastSegment(pvalue->u.lastSegment);
-         stat = asn1PD_UMTS_LastSegment(ctx, pvalue->u.lastSegment);
+         stat = dec_LastSegment(ctx, pvalue->u.lastSegment, cur);
          RT_CHECK(ctx, stat, 0, "lastSegment", -1, 0);
          break;
       case 11: /* spare5 */
@@ -329,59 +809,115 @@ int asn1PD_UMTS_SystemInformation_BCH_payload(rtxContext* RT_RESTRICT ctx, Syste
       case 15: /* spare1 */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformation_BCH_payload(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH_payload* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SystemInformation_BCH_payload, pvalue);
+}
+
+RT_MERGED_BODY int dec_SystemInformation_BCH(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sfn-Prime */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn_Prime, 0, 2047);
+   RT_CHECK_AT(ctx, cur, stat, "SFN-Prime", "sfn-Prime", -1, "SystemInformation-BCH");
+   /* payload */
+   stat = dec_SystemInformation_BCH_payload(ctx, &pvalue->payload, cur);
+   RT_CHECK(ctx, stat, 0, "payload", -1, "SystemInformation-BCH");
    return 0;
 }
 
 int asn1PD_UMTS_SystemInformation_BCH(rtxContext* RT_RESTRICT ctx, SystemInformation_BCH* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SystemInformation_BCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_BCCH_BCH_Message(rtxContext* RT_RESTRICT ctx, BCCH_BCH_Message* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* sfn-Prime */
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn_Prime, 0, 2047);
-   RT_CHECK(ctx, stat, "SFN-Prime", "sfn-Prime", -1, "SystemInformation-BCH");
-   /* payload */
-   stat = asn1PD_UMTS_SystemInformation_BCH_payload(ctx, &pvalue->payload);
-   RT_CHECK(ctx, stat, 0, "payload", -1, "SystemInformation-BCH");
+   /* message */
+   stat = dec_SystemInformation_BCH(ctx, &pvalue->message, cur);
+   RT_CHECK(ctx, stat, 0, "message", -1, "BCCH-BCH-Message");
    return 0;
 }
 
 int asn1PD_UMTS_BCCH_BCH_Message(rtxContext* RT_RESTRICT ctx, BCCH_BCH_Message* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* message */
-   stat = asn1PD_UMTS_SystemInformation_BCH(ctx, &pvalue->message);
-   RT_CHECK(ctx, stat, 0, "message", -1, "BCCH-BCH-Message");
+   RT_DECODE_ENTRY(ctx, dec_BCCH_BCH_Message, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIB_ValueTag(rtxContext* RT_RESTRICT ctx, MIB_ValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MIB-ValueTag");
    return 0;
 }
 
 int asn1PD_UMTS_MIB_ValueTag(rtxContext* RT_RESTRICT ctx, MIB_ValueTag* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MIB_ValueTag, pvalue);
+}
+
+RT_MERGED_BODY int dec_Digit(rtxContext* RT_RESTRICT ctx, Digit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIB-ValueTag");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Digit");
    return 0;
 }
 
 int asn1PD_UMTS_Digit(rtxContext* RT_RESTRICT ctx, Digit* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Digit, pvalue);
+}
+
+RT_MERGED_BODY int dec_MCC(rtxContext* RT_RESTRICT ctx, MCC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Digit");
+   uint32_t i, n;
+   pvalue->n = n = 3;
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 9);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "Digit", "Digit", (int32_t)i, "MCC");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_MCC(rtxContext* RT_RESTRICT ctx, MCC* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MCC, pvalue);
+}
+
+RT_MERGED_BODY int dec_MNC(rtxContext* RT_RESTRICT ctx, MNC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t i;
-   pvalue->n = 3;
-   for (i = 0; i < pvalue->n; i++) {
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 1, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MNC");
+      pvalue->n = n = raw + 2;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "MNC");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MNC");
+      }
+   }
+   for (i = 0; i < n; i++) {
       pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 9);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 9);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "Digit", "Digit", (int32_t)i, "MCC");
+         RT_FAIL_AT(ctx, cur, stat, "Digit", "Digit", (int32_t)i, "MNC");
       }
    }
    return 0;
@@ -389,611 +925,735 @@ int asn1PD_UMTS_MCC(rtxContext* RT_RESTRICT ctx, MCC* RT_RESTRICT pvalue)
 
 int asn1PD_UMTS_MNC(rtxContext* RT_RESTRICT ctx, MNC* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, "MNC");
-      pvalue->n = raw + 2;
-      if (raw > 1) {
-         rtxErrAddStrParm(ctx, "MNC");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MNC");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 9);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "Digit", "Digit", (int32_t)i, "MNC");
-      }
-   }
+   RT_DECODE_ENTRY(ctx, dec_MNC, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLMN_Identity(rtxContext* RT_RESTRICT ctx, PLMN_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mcc */
+   stat = dec_MCC(ctx, &pvalue->mcc, cur);
+   RT_CHECK(ctx, stat, 0, "mcc", -1, "PLMN-Identity");
+   /* mnc */
+   stat = dec_MNC(ctx, &pvalue->mnc, cur);
+   RT_CHECK(ctx, stat, 0, "mnc", -1, "PLMN-Identity");
    return 0;
 }
 
 int asn1PD_UMTS_PLMN_Identity(rtxContext* RT_RESTRICT ctx, PLMN_Identity* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PLMN_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLMN_Type_gsm_MAP(rtxContext* RT_RESTRICT ctx, PLMN_Type_gsm_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* mcc */
-   stat = asn1PD_UMTS_MCC(ctx, &pvalue->mcc);
-   RT_CHECK(ctx, stat, 0, "mcc", -1, "PLMN-Identity");
-   /* mnc */
-   stat = asn1PD_UMTS_MNC(ctx, &pvalue->mnc);
-   RT_CHECK(ctx, stat, 0, "mnc", -1, "PLMN-Identity");
+   /* plmn-Identity */
+   stat = dec_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_PLMN_Type_gsm_MAP(rtxContext* RT_RESTRICT ctx, PLMN_Type_gsm_MAP* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* plmn-Identity */
-   stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PLMN_Type_gsm_MAP, pvalue);
+}
+
+RT_MERGED_BODY int dec_P_REV(rtxContext* RT_RESTRICT ctx, P_REV* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "P-REV");
    return 0;
 }
 
 int asn1PD_UMTS_P_REV(rtxContext* RT_RESTRICT ctx, P_REV* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_P_REV, pvalue);
+}
+
+RT_MERGED_BODY int dec_Min_P_REV(rtxContext* RT_RESTRICT ctx, Min_P_REV* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
    RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "P-REV");
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Min-P-REV");
    return 0;
 }
 
 int asn1PD_UMTS_Min_P_REV(rtxContext* RT_RESTRICT ctx, Min_P_REV* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Min_P_REV, pvalue);
+}
+
+RT_MERGED_BODY int dec_SID(rtxContext* RT_RESTRICT ctx, SID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Min-P-REV");
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pd_BitString32At(ctx, cur, pvalue, 15, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SID");
    return 0;
 }
 
 int asn1PD_UMTS_SID(rtxContext* RT_RESTRICT ctx, SID* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SID, pvalue);
+}
+
+RT_MERGED_BODY int dec_NID(rtxContext* RT_RESTRICT ctx, NID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, pvalue, 15, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SID");
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, pvalue, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NID");
    return 0;
 }
 
 int asn1PD_UMTS_NID(rtxContext* RT_RESTRICT ctx, NID* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NID");
+   RT_DECODE_ENTRY(ctx, dec_NID, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLMN_Type_ansi_41(rtxContext* RT_RESTRICT ctx, PLMN_Type_ansi_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* p-REV */
+   stat = dec_P_REV(ctx, &pvalue->p_REV, cur);
+   RT_CHECK(ctx, stat, 0, "p-REV", -1, 0);
+   /* min-P-REV */
+   stat = dec_Min_P_REV(ctx, &pvalue->min_P_REV, cur);
+   RT_CHECK(ctx, stat, 0, "min-P-REV", -1, 0);
+   /* sid */
+   stat = dec_SID(ctx, &pvalue->sid, cur);
+   RT_CHECK(ctx, stat, 0, "sid", -1, 0);
+   /* nid */
+   stat = dec_NID(ctx, &pvalue->nid, cur);
+   RT_CHECK(ctx, stat, 0, "nid", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_PLMN_Type_ansi_41(rtxContext* RT_RESTRICT ctx, PLMN_Type_ansi_41* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PLMN_Type_ansi_41, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLMN_Type_gsm_MAP_and_ANSI_41(rtxContext* RT_RESTRICT ctx, PLMN_Type_gsm_MAP_and_ANSI_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
+   /* plmn-Identity */
+   stat = dec_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    /* p-REV */
-   stat = asn1PD_UMTS_P_REV(ctx, &pvalue->p_REV);
+   stat = dec_P_REV(ctx, &pvalue->p_REV, cur);
    RT_CHECK(ctx, stat, 0, "p-REV", -1, 0);
    /* min-P-REV */
-   stat = asn1PD_UMTS_Min_P_REV(ctx, &pvalue->min_P_REV);
+   stat = dec_Min_P_REV(ctx, &pvalue->min_P_REV, cur);
    RT_CHECK(ctx, stat, 0, "min-P-REV", -1, 0);
    /* sid */
-   stat = asn1PD_UMTS_SID(ctx, &pvalue->sid);
+   stat = dec_SID(ctx, &pvalue->sid, cur);
    RT_CHECK(ctx, stat, 0, "sid", -1, 0);
    /* nid */
-   stat = asn1PD_UMTS_NID(ctx, &pvalue->nid);
+   stat = dec_NID(ctx, &pvalue->nid, cur);
    RT_CHECK(ctx, stat, 0, "nid", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_PLMN_Type_gsm_MAP_and_ANSI_41(rtxContext* RT_RESTRICT ctx, PLMN_Type_gsm_MAP_and_ANSI_41* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* plmn-Identity */
-   stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
-   /* p-REV */
-   stat = asn1PD_UMTS_P_REV(ctx, &pvalue->p_REV);
-   RT_CHECK(ctx, stat, 0, "p-REV", -1, 0);
-   /* min-P-REV */
-   stat = asn1PD_UMTS_Min_P_REV(ctx, &pvalue->min_P_REV);
-   RT_CHECK(ctx, stat, 0, "min-P-REV", -1, 0);
-   /* sid */
-   stat = asn1PD_UMTS_SID(ctx, &pvalue->sid);
-   RT_CHECK(ctx, stat, 0, "sid", -1, 0);
-   /* nid */
-   stat = asn1PD_UMTS_NID(ctx, &pvalue->nid);
-   RT_CHECK(ctx, stat, 0, "nid", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PLMN_Type_gsm_MAP_and_ANSI_41, pvalue);
 }
 
-int asn1PD_UMTS_PLMN_Type(rtxContext* RT_RESTRICT ctx, PLMN_Type* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PLMN_Type(rtxContext* RT_RESTRICT ctx, PLMN_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PLMN-Type");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PLMN-Type");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* gsm-MAP */
          pvalue->u.gsm_MAP = (PLMN_Type_gsm_MAP*)rtxMemHeapAlloc(ctx, sizeof(PLMN_Type_gsm_MAP));
-         if (pvalue->u.gsm_MAP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm-MAP", -1, "PLMN-Type");
+         if (pvalue->u.gsm_MAP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm-MAP", -1, "PLMN-Type");
          asn1Init_UMTS_PLMN_Type_gsm_MAP(pvalue->u.gsm_MAP);
-         stat = asn1PD_UMTS_PLMN_Type_gsm_MAP(ctx, pvalue->u.gsm_MAP);
+         stat = dec_PLMN_Type_gsm_MAP(ctx, pvalue->u.gsm_MAP, cur);
          RT_CHECK(ctx, stat, 0, "gsm-MAP", -1, "PLMN-Type");
          break;
       case 1: /* ansi-41 */
          pvalue->u.ansi_41 = (PLMN_Type_ansi_41*)rtxMemHeapAlloc(ctx, sizeof(PLMN_Type_ansi_41));
-         if (pvalue->u.ansi_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ansi-41", -1, "PLMN-Type");
+         if (pvalue->u.ansi_41 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ansi-41", -1, "PLMN-Type");
          asn1Init_UMTS_PLMN_Type_ansi_41(pvalue->u.ansi_41);
-         stat = asn1PD_UMTS_PLMN_Type_ansi_41(ctx, pvalue->u.ansi_41);
+         stat = dec_PLMN_Type_ansi_41(ctx, pvalue->u.ansi_41, cur);
          RT_CHECK(ctx, stat, 0, "ansi-41", -1, "PLMN-Type");
          break;
       case 2: /* gsm-MAP-and-ANSI-41 */
          pvalue->u.gsm_MAP_and_ANSI_41 = (PLMN_Type_gsm_MAP_and_ANSI_41*)rtxMemHeapAlloc(ctx, sizeof(PLMN_Type_gsm_MAP_and_ANSI_41));
-         if (pvalue->u.gsm_MAP_and_ANSI_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm-MAP-and-ANSI-41", -1, "PLMN-Type");
+         if (pvalue->u.gsm_MAP_and_ANSI_41 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm-MAP-and-ANSI-41", -1, "PLMN-Type");
          asn1Init_UMTS_PLMN_Type_gsm_MAP_and_ANSI_41(pvalue->u.gsm_MAP_and_ANSI_41);
-         stat = asn1PD_UMTS_PLMN_Type_gsm_MAP_and_ANSI_41(ctx, pvalue->u.gsm_MAP_and_ANSI_41);
+         stat = dec_PLMN_Type_gsm_MAP_and_ANSI_41(ctx, pvalue->u.gsm_MAP_and_ANSI_41, cur);
          RT_CHECK(ctx, stat, 0, "gsm-MAP-and-ANSI-41", -1, "PLMN-Type");
          break;
       case 3: /* spare */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PLMN-Type");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PLMN-Type");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_PLMN_Type(rtxContext* RT_RESTRICT ctx, PLMN_Type* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PLMN_Type, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLMN_ValueTag(rtxContext* RT_RESTRICT ctx, PLMN_ValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 1, 256);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PLMN-ValueTag");
    return 0;
 }
 
 int asn1PD_UMTS_PLMN_ValueTag(rtxContext* RT_RESTRICT ctx, PLMN_ValueTag* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PLMN_ValueTag, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellValueTag(rtxContext* RT_RESTRICT ctx, CellValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 1, 256);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PLMN-ValueTag");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellValueTag");
    return 0;
 }
 
 int asn1PD_UMTS_CellValueTag(rtxContext* RT_RESTRICT ctx, CellValueTag* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellValueTag, pvalue);
+}
+
+RT_MERGED_BODY int dec_PredefinedConfigIdentity(rtxContext* RT_RESTRICT ctx, PredefinedConfigIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellValueTag");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigIdentity");
    return 0;
 }
 
 int asn1PD_UMTS_PredefinedConfigIdentity(rtxContext* RT_RESTRICT ctx, PredefinedConfigIdentity* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PredefinedConfigIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_PredefinedConfigValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigIdentity");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigValueTag");
    return 0;
 }
 
 int asn1PD_UMTS_PredefinedConfigValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigValueTag* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigValueTag");
+   RT_DECODE_ENTRY(ctx, dec_PredefinedConfigValueTag, pvalue);
+}
+
+RT_MERGED_BODY int dec_PredefinedConfigIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigIdentityAndValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* predefinedConfigIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->predefinedConfigIdentity, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, "PredefinedConfigIdentityAndValueTag");
+   /* predefinedConfigValueTag */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->predefinedConfigValueTag, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PredefinedConfigValueTag", "predefinedConfigValueTag", -1, "PredefinedConfigIdentityAndValueTag");
    return 0;
 }
 
 int asn1PD_UMTS_PredefinedConfigIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigIdentityAndValueTag* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* predefinedConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->predefinedConfigIdentity, 0, 15);
-   RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, "PredefinedConfigIdentityAndValueTag");
-   /* predefinedConfigValueTag */
-   stat = pd_ConsUInt8(ctx, &pvalue->predefinedConfigValueTag, 0, 15);
-   RT_CHECK(ctx, stat, "PredefinedConfigValueTag", "predefinedConfigValueTag", -1, "PredefinedConfigIdentityAndValueTag");
+   RT_DECODE_ENTRY(ctx, dec_PredefinedConfigIdentityAndValueTag, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIBOccurIdentity(rtxContext* RT_RESTRICT ctx, SIBOccurIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIBOccurIdentity");
    return 0;
 }
 
 int asn1PD_UMTS_SIBOccurIdentity(rtxContext* RT_RESTRICT ctx, SIBOccurIdentity* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SIBOccurIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIBOccurValueTag(rtxContext* RT_RESTRICT ctx, SIBOccurValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIBOccurIdentity");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIBOccurValueTag");
    return 0;
 }
 
 int asn1PD_UMTS_SIBOccurValueTag(rtxContext* RT_RESTRICT ctx, SIBOccurValueTag* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIBOccurValueTag");
+   RT_DECODE_ENTRY(ctx, dec_SIBOccurValueTag, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIBOccurrenceIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, SIBOccurrenceIdentityAndValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sibOccurIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->sibOccurIdentity, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "SIBOccurIdentity", "sibOccurIdentity", -1, "SIBOccurrenceIdentityAndValueTag");
+   /* sibOccurValueTag */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->sibOccurValueTag, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "SIBOccurValueTag", "sibOccurValueTag", -1, "SIBOccurrenceIdentityAndValueTag");
    return 0;
 }
 
 int asn1PD_UMTS_SIBOccurrenceIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, SIBOccurrenceIdentityAndValueTag* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* sibOccurIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->sibOccurIdentity, 0, 15);
-   RT_CHECK(ctx, stat, "SIBOccurIdentity", "sibOccurIdentity", -1, "SIBOccurrenceIdentityAndValueTag");
-   /* sibOccurValueTag */
-   stat = pd_ConsUInt8(ctx, &pvalue->sibOccurValueTag, 0, 15);
-   RT_CHECK(ctx, stat, "SIBOccurValueTag", "sibOccurValueTag", -1, "SIBOccurrenceIdentityAndValueTag");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SIBOccurrenceIdentityAndValueTag, pvalue);
 }
 
-int asn1PD_UMTS_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, SIBSb_TypeAndTag* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, SIBSb_TypeAndTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIBSb-TypeAndTag");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIBSb-TypeAndTag");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* sysInfoType1 */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.sysInfoType1, 1, 256);
-         RT_CHECK(ctx, stat, "PLMN-ValueTag", "sysInfoType1", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.sysInfoType1, 1, 256);
+         RT_CHECK_AT(ctx, cur, stat, "PLMN-ValueTag", "sysInfoType1", -1, "SIBSb-TypeAndTag");
          break;
       case 1: /* sysInfoType2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType2, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType2", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType2, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType2", -1, "SIBSb-TypeAndTag");
          break;
       case 2: /* sysInfoType3 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType3, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType3", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType3, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType3", -1, "SIBSb-TypeAndTag");
          break;
       case 3: /* sysInfoType4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType4, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType4", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType4, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType4", -1, "SIBSb-TypeAndTag");
          break;
       case 4: /* sysInfoType5 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType5, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType5", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType5, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType5", -1, "SIBSb-TypeAndTag");
          break;
       case 5: /* sysInfoType6 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType6, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType6", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType6, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType6", -1, "SIBSb-TypeAndTag");
          break;
       case 6: /* sysInfoType7 */
          break;
       case 7: /* dummy */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dummy, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "dummy", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dummy, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "dummy", -1, "SIBSb-TypeAndTag");
          break;
       case 8: /* dummy2 */
          break;
       case 9: /* dummy3 */
          break;
       case 10: /* sysInfoType11 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType11, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType11", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType11, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType11", -1, "SIBSb-TypeAndTag");
          break;
       case 11: /* sysInfoType12 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType12, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType12", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType12, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType12", -1, "SIBSb-TypeAndTag");
          break;
       case 12: /* sysInfoType13 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType13, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType13, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType13", -1, "SIBSb-TypeAndTag");
          break;
       case 13: /* sysInfoType13-1 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType13_1, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-1", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType13_1, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType13-1", -1, "SIBSb-TypeAndTag");
          break;
       case 14: /* sysInfoType13-2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType13_2, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-2", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType13_2, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType13-2", -1, "SIBSb-TypeAndTag");
          break;
       case 15: /* sysInfoType13-3 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType13_3, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-3", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType13_3, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType13-3", -1, "SIBSb-TypeAndTag");
          break;
       case 16: /* sysInfoType13-4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType13_4, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-4", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType13_4, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType13-4", -1, "SIBSb-TypeAndTag");
          break;
       case 17: /* sysInfoType14 */
          break;
       case 18: /* sysInfoType15 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType15, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType15, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType15", -1, "SIBSb-TypeAndTag");
          break;
       case 19: /* sysInfoType16 */
          pvalue->u.sysInfoType16 = (PredefinedConfigIdentityAndValueTag*)rtxMemHeapAllocZ(ctx, sizeof(PredefinedConfigIdentityAndValueTag));
-         if (pvalue->u.sysInfoType16 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sysInfoType16", -1, "SIBSb-TypeAndTag");
-         stat = asn1PD_UMTS_PredefinedConfigIdentityAndValueTag(ctx, pvalue->u.sysInfoType16);
+         if (pvalue->u.sysInfoType16 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sysInfoType16", -1, "SIBSb-TypeAndTag");
+         stat = dec_PredefinedConfigIdentityAndValueTag(ctx, pvalue->u.sysInfoType16, cur);
          RT_CHECK(ctx, stat, 0, "sysInfoType16", -1, "SIBSb-TypeAndTag");
          break;
       case 20: /* sysInfoType17 */
          break;
       case 21: /* sysInfoTypeSB1 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoTypeSB1, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoTypeSB1", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoTypeSB1, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoTypeSB1", -1, "SIBSb-TypeAndTag");
          break;
       case 22: /* sysInfoTypeSB2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoTypeSB2, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoTypeSB2", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoTypeSB2, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoTypeSB2", -1, "SIBSb-TypeAndTag");
          break;
       case 23: /* sysInfoType15-1 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType15_1, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-1", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType15_1, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType15-1", -1, "SIBSb-TypeAndTag");
          break;
       case 24: /* sysInfoType15-2 */
          pvalue->u.sysInfoType15_2 = (SIBOccurrenceIdentityAndValueTag*)rtxMemHeapAllocZ(ctx, sizeof(SIBOccurrenceIdentityAndValueTag));
-         if (pvalue->u.sysInfoType15_2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sysInfoType15-2", -1, "SIBSb-TypeAndTag");
-         stat = asn1PD_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_2);
+         if (pvalue->u.sysInfoType15_2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sysInfoType15-2", -1, "SIBSb-TypeAndTag");
+         stat = dec_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_2, cur);
          RT_CHECK(ctx, stat, 0, "sysInfoType15-2", -1, "SIBSb-TypeAndTag");
          break;
       case 25: /* sysInfoType15-3 */
          pvalue->u.sysInfoType15_3 = (SIBOccurrenceIdentityAndValueTag*)rtxMemHeapAllocZ(ctx, sizeof(SIBOccurrenceIdentityAndValueTag));
-         if (pvalue->u.sysInfoType15_3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sysInfoType15-3", -1, "SIBSb-TypeAndTag");
-         stat = asn1PD_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_3);
+         if (pvalue->u.sysInfoType15_3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sysInfoType15-3", -1, "SIBSb-TypeAndTag");
+         stat = dec_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_3, cur);
          RT_CHECK(ctx, stat, 0, "sysInfoType15-3", -1, "SIBSb-TypeAndTag");
          break;
       case 26: /* sysInfoType15-4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType15_4, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-4", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType15_4, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType15-4", -1, "SIBSb-TypeAndTag");
          break;
       case 27: /* sysInfoType18 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType18, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType18", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType18, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType18", -1, "SIBSb-TypeAndTag");
          break;
       case 28: /* sysInfoType15-5 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType15_5, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-5", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType15_5, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType15-5", -1, "SIBSb-TypeAndTag");
          break;
       case 29: /* sysInfoType5bis */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType5bis, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType5bis", -1, "SIBSb-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType5bis, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType5bis", -1, "SIBSb-TypeAndTag");
          break;
       case 30: /* spare2 */
          break;
       case 31: /* spare1 */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIBSb-TypeAndTag");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SIBSb-TypeAndTag");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, SIBSb_TypeAndTag* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIBSb_TypeAndTag, pvalue);
+}
+
+RT_MERGED_BODY int dec_SchedulingInformation_scheduling_sib_Pos(rtxContext* RT_RESTRICT ctx, SchedulingInformation_scheduling_sib_Pos* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rep4 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rep4, 0, 1);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rep4", -1, 0);
+         break;
+      case 1: /* rep8 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rep8, 0, 3);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rep8", -1, 0);
+         break;
+      case 2: /* rep16 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rep16, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rep16", -1, 0);
+         break;
+      case 3: /* rep32 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rep32, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rep32", -1, 0);
+         break;
+      case 4: /* rep64 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rep64, 0, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rep64", -1, 0);
+         break;
+      case 5: /* rep128 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rep128, 0, 63);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rep128", -1, 0);
+         break;
+      case 6: /* rep256 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rep256, 0, 127);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rep256", -1, 0);
+         break;
+      case 7: /* rep512 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rep512, 0, 255);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rep512", -1, 0);
+         break;
+      case 8: /* rep1024 */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.rep1024, 0, 511);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rep1024", -1, 0);
+         break;
+      case 9: /* rep2048 */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.rep2048, 0, 1023);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rep2048", -1, 0);
+         break;
+      case 10: /* rep4096 */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.rep4096, 0, 2047);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rep4096", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SchedulingInformation_scheduling_sib_Pos(rtxContext* RT_RESTRICT ctx, SchedulingInformation_scheduling_sib_Pos* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SchedulingInformation_scheduling_sib_Pos, pvalue);
+}
+
+RT_MERGED_BODY int dec_SibOFF(rtxContext* RT_RESTRICT ctx, SibOFF* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* rep4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rep4, 0, 1);
-         RT_CHECK(ctx, stat, 0, "rep4", -1, 0);
-         break;
-      case 1: /* rep8 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rep8, 0, 3);
-         RT_CHECK(ctx, stat, 0, "rep8", -1, 0);
-         break;
-      case 2: /* rep16 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rep16, 0, 7);
-         RT_CHECK(ctx, stat, 0, "rep16", -1, 0);
-         break;
-      case 3: /* rep32 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rep32, 0, 15);
-         RT_CHECK(ctx, stat, 0, "rep32", -1, 0);
-         break;
-      case 4: /* rep64 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rep64, 0, 31);
-         RT_CHECK(ctx, stat, 0, "rep64", -1, 0);
-         break;
-      case 5: /* rep128 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rep128, 0, 63);
-         RT_CHECK(ctx, stat, 0, "rep128", -1, 0);
-         break;
-      case 6: /* rep256 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rep256, 0, 127);
-         RT_CHECK(ctx, stat, 0, "rep256", -1, 0);
-         break;
-      case 7: /* rep512 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rep512, 0, 255);
-         RT_CHECK(ctx, stat, 0, "rep512", -1, 0);
-         break;
-      case 8: /* rep1024 */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.rep1024, 0, 511);
-         RT_CHECK(ctx, stat, 0, "rep1024", -1, 0);
-         break;
-      case 9: /* rep2048 */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.rep2048, 0, 1023);
-         RT_CHECK(ctx, stat, 0, "rep2048", -1, 0);
-         break;
-      case 10: /* rep4096 */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.rep4096, 0, 2047);
-         RT_CHECK(ctx, stat, 0, "rep4096", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SibOFF");
    return 0;
 }
 
 int asn1PD_UMTS_SibOFF(rtxContext* RT_RESTRICT ctx, SibOFF* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SibOFF, pvalue);
+}
+
+RT_MERGED_BODY int dec_SibOFF_List(rtxContext* RT_RESTRICT ctx, SibOFF_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SibOFF");
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SibOFF-List");
+      pvalue->n = n = raw + 1;
+      if (raw > 14) {
+         rtxErrAddStrParm(ctx, "SibOFF-List");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SibOFF-List");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "SibOFF", "SibOFF", (int32_t)i, "SibOFF-List");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_SibOFF_List(rtxContext* RT_RESTRICT ctx, SibOFF_List* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "SibOFF-List");
-      pvalue->n = raw + 1;
-      if (raw > 14) {
-         rtxErrAddStrParm(ctx, "SibOFF-List");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SibOFF-List");
-      }
+   RT_DECODE_ENTRY(ctx, dec_SibOFF_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_SchedulingInformation_scheduling(rtxContext* RT_RESTRICT ctx, SchedulingInformation_scheduling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* segCount */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->segCount, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "SegCount", "segCount", -1, 0);
    }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "SibOFF", "SibOFF", (int32_t)i, "SibOFF-List");
-      }
+   else {
+      pvalue->segCount = 1;
+   }
+   /* sib-Pos */
+   stat = dec_SchedulingInformation_scheduling_sib_Pos(ctx, &pvalue->sib_Pos, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Pos", -1, 0);
+   /* sib-PosOffsetInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SibOFF_List(ctx, &pvalue->sib_PosOffsetInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sib-PosOffsetInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SchedulingInformation_scheduling(rtxContext* RT_RESTRICT ctx, SchedulingInformation_scheduling* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SchedulingInformation_scheduling, pvalue);
+}
+
+static int dec_SchedulingInformation(rtxContext* RT_RESTRICT ctx, SchedulingInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* segCount */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->segCount, 1, 16);
-      RT_CHECK(ctx, stat, "SegCount", "segCount", -1, 0);
-   }
-   else {
-      pvalue->segCount = 1;
-   }
-   /* sib-Pos */
-   stat = asn1PD_UMTS_SchedulingInformation_scheduling_sib_Pos(ctx, &pvalue->sib_Pos);
-   RT_CHECK(ctx, stat, 0, "sib-Pos", -1, 0);
-   /* sib-PosOffsetInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SibOFF_List(ctx, &pvalue->sib_PosOffsetInfo);
-      RT_CHECK(ctx, stat, 0, "sib-PosOffsetInfo", -1, 0);
-   }
+   /* scheduling */
+   stat = dec_SchedulingInformation_scheduling(ctx, &pvalue->scheduling, cur);
+   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformation");
    return 0;
 }
 
 int asn1PD_UMTS_SchedulingInformation(rtxContext* RT_RESTRICT ctx, SchedulingInformation* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SchedulingInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_SchedulingInformationSIBSb(rtxContext* RT_RESTRICT ctx, SchedulingInformationSIBSb* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
+   /* sibSb-Type */
+   stat = dec_SIBSb_TypeAndTag(ctx, &pvalue->sibSb_Type, cur);
+   RT_CHECK(ctx, stat, 0, "sibSb-Type", -1, "SchedulingInformationSIBSb");
    /* scheduling */
-   stat = asn1PD_UMTS_SchedulingInformation_scheduling(ctx, &pvalue->scheduling);
-   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformation");
+   stat = dec_SchedulingInformation(ctx, &pvalue->scheduling, cur);
+   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformationSIBSb");
    return 0;
 }
 
 int asn1PD_UMTS_SchedulingInformationSIBSb(rtxContext* RT_RESTRICT ctx, SchedulingInformationSIBSb* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* sibSb-Type */
-   stat = asn1PD_UMTS_SIBSb_TypeAndTag(ctx, &pvalue->sibSb_Type);
-   RT_CHECK(ctx, stat, 0, "sibSb-Type", -1, "SchedulingInformationSIBSb");
-   /* scheduling */
-   stat = asn1PD_UMTS_SchedulingInformation(ctx, &pvalue->scheduling);
-   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformationSIBSb");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SchedulingInformationSIBSb, pvalue);
 }
 
-int asn1PD_UMTS_SIBSb_ReferenceList(rtxContext* RT_RESTRICT ctx, SIBSb_ReferenceList* RT_RESTRICT pvalue)
+static int dec_SIBSb_ReferenceList(rtxContext* RT_RESTRICT ctx, SIBSb_ReferenceList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIBSb-ReferenceList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIBSb-ReferenceList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       SchedulingInformationSIBSb* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SchedulingInformationSIBSb));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SchedulingInformationSIBSb", (int32_t)i, "SIBSb-ReferenceList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SchedulingInformationSIBSb", (int32_t)i, "SIBSb-ReferenceList");
       elem = (SchedulingInformationSIBSb*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_SchedulingInformationSIBSb(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SchedulingInformationSIBSb(ctx, elem);
+      stat = dec_SchedulingInformationSIBSb(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "SchedulingInformationSIBSb", (int32_t)i, "SIBSb-ReferenceList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PLMN_IdentityWithOptionalMCC_r6(rtxContext* RT_RESTRICT ctx, PLMN_IdentityWithOptionalMCC_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SIBSb_ReferenceList(rtxContext* RT_RESTRICT ctx, SIBSb_ReferenceList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIBSb_ReferenceList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLMN_IdentityWithOptionalMCC_r6(rtxContext* RT_RESTRICT ctx, PLMN_IdentityWithOptionalMCC_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PLMN-IdentityWithOptionalMCC-r6");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PLMN-IdentityWithOptionalMCC-r6");
    /* mcc */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MCC(ctx, &pvalue->mcc);
+      stat = dec_MCC(ctx, &pvalue->mcc, cur);
       RT_CHECK(ctx, stat, 0, "mcc", -1, "PLMN-IdentityWithOptionalMCC-r6");
    }
    /* mnc */
-   stat = asn1PD_UMTS_MNC(ctx, &pvalue->mnc);
+   stat = dec_MNC(ctx, &pvalue->mnc, cur);
    RT_CHECK(ctx, stat, 0, "mnc", -1, "PLMN-IdentityWithOptionalMCC-r6");
    return 0;
 }
 
-int asn1PD_UMTS_MultiplePLMN_List_r6_multiplePLMNs(rtxContext* RT_RESTRICT ctx, MultiplePLMN_List_r6_multiplePLMNs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PLMN_IdentityWithOptionalMCC_r6(rtxContext* RT_RESTRICT ctx, PLMN_IdentityWithOptionalMCC_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PLMN_IdentityWithOptionalMCC_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiplePLMN_List_r6_multiplePLMNs(rtxContext* RT_RESTRICT ctx, MultiplePLMN_List_r6_multiplePLMNs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 5);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PLMN_IdentityWithOptionalMCC_r6* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PLMN_IdentityWithOptionalMCC_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
       elem = (PLMN_IdentityWithOptionalMCC_r6*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PLMN_IdentityWithOptionalMCC_r6(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PLMN_IdentityWithOptionalMCC_r6(ctx, elem);
+      stat = dec_PLMN_IdentityWithOptionalMCC_r6(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MultiplePLMN_List_r6(rtxContext* RT_RESTRICT ctx, MultiplePLMN_List_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MultiplePLMN_List_r6_multiplePLMNs(rtxContext* RT_RESTRICT ctx, MultiplePLMN_List_r6_multiplePLMNs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiplePLMN_List_r6_multiplePLMNs, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiplePLMN_List_r6(rtxContext* RT_RESTRICT ctx, MultiplePLMN_List_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* mibPLMN-Identity */
-   stat = rtxDecBitInline(ctx, &pvalue->mibPLMN_Identity);
-   RT_CHECK(ctx, stat, 0, "mibPLMN-Identity", -1, "MultiplePLMN-List-r6");
+   stat = rtxDecBitAt(ctx, cur, &pvalue->mibPLMN_Identity);
+   RT_CHECK_AT(ctx, cur, stat, 0, "mibPLMN-Identity", -1, "MultiplePLMN-List-r6");
    /* multiplePLMNs */
-   stat = asn1PD_UMTS_MultiplePLMN_List_r6_multiplePLMNs(ctx, &pvalue->multiplePLMNs);
+   stat = dec_MultiplePLMN_List_r6_multiplePLMNs(ctx, &pvalue->multiplePLMNs, cur);
    RT_CHECK(ctx, stat, 0, "multiplePLMNs", -1, "MultiplePLMN-List-r6");
    return 0;
 }
 
-int asn1PD_UMTS_MasterInformationBlock_v690ext(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MultiplePLMN_List_r6(rtxContext* RT_RESTRICT ctx, MultiplePLMN_List_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiplePLMN_List_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MasterInformationBlock_v690ext(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MasterInformationBlock-v690ext");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MasterInformationBlock-v690ext");
    /* multiplePLMN-List */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MultiplePLMN_List_r6(ctx, &pvalue->multiplePLMN_List);
+      stat = dec_MultiplePLMN_List_r6(ctx, &pvalue->multiplePLMN_List, cur);
       RT_CHECK(ctx, stat, 0, "multiplePLMN-List", -1, "MasterInformationBlock-v690ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_SIB_TypeExt(rtxContext* RT_RESTRICT ctx, SIB_TypeExt* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MasterInformationBlock_v690ext(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MasterInformationBlock_v690ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIB_TypeExt(rtxContext* RT_RESTRICT ctx, SIB_TypeExt* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-TypeExt");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIB-TypeExt");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* systemInfoType11bis */
@@ -1013,102 +1673,127 @@ int asn1PD_UMTS_SIB_TypeExt(rtxContext* RT_RESTRICT ctx, SIB_TypeExt* RT_RESTRIC
       case 7: /* systemInfoType15-8 */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExt");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExt");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SIB_TypeExt(rtxContext* RT_RESTRICT ctx, SIB_TypeExt* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIB_TypeExt, pvalue);
+}
+
+RT_MERGED_BODY int dec_ValueTagInfo(rtxContext* RT_RESTRICT ctx, ValueTagInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ValueTagInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* none */
+         break;
+      case 1: /* cellValueTag */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.cellValueTag, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "cellValueTag", -1, "ValueTagInfo");
+         break;
+      case 2: /* plmn-ValueTag */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.plmn_ValueTag, 1, 256);
+         RT_CHECK_AT(ctx, cur, stat, "PLMN-ValueTag", "plmn-ValueTag", -1, "ValueTagInfo");
+         break;
+      case 3: /* sIBOccurrenceIdentityAndValueTag */
+         pvalue->u.sIBOccurrenceIdentityAndValueTag = (SIBOccurrenceIdentityAndValueTag*)rtxMemHeapAllocZ(ctx, sizeof(SIBOccurrenceIdentityAndValueTag));
+         if (pvalue->u.sIBOccurrenceIdentityAndValueTag == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sIBOccurrenceIdentityAndValueTag", -1, "ValueTagInfo");
+         stat = dec_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sIBOccurrenceIdentityAndValueTag, cur);
+         RT_CHECK(ctx, stat, 0, "sIBOccurrenceIdentityAndValueTag", -1, "ValueTagInfo");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ValueTagInfo");
    }
    return 0;
 }
 
 int asn1PD_UMTS_ValueTagInfo(rtxContext* RT_RESTRICT ctx, ValueTagInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ValueTagInfo");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* none */
-         break;
-      case 1: /* cellValueTag */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.cellValueTag, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "cellValueTag", -1, "ValueTagInfo");
-         break;
-      case 2: /* plmn-ValueTag */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.plmn_ValueTag, 1, 256);
-         RT_CHECK(ctx, stat, "PLMN-ValueTag", "plmn-ValueTag", -1, "ValueTagInfo");
-         break;
-      case 3: /* sIBOccurrenceIdentityAndValueTag */
-         pvalue->u.sIBOccurrenceIdentityAndValueTag = (SIBOccurrenceIdentityAndValueTag*)rtxMemHeapAllocZ(ctx, sizeof(SIBOccurrenceIdentityAndValueTag));
-         if (pvalue->u.sIBOccurrenceIdentityAndValueTag == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sIBOccurrenceIdentityAndValueTag", -1, "ValueTagInfo");
-         stat = asn1PD_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sIBOccurrenceIdentityAndValueTag);
-         RT_CHECK(ctx, stat, 0, "sIBOccurrenceIdentityAndValueTag", -1, "ValueTagInfo");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ValueTagInfo");
-   }
+   RT_DECODE_ENTRY(ctx, dec_ValueTagInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_ExtSIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* extensionSIB-Type */
+   stat = dec_SIB_TypeExt(ctx, &pvalue->extensionSIB_Type, cur);
+   RT_CHECK(ctx, stat, 0, "extensionSIB-Type", -1, "ExtSIBTypeInfoSchedulingInfo");
+   /* schedulingInfo */
+   stat = dec_SchedulingInformation(ctx, &pvalue->schedulingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtSIBTypeInfoSchedulingInfo");
+   /* valueTagInfo */
+   stat = dec_ValueTagInfo(ctx, &pvalue->valueTagInfo, cur);
+   RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtSIBTypeInfoSchedulingInfo");
    return 0;
 }
 
 int asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* extensionSIB-Type */
-   stat = asn1PD_UMTS_SIB_TypeExt(ctx, &pvalue->extensionSIB_Type);
-   RT_CHECK(ctx, stat, 0, "extensionSIB-Type", -1, "ExtSIBTypeInfoSchedulingInfo");
-   /* schedulingInfo */
-   stat = asn1PD_UMTS_SchedulingInformation(ctx, &pvalue->schedulingInfo);
-   RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtSIBTypeInfoSchedulingInfo");
-   /* valueTagInfo */
-   stat = asn1PD_UMTS_ValueTagInfo(ctx, &pvalue->valueTagInfo);
-   RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtSIBTypeInfoSchedulingInfo");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ExtSIBTypeInfoSchedulingInfo, pvalue);
 }
 
-int asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo_List(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo_List* RT_RESTRICT pvalue)
+static int dec_ExtSIBTypeInfoSchedulingInfo_List(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       ExtSIBTypeInfoSchedulingInfo* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ExtSIBTypeInfoSchedulingInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ExtSIBTypeInfoSchedulingInfo", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ExtSIBTypeInfoSchedulingInfo", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List");
       elem = (ExtSIBTypeInfoSchedulingInfo*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_ExtSIBTypeInfoSchedulingInfo(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo(ctx, elem);
+      stat = dec_ExtSIBTypeInfoSchedulingInfo(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "ExtSIBTypeInfoSchedulingInfo", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo_List(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ExtSIBTypeInfoSchedulingInfo_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_MasterInformationBlock_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MasterInformationBlock-v6b0ext-IEs");
+   /* extSIBTypeInfoSchedulingInfo-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List, cur);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "MasterInformationBlock-v6b0ext-IEs");
    }
    return 0;
 }
 
 int asn1PD_UMTS_MasterInformationBlock_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v6b0ext_IEs* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MasterInformationBlock-v6b0ext-IEs");
-   /* extSIBTypeInfoSchedulingInfo-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "MasterInformationBlock-v6b0ext-IEs");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MasterInformationBlock_v6b0ext_IEs, pvalue);
 }
 
-int asn1PD_UMTS_SIB_TypeExt2(rtxContext* RT_RESTRICT ctx, SIB_TypeExt2* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SIB_TypeExt2(rtxContext* RT_RESTRICT ctx, SIB_TypeExt2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-TypeExt2");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIB-TypeExt2");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* systemInfoType19 */
@@ -1128,63 +1813,83 @@ int asn1PD_UMTS_SIB_TypeExt2(rtxContext* RT_RESTRICT ctx, SIB_TypeExt2* RT_RESTR
       case 7: /* spare1 */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExt2");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExt2");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_SIB_TypeExt2(rtxContext* RT_RESTRICT ctx, SIB_TypeExt2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIB_TypeExt2, pvalue);
+}
+
+RT_MERGED_BODY int dec_ExtSIBTypeInfoSchedulingInfo2(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* extensionSIB-Type2 */
+   stat = dec_SIB_TypeExt2(ctx, &pvalue->extensionSIB_Type2, cur);
+   RT_CHECK(ctx, stat, 0, "extensionSIB-Type2", -1, "ExtSIBTypeInfoSchedulingInfo2");
+   /* schedulingInfo */
+   stat = dec_SchedulingInformation(ctx, &pvalue->schedulingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtSIBTypeInfoSchedulingInfo2");
+   /* valueTagInfo */
+   stat = dec_ValueTagInfo(ctx, &pvalue->valueTagInfo, cur);
+   RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtSIBTypeInfoSchedulingInfo2");
    return 0;
 }
 
 int asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo2(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo2* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* extensionSIB-Type2 */
-   stat = asn1PD_UMTS_SIB_TypeExt2(ctx, &pvalue->extensionSIB_Type2);
-   RT_CHECK(ctx, stat, 0, "extensionSIB-Type2", -1, "ExtSIBTypeInfoSchedulingInfo2");
-   /* schedulingInfo */
-   stat = asn1PD_UMTS_SchedulingInformation(ctx, &pvalue->schedulingInfo);
-   RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtSIBTypeInfoSchedulingInfo2");
-   /* valueTagInfo */
-   stat = asn1PD_UMTS_ValueTagInfo(ctx, &pvalue->valueTagInfo);
-   RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtSIBTypeInfoSchedulingInfo2");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ExtSIBTypeInfoSchedulingInfo2, pvalue);
 }
 
-int asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo_List2* RT_RESTRICT pvalue)
+static int dec_ExtSIBTypeInfoSchedulingInfo_List2(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo_List2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List2");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List2");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       ExtSIBTypeInfoSchedulingInfo2* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ExtSIBTypeInfoSchedulingInfo2));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ExtSIBTypeInfoSchedulingInfo2", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List2");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ExtSIBTypeInfoSchedulingInfo2", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List2");
       elem = (ExtSIBTypeInfoSchedulingInfo2*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_ExtSIBTypeInfoSchedulingInfo2(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo2(ctx, elem);
+      stat = dec_ExtSIBTypeInfoSchedulingInfo2(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "ExtSIBTypeInfoSchedulingInfo2", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List2");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_SBAS_ID(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_SBAS_ID* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(rtxContext* RT_RESTRICT ctx, ExtSIBTypeInfoSchedulingInfo_List2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ExtSIBTypeInfoSchedulingInfo_List2, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_SBAS_ID(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_SBAS_ID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-SBAS-ID");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-SBAS-ID");
    return 0;
 }
 
-int asn1PD_UMTS_SIB_TypeExtGANSS(rtxContext* RT_RESTRICT ctx, SIB_TypeExtGANSS* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_SBAS_ID(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_SBAS_ID* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_SBAS_ID, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIB_TypeExtGANSS(rtxContext* RT_RESTRICT ctx, SIB_TypeExtGANSS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-TypeExtGANSS");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIB-TypeExtGANSS");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* systemInfoType15-1bis */
@@ -1220,130 +1925,160 @@ int asn1PD_UMTS_SIB_TypeExtGANSS(rtxContext* RT_RESTRICT ctx, SIB_TypeExtGANSS* 
       case 15: /* spare1 */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExtGANSS");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExtGANSS");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_SIB_TypeExtGANSS(rtxContext* RT_RESTRICT ctx, SIB_TypeExtGANSS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIB_TypeExtGANSS, pvalue);
+}
+
+RT_MERGED_BODY int dec_ExtGANSS_SchedulingInfo(rtxContext* RT_RESTRICT ctx, ExtGANSS_SchedulingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* extensionGANSS-SIBType */
+   stat = dec_SIB_TypeExtGANSS(ctx, &pvalue->extensionGANSS_SIBType, cur);
+   RT_CHECK(ctx, stat, 0, "extensionGANSS-SIBType", -1, "ExtGANSS-SchedulingInfo");
+   /* schedulingInfo */
+   stat = dec_SchedulingInformation(ctx, &pvalue->schedulingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtGANSS-SchedulingInfo");
+   /* valueTagInfo */
+   stat = dec_ValueTagInfo(ctx, &pvalue->valueTagInfo, cur);
+   RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtGANSS-SchedulingInfo");
    return 0;
 }
 
 int asn1PD_UMTS_ExtGANSS_SchedulingInfo(rtxContext* RT_RESTRICT ctx, ExtGANSS_SchedulingInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* extensionGANSS-SIBType */
-   stat = asn1PD_UMTS_SIB_TypeExtGANSS(ctx, &pvalue->extensionGANSS_SIBType);
-   RT_CHECK(ctx, stat, 0, "extensionGANSS-SIBType", -1, "ExtGANSS-SchedulingInfo");
-   /* schedulingInfo */
-   stat = asn1PD_UMTS_SchedulingInformation(ctx, &pvalue->schedulingInfo);
-   RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtGANSS-SchedulingInfo");
-   /* valueTagInfo */
-   stat = asn1PD_UMTS_ValueTagInfo(ctx, &pvalue->valueTagInfo);
-   RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtGANSS-SchedulingInfo");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ExtGANSS_SchedulingInfo, pvalue);
 }
 
-int asn1PD_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(rtxContext* RT_RESTRICT ctx, ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(rtxContext* RT_RESTRICT ctx, ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       ExtGANSS_SchedulingInfo* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ExtGANSS_SchedulingInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ExtGANSS-SchedulingInfo", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ExtGANSS-SchedulingInfo", (int32_t)i, 0);
       elem = (ExtGANSS_SchedulingInfo*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_ExtGANSS_SchedulingInfo(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ExtGANSS_SchedulingInfo(ctx, elem);
+      stat = dec_ExtGANSS_SchedulingInfo(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "ExtGANSS-SchedulingInfo", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, ExtGANSS_SIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(rtxContext* RT_RESTRICT ctx, ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling, pvalue);
+}
+
+RT_MERGED_BODY int dec_ExtGANSS_SIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, ExtGANSS_SIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    /* ganssID */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssID, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssID, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    }
    /* sbasID */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->sbasID, 0, 7);
-      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "sbasID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sbasID, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-GANSS-SBAS-ID", "sbasID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    }
    /* ganssScheduling */
-   stat = asn1PD_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(ctx, &pvalue->ganssScheduling);
+   stat = dec_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(ctx, &pvalue->ganssScheduling, cur);
    RT_CHECK(ctx, stat, 0, "ganssScheduling", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    return 0;
 }
 
-int asn1PD_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(rtxContext* RT_RESTRICT ctx, ExtGANSS_SIBTypeInfoSchedulingInfoList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, ExtGANSS_SIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ExtGANSS_SIBTypeInfoSchedulingInfo, pvalue);
+}
+
+static int dec_ExtGANSS_SIBTypeInfoSchedulingInfoList(rtxContext* RT_RESTRICT ctx, ExtGANSS_SIBTypeInfoSchedulingInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       ExtGANSS_SIBTypeInfoSchedulingInfo* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ExtGANSS_SIBTypeInfoSchedulingInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ExtGANSS-SIBTypeInfoSchedulingInfo", (int32_t)i, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ExtGANSS-SIBTypeInfoSchedulingInfo", (int32_t)i, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
       elem = (ExtGANSS_SIBTypeInfoSchedulingInfo*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo(ctx, elem);
+      stat = dec_ExtGANSS_SIBTypeInfoSchedulingInfo(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "ExtGANSS-SIBTypeInfoSchedulingInfo", (int32_t)i, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(rtxContext* RT_RESTRICT ctx, ExtGANSS_SIBTypeInfoSchedulingInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ExtGANSS_SIBTypeInfoSchedulingInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MasterInformationBlock_v860ext_IEs_csg_Indicator(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v860ext_IEs_csg_Indicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
 int asn1PD_UMTS_MasterInformationBlock_v860ext_IEs_csg_Indicator(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v860ext_IEs_csg_Indicator* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MasterInformationBlock_v860ext_IEs_csg_Indicator, pvalue);
 }
 
-int asn1PD_UMTS_MasterInformationBlock_v860ext_IEs(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v860ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MasterInformationBlock_v860ext_IEs(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MasterInformationBlock-v860ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MasterInformationBlock-v860ext-IEs");
    /* extSIBTypeInfoSchedulingInfo-List */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
+      stat = dec_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List, cur);
       RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "MasterInformationBlock-v860ext-IEs");
    }
    /* extGANSS-SIBTypeInfoSchedulingInfoList */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList);
+      stat = dec_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList, cur);
       RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "MasterInformationBlock-v860ext-IEs");
    }
    /* csg-Indicator */
@@ -1351,653 +2086,833 @@ int asn1PD_UMTS_MasterInformationBlock_v860ext_IEs(rtxContext* RT_RESTRICT ctx, 
       pvalue->m |= 0x4u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "csg-Indicator", -1, "MasterInformationBlock-v860ext-IEs");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "csg-Indicator", -1, "MasterInformationBlock-v860ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "csg-Indicator", -1, "MasterInformationBlock-v860ext-IEs");
+         RT_CHECK_AT(ctx, cur, stat, 0, "csg-Indicator", -1, "MasterInformationBlock-v860ext-IEs");
          pvalue->csg_Indicator = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MasterInformationBlock_v860ext_IEs(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MasterInformationBlock_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* masterInformationBlock-v860ext */
-   stat = asn1PD_UMTS_MasterInformationBlock_v860ext_IEs(ctx, &pvalue->masterInformationBlock_v860ext);
+   stat = dec_MasterInformationBlock_v860ext_IEs(ctx, &pvalue->masterInformationBlock_v860ext, cur);
    RT_CHECK(ctx, stat, 0, "masterInformationBlock-v860ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* masterInformationBlock-v6b0ext */
+   stat = dec_MasterInformationBlock_v6b0ext_IEs(ctx, &pvalue->masterInformationBlock_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v6b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_MasterInformationBlock_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* masterInformationBlock-v6b0ext */
-   stat = asn1PD_UMTS_MasterInformationBlock_v6b0ext_IEs(ctx, &pvalue->masterInformationBlock_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v6b0ext", -1, 0);
-   /* v860NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* masterInformationBlock-v690ext */
+   stat = dec_MasterInformationBlock_v690ext(ctx, &pvalue->masterInformationBlock_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+      stat = dec_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MasterInformationBlock_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MasterInformationBlock_v690NonCriticalExtensions, pvalue);
+}
+
+static int dec_MasterInformationBlock(rtxContext* RT_RESTRICT ctx, MasterInformationBlock* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* masterInformationBlock-v690ext */
-   stat = asn1PD_UMTS_MasterInformationBlock_v690ext(ctx, &pvalue->masterInformationBlock_v690ext);
-   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v690ext", -1, 0);
-   /* v6b0NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MasterInformationBlock");
+   /* mib-ValueTag */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mib_ValueTag, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "MIB-ValueTag", "mib-ValueTag", -1, "MasterInformationBlock");
+   /* plmn-Type */
+   stat = dec_PLMN_Type(ctx, &pvalue->plmn_Type, cur);
+   RT_CHECK(ctx, stat, 0, "plmn-Type", -1, "MasterInformationBlock");
+   /* sibSb-ReferenceList */
+   stat = dec_SIBSb_ReferenceList(ctx, &pvalue->sibSb_ReferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "sibSb-ReferenceList", -1, "MasterInformationBlock");
+   /* v690NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+      stat = dec_MasterInformationBlock_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, "MasterInformationBlock");
    }
    return 0;
 }
 
 int asn1PD_UMTS_MasterInformationBlock(rtxContext* RT_RESTRICT ctx, MasterInformationBlock* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MasterInformationBlock");
-   /* mib-ValueTag */
-   stat = pd_ConsUInt8(ctx, &pvalue->mib_ValueTag, 1, 8);
-   RT_CHECK(ctx, stat, "MIB-ValueTag", "mib-ValueTag", -1, "MasterInformationBlock");
-   /* plmn-Type */
-   stat = asn1PD_UMTS_PLMN_Type(ctx, &pvalue->plmn_Type);
-   RT_CHECK(ctx, stat, 0, "plmn-Type", -1, "MasterInformationBlock");
-   /* sibSb-ReferenceList */
-   stat = asn1PD_UMTS_SIBSb_ReferenceList(ctx, &pvalue->sibSb_ReferenceList);
-   RT_CHECK(ctx, stat, 0, "sibSb-ReferenceList", -1, "MasterInformationBlock");
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MasterInformationBlock_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, "MasterInformationBlock");
-   }
+   RT_DECODE_ENTRY(ctx, dec_MasterInformationBlock, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellIdentity(rtxContext* RT_RESTRICT ctx, CellIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 28, 28);
+   stat = pd_BitString32At(ctx, cur, pvalue, 28, 28);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellIdentity");
    return 0;
 }
 
 int asn1PD_UMTS_CellIdentity(rtxContext* RT_RESTRICT ctx, CellIdentity* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAT(rtxContext* RT_RESTRICT ctx, RAT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   RT_SET_SIZE(ctx, 28, 28);
-   stat = pd_BitString32(ctx, pvalue, 28, 28);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellIdentity");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAT");
    return 0;
 }
 
 int asn1PD_UMTS_RAT(rtxContext* RT_RESTRICT ctx, RAT* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_RAT, pvalue);
+}
+
+RT_MERGED_BODY int dec_MappingFunctionType(rtxContext* RT_RESTRICT ctx, MappingFunctionType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAT");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MappingFunctionType");
    return 0;
 }
 
 int asn1PD_UMTS_MappingFunctionType(rtxContext* RT_RESTRICT ctx, MappingFunctionType* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MappingFunctionType, pvalue);
+}
+
+RT_MERGED_BODY int dec_MapParameter(rtxContext* RT_RESTRICT ctx, MapParameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MappingFunctionType");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MapParameter");
    return 0;
 }
 
 int asn1PD_UMTS_MapParameter(rtxContext* RT_RESTRICT ctx, MapParameter* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MapParameter, pvalue);
+}
+
+RT_MERGED_BODY int dec_UpperLimit(rtxContext* RT_RESTRICT ctx, UpperLimit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MapParameter");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 91);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UpperLimit");
    return 0;
 }
 
 int asn1PD_UMTS_UpperLimit(rtxContext* RT_RESTRICT ctx, UpperLimit* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 91);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UpperLimit");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UpperLimit, pvalue);
 }
 
-int asn1PD_UMTS_MappingFunctionParameter(rtxContext* RT_RESTRICT ctx, MappingFunctionParameter* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MappingFunctionParameter(rtxContext* RT_RESTRICT ctx, MappingFunctionParameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MappingFunctionParameter");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MappingFunctionParameter");
    /* functionType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->functionType, 0, 3);
-   RT_CHECK(ctx, stat, "MappingFunctionType", "functionType", -1, "MappingFunctionParameter");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->functionType, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "MappingFunctionType", "functionType", -1, "MappingFunctionParameter");
    /* mapParameter1 */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->mapParameter1, 0, 127);
-      RT_CHECK(ctx, stat, "MapParameter", "mapParameter1", -1, "MappingFunctionParameter");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->mapParameter1, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "MapParameter", "mapParameter1", -1, "MappingFunctionParameter");
    }
    /* mapParameter2 */
-   stat = pd_ConsUInt8(ctx, &pvalue->mapParameter2, 0, 127);
-   RT_CHECK(ctx, stat, "MapParameter", "mapParameter2", -1, "MappingFunctionParameter");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mapParameter2, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "MapParameter", "mapParameter2", -1, "MappingFunctionParameter");
    /* upperLimit */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->upperLimit, 1, 91);
-      RT_CHECK(ctx, stat, "UpperLimit", "upperLimit", -1, "MappingFunctionParameter");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->upperLimit, 1, 91);
+      RT_CHECK_AT(ctx, cur, stat, "UpperLimit", "upperLimit", -1, "MappingFunctionParameter");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MappingFunctionParameter(rtxContext* RT_RESTRICT ctx, MappingFunctionParameter* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MappingFunctionParameter, pvalue);
+}
+
+RT_MERGED_BODY int dec_MappingFunctionParameterList(rtxContext* RT_RESTRICT ctx, MappingFunctionParameterList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 3);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MappingFunctionParameterList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MappingFunctionParameter* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MappingFunctionParameter));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MappingFunctionParameter", (int32_t)i, "MappingFunctionParameterList");
+      elem = (MappingFunctionParameter*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MappingFunctionParameter(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MappingFunctionParameter(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MappingFunctionParameter", (int32_t)i, "MappingFunctionParameterList");
    }
    return 0;
 }
 
 int asn1PD_UMTS_MappingFunctionParameterList(rtxContext* RT_RESTRICT ctx, MappingFunctionParameterList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 3);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MappingFunctionParameterList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MappingFunctionParameter* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MappingFunctionParameter));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MappingFunctionParameter", (int32_t)i, "MappingFunctionParameterList");
-      elem = (MappingFunctionParameter*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MappingFunctionParameter(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MappingFunctionParameter(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MappingFunctionParameter", (int32_t)i, "MappingFunctionParameterList");
-   }
+   RT_DECODE_ENTRY(ctx, dec_MappingFunctionParameterList, pvalue);
+}
+
+RT_MERGED_BODY int dec_Mapping(rtxContext* RT_RESTRICT ctx, Mapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rat */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rat, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RAT", "rat", -1, "Mapping");
+   /* mappingFunctionParameterList */
+   stat = dec_MappingFunctionParameterList(ctx, &pvalue->mappingFunctionParameterList, cur);
+   RT_CHECK(ctx, stat, 0, "mappingFunctionParameterList", -1, "Mapping");
    return 0;
 }
 
 int asn1PD_UMTS_Mapping(rtxContext* RT_RESTRICT ctx, Mapping* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* rat */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rat, 0, 3);
-   RT_CHECK(ctx, stat, "RAT", "rat", -1, "Mapping");
-   /* mappingFunctionParameterList */
-   stat = asn1PD_UMTS_MappingFunctionParameterList(ctx, &pvalue->mappingFunctionParameterList);
-   RT_CHECK(ctx, stat, 0, "mappingFunctionParameterList", -1, "Mapping");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_Mapping, pvalue);
 }
 
-int asn1PD_UMTS_MappingInfo(rtxContext* RT_RESTRICT ctx, MappingInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MappingInfo(rtxContext* RT_RESTRICT ctx, MappingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MappingInfo");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MappingInfo");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       Mapping* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Mapping));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Mapping", (int32_t)i, "MappingInfo");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Mapping", (int32_t)i, "MappingInfo");
       elem = (Mapping*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_Mapping(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Mapping(ctx, elem);
+      stat = dec_Mapping(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "Mapping", (int32_t)i, "MappingInfo");
    }
    return 0;
 }
 
-int asn1PD_UMTS_Q_Hyst_S(rtxContext* RT_RESTRICT ctx, Q_Hyst_S* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MappingInfo(rtxContext* RT_RESTRICT ctx, MappingInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MappingInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_Q_Hyst_S(rtxContext* RT_RESTRICT ctx, Q_Hyst_S* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-Hyst-S");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Q-Hyst-S");
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Q_Hyst_S(rtxContext* RT_RESTRICT ctx, Q_Hyst_S* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Q_Hyst_S, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-HYST-2-S */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->q_HYST_2_S, 0, 20);
-      RT_CHECK(ctx, stat, "Q-Hyst-S", "q-HYST-2-S", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->q_HYST_2_S, 0, 20);
+      RT_CHECK_AT(ctx, cur, stat, "Q-Hyst-S", "q-HYST-2-S", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = dec_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      case 1: /* cpich-RSCP */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int dec_S_SearchQual(rtxContext* RT_RESTRICT ctx, S_SearchQual* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cpich-Ec-N0 */
-         pvalue->u.cpich_Ec_N0 = (CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      case 1: /* cpich-RSCP */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -16, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "S-SearchQual");
    return 0;
 }
 
 int asn1PD_UMTS_S_SearchQual(rtxContext* RT_RESTRICT ctx, S_SearchQual* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_S_SearchQual, pvalue);
+}
+
+RT_MERGED_BODY int dec_S_SearchRXLEV(rtxContext* RT_RESTRICT ctx, S_SearchRXLEV* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -16, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "S-SearchQual");
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -53, 45);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "S-SearchRXLEV");
    return 0;
 }
 
 int asn1PD_UMTS_S_SearchRXLEV(rtxContext* RT_RESTRICT ctx, S_SearchRXLEV* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_S_SearchRXLEV, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAT_Identifier(rtxContext* RT_RESTRICT ctx, RAT_Identifier* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -53, 45);
-   RT_CHECK(ctx, stat, 0, 0, -1, "S-SearchRXLEV");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAT-Identifier");
    return 0;
 }
 
 int asn1PD_UMTS_RAT_Identifier(rtxContext* RT_RESTRICT ctx, RAT_Identifier* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-Identifier");
+   RT_DECODE_ENTRY(ctx, dec_RAT_Identifier, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAT_FDD_Info(rtxContext* RT_RESTRICT ctx, RAT_FDD_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAT-FDD-Info");
+   /* rat-Identifier */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rat_Identifier, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "RAT-Identifier", "rat-Identifier", -1, "RAT-FDD-Info");
+   /* s-SearchRAT */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->s_SearchRAT, -16, 10);
+   RT_CHECK_AT(ctx, cur, stat, "S-SearchQual", "s-SearchRAT", -1, "RAT-FDD-Info");
+   /* s-HCS-RAT */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->s_HCS_RAT, -53, 45);
+      RT_CHECK_AT(ctx, cur, stat, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-FDD-Info");
+   }
+   /* s-Limit-SearchRAT */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->s_Limit_SearchRAT, -16, 10);
+   RT_CHECK_AT(ctx, cur, stat, "S-SearchQual", "s-Limit-SearchRAT", -1, "RAT-FDD-Info");
    return 0;
 }
 
 int asn1PD_UMTS_RAT_FDD_Info(rtxContext* RT_RESTRICT ctx, RAT_FDD_Info* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-FDD-Info");
-   /* rat-Identifier */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rat_Identifier, 0, 1);
-   RT_CHECK(ctx, stat, "RAT-Identifier", "rat-Identifier", -1, "RAT-FDD-Info");
-   /* s-SearchRAT */
-   stat = pd_ConsInt8(ctx, &pvalue->s_SearchRAT, -16, 10);
-   RT_CHECK(ctx, stat, "S-SearchQual", "s-SearchRAT", -1, "RAT-FDD-Info");
-   /* s-HCS-RAT */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->s_HCS_RAT, -53, 45);
-      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-FDD-Info");
-   }
-   /* s-Limit-SearchRAT */
-   stat = pd_ConsInt8(ctx, &pvalue->s_Limit_SearchRAT, -16, 10);
-   RT_CHECK(ctx, stat, "S-SearchQual", "s-Limit-SearchRAT", -1, "RAT-FDD-Info");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_RAT_FDD_Info, pvalue);
 }
 
-int asn1PD_UMTS_RAT_FDD_InfoList(rtxContext* RT_RESTRICT ctx, RAT_FDD_InfoList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_RAT_FDD_InfoList(rtxContext* RT_RESTRICT ctx, RAT_FDD_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 15);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-FDD-InfoList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAT-FDD-InfoList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       RAT_FDD_Info* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAT_FDD_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAT-FDD-Info", (int32_t)i, "RAT-FDD-InfoList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAT-FDD-Info", (int32_t)i, "RAT-FDD-InfoList");
       elem = (RAT_FDD_Info*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_RAT_FDD_Info(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAT_FDD_Info(ctx, elem);
+      stat = dec_RAT_FDD_Info(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "RAT-FDD-Info", (int32_t)i, "RAT-FDD-InfoList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_Q_QualMin(rtxContext* RT_RESTRICT ctx, Q_QualMin* RT_RESTRICT pvalue)
+int asn1PD_UMTS_RAT_FDD_InfoList(rtxContext* RT_RESTRICT ctx, RAT_FDD_InfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAT_FDD_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_Q_QualMin(rtxContext* RT_RESTRICT ctx, Q_QualMin* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -24, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-QualMin");
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -24, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Q-QualMin");
+   return 0;
+}
+
+int asn1PD_UMTS_Q_QualMin(rtxContext* RT_RESTRICT ctx, Q_QualMin* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Q_QualMin, pvalue);
+}
+
+RT_MERGED_BODY int dec_Q_RxlevMin(rtxContext* RT_RESTRICT ctx, Q_RxlevMin* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -58, -13);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Q-RxlevMin");
    return 0;
 }
 
 int asn1PD_UMTS_Q_RxlevMin(rtxContext* RT_RESTRICT ctx, Q_RxlevMin* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -58, -13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-RxlevMin");
+   RT_DECODE_ENTRY(ctx, dec_Q_RxlevMin, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* s-Intrasearch */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->s_Intrasearch, -16, 10);
+      RT_CHECK_AT(ctx, cur, stat, "S-SearchQual", "s-Intrasearch", -1, 0);
+   }
+   /* s-Intersearch */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->s_Intersearch, -16, 10);
+      RT_CHECK_AT(ctx, cur, stat, "S-SearchQual", "s-Intersearch", -1, 0);
+   }
+   /* s-SearchHCS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->s_SearchHCS, -53, 45);
+      RT_CHECK_AT(ctx, cur, stat, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
+   }
+   /* rat-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_RAT_FDD_InfoList(ctx, &pvalue->rat_List, cur);
+      RT_CHECK(ctx, stat, 0, "rat-List", -1, 0);
+   }
+   /* q-QualMin */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->q_QualMin, -24, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   /* q-RxlevMin */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+   RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAT_TDD_Info(rtxContext* RT_RESTRICT ctx, RAT_TDD_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* s-Intrasearch */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->s_Intrasearch, -16, 10);
-      RT_CHECK(ctx, stat, "S-SearchQual", "s-Intrasearch", -1, 0);
-   }
-   /* s-Intersearch */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->s_Intersearch, -16, 10);
-      RT_CHECK(ctx, stat, "S-SearchQual", "s-Intersearch", -1, 0);
-   }
-   /* s-SearchHCS */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsInt8(ctx, &pvalue->s_SearchHCS, -53, 45);
-      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
-   }
-   /* rat-List */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAT-TDD-Info");
+   /* rat-Identifier */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rat_Identifier, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "RAT-Identifier", "rat-Identifier", -1, "RAT-TDD-Info");
+   /* s-SearchRAT */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->s_SearchRAT, -53, 45);
+   RT_CHECK_AT(ctx, cur, stat, "S-SearchRXLEV", "s-SearchRAT", -1, "RAT-TDD-Info");
+   /* s-HCS-RAT */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RAT_FDD_InfoList(ctx, &pvalue->rat_List);
-      RT_CHECK(ctx, stat, 0, "rat-List", -1, 0);
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->s_HCS_RAT, -53, 45);
+      RT_CHECK_AT(ctx, cur, stat, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-TDD-Info");
    }
-   /* q-QualMin */
-   stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-   RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
-   /* q-RxlevMin */
-   stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-   RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   /* s-Limit-SearchRAT */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->s_Limit_SearchRAT, -53, 45);
+   RT_CHECK_AT(ctx, cur, stat, "S-SearchRXLEV", "s-Limit-SearchRAT", -1, "RAT-TDD-Info");
    return 0;
 }
 
 int asn1PD_UMTS_RAT_TDD_Info(rtxContext* RT_RESTRICT ctx, RAT_TDD_Info* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-TDD-Info");
-   /* rat-Identifier */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rat_Identifier, 0, 1);
-   RT_CHECK(ctx, stat, "RAT-Identifier", "rat-Identifier", -1, "RAT-TDD-Info");
-   /* s-SearchRAT */
-   stat = pd_ConsInt8(ctx, &pvalue->s_SearchRAT, -53, 45);
-   RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-SearchRAT", -1, "RAT-TDD-Info");
-   /* s-HCS-RAT */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->s_HCS_RAT, -53, 45);
-      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-TDD-Info");
-   }
-   /* s-Limit-SearchRAT */
-   stat = pd_ConsInt8(ctx, &pvalue->s_Limit_SearchRAT, -53, 45);
-   RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-Limit-SearchRAT", -1, "RAT-TDD-Info");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_RAT_TDD_Info, pvalue);
 }
 
-int asn1PD_UMTS_RAT_TDD_InfoList(rtxContext* RT_RESTRICT ctx, RAT_TDD_InfoList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_RAT_TDD_InfoList(rtxContext* RT_RESTRICT ctx, RAT_TDD_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 15);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-TDD-InfoList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAT-TDD-InfoList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       RAT_TDD_Info* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAT_TDD_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAT-TDD-Info", (int32_t)i, "RAT-TDD-InfoList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAT-TDD-Info", (int32_t)i, "RAT-TDD-InfoList");
       elem = (RAT_TDD_Info*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_RAT_TDD_Info(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAT_TDD_Info(ctx, elem);
+      stat = dec_RAT_TDD_Info(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "RAT-TDD-Info", (int32_t)i, "RAT-TDD-InfoList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_RAT_TDD_InfoList(rtxContext* RT_RESTRICT ctx, RAT_TDD_InfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAT_TDD_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* s-Intrasearch */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->s_Intrasearch, -53, 45);
-      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-Intrasearch", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->s_Intrasearch, -53, 45);
+      RT_CHECK_AT(ctx, cur, stat, "S-SearchRXLEV", "s-Intrasearch", -1, 0);
    }
    /* s-Intersearch */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->s_Intersearch, -53, 45);
-      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-Intersearch", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->s_Intersearch, -53, 45);
+      RT_CHECK_AT(ctx, cur, stat, "S-SearchRXLEV", "s-Intersearch", -1, 0);
    }
    /* s-SearchHCS */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsInt8(ctx, &pvalue->s_SearchHCS, -53, 45);
-      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->s_SearchHCS, -53, 45);
+      RT_CHECK_AT(ctx, cur, stat, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
    }
    /* rat-List */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RAT_TDD_InfoList(ctx, &pvalue->rat_List);
+      stat = dec_RAT_TDD_InfoList(ctx, &pvalue->rat_List, cur);
       RT_CHECK(ctx, stat, 0, "rat-List", -1, 0);
    }
    /* q-RxlevMin */
-   stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-   RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+   RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4_modeSpecificInfo* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_3_4_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_Reselection_S(rtxContext* RT_RESTRICT ctx, T_Reselection_S* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-Reselection-S");
    return 0;
 }
 
 int asn1PD_UMTS_T_Reselection_S(rtxContext* RT_RESTRICT ctx, T_Reselection_S* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_Reselection_S, pvalue);
+}
+
+RT_MERGED_BODY int dec_HCS_PRIO(rtxContext* RT_RESTRICT ctx, HCS_PRIO* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-Reselection-S");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HCS-PRIO");
    return 0;
 }
 
 int asn1PD_UMTS_HCS_PRIO(rtxContext* RT_RESTRICT ctx, HCS_PRIO* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_HCS_PRIO, pvalue);
+}
+
+RT_MERGED_BODY int dec_Q_HCS(rtxContext* RT_RESTRICT ctx, Q_HCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-PRIO");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 99);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Q-HCS");
    return 0;
 }
 
 int asn1PD_UMTS_Q_HCS(rtxContext* RT_RESTRICT ctx, Q_HCS* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Q_HCS, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, T_CRMaxHyst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 99);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-HCS");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-CRMaxHyst");
    return 0;
 }
 
 int asn1PD_UMTS_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, T_CRMaxHyst* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-CRMaxHyst");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_T_CRMaxHyst, pvalue);
 }
 
-int asn1PD_UMTS_N_CR_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, N_CR_T_CRMaxHyst* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_N_CR_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, N_CR_T_CRMaxHyst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-CR-T-CRMaxHyst");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-CR-T-CRMaxHyst");
    /* n-CR */
    if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->n_CR, 1, 16);
-      RT_CHECK(ctx, stat, 0, "n-CR", -1, "N-CR-T-CRMaxHyst");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_CR, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, 0, "n-CR", -1, "N-CR-T-CRMaxHyst");
    }
    else {
       pvalue->n_CR = 8;
    }
    /* t-CRMaxHyst */
-   stat = pd_ConsUnsigned(ctx, &pvalue->t_CRMaxHyst, 0, 7);
-   RT_CHECK(ctx, stat, "T-CRMaxHyst", "t-CRMaxHyst", -1, "N-CR-T-CRMaxHyst");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_CRMaxHyst, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "T-CRMaxHyst", "t-CRMaxHyst", -1, "N-CR-T-CRMaxHyst");
    return 0;
 }
 
-int asn1PD_UMTS_T_CRMax(rtxContext* RT_RESTRICT ctx, T_CRMax* RT_RESTRICT pvalue)
+int asn1PD_UMTS_N_CR_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, N_CR_T_CRMaxHyst* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_N_CR_T_CRMaxHyst, pvalue);
+}
+
+static int dec_T_CRMax(rtxContext* RT_RESTRICT ctx, T_CRMax* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-CRMax");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-CRMax");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* notUsed */
          break;
       case 1: /* t30 */
          pvalue->u.t30 = (N_CR_T_CRMaxHyst*)rtxMemHeapAlloc(ctx, sizeof(N_CR_T_CRMaxHyst));
-         if (pvalue->u.t30 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "t30", -1, "T-CRMax");
+         if (pvalue->u.t30 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "t30", -1, "T-CRMax");
          asn1Init_UMTS_N_CR_T_CRMaxHyst(pvalue->u.t30);
-         stat = asn1PD_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t30);
+         stat = dec_N_CR_T_CRMaxHyst(ctx, pvalue->u.t30, cur);
          RT_CHECK(ctx, stat, 0, "t30", -1, "T-CRMax");
          break;
       case 2: /* t60 */
          pvalue->u.t60 = (N_CR_T_CRMaxHyst*)rtxMemHeapAlloc(ctx, sizeof(N_CR_T_CRMaxHyst));
-         if (pvalue->u.t60 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "t60", -1, "T-CRMax");
+         if (pvalue->u.t60 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "t60", -1, "T-CRMax");
          asn1Init_UMTS_N_CR_T_CRMaxHyst(pvalue->u.t60);
-         stat = asn1PD_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t60);
+         stat = dec_N_CR_T_CRMaxHyst(ctx, pvalue->u.t60, cur);
          RT_CHECK(ctx, stat, 0, "t60", -1, "T-CRMax");
          break;
       case 3: /* t120 */
          pvalue->u.t120 = (N_CR_T_CRMaxHyst*)rtxMemHeapAlloc(ctx, sizeof(N_CR_T_CRMaxHyst));
-         if (pvalue->u.t120 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "t120", -1, "T-CRMax");
+         if (pvalue->u.t120 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "t120", -1, "T-CRMax");
          asn1Init_UMTS_N_CR_T_CRMaxHyst(pvalue->u.t120);
-         stat = asn1PD_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t120);
+         stat = dec_N_CR_T_CRMaxHyst(ctx, pvalue->u.t120, cur);
          RT_CHECK(ctx, stat, 0, "t120", -1, "T-CRMax");
          break;
       case 4: /* t180 */
          pvalue->u.t180 = (N_CR_T_CRMaxHyst*)rtxMemHeapAlloc(ctx, sizeof(N_CR_T_CRMaxHyst));
-         if (pvalue->u.t180 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "t180", -1, "T-CRMax");
+         if (pvalue->u.t180 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "t180", -1, "T-CRMax");
          asn1Init_UMTS_N_CR_T_CRMaxHyst(pvalue->u.t180);
-         stat = asn1PD_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t180);
+         stat = dec_N_CR_T_CRMaxHyst(ctx, pvalue->u.t180, cur);
          RT_CHECK(ctx, stat, 0, "t180", -1, "T-CRMax");
          break;
       case 5: /* t240 */
          pvalue->u.t240 = (N_CR_T_CRMaxHyst*)rtxMemHeapAlloc(ctx, sizeof(N_CR_T_CRMaxHyst));
-         if (pvalue->u.t240 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "t240", -1, "T-CRMax");
+         if (pvalue->u.t240 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "t240", -1, "T-CRMax");
          asn1Init_UMTS_N_CR_T_CRMaxHyst(pvalue->u.t240);
-         stat = asn1PD_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t240);
+         stat = dec_N_CR_T_CRMaxHyst(ctx, pvalue->u.t240, cur);
          RT_CHECK(ctx, stat, 0, "t240", -1, "T-CRMax");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "T-CRMax");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "T-CRMax");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HCS_ServingCellInformation(rtxContext* RT_RESTRICT ctx, HCS_ServingCellInformation* RT_RESTRICT pvalue)
+int asn1PD_UMTS_T_CRMax(rtxContext* RT_RESTRICT ctx, T_CRMax* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_T_CRMax, pvalue);
+}
+
+RT_MERGED_BODY int dec_HCS_ServingCellInformation(rtxContext* RT_RESTRICT ctx, HCS_ServingCellInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-ServingCellInformation");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HCS-ServingCellInformation");
    /* hcs-PRIO */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->hcs_PRIO, 0, 7);
-      RT_CHECK(ctx, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-ServingCellInformation");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->hcs_PRIO, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-ServingCellInformation");
    }
    else {
       pvalue->hcs_PRIO = 0;
    }
    /* q-HCS */
    if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->q_HCS, 0, 99);
-      RT_CHECK(ctx, stat, "Q-HCS", "q-HCS", -1, "HCS-ServingCellInformation");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->q_HCS, 0, 99);
+      RT_CHECK_AT(ctx, cur, stat, "Q-HCS", "q-HCS", -1, "HCS-ServingCellInformation");
    }
    else {
       pvalue->q_HCS = 0;
@@ -2005,1281 +2920,1611 @@ int asn1PD_UMTS_HCS_ServingCellInformation(rtxContext* RT_RESTRICT ctx, HCS_Serv
    /* t-CR-Max */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_T_CRMax(ctx, &pvalue->t_CR_Max);
+      stat = dec_T_CRMax(ctx, &pvalue->t_CR_Max, cur);
       RT_CHECK(ctx, stat, 0, "t-CR-Max", -1, "HCS-ServingCellInformation");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MaxAllowedUL_TX_Power(rtxContext* RT_RESTRICT ctx, MaxAllowedUL_TX_Power* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HCS_ServingCellInformation(rtxContext* RT_RESTRICT ctx, HCS_ServingCellInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HCS_ServingCellInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxAllowedUL_TX_Power(rtxContext* RT_RESTRICT ctx, MaxAllowedUL_TX_Power* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -50, 33);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxAllowedUL-TX-Power");
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -50, 33);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxAllowedUL-TX-Power");
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_3_4(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MaxAllowedUL_TX_Power(rtxContext* RT_RESTRICT ctx, MaxAllowedUL_TX_Power* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxAllowedUL_TX_Power, pvalue);
+}
+
+static int dec_CellSelectReselectInfoSIB_3_4(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-3-4");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoSIB-3-4");
    /* mappingInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MappingInfo(ctx, &pvalue->mappingInfo);
+      stat = dec_MappingInfo(ctx, &pvalue->mappingInfo, cur);
       RT_CHECK(ctx, stat, 0, "mappingInfo", -1, "CellSelectReselectInfoSIB-3-4");
    }
    /* cellSelectQualityMeasure */
-   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   stat = dec_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
    RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, "CellSelectReselectInfoSIB-3-4");
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = dec_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-3-4");
    /* q-Hyst-l-S */
-   stat = pd_ConsUInt8(ctx, &pvalue->q_Hyst_l_S, 0, 20);
-   RT_CHECK(ctx, stat, "Q-Hyst-S", "q-Hyst-l-S", -1, "CellSelectReselectInfoSIB-3-4");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->q_Hyst_l_S, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "Q-Hyst-S", "q-Hyst-l-S", -1, "CellSelectReselectInfoSIB-3-4");
    /* t-Reselection-S */
-   stat = pd_ConsUInt8(ctx, &pvalue->t_Reselection_S, 0, 31);
-   RT_CHECK(ctx, stat, "T-Reselection-S", "t-Reselection-S", -1, "CellSelectReselectInfoSIB-3-4");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_Reselection_S, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "T-Reselection-S", "t-Reselection-S", -1, "CellSelectReselectInfoSIB-3-4");
    /* hcs-ServingCellInformation */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HCS_ServingCellInformation(ctx, &pvalue->hcs_ServingCellInformation);
+      stat = dec_HCS_ServingCellInformation(ctx, &pvalue->hcs_ServingCellInformation, cur);
       RT_CHECK(ctx, stat, 0, "hcs-ServingCellInformation", -1, "CellSelectReselectInfoSIB-3-4");
    }
    /* maxAllowedUL-TX-Power */
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-3-4");
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-3-4");
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_3_4(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_3_4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_3_4, pvalue);
+}
+
+RT_MERGED_BODY int dec_AllowedIndicator(rtxContext* RT_RESTRICT ctx, AllowedIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AllowedIndicator");
    return 0;
 }
 
 int asn1PD_UMTS_AllowedIndicator(rtxContext* RT_RESTRICT ctx, AllowedIndicator* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_AllowedIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_Barred(rtxContext* RT_RESTRICT ctx, T_Barred* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AllowedIndicator");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-Barred");
    return 0;
 }
 
 int asn1PD_UMTS_T_Barred(rtxContext* RT_RESTRICT ctx, T_Barred* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-Barred");
+   RT_DECODE_ENTRY(ctx, dec_T_Barred, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellBarred_barred(rtxContext* RT_RESTRICT ctx, CellBarred_barred* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqCellReselectionInd */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->intraFreqCellReselectionInd, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "AllowedIndicator", "intraFreqCellReselectionInd", -1, 0);
+   /* t-Barred */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_Barred, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "T-Barred", "t-Barred", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_CellBarred_barred(rtxContext* RT_RESTRICT ctx, CellBarred_barred* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* intraFreqCellReselectionInd */
-   stat = pd_ConsUnsigned(ctx, &pvalue->intraFreqCellReselectionInd, 0, 1);
-   RT_CHECK(ctx, stat, "AllowedIndicator", "intraFreqCellReselectionInd", -1, 0);
-   /* t-Barred */
-   stat = pd_ConsUnsigned(ctx, &pvalue->t_Barred, 0, 7);
-   RT_CHECK(ctx, stat, "T-Barred", "t-Barred", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CellBarred_barred, pvalue);
 }
 
-int asn1PD_UMTS_CellBarred(rtxContext* RT_RESTRICT ctx, CellBarred* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CellBarred(rtxContext* RT_RESTRICT ctx, CellBarred* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellBarred");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellBarred");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* barred */
          pvalue->u.barred = (CellBarred_barred*)rtxMemHeapAllocZ(ctx, sizeof(CellBarred_barred));
-         if (pvalue->u.barred == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "barred", -1, "CellBarred");
-         stat = asn1PD_UMTS_CellBarred_barred(ctx, pvalue->u.barred);
+         if (pvalue->u.barred == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "barred", -1, "CellBarred");
+         stat = dec_CellBarred_barred(ctx, pvalue->u.barred, cur);
          RT_CHECK(ctx, stat, 0, "barred", -1, "CellBarred");
          break;
       case 1: /* notBarred */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellBarred");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CellBarred");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_CellBarred(rtxContext* RT_RESTRICT ctx, CellBarred* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellBarred, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReservedIndicator(rtxContext* RT_RESTRICT ctx, ReservedIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReservedIndicator");
    return 0;
 }
 
 int asn1PD_UMTS_ReservedIndicator(rtxContext* RT_RESTRICT ctx, ReservedIndicator* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_ReservedIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessClassBarred(rtxContext* RT_RESTRICT ctx, AccessClassBarred* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReservedIndicator");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AccessClassBarred");
    return 0;
 }
 
 int asn1PD_UMTS_AccessClassBarred(rtxContext* RT_RESTRICT ctx, AccessClassBarred* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_AccessClassBarred, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessClassBarredList(rtxContext* RT_RESTRICT ctx, AccessClassBarredList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AccessClassBarred");
+   uint32_t i, n;
+   pvalue->n = n = 16;
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 1);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "AccessClassBarredList");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_AccessClassBarredList(rtxContext* RT_RESTRICT ctx, AccessClassBarredList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   pvalue->n = 16;
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 1);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "AccessClassBarredList");
-      }
+   RT_DECODE_ENTRY(ctx, dec_AccessClassBarredList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellAccessRestriction(rtxContext* RT_RESTRICT ctx, CellAccessRestriction* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellAccessRestriction");
+   /* cellBarred */
+   stat = dec_CellBarred(ctx, &pvalue->cellBarred, cur);
+   RT_CHECK(ctx, stat, 0, "cellBarred", -1, "CellAccessRestriction");
+   /* cellReservedForOperatorUse */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cellReservedForOperatorUse, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ReservedIndicator", "cellReservedForOperatorUse", -1, "CellAccessRestriction");
+   /* cellReservationExtension */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cellReservationExtension, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ReservedIndicator", "cellReservationExtension", -1, "CellAccessRestriction");
+   /* accessClassBarredList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AccessClassBarredList(ctx, &pvalue->accessClassBarredList, cur);
+      RT_CHECK(ctx, stat, 0, "accessClassBarredList", -1, "CellAccessRestriction");
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellAccessRestriction(rtxContext* RT_RESTRICT ctx, CellAccessRestriction* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellAccessRestriction, pvalue);
+}
+
+RT_MERGED_BODY int dec_Mapping_LCR_r4(rtxContext* RT_RESTRICT ctx, Mapping_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellAccessRestriction");
-   /* cellBarred */
-   stat = asn1PD_UMTS_CellBarred(ctx, &pvalue->cellBarred);
-   RT_CHECK(ctx, stat, 0, "cellBarred", -1, "CellAccessRestriction");
-   /* cellReservedForOperatorUse */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cellReservedForOperatorUse, 0, 1);
-   RT_CHECK(ctx, stat, "ReservedIndicator", "cellReservedForOperatorUse", -1, "CellAccessRestriction");
-   /* cellReservationExtension */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cellReservationExtension, 0, 1);
-   RT_CHECK(ctx, stat, "ReservedIndicator", "cellReservationExtension", -1, "CellAccessRestriction");
-   /* accessClassBarredList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessClassBarredList(ctx, &pvalue->accessClassBarredList);
-      RT_CHECK(ctx, stat, 0, "accessClassBarredList", -1, "CellAccessRestriction");
-   }
+   /* mappingFunctionParameterList */
+   stat = dec_MappingFunctionParameterList(ctx, &pvalue->mappingFunctionParameterList, cur);
+   RT_CHECK(ctx, stat, 0, "mappingFunctionParameterList", -1, "Mapping-LCR-r4");
    return 0;
 }
 
 int asn1PD_UMTS_Mapping_LCR_r4(rtxContext* RT_RESTRICT ctx, Mapping_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* mappingFunctionParameterList */
-   stat = asn1PD_UMTS_MappingFunctionParameterList(ctx, &pvalue->mappingFunctionParameterList);
-   RT_CHECK(ctx, stat, 0, "mappingFunctionParameterList", -1, "Mapping-LCR-r4");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_Mapping_LCR_r4, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoType3_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType3_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v4b0ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v4b0ext-IEs");
    /* mapping-LCR */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Mapping_LCR_r4(ctx, &pvalue->mapping_LCR);
+      stat = dec_Mapping_LCR_r4(ctx, &pvalue->mapping_LCR, cur);
       RT_CHECK(ctx, stat, 0, "mapping-LCR", -1, "SysInfoType3-v4b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_DeltaQrxlevmin(rtxContext* RT_RESTRICT ctx, DeltaQrxlevmin* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType3_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeltaQrxlevmin(rtxContext* RT_RESTRICT ctx, DeltaQrxlevmin* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -2, -1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaQrxlevmin");
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -2, -1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DeltaQrxlevmin");
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaQrxlevmin(rtxContext* RT_RESTRICT ctx, DeltaQrxlevmin* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DeltaQrxlevmin, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeltaRSCP(rtxContext* RT_RESTRICT ctx, DeltaRSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -5, -1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DeltaRSCP");
    return 0;
 }
 
 int asn1PD_UMTS_DeltaRSCP(rtxContext* RT_RESTRICT ctx, DeltaRSCP* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -5, -1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaRSCP");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DeltaRSCP, pvalue);
 }
 
-int asn1PD_UMTS_CellSelectReselectInfo_v590ext(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfo_v590ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CellSelectReselectInfo_v590ext(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfo_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfo-v590ext");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfo-v590ext");
    /* deltaQrxlevmin */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->deltaQrxlevmin, -2, -1);
-      RT_CHECK(ctx, stat, "DeltaQrxlevmin", "deltaQrxlevmin", -1, "CellSelectReselectInfo-v590ext");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->deltaQrxlevmin, -2, -1);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaQrxlevmin", "deltaQrxlevmin", -1, "CellSelectReselectInfo-v590ext");
    }
    /* deltaQhcs */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->deltaQhcs, -5, -1);
-      RT_CHECK(ctx, stat, "DeltaRSCP", "deltaQhcs", -1, "CellSelectReselectInfo-v590ext");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->deltaQhcs, -5, -1);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaRSCP", "deltaQhcs", -1, "CellSelectReselectInfo-v590ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfo_v590ext(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfo_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfo_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType3_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v590ext");
+   /* cellSelectReselectInfo-v590ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellSelectReselectInfo_v590ext(ctx, &pvalue->cellSelectReselectInfo_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo-v590ext", -1, "SysInfoType3-v590ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType3_v590ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v590ext");
-   /* cellSelectReselectInfo-v590ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, &pvalue->cellSelectReselectInfo_v590ext);
-      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo-v590ext", -1, "SysInfoType3-v590ext");
-   }
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SpeedDependentScalingFactor(rtxContext* RT_RESTRICT ctx, SpeedDependentScalingFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SpeedDependentScalingFactor");
    return 0;
 }
 
 int asn1PD_UMTS_SpeedDependentScalingFactor(rtxContext* RT_RESTRICT ctx, SpeedDependentScalingFactor* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SpeedDependentScalingFactor, pvalue);
+}
+
+RT_MERGED_BODY int dec_TreselectionScalingFactor(rtxContext* RT_RESTRICT ctx, TreselectionScalingFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SpeedDependentScalingFactor");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 4, 19);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TreselectionScalingFactor");
    return 0;
 }
 
 int asn1PD_UMTS_TreselectionScalingFactor(rtxContext* RT_RESTRICT ctx, TreselectionScalingFactor* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 4, 19);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TreselectionScalingFactor");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_TreselectionScalingFactor, pvalue);
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoTreselectionScaling_v5c0ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CellSelectReselectInfoTreselectionScaling_v5c0ext(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoTreselectionScaling_v5c0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    /* non-HCS-t-CR-Max */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_T_CRMax(ctx, &pvalue->non_HCS_t_CR_Max);
+      stat = dec_T_CRMax(ctx, &pvalue->non_HCS_t_CR_Max, cur);
       RT_CHECK(ctx, stat, 0, "non-HCS-t-CR-Max", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    }
    /* speedDependentScalingFactor */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->speedDependentScalingFactor, 0, 10);
-      RT_CHECK(ctx, stat, "SpeedDependentScalingFactor", "speedDependentScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->speedDependentScalingFactor, 0, 10);
+      RT_CHECK_AT(ctx, cur, stat, "SpeedDependentScalingFactor", "speedDependentScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    }
    /* interFrequencyTreselectionScalingFactor */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFrequencyTreselectionScalingFactor, 4, 19);
-      RT_CHECK(ctx, stat, "TreselectionScalingFactor", "interFrequencyTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFrequencyTreselectionScalingFactor, 4, 19);
+      RT_CHECK_AT(ctx, cur, stat, "TreselectionScalingFactor", "interFrequencyTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    }
    /* interRATTreselectionScalingFactor */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interRATTreselectionScalingFactor, 4, 19);
-      RT_CHECK(ctx, stat, "TreselectionScalingFactor", "interRATTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interRATTreselectionScalingFactor, 4, 19);
+      RT_CHECK_AT(ctx, cur, stat, "TreselectionScalingFactor", "interRATTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoTreselectionScaling_v5c0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoTreselectionScaling_v5c0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v5c0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v5c0ext-IEs");
+   /* cellSelectReselectInfoTreselectionScaling-v5c0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellSelectReselectInfoTreselectionScaling_v5c0ext(ctx, &pvalue->cellSelectReselectInfoTreselectionScaling_v5c0ext, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoTreselectionScaling-v5c0ext", -1, "SysInfoType3-v5c0ext-IEs");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v5c0ext_IEs* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v5c0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_DomainSpecificAccessRestriction_v670ext_restriction(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestriction_v670ext_restriction* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v5c0ext-IEs");
-   /* cellSelectReselectInfoTreselectionScaling-v5c0ext */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* domainSpecficAccessClassBarredList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(ctx, &pvalue->cellSelectReselectInfoTreselectionScaling_v5c0ext);
-      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoTreselectionScaling-v5c0ext", -1, "SysInfoType3-v5c0ext-IEs");
+      stat = dec_AccessClassBarredList(ctx, &pvalue->domainSpecficAccessClassBarredList, cur);
+      RT_CHECK(ctx, stat, 0, "domainSpecficAccessClassBarredList", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_DomainSpecificAccessRestriction_v670ext_restriction(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestriction_v670ext_restriction* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* domainSpecficAccessClassBarredList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessClassBarredList(ctx, &pvalue->domainSpecficAccessClassBarredList);
-      RT_CHECK(ctx, stat, 0, "domainSpecficAccessClassBarredList", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DomainSpecificAccessRestriction_v670ext_restriction, pvalue);
 }
 
-int asn1PD_UMTS_DomainSpecificAccessRestriction_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestriction_v670ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DomainSpecificAccessRestriction_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestriction_v670ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DomainSpecificAccessRestriction-v670ext");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DomainSpecificAccessRestriction-v670ext");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* noRestriction */
          break;
       case 1: /* restriction */
          pvalue->u.restriction = (DomainSpecificAccessRestriction_v670ext_restriction*)rtxMemHeapAlloc(ctx, sizeof(DomainSpecificAccessRestriction_v670ext_restriction));
-         if (pvalue->u.restriction == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "restriction", -1, "DomainSpecificAccessRestriction-v670ext");
+         if (pvalue->u.restriction == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "restriction", -1, "DomainSpecificAccessRestriction-v670ext");
          asn1Init_UMTS_DomainSpecificAccessRestriction_v670ext_restriction(pvalue->u.restriction);
-         stat = asn1PD_UMTS_DomainSpecificAccessRestriction_v670ext_restriction(ctx, pvalue->u.restriction);
+         stat = dec_DomainSpecificAccessRestriction_v670ext_restriction(ctx, pvalue->u.restriction, cur);
          RT_CHECK(ctx, stat, 0, "restriction", -1, "DomainSpecificAccessRestriction-v670ext");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DomainSpecificAccessRestriction-v670ext");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DomainSpecificAccessRestriction-v670ext");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_DomainSpecificAccessRestriction_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestriction_v670ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DomainSpecificAccessRestriction_v670ext, pvalue);
+}
+
+static int dec_DomainSpecificAccessRestrictionParam_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestrictionParam_v670ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cSDomainSpecificAccessRestriction */
+   stat = dec_DomainSpecificAccessRestriction_v670ext(ctx, &pvalue->cSDomainSpecificAccessRestriction, cur);
+   RT_CHECK(ctx, stat, 0, "cSDomainSpecificAccessRestriction", -1, "DomainSpecificAccessRestrictionParam-v670ext");
+   /* pSDomainSpecificAccessRestriction */
+   stat = dec_DomainSpecificAccessRestriction_v670ext(ctx, &pvalue->pSDomainSpecificAccessRestriction, cur);
+   RT_CHECK(ctx, stat, 0, "pSDomainSpecificAccessRestriction", -1, "DomainSpecificAccessRestrictionParam-v670ext");
    return 0;
 }
 
 int asn1PD_UMTS_DomainSpecificAccessRestrictionParam_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestrictionParam_v670ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* cSDomainSpecificAccessRestriction */
-   stat = asn1PD_UMTS_DomainSpecificAccessRestriction_v670ext(ctx, &pvalue->cSDomainSpecificAccessRestriction);
-   RT_CHECK(ctx, stat, 0, "cSDomainSpecificAccessRestriction", -1, "DomainSpecificAccessRestrictionParam-v670ext");
-   /* pSDomainSpecificAccessRestriction */
-   stat = asn1PD_UMTS_DomainSpecificAccessRestriction_v670ext(ctx, &pvalue->pSDomainSpecificAccessRestriction);
-   RT_CHECK(ctx, stat, 0, "pSDomainSpecificAccessRestriction", -1, "DomainSpecificAccessRestrictionParam-v670ext");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DomainSpecificAccessRestrictionParam_v670ext, pvalue);
 }
 
-int asn1PD_UMTS_DomainSpecificAccessRestrictionList_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestrictionList_v670ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DomainSpecificAccessRestrictionList_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestrictionList_v670ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DomainSpecificAccessRestrictionList-v670ext");
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DomainSpecificAccessRestrictionList-v670ext");
    /* domainSpecificAccessRestrictionParametersForOperator1 */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator1);
+      stat = dec_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator1, cur);
       RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator1", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    /* domainSpecificAccessRestrictionParametersForOperator2 */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator2);
+      stat = dec_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator2, cur);
       RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator2", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    /* domainSpecificAccessRestrictionParametersForOperator3 */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator3);
+      stat = dec_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator3, cur);
       RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator3", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    /* domainSpecificAccessRestrictionParametersForOperator4 */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator4);
+      stat = dec_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator4, cur);
       RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator4", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    /* domainSpecificAccessRestrictionParametersForOperator5 */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator5);
+      stat = dec_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator5, cur);
       RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator5", -1, "DomainSpecificAccessRestrictionList-v670ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DomainSpecificAccessRestrictionList_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestrictionList_v670ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DomainSpecificAccessRestrictionList_v670ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestrictionForSharedNetwork_v670ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* domainSpecificAccessRestictionList */
+         pvalue->u.domainSpecificAccessRestictionList = (DomainSpecificAccessRestrictionList_v670ext*)rtxMemHeapAlloc(ctx, sizeof(DomainSpecificAccessRestrictionList_v670ext));
+         if (pvalue->u.domainSpecificAccessRestictionList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "domainSpecificAccessRestictionList", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
+         asn1Init_UMTS_DomainSpecificAccessRestrictionList_v670ext(pvalue->u.domainSpecificAccessRestictionList);
+         stat = dec_DomainSpecificAccessRestrictionList_v670ext(ctx, pvalue->u.domainSpecificAccessRestictionList, cur);
+         RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestictionList", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
+         break;
+      case 1: /* domainSpecificAccessRestictionParametersForAll */
+         pvalue->u.domainSpecificAccessRestictionParametersForAll = (DomainSpecificAccessRestrictionParam_v670ext*)rtxMemHeapAlloc(ctx, sizeof(DomainSpecificAccessRestrictionParam_v670ext));
+         if (pvalue->u.domainSpecificAccessRestictionParametersForAll == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "domainSpecificAccessRestictionParametersForAll", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
+         asn1Init_UMTS_DomainSpecificAccessRestrictionParam_v670ext(pvalue->u.domainSpecificAccessRestictionParametersForAll);
+         stat = dec_DomainSpecificAccessRestrictionParam_v670ext(ctx, pvalue->u.domainSpecificAccessRestictionParametersForAll, cur);
+         RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestictionParametersForAll", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(rtxContext* RT_RESTRICT ctx, DomainSpecificAccessRestrictionForSharedNetwork_v670ext* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* domainSpecificAccessRestictionList */
-         pvalue->u.domainSpecificAccessRestictionList = (DomainSpecificAccessRestrictionList_v670ext*)rtxMemHeapAlloc(ctx, sizeof(DomainSpecificAccessRestrictionList_v670ext));
-         if (pvalue->u.domainSpecificAccessRestictionList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "domainSpecificAccessRestictionList", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
-         asn1Init_UMTS_DomainSpecificAccessRestrictionList_v670ext(pvalue->u.domainSpecificAccessRestictionList);
-         stat = asn1PD_UMTS_DomainSpecificAccessRestrictionList_v670ext(ctx, pvalue->u.domainSpecificAccessRestictionList);
-         RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestictionList", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
-         break;
-      case 1: /* domainSpecificAccessRestictionParametersForAll */
-         pvalue->u.domainSpecificAccessRestictionParametersForAll = (DomainSpecificAccessRestrictionParam_v670ext*)rtxMemHeapAlloc(ctx, sizeof(DomainSpecificAccessRestrictionParam_v670ext));
-         if (pvalue->u.domainSpecificAccessRestictionParametersForAll == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "domainSpecificAccessRestictionParametersForAll", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
-         asn1Init_UMTS_DomainSpecificAccessRestrictionParam_v670ext(pvalue->u.domainSpecificAccessRestictionParametersForAll);
-         stat = asn1PD_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, pvalue->u.domainSpecificAccessRestictionParametersForAll);
-         RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestictionParametersForAll", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
+   RT_DECODE_ENTRY(ctx, dec_DomainSpecificAccessRestrictionForSharedNetwork_v670ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v670ext(rtxContext* RT_RESTRICT ctx, SysInfoType3_v670ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v670ext");
+   /* domainSpecificAccessRestrictionParametersForPLMNOfMIB */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForPLMNOfMIB, cur);
+      RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForPLMNOfMIB", -1, "SysInfoType3-v670ext");
+   }
+   /* domainSpecificAccessRestictionForSharedNetwork */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(ctx, &pvalue->domainSpecificAccessRestictionForSharedNetwork, cur);
+      RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestictionForSharedNetwork", -1, "SysInfoType3-v670ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v670ext(rtxContext* RT_RESTRICT ctx, SysInfoType3_v670ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v670ext");
-   /* domainSpecificAccessRestrictionParametersForPLMNOfMIB */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForPLMNOfMIB);
-      RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForPLMNOfMIB", -1, "SysInfoType3-v670ext");
-   }
-   /* domainSpecificAccessRestictionForSharedNetwork */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(ctx, &pvalue->domainSpecificAccessRestictionForSharedNetwork);
-      RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestictionForSharedNetwork", -1, "SysInfoType3-v670ext");
-   }
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v670ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_FDD_sib3(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD_sib3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasQuantity-FDD-sib3");
    return 0;
 }
 
 int asn1PD_UMTS_IntraFreqMeasQuantity_FDD_sib3(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD_sib3* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-FDD-sib3");
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasQuantity_FDD_sib3, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqMeasQuantity-FDD */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->intraFreqMeasQuantity_FDD, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "IntraFreqMeasQuantity-FDD-sib3", "intraFreqMeasQuantity-FDD", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* intraFreqMeasQuantity-FDD */
-   stat = pd_ConsUnsigned(ctx, &pvalue->intraFreqMeasQuantity_FDD, 0, 1);
-   RT_CHECK(ctx, stat, "IntraFreqMeasQuantity-FDD-sib3", "intraFreqMeasQuantity-FDD", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_TDD_sib3List_element(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD_sib3List_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_IntraFreqMeasQuantity_TDD_sib3List_element(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD_sib3List_element* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasQuantity_TDD_sib3List_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_TDD_sib3List(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD_sib3List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 1, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDD-sib3List");
+      pvalue->n = n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "IntraFreqMeasQuantity-TDD-sib3List");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqMeasQuantity-TDD-sib3List");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 1);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, 0, "element", (int32_t)i, "IntraFreqMeasQuantity-TDD-sib3List");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_IntraFreqMeasQuantity_TDD_sib3List(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD_sib3List* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDD-sib3List");
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddStrParm(ctx, "IntraFreqMeasQuantity-TDD-sib3List");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqMeasQuantity-TDD-sib3List");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 1);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, 0, "element", (int32_t)i, "IntraFreqMeasQuantity-TDD-sib3List");
-      }
-   }
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasQuantity_TDD_sib3List, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqMeasQuantity-TDDList */
+   stat = dec_IntraFreqMeasQuantity_TDD_sib3List(ctx, &pvalue->intraFreqMeasQuantity_TDDList, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity-TDDList", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* intraFreqMeasQuantity-TDDList */
-   stat = asn1PD_UMTS_IntraFreqMeasQuantity_TDD_sib3List(ctx, &pvalue->intraFreqMeasQuantity_TDDList);
-   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity-TDDList", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeferredMeasurementControlReadingSupport_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DeferredMeasurementControlReadingSupport_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DeferredMeasurementControlReadingSupport_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_DeferredMeasurementControlReadingSupport_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeferredMeasurementControlReadingSupport(rtxContext* RT_RESTRICT ctx, DeferredMeasurementControlReadingSupport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DeferredMeasurementControlReadingSupport");
+   /* modeSpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DeferredMeasurementControlReadingSupport_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DeferredMeasurementControlReadingSupport");
    }
    return 0;
 }
 
 int asn1PD_UMTS_DeferredMeasurementControlReadingSupport(rtxContext* RT_RESTRICT ctx, DeferredMeasurementControlReadingSupport* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeferredMeasurementControlReadingSupport");
-   /* modeSpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DeferredMeasurementControlReadingSupport");
-   }
+   RT_DECODE_ENTRY(ctx, dec_DeferredMeasurementControlReadingSupport, pvalue);
+}
+
+RT_MERGED_BODY int dec_Q_QualMin_Offset(rtxContext* RT_RESTRICT ctx, Q_QualMin_Offset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Q-QualMin-Offset");
    return 0;
 }
 
 int asn1PD_UMTS_Q_QualMin_Offset(rtxContext* RT_RESTRICT ctx, Q_QualMin_Offset* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Q_QualMin_Offset, pvalue);
+}
+
+RT_MERGED_BODY int dec_Q_RxlevMin_Offset(rtxContext* RT_RESTRICT ctx, Q_RxlevMin_Offset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-QualMin-Offset");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Q-RxlevMin-Offset");
    return 0;
 }
 
 int asn1PD_UMTS_Q_RxlevMin_Offset(rtxContext* RT_RESTRICT ctx, Q_RxlevMin_Offset* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-RxlevMin-Offset");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_Q_RxlevMin_Offset, pvalue);
 }
 
-int asn1PD_UMTS_MBSFNOnlyService(rtxContext* RT_RESTRICT ctx, MBSFNOnlyService* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MBSFNOnlyService(rtxContext* RT_RESTRICT ctx, MBSFNOnlyService* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    {
       uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNOnlyService");
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFNOnlyService");
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNOnlyService");
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFNOnlyService");
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType3_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v770ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBSFNOnlyService(rtxContext* RT_RESTRICT ctx, MBSFNOnlyService* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFNOnlyService, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v770ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v770ext-IEs");
    /* deferredMeasurementControlReadingSupport */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DeferredMeasurementControlReadingSupport(ctx, &pvalue->deferredMeasurementControlReadingSupport);
+      stat = dec_DeferredMeasurementControlReadingSupport(ctx, &pvalue->deferredMeasurementControlReadingSupport, cur);
       RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReadingSupport", -1, "SysInfoType3-v770ext-IEs");
    }
    /* q-QualMin-Offset */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->q_QualMin_Offset, 1, 16);
-      RT_CHECK(ctx, stat, "Q-QualMin-Offset", "q-QualMin-Offset", -1, "SysInfoType3-v770ext-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->q_QualMin_Offset, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "Q-QualMin-Offset", "q-QualMin-Offset", -1, "SysInfoType3-v770ext-IEs");
    }
    /* q-RxlevMin-Offset */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->q_RxlevMin_Offset, 1, 8);
-      RT_CHECK(ctx, stat, "Q-RxlevMin-Offset", "q-RxlevMin-Offset", -1, "SysInfoType3-v770ext-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->q_RxlevMin_Offset, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin-Offset", "q-RxlevMin-Offset", -1, "SysInfoType3-v770ext-IEs");
    }
    /* mbsfnOnlyService */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x8u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBSFNOnlyService", "mbsfnOnlyService", -1, "SysInfoType3-v770ext-IEs");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "MBSFNOnlyService", "mbsfnOnlyService", -1, "SysInfoType3-v770ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBSFNOnlyService", "mbsfnOnlyService", -1, "SysInfoType3-v770ext-IEs");
+         RT_CHECK_AT(ctx, cur, stat, "MBSFNOnlyService", "mbsfnOnlyService", -1, "SysInfoType3-v770ext-IEs");
          pvalue->mbsfnOnlyService = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType3_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator, pvalue);
 }
 
-int asn1PD_UMTS_LocationRegistrationAccessClassBarredList(rtxContext* RT_RESTRICT ctx, LocationRegistrationAccessClassBarredList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_LocationRegistrationAccessClassBarredList(rtxContext* RT_RESTRICT ctx, LocationRegistrationAccessClassBarredList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t i;
-   pvalue->n = 15;
-   for (i = 0; i < pvalue->n; i++) {
+   uint32_t i, n;
+   pvalue->n = n = 15;
+   for (i = 0; i < n; i++) {
       pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 1);
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 1);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "LocationRegistrationAccessClassBarredList");
+         RT_FAIL_AT(ctx, cur, stat, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "LocationRegistrationAccessClassBarredList");
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_LocationRegistrationParameters(rtxContext* RT_RESTRICT ctx, LocationRegistrationParameters* RT_RESTRICT pvalue)
+int asn1PD_UMTS_LocationRegistrationAccessClassBarredList(rtxContext* RT_RESTRICT ctx, LocationRegistrationAccessClassBarredList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_LocationRegistrationAccessClassBarredList, pvalue);
+}
+
+RT_MERGED_BODY int dec_LocationRegistrationParameters(rtxContext* RT_RESTRICT ctx, LocationRegistrationParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "LocationRegistrationParameters");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "LocationRegistrationParameters");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* noRestriction */
          break;
       case 1: /* restriction */
          pvalue->u.restriction = (LocationRegistrationAccessClassBarredList*)rtxMemHeapAlloc(ctx, sizeof(LocationRegistrationAccessClassBarredList));
-         if (pvalue->u.restriction == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "restriction", -1, "LocationRegistrationParameters");
+         if (pvalue->u.restriction == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "restriction", -1, "LocationRegistrationParameters");
          asn1Init_UMTS_LocationRegistrationAccessClassBarredList(pvalue->u.restriction);
-         stat = asn1PD_UMTS_LocationRegistrationAccessClassBarredList(ctx, pvalue->u.restriction);
+         stat = dec_LocationRegistrationAccessClassBarredList(ctx, pvalue->u.restriction, cur);
          RT_CHECK(ctx, stat, 0, "restriction", -1, "LocationRegistrationParameters");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "LocationRegistrationParameters");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "LocationRegistrationParameters");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_LocationRegistrationParameters(rtxContext* RT_RESTRICT ctx, LocationRegistrationParameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_LocationRegistrationParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingPermissionWithAccessControlParameters(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pagingResponseRestrictionIndicator */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pagingResponseRestrictionIndicator, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pagingResponseRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
+   /* locationRegistrationRestrictionIndicator */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->locationRegistrationRestrictionIndicator, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "locationRegistrationRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
+   /* locationRegistration */
+   stat = dec_LocationRegistrationParameters(ctx, &pvalue->locationRegistration, cur);
+   RT_CHECK(ctx, stat, 0, "locationRegistration", -1, "PagingPermissionWithAccessControlParameters");
    return 0;
 }
 
 int asn1PD_UMTS_PagingPermissionWithAccessControlParameters(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* pagingResponseRestrictionIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingResponseRestrictionIndicator, 0, 3);
-   RT_CHECK(ctx, stat, 0, "pagingResponseRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
-   /* locationRegistrationRestrictionIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->locationRegistrationRestrictionIndicator, 0, 2);
-   RT_CHECK(ctx, stat, 0, "locationRegistrationRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
-   /* locationRegistration */
-   stat = asn1PD_UMTS_LocationRegistrationParameters(ctx, &pvalue->locationRegistration);
-   RT_CHECK(ctx, stat, 0, "locationRegistration", -1, "PagingPermissionWithAccessControlParameters");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PagingPermissionWithAccessControlParameters, pvalue);
 }
 
-int asn1PD_UMTS_PagingPermissionWithAccessControlList(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlList* RT_RESTRICT pvalue)
+static int dec_PagingPermissionWithAccessControlList(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingPermissionWithAccessControlList");
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PagingPermissionWithAccessControlList");
    /* pagingPermissionWithAccessControlParametersForOperator1 */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator1);
+      stat = dec_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator1, cur);
       RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator1", -1, "PagingPermissionWithAccessControlList");
    }
    /* pagingPermissionWithAccessControlParametersForOperator2 */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator2);
+      stat = dec_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator2, cur);
       RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator2", -1, "PagingPermissionWithAccessControlList");
    }
    /* pagingPermissionWithAccessControlParametersForOperator3 */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator3);
+      stat = dec_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator3, cur);
       RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator3", -1, "PagingPermissionWithAccessControlList");
    }
    /* pagingPermissionWithAccessControlParametersForOperator4 */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator4);
+      stat = dec_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator4, cur);
       RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator4", -1, "PagingPermissionWithAccessControlList");
    }
    /* pagingPermissionWithAccessControlParametersForOperator5 */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator5);
+      stat = dec_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator5, cur);
       RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator5", -1, "PagingPermissionWithAccessControlList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingPermissionWithAccessControlList(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingPermissionWithAccessControlList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingPermissionWithAccessControlForSharedNetwork(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlForSharedNetwork* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PagingPermissionWithAccessControlForSharedNetwork");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* pagingPermissionWithAccessControlList */
+         pvalue->u.pagingPermissionWithAccessControlList = (PagingPermissionWithAccessControlList*)rtxMemHeapAlloc(ctx, sizeof(PagingPermissionWithAccessControlList));
+         if (pvalue->u.pagingPermissionWithAccessControlList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "pagingPermissionWithAccessControlList", -1, "PagingPermissionWithAccessControlForSharedNetwork");
+         asn1Init_UMTS_PagingPermissionWithAccessControlList(pvalue->u.pagingPermissionWithAccessControlList);
+         stat = dec_PagingPermissionWithAccessControlList(ctx, pvalue->u.pagingPermissionWithAccessControlList, cur);
+         RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlList", -1, "PagingPermissionWithAccessControlForSharedNetwork");
+         break;
+      case 1: /* pagingPermissionWithAccessControlForAll */
+         pvalue->u.pagingPermissionWithAccessControlForAll = (PagingPermissionWithAccessControlParameters*)rtxMemHeapAlloc(ctx, sizeof(PagingPermissionWithAccessControlParameters));
+         if (pvalue->u.pagingPermissionWithAccessControlForAll == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "pagingPermissionWithAccessControlForAll", -1, "PagingPermissionWithAccessControlForSharedNetwork");
+         asn1Init_UMTS_PagingPermissionWithAccessControlParameters(pvalue->u.pagingPermissionWithAccessControlForAll);
+         stat = dec_PagingPermissionWithAccessControlParameters(ctx, pvalue->u.pagingPermissionWithAccessControlForAll, cur);
+         RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlForAll", -1, "PagingPermissionWithAccessControlForSharedNetwork");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PagingPermissionWithAccessControlForSharedNetwork");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PagingPermissionWithAccessControlForSharedNetwork(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlForSharedNetwork* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingPermissionWithAccessControlForSharedNetwork");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* pagingPermissionWithAccessControlList */
-         pvalue->u.pagingPermissionWithAccessControlList = (PagingPermissionWithAccessControlList*)rtxMemHeapAlloc(ctx, sizeof(PagingPermissionWithAccessControlList));
-         if (pvalue->u.pagingPermissionWithAccessControlList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pagingPermissionWithAccessControlList", -1, "PagingPermissionWithAccessControlForSharedNetwork");
-         asn1Init_UMTS_PagingPermissionWithAccessControlList(pvalue->u.pagingPermissionWithAccessControlList);
-         stat = asn1PD_UMTS_PagingPermissionWithAccessControlList(ctx, pvalue->u.pagingPermissionWithAccessControlList);
-         RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlList", -1, "PagingPermissionWithAccessControlForSharedNetwork");
-         break;
-      case 1: /* pagingPermissionWithAccessControlForAll */
-         pvalue->u.pagingPermissionWithAccessControlForAll = (PagingPermissionWithAccessControlParameters*)rtxMemHeapAlloc(ctx, sizeof(PagingPermissionWithAccessControlParameters));
-         if (pvalue->u.pagingPermissionWithAccessControlForAll == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pagingPermissionWithAccessControlForAll", -1, "PagingPermissionWithAccessControlForSharedNetwork");
-         asn1Init_UMTS_PagingPermissionWithAccessControlParameters(pvalue->u.pagingPermissionWithAccessControlForAll);
-         stat = asn1PD_UMTS_PagingPermissionWithAccessControlParameters(ctx, pvalue->u.pagingPermissionWithAccessControlForAll);
-         RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlForAll", -1, "PagingPermissionWithAccessControlForSharedNetwork");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PagingPermissionWithAccessControlForSharedNetwork");
+   RT_DECODE_ENTRY(ctx, dec_PagingPermissionWithAccessControlForSharedNetwork, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v830ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v830ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v830ext-IEs");
+   /* pagingPermissionWithAccessControlParametersForPLMNOfMIB */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForPLMNOfMIB, cur);
+      RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForPLMNOfMIB", -1, "SysInfoType3-v830ext-IEs");
+   }
+   /* pagingPermissionWithAccessControlParametersForSharedNetwork */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PagingPermissionWithAccessControlForSharedNetwork(ctx, &pvalue->pagingPermissionWithAccessControlParametersForSharedNetwork, cur);
+      RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForSharedNetwork", -1, "SysInfoType3-v830ext-IEs");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v830ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v830ext_IEs* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v830ext-IEs");
-   /* pagingPermissionWithAccessControlParametersForPLMNOfMIB */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForPLMNOfMIB);
-      RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForPLMNOfMIB", -1, "SysInfoType3-v830ext-IEs");
-   }
-   /* pagingPermissionWithAccessControlParametersForSharedNetwork */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PagingPermissionWithAccessControlForSharedNetwork(ctx, &pvalue->pagingPermissionWithAccessControlParametersForSharedNetwork);
-      RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForSharedNetwork", -1, "SysInfoType3-v830ext-IEs");
-   }
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v830ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSG_Identity(rtxContext* RT_RESTRICT ctx, CSG_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 27, 27);
+   stat = pd_BitString32At(ctx, cur, pvalue, 27, 27);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CSG-Identity");
    return 0;
 }
 
 int asn1PD_UMTS_CSG_Identity(rtxContext* RT_RESTRICT ctx, CSG_Identity* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CSG_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSG_PSCSplitInfo_numberOfPSCs(rtxContext* RT_RESTRICT ctx, CSG_PSCSplitInfo_numberOfPSCs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pd_BitString32(ctx, pvalue, 27, 27);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSG-Identity");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_CSG_PSCSplitInfo_numberOfPSCs(rtxContext* RT_RESTRICT ctx, CSG_PSCSplitInfo_numberOfPSCs* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CSG_PSCSplitInfo_numberOfPSCs, pvalue);
 }
 
-int asn1PD_UMTS_CSG_PSCSplitInfo(rtxContext* RT_RESTRICT ctx, CSG_PSCSplitInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CSG_PSCSplitInfo(rtxContext* RT_RESTRICT ctx, CSG_PSCSplitInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSG-PSCSplitInfo");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CSG-PSCSplitInfo");
    /* startPSC */
-   stat = pd_ConsUInt8(ctx, &pvalue->startPSC, 0, 63);
-   RT_CHECK(ctx, stat, 0, "startPSC", -1, "CSG-PSCSplitInfo");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->startPSC, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "startPSC", -1, "CSG-PSCSplitInfo");
    /* numberOfPSCs */
-   stat = pd_ConsUnsigned(ctx, &pvalue->numberOfPSCs, 0, 15);
-   RT_CHECK(ctx, stat, 0, "numberOfPSCs", -1, "CSG-PSCSplitInfo");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->numberOfPSCs, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numberOfPSCs", -1, "CSG-PSCSplitInfo");
    /* pscRange2Offset */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pscRange2Offset, 1, 63);
-      RT_CHECK(ctx, stat, 0, "pscRange2Offset", -1, "CSG-PSCSplitInfo");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pscRange2Offset, 1, 63);
+      RT_CHECK_AT(ctx, cur, stat, 0, "pscRange2Offset", -1, "CSG-PSCSplitInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSG_PSCSplitInfo(rtxContext* RT_RESTRICT ctx, CSG_PSCSplitInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSG_PSCSplitInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v860ext-IEs");
+   /* csgIdentity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CSG_Identity(ctx, &pvalue->csgIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "SysInfoType3-v860ext-IEs");
+   }
+   /* csg-PSCSplitInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo, cur);
+      RT_CHECK(ctx, stat, 0, "csg-PSCSplitInfo", -1, "SysInfoType3-v860ext-IEs");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v860ext_IEs* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v860ext-IEs");
-   /* csgIdentity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CSG_Identity(ctx, &pvalue->csgIdentity);
-      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "SysInfoType3-v860ext-IEs");
-   }
-   /* csg-PSCSplitInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo);
-      RT_CHECK(ctx, stat, 0, "csg-PSCSplitInfo", -1, "SysInfoType3-v860ext-IEs");
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellAccessRestriction_v870ext_cellReservedForCSG(rtxContext* RT_RESTRICT ctx, CellAccessRestriction_v870ext_cellReservedForCSG* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellAccessRestriction_v870ext_cellReservedForCSG(rtxContext* RT_RESTRICT ctx, CellAccessRestriction_v870ext_cellReservedForCSG* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CellAccessRestriction_v870ext_cellReservedForCSG, pvalue);
 }
 
-int asn1PD_UMTS_CellAccessRestriction_v870ext(rtxContext* RT_RESTRICT ctx, CellAccessRestriction_v870ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CellAccessRestriction_v870ext(rtxContext* RT_RESTRICT ctx, CellAccessRestriction_v870ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellAccessRestriction-v870ext");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellAccessRestriction-v870ext");
    /* cellReservedForCSG */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "cellReservedForCSG", -1, "CellAccessRestriction-v870ext");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "cellReservedForCSG", -1, "CellAccessRestriction-v870ext");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "cellReservedForCSG", -1, "CellAccessRestriction-v870ext");
+         RT_CHECK_AT(ctx, cur, stat, 0, "cellReservedForCSG", -1, "CellAccessRestriction-v870ext");
          pvalue->cellReservedForCSG = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType3_v870ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v870ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellAccessRestriction_v870ext(rtxContext* RT_RESTRICT ctx, CellAccessRestriction_v870ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellAccessRestriction_v870ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v870ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v870ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v870ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v870ext-IEs");
    /* cellAccessRestriction */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellAccessRestriction_v870ext(ctx, &pvalue->cellAccessRestriction);
+      stat = dec_CellAccessRestriction_v870ext(ctx, &pvalue->cellAccessRestriction, cur);
       RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType3-v870ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType3_v870ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v870ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v870ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoType3_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v920ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType3_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v920ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v920ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v920ext-IEs");
    /* imsEmergencySupportIndicator */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "imsEmergencySupportIndicator", -1, "SysInfoType3-v920ext-IEs");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "imsEmergencySupportIndicator", -1, "SysInfoType3-v920ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "imsEmergencySupportIndicator", -1, "SysInfoType3-v920ext-IEs");
+         RT_CHECK_AT(ctx, cur, stat, 0, "imsEmergencySupportIndicator", -1, "SysInfoType3-v920ext-IEs");
          pvalue->imsEmergencySupportIndicator = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType3_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType3_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v920ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* sysInfoType3-v920ext */
-   stat = asn1PD_UMTS_SysInfoType3_v920ext_IEs(ctx, &pvalue->sysInfoType3_v920ext);
+   stat = dec_SysInfoType3_v920ext_IEs(ctx, &pvalue->sysInfoType3_v920ext, cur);
    RT_CHECK(ctx, stat, 0, "sysInfoType3-v920ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v870ext */
+   stat = dec_SysInfoType3_v870ext_IEs(ctx, &pvalue->sysInfoType3_v870ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v870ext", -1, 0);
+   /* v900NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(ctx, &pvalue->v900NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v900NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v870ext */
-   stat = asn1PD_UMTS_SysInfoType3_v870ext_IEs(ctx, &pvalue->sysInfoType3_v870ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v870ext", -1, 0);
-   /* v900NonCriticalExtension */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v860ext */
+   stat = dec_SysInfoType3_v860ext_IEs(ctx, &pvalue->sysInfoType3_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v860ext", -1, 0);
+   /* v870NonCriticalExtension */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(ctx, &pvalue->v900NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v900NonCriticalExtension", -1, 0);
+      stat = dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(ctx, &pvalue->v870NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v870NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension, pvalue);
+}
+
+static int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v860ext */
-   stat = asn1PD_UMTS_SysInfoType3_v860ext_IEs(ctx, &pvalue->sysInfoType3_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v860ext", -1, 0);
-   /* v870NonCriticalExtension */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v830ext */
+   stat = dec_SysInfoType3_v830ext_IEs(ctx, &pvalue->sysInfoType3_v830ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v830ext", -1, 0);
+   /* v860NonCriticalExtension */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(ctx, &pvalue->v870NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v870NonCriticalExtension", -1, 0);
+      stat = dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(ctx, &pvalue->v860NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v830ext */
-   stat = asn1PD_UMTS_SysInfoType3_v830ext_IEs(ctx, &pvalue->sysInfoType3_v830ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v830ext", -1, 0);
-   /* v860NonCriticalExtension */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v770ext */
+   stat = dec_SysInfoType3_v770ext_IEs(ctx, &pvalue->sysInfoType3_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v770ext", -1, 0);
+   /* v830NonCriticalExtension */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(ctx, &pvalue->v860NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtension", -1, 0);
+      stat = dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(ctx, &pvalue->v830NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v830NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension, pvalue);
+}
+
+static int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v770ext */
-   stat = asn1PD_UMTS_SysInfoType3_v770ext_IEs(ctx, &pvalue->sysInfoType3_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v770ext", -1, 0);
-   /* v830NonCriticalExtension */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v670ext */
+   stat = dec_SysInfoType3_v670ext(ctx, &pvalue->sysInfoType3_v670ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v670ext", -1, 0);
+   /* v770NonCriticalExtension */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(ctx, &pvalue->v830NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v830NonCriticalExtension", -1, 0);
+      stat = dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v670ext */
-   stat = asn1PD_UMTS_SysInfoType3_v670ext(ctx, &pvalue->sysInfoType3_v670ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v670ext", -1, 0);
-   /* v770NonCriticalExtension */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v5c0ext */
+   stat = dec_SysInfoType3_v5c0ext_IEs(ctx, &pvalue->sysInfoType3_v5c0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v5c0ext", -1, 0);
+   /* v670NonCriticalExtension */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtension", -1, 0);
+      stat = dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(ctx, &pvalue->v670NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v670NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v5c0ext */
-   stat = asn1PD_UMTS_SysInfoType3_v5c0ext_IEs(ctx, &pvalue->sysInfoType3_v5c0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v5c0ext", -1, 0);
-   /* v670NonCriticalExtension */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v590ext */
+   stat = dec_SysInfoType3_v590ext(ctx, &pvalue->sysInfoType3_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v590ext", -1, 0);
+   /* v5c0NoncriticalExtension */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(ctx, &pvalue->v670NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v670NonCriticalExtension", -1, 0);
+      stat = dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(ctx, &pvalue->v5c0NoncriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v5c0NoncriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType3_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v590ext */
-   stat = asn1PD_UMTS_SysInfoType3_v590ext(ctx, &pvalue->sysInfoType3_v590ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v590ext", -1, 0);
-   /* v5c0NoncriticalExtension */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v4b0ext */
+   stat = dec_SysInfoType3_v4b0ext_IEs(ctx, &pvalue->sysInfoType3_v4b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v4b0ext", -1, 0);
+   /* v590NonCriticalExtension */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(ctx, &pvalue->v5c0NoncriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v5c0NoncriticalExtension", -1, 0);
+      stat = dec_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType3_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3_v4b0NonCriticalExtensions, pvalue);
+}
+
+static int dec_SysInfoType3(rtxContext* RT_RESTRICT ctx, SysInfoType3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v4b0ext */
-   stat = asn1PD_UMTS_SysInfoType3_v4b0ext_IEs(ctx, &pvalue->sysInfoType3_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v4b0ext", -1, 0);
-   /* v590NonCriticalExtension */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType3");
+   /* sib4indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sib4indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sib4indicator", -1, "SysInfoType3");
+   /* cellIdentity */
+   stat = dec_CellIdentity(ctx, &pvalue->cellIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "SysInfoType3");
+   /* cellSelectReselectInfo */
+   stat = dec_CellSelectReselectInfoSIB_3_4(ctx, &pvalue->cellSelectReselectInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo", -1, "SysInfoType3");
+   /* cellAccessRestriction */
+   stat = dec_CellAccessRestriction(ctx, &pvalue->cellAccessRestriction, cur);
+   RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType3");
+   /* v4b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+      stat = dec_SysInfoType3_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType3");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType3(rtxContext* RT_RESTRICT ctx, SysInfoType3* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3");
-   /* sib4indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sib4indicator);
-   RT_CHECK(ctx, stat, 0, "sib4indicator", -1, "SysInfoType3");
-   /* cellIdentity */
-   stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cellIdentity);
-   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "SysInfoType3");
-   /* cellSelectReselectInfo */
-   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_3_4(ctx, &pvalue->cellSelectReselectInfo);
-   RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo", -1, "SysInfoType3");
-   /* cellAccessRestriction */
-   stat = asn1PD_UMTS_CellAccessRestriction(ctx, &pvalue->cellAccessRestriction);
-   RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType3");
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType3_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType3");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType3, pvalue);
 }
 
-int asn1PD_UMTS_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, SIB_TypeAndTag* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, SIB_TypeAndTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-TypeAndTag");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIB-TypeAndTag");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* sysInfoType1 */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.sysInfoType1, 1, 256);
-         RT_CHECK(ctx, stat, "PLMN-ValueTag", "sysInfoType1", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.sysInfoType1, 1, 256);
+         RT_CHECK_AT(ctx, cur, stat, "PLMN-ValueTag", "sysInfoType1", -1, "SIB-TypeAndTag");
          break;
       case 1: /* sysInfoType2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType2, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType2", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType2, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType2", -1, "SIB-TypeAndTag");
          break;
       case 2: /* sysInfoType3 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType3, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType3", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType3, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType3", -1, "SIB-TypeAndTag");
          break;
       case 3: /* sysInfoType4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType4, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType4", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType4, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType4", -1, "SIB-TypeAndTag");
          break;
       case 4: /* sysInfoType5 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType5, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType5", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType5, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType5", -1, "SIB-TypeAndTag");
          break;
       case 5: /* sysInfoType6 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType6, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType6", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType6, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType6", -1, "SIB-TypeAndTag");
          break;
       case 6: /* sysInfoType7 */
          break;
       case 7: /* dummy */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dummy, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "dummy", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dummy, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "dummy", -1, "SIB-TypeAndTag");
          break;
       case 8: /* dummy2 */
          break;
       case 9: /* dummy3 */
          break;
       case 10: /* sysInfoType11 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType11, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType11", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType11, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType11", -1, "SIB-TypeAndTag");
          break;
       case 11: /* sysInfoType12 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType12, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType12", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType12, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType12", -1, "SIB-TypeAndTag");
          break;
       case 12: /* sysInfoType13 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType13, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType13, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType13", -1, "SIB-TypeAndTag");
          break;
       case 13: /* sysInfoType13-1 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType13_1, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-1", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType13_1, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType13-1", -1, "SIB-TypeAndTag");
          break;
       case 14: /* sysInfoType13-2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType13_2, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-2", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType13_2, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType13-2", -1, "SIB-TypeAndTag");
          break;
       case 15: /* sysInfoType13-3 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType13_3, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-3", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType13_3, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType13-3", -1, "SIB-TypeAndTag");
          break;
       case 16: /* sysInfoType13-4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType13_4, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-4", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType13_4, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType13-4", -1, "SIB-TypeAndTag");
          break;
       case 17: /* sysInfoType14 */
          break;
       case 18: /* sysInfoType15 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType15, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType15, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType15", -1, "SIB-TypeAndTag");
          break;
       case 19: /* sysInfoType16 */
          pvalue->u.sysInfoType16 = (PredefinedConfigIdentityAndValueTag*)rtxMemHeapAllocZ(ctx, sizeof(PredefinedConfigIdentityAndValueTag));
-         if (pvalue->u.sysInfoType16 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sysInfoType16", -1, "SIB-TypeAndTag");
-         stat = asn1PD_UMTS_PredefinedConfigIdentityAndValueTag(ctx, pvalue->u.sysInfoType16);
+         if (pvalue->u.sysInfoType16 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sysInfoType16", -1, "SIB-TypeAndTag");
+         stat = dec_PredefinedConfigIdentityAndValueTag(ctx, pvalue->u.sysInfoType16, cur);
          RT_CHECK(ctx, stat, 0, "sysInfoType16", -1, "SIB-TypeAndTag");
          break;
       case 20: /* sysInfoType17 */
          break;
       case 21: /* sysInfoType15-1 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType15_1, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-1", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType15_1, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType15-1", -1, "SIB-TypeAndTag");
          break;
       case 22: /* sysInfoType15-2 */
          pvalue->u.sysInfoType15_2 = (SIBOccurrenceIdentityAndValueTag*)rtxMemHeapAllocZ(ctx, sizeof(SIBOccurrenceIdentityAndValueTag));
-         if (pvalue->u.sysInfoType15_2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sysInfoType15-2", -1, "SIB-TypeAndTag");
-         stat = asn1PD_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_2);
+         if (pvalue->u.sysInfoType15_2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sysInfoType15-2", -1, "SIB-TypeAndTag");
+         stat = dec_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_2, cur);
          RT_CHECK(ctx, stat, 0, "sysInfoType15-2", -1, "SIB-TypeAndTag");
          break;
       case 23: /* sysInfoType15-3 */
          pvalue->u.sysInfoType15_3 = (SIBOccurrenceIdentityAndValueTag*)rtxMemHeapAllocZ(ctx, sizeof(SIBOccurrenceIdentityAndValueTag));
-         if (pvalue->u.sysInfoType15_3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sysInfoType15-3", -1, "SIB-TypeAndTag");
-         stat = asn1PD_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_3);
+         if (pvalue->u.sysInfoType15_3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sysInfoType15-3", -1, "SIB-TypeAndTag");
+         stat = dec_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_3, cur);
          RT_CHECK(ctx, stat, 0, "sysInfoType15-3", -1, "SIB-TypeAndTag");
          break;
       case 24: /* sysInfoType15-4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType15_4, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-4", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType15_4, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType15-4", -1, "SIB-TypeAndTag");
          break;
       case 25: /* sysInfoType18 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType18, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType18", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType18, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType18", -1, "SIB-TypeAndTag");
          break;
       case 26: /* sysInfoType15-5 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType15_5, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-5", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType15_5, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType15-5", -1, "SIB-TypeAndTag");
          break;
       case 27: /* sysInfoType5bis */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sysInfoType5bis, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType5bis", -1, "SIB-TypeAndTag");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sysInfoType5bis, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "CellValueTag", "sysInfoType5bis", -1, "SIB-TypeAndTag");
          break;
       case 28: /* spare4 */
          break;
@@ -3290,721 +4535,946 @@ int asn1PD_UMTS_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, SIB_TypeAndTag* RT_R
       case 31: /* spare1 */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeAndTag");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeAndTag");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, SIB_TypeAndTag* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIB_TypeAndTag, pvalue);
+}
+
+static int dec_SchedulingInformationSIB(rtxContext* RT_RESTRICT ctx, SchedulingInformationSIB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sib-Type */
+   stat = dec_SIB_TypeAndTag(ctx, &pvalue->sib_Type, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Type", -1, "SchedulingInformationSIB");
+   /* scheduling */
+   stat = dec_SchedulingInformation(ctx, &pvalue->scheduling, cur);
+   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformationSIB");
    return 0;
 }
 
 int asn1PD_UMTS_SchedulingInformationSIB(rtxContext* RT_RESTRICT ctx, SchedulingInformationSIB* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* sib-Type */
-   stat = asn1PD_UMTS_SIB_TypeAndTag(ctx, &pvalue->sib_Type);
-   RT_CHECK(ctx, stat, 0, "sib-Type", -1, "SchedulingInformationSIB");
-   /* scheduling */
-   stat = asn1PD_UMTS_SchedulingInformation(ctx, &pvalue->scheduling);
-   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformationSIB");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SchedulingInformationSIB, pvalue);
 }
 
-int asn1PD_UMTS_SIB_ReferenceList(rtxContext* RT_RESTRICT ctx, SIB_ReferenceList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SIB_ReferenceList(rtxContext* RT_RESTRICT ctx, SIB_ReferenceList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-ReferenceList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIB-ReferenceList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       SchedulingInformationSIB* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SchedulingInformationSIB));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceList");
       elem = (SchedulingInformationSIB*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_SchedulingInformationSIB(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SchedulingInformationSIB(ctx, elem);
+      stat = dec_SchedulingInformationSIB(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SIB_ReferenceList(rtxContext* RT_RESTRICT ctx, SIB_ReferenceList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIB_ReferenceList, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoTypeSB1_v6b0ext(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoTypeSB1-v6b0ext");
+   /* extSIBTypeInfoSchedulingInfo-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List, cur);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB1-v6b0ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoTypeSB1_v6b0ext(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoTypeSB1_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoTypeSB1_v860ext(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB1-v6b0ext");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoTypeSB1-v860ext");
    /* extSIBTypeInfoSchedulingInfo-List */
-   if (present & ((uint32_t)1 << 0)) {
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB1-v6b0ext");
+      stat = dec_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List, cur);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB1-v860ext");
+   }
+   /* extGANSS-SIBTypeInfoSchedulingInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "SysInfoTypeSB1-v860ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoTypeSB1_v860ext(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v860ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoTypeSB1_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB1-v860ext");
-   /* extSIBTypeInfoSchedulingInfo-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB1-v860ext");
-   }
-   /* extGANSS-SIBTypeInfoSchedulingInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList);
-      RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "SysInfoTypeSB1-v860ext");
-   }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* sysInfoTypeSB1-v860ext */
-   stat = asn1PD_UMTS_SysInfoTypeSB1_v860ext(ctx, &pvalue->sysInfoTypeSB1_v860ext);
+   stat = dec_SysInfoTypeSB1_v860ext(ctx, &pvalue->sysInfoTypeSB1_v860ext, cur);
    RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1-v860ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoTypeSB1_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoTypeSB1-v6b0ext */
+   stat = dec_SysInfoTypeSB1_v6b0ext(ctx, &pvalue->sysInfoTypeSB1_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1-v6b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoTypeSB1_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoTypeSB1(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoTypeSB1-v6b0ext */
-   stat = asn1PD_UMTS_SysInfoTypeSB1_v6b0ext(ctx, &pvalue->sysInfoTypeSB1_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1-v6b0ext", -1, 0);
-   /* v860NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoTypeSB1");
+   /* sib-ReferenceList */
+   stat = dec_SIB_ReferenceList(ctx, &pvalue->sib_ReferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "sib-ReferenceList", -1, "SysInfoTypeSB1");
+   /* v6b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+      stat = dec_SysInfoTypeSB1_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoTypeSB1");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoTypeSB1(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB1* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoTypeSB1, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoTypeSB2_v6b0ext(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB1");
-   /* sib-ReferenceList */
-   stat = asn1PD_UMTS_SIB_ReferenceList(ctx, &pvalue->sib_ReferenceList);
-   RT_CHECK(ctx, stat, 0, "sib-ReferenceList", -1, "SysInfoTypeSB1");
-   /* v6b0NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoTypeSB2-v6b0ext");
+   /* extSIBTypeInfoSchedulingInfo-List */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoTypeSB1");
+      stat = dec_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List, cur);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB2-v6b0ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoTypeSB2_v6b0ext(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoTypeSB2_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoTypeSB2_v860ext(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB2-v6b0ext");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoTypeSB2-v860ext");
    /* extSIBTypeInfoSchedulingInfo-List */
-   if (present & ((uint32_t)1 << 0)) {
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB2-v6b0ext");
+      stat = dec_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List, cur);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB2-v860ext");
+   }
+   /* extGANSS-SIBTypeInfoSchedulingInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "SysInfoTypeSB2-v860ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoTypeSB2_v860ext(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v860ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoTypeSB2_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB2-v860ext");
-   /* extSIBTypeInfoSchedulingInfo-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB2-v860ext");
-   }
-   /* extGANSS-SIBTypeInfoSchedulingInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList);
-      RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "SysInfoTypeSB2-v860ext");
-   }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* sysInfoTypeSB2-v860ext */
-   stat = asn1PD_UMTS_SysInfoTypeSB2_v860ext(ctx, &pvalue->sysInfoTypeSB2_v860ext);
+   stat = dec_SysInfoTypeSB2_v860ext(ctx, &pvalue->sysInfoTypeSB2_v860ext, cur);
    RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2-v860ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoTypeSB2_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoTypeSB2-v6b0ext */
+   stat = dec_SysInfoTypeSB2_v6b0ext(ctx, &pvalue->sysInfoTypeSB2_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2-v6b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoTypeSB2_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoTypeSB2(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoTypeSB2-v6b0ext */
-   stat = asn1PD_UMTS_SysInfoTypeSB2_v6b0ext(ctx, &pvalue->sysInfoTypeSB2_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2-v6b0ext", -1, 0);
-   /* v860NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoTypeSB2");
+   /* sib-ReferenceList */
+   stat = dec_SIB_ReferenceList(ctx, &pvalue->sib_ReferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "sib-ReferenceList", -1, "SysInfoTypeSB2");
+   /* v6b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+      stat = dec_SysInfoTypeSB2_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoTypeSB2");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoTypeSB2(rtxContext* RT_RESTRICT ctx, SysInfoTypeSB2* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB2");
-   /* sib-ReferenceList */
-   stat = asn1PD_UMTS_SIB_ReferenceList(ctx, &pvalue->sib_ReferenceList);
-   RT_CHECK(ctx, stat, 0, "sib-ReferenceList", -1, "SysInfoTypeSB2");
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoTypeSB2");
-   }
+   RT_DECODE_ENTRY(ctx, dec_SysInfoTypeSB2, pvalue);
+}
+
+RT_MERGED_BODY int dec_NAS_SystemInformationGSM_MAP(rtxContext* RT_RESTRICT ctx, NAS_SystemInformationGSM_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NAS-SystemInformationGSM-MAP");
    return 0;
 }
 
 int asn1PD_UMTS_NAS_SystemInformationGSM_MAP(rtxContext* RT_RESTRICT ctx, NAS_SystemInformationGSM_MAP* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_NAS_SystemInformationGSM_MAP, pvalue);
+}
+
+RT_MERGED_BODY int dec_CN_DomainIdentity(rtxContext* RT_RESTRICT ctx, CN_DomainIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-SystemInformationGSM-MAP");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CN-DomainIdentity");
    return 0;
 }
 
 int asn1PD_UMTS_CN_DomainIdentity(rtxContext* RT_RESTRICT ctx, CN_DomainIdentity* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CN_DomainIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_ANSI_41_NAS_Parameter(rtxContext* RT_RESTRICT ctx, ANSI_41_NAS_Parameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-DomainIdentity");
+   RT_SET_SIZE(ctx, 1, 2048);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ANSI-41-NAS-Parameter");
    return 0;
 }
 
 int asn1PD_UMTS_ANSI_41_NAS_Parameter(rtxContext* RT_RESTRICT ctx, ANSI_41_NAS_Parameter* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_ANSI_41_NAS_Parameter, pvalue);
+}
+
+RT_MERGED_BODY int dec_NAS_SystemInformationANSI_41(rtxContext* RT_RESTRICT ctx, NAS_SystemInformationANSI_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   RT_SET_SIZE(ctx, 1, 2048);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-NAS-Parameter");
+   stat = dec_ANSI_41_NAS_Parameter(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-SystemInformationANSI-41");
    return 0;
 }
 
 int asn1PD_UMTS_NAS_SystemInformationANSI_41(rtxContext* RT_RESTRICT ctx, NAS_SystemInformationANSI_41* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_NAS_SystemInformationANSI_41, pvalue);
+}
+
+RT_MERGED_BODY int dec_CN_DomainSysInfo_cn_Type(rtxContext* RT_RESTRICT ctx, CN_DomainSysInfo_cn_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-SystemInformationANSI-41");
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm-MAP */
+         pvalue->u.gsm_MAP = (NAS_SystemInformationGSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(NAS_SystemInformationGSM_MAP));
+         if (pvalue->u.gsm_MAP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm-MAP", -1, 0);
+         asn1Init_UMTS_NAS_SystemInformationGSM_MAP(pvalue->u.gsm_MAP);
+         stat = dec_NAS_SystemInformationGSM_MAP(ctx, pvalue->u.gsm_MAP, cur);
+         RT_CHECK(ctx, stat, 0, "gsm-MAP", -1, 0);
+         break;
+      case 1: /* ansi-41 */
+         pvalue->u.ansi_41 = (NAS_SystemInformationANSI_41*)rtxMemHeapAlloc(ctx, sizeof(NAS_SystemInformationANSI_41));
+         if (pvalue->u.ansi_41 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ansi-41", -1, 0);
+         asn1Init_UMTS_NAS_SystemInformationANSI_41(pvalue->u.ansi_41);
+         stat = dec_NAS_SystemInformationANSI_41(ctx, pvalue->u.ansi_41, cur);
+         RT_CHECK(ctx, stat, 0, "ansi-41", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_CN_DomainSysInfo_cn_Type(rtxContext* RT_RESTRICT ctx, CN_DomainSysInfo_cn_Type* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CN_DomainSysInfo_cn_Type, pvalue);
+}
+
+RT_MERGED_BODY int dec_CN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, CN_DRX_CycleLengthCoefficient* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* gsm-MAP */
-         pvalue->u.gsm_MAP = (NAS_SystemInformationGSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(NAS_SystemInformationGSM_MAP));
-         if (pvalue->u.gsm_MAP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm-MAP", -1, 0);
-         asn1Init_UMTS_NAS_SystemInformationGSM_MAP(pvalue->u.gsm_MAP);
-         stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, pvalue->u.gsm_MAP);
-         RT_CHECK(ctx, stat, 0, "gsm-MAP", -1, 0);
-         break;
-      case 1: /* ansi-41 */
-         pvalue->u.ansi_41 = (NAS_SystemInformationANSI_41*)rtxMemHeapAlloc(ctx, sizeof(NAS_SystemInformationANSI_41));
-         if (pvalue->u.ansi_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ansi-41", -1, 0);
-         asn1Init_UMTS_NAS_SystemInformationANSI_41(pvalue->u.ansi_41);
-         stat = asn1PD_UMTS_NAS_SystemInformationANSI_41(ctx, pvalue->u.ansi_41);
-         RT_CHECK(ctx, stat, 0, "ansi-41", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 6, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CN-DRX-CycleLengthCoefficient");
    return 0;
 }
 
 int asn1PD_UMTS_CN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, CN_DRX_CycleLengthCoefficient* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 6, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-DRX-CycleLengthCoefficient");
+   RT_DECODE_ENTRY(ctx, dec_CN_DRX_CycleLengthCoefficient, pvalue);
+}
+
+RT_MERGED_BODY int dec_CN_DomainSysInfo(rtxContext* RT_RESTRICT ctx, CN_DomainSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainSysInfo");
+   /* cn-Type */
+   stat = dec_CN_DomainSysInfo_cn_Type(ctx, &pvalue->cn_Type, cur);
+   RT_CHECK(ctx, stat, 0, "cn-Type", -1, "CN-DomainSysInfo");
+   /* cn-DRX-CycleLengthCoeff */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainSysInfo");
    return 0;
 }
 
 int asn1PD_UMTS_CN_DomainSysInfo(rtxContext* RT_RESTRICT ctx, CN_DomainSysInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainSysInfo");
-   /* cn-Type */
-   stat = asn1PD_UMTS_CN_DomainSysInfo_cn_Type(ctx, &pvalue->cn_Type);
-   RT_CHECK(ctx, stat, 0, "cn-Type", -1, "CN-DomainSysInfo");
-   /* cn-DRX-CycleLengthCoeff */
-   stat = pd_ConsUInt8(ctx, &pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
-   RT_CHECK(ctx, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainSysInfo");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CN_DomainSysInfo, pvalue);
 }
 
-int asn1PD_UMTS_CN_DomainSysInfoList(rtxContext* RT_RESTRICT ctx, CN_DomainSysInfoList* RT_RESTRICT pvalue)
+static int dec_CN_DomainSysInfoList(rtxContext* RT_RESTRICT ctx, CN_DomainSysInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-DomainSysInfoList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CN-DomainSysInfoList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       CN_DomainSysInfo* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CN_DomainSysInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CN-DomainSysInfo", (int32_t)i, "CN-DomainSysInfoList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CN-DomainSysInfo", (int32_t)i, "CN-DomainSysInfoList");
       elem = (CN_DomainSysInfo*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_CN_DomainSysInfo(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CN_DomainSysInfo(ctx, elem);
+      stat = dec_CN_DomainSysInfo(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "CN-DomainSysInfo", (int32_t)i, "CN-DomainSysInfoList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_T_301(rtxContext* RT_RESTRICT ctx, T_301* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CN_DomainSysInfoList(rtxContext* RT_RESTRICT ctx, CN_DomainSysInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CN_DomainSysInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_301(rtxContext* RT_RESTRICT ctx, T_301* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-301");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-301");
+   return 0;
+}
+
+int asn1PD_UMTS_T_301(rtxContext* RT_RESTRICT ctx, T_301* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_T_301, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_301(rtxContext* RT_RESTRICT ctx, N_301* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-301");
    return 0;
 }
 
 int asn1PD_UMTS_N_301(rtxContext* RT_RESTRICT ctx, N_301* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_N_301, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_302(rtxContext* RT_RESTRICT ctx, T_302* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-301");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-302");
    return 0;
 }
 
 int asn1PD_UMTS_T_302(rtxContext* RT_RESTRICT ctx, T_302* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_302, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_302(rtxContext* RT_RESTRICT ctx, N_302* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-302");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-302");
    return 0;
 }
 
 int asn1PD_UMTS_N_302(rtxContext* RT_RESTRICT ctx, N_302* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_N_302, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_304(rtxContext* RT_RESTRICT ctx, T_304* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-302");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-304");
    return 0;
 }
 
 int asn1PD_UMTS_T_304(rtxContext* RT_RESTRICT ctx, T_304* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_304, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_304(rtxContext* RT_RESTRICT ctx, N_304* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-304");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-304");
    return 0;
 }
 
 int asn1PD_UMTS_N_304(rtxContext* RT_RESTRICT ctx, N_304* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_N_304, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_305(rtxContext* RT_RESTRICT ctx, T_305* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-304");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-305");
    return 0;
 }
 
 int asn1PD_UMTS_T_305(rtxContext* RT_RESTRICT ctx, T_305* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_305, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_307(rtxContext* RT_RESTRICT ctx, T_307* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-305");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-307");
    return 0;
 }
 
 int asn1PD_UMTS_T_307(rtxContext* RT_RESTRICT ctx, T_307* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_307, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_308(rtxContext* RT_RESTRICT ctx, T_308* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-307");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-308");
    return 0;
 }
 
 int asn1PD_UMTS_T_308(rtxContext* RT_RESTRICT ctx, T_308* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_308, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_309(rtxContext* RT_RESTRICT ctx, T_309* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-308");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-309");
    return 0;
 }
 
 int asn1PD_UMTS_T_309(rtxContext* RT_RESTRICT ctx, T_309* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_309, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_310(rtxContext* RT_RESTRICT ctx, T_310* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-309");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-310");
    return 0;
 }
 
 int asn1PD_UMTS_T_310(rtxContext* RT_RESTRICT ctx, T_310* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_310, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_310(rtxContext* RT_RESTRICT ctx, N_310* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-310");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-310");
    return 0;
 }
 
 int asn1PD_UMTS_N_310(rtxContext* RT_RESTRICT ctx, N_310* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_N_310, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_311(rtxContext* RT_RESTRICT ctx, T_311* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-310");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-311");
    return 0;
 }
 
 int asn1PD_UMTS_T_311(rtxContext* RT_RESTRICT ctx, T_311* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_311, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_312(rtxContext* RT_RESTRICT ctx, T_312* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-311");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-312");
    return 0;
 }
 
 int asn1PD_UMTS_T_312(rtxContext* RT_RESTRICT ctx, T_312* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_312, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_312(rtxContext* RT_RESTRICT ctx, N_312* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-312");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-312");
    return 0;
 }
 
 int asn1PD_UMTS_N_312(rtxContext* RT_RESTRICT ctx, N_312* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_N_312, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_313(rtxContext* RT_RESTRICT ctx, T_313* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-312");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-313");
    return 0;
 }
 
 int asn1PD_UMTS_T_313(rtxContext* RT_RESTRICT ctx, T_313* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_313, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_313(rtxContext* RT_RESTRICT ctx, N_313* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-313");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-313");
    return 0;
 }
 
 int asn1PD_UMTS_N_313(rtxContext* RT_RESTRICT ctx, N_313* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_N_313, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_314(rtxContext* RT_RESTRICT ctx, T_314* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-313");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-314");
    return 0;
 }
 
 int asn1PD_UMTS_T_314(rtxContext* RT_RESTRICT ctx, T_314* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_314, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_315(rtxContext* RT_RESTRICT ctx, T_315* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-314");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-315");
    return 0;
 }
 
 int asn1PD_UMTS_T_315(rtxContext* RT_RESTRICT ctx, T_315* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_315, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_315(rtxContext* RT_RESTRICT ctx, N_315* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-315");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-315");
    return 0;
 }
 
 int asn1PD_UMTS_N_315(rtxContext* RT_RESTRICT ctx, N_315* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_N_315, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_316(rtxContext* RT_RESTRICT ctx, T_316* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-315");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-316");
    return 0;
 }
 
 int asn1PD_UMTS_T_316(rtxContext* RT_RESTRICT ctx, T_316* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_316, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_317(rtxContext* RT_RESTRICT ctx, T_317* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-316");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-317");
    return 0;
 }
 
 int asn1PD_UMTS_T_317(rtxContext* RT_RESTRICT ctx, T_317* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-317");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_T_317, pvalue);
 }
 
-int asn1PD_UMTS_UE_ConnTimersAndConstants(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants* RT_RESTRICT pvalue)
+static int dec_UE_ConnTimersAndConstants(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 22);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants");
+   stat = rtxDecBitsAt(ctx, cur, 22, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-ConnTimersAndConstants");
    /* t-301 */
    if (present & ((uint32_t)1 << 21)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_301, 0, 15);
-      RT_CHECK(ctx, stat, "T-301", "t-301", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_301, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "T-301", "t-301", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_301 = 10;
    }
    /* n-301 */
    if (present & ((uint32_t)1 << 20)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->n_301, 0, 7);
-      RT_CHECK(ctx, stat, "N-301", "n-301", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_301, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "N-301", "n-301", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->n_301 = 2;
    }
    /* t-302 */
    if (present & ((uint32_t)1 << 19)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_302, 0, 15);
-      RT_CHECK(ctx, stat, "T-302", "t-302", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_302, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "T-302", "t-302", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_302 = 12;
    }
    /* n-302 */
    if (present & ((uint32_t)1 << 18)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->n_302, 0, 7);
-      RT_CHECK(ctx, stat, "N-302", "n-302", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_302, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "N-302", "n-302", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->n_302 = 3;
    }
    /* t-304 */
    if (present & ((uint32_t)1 << 17)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_304, 0, 7);
-      RT_CHECK(ctx, stat, "T-304", "t-304", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_304, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-304", "t-304", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_304 = 4;
    }
    /* n-304 */
    if (present & ((uint32_t)1 << 16)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->n_304, 0, 7);
-      RT_CHECK(ctx, stat, "N-304", "n-304", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_304, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "N-304", "n-304", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->n_304 = 2;
    }
    /* t-305 */
    if (present & ((uint32_t)1 << 15)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_305, 0, 7);
-      RT_CHECK(ctx, stat, "T-305", "t-305", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_305, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-305", "t-305", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_305 = 3;
    }
    /* t-307 */
    if (present & ((uint32_t)1 << 14)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_307, 0, 7);
-      RT_CHECK(ctx, stat, "T-307", "t-307", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_307, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-307", "t-307", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_307 = 4;
    }
    /* t-308 */
    if (present & ((uint32_t)1 << 13)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_308, 0, 3);
-      RT_CHECK(ctx, stat, "T-308", "t-308", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_308, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "T-308", "t-308", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_308 = 2;
    }
    /* t-309 */
    if (present & ((uint32_t)1 << 12)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->t_309, 1, 8);
-      RT_CHECK(ctx, stat, "T-309", "t-309", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_309, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "T-309", "t-309", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_309 = 5;
    }
    /* t-310 */
    if (present & ((uint32_t)1 << 11)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_310, 0, 7);
-      RT_CHECK(ctx, stat, "T-310", "t-310", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_310, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-310", "t-310", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_310 = 3;
    }
    /* n-310 */
    if (present & ((uint32_t)1 << 10)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->n_310, 0, 7);
-      RT_CHECK(ctx, stat, "N-310", "n-310", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_310, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "N-310", "n-310", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->n_310 = 4;
    }
    /* t-311 */
    if (present & ((uint32_t)1 << 9)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_311, 0, 7);
-      RT_CHECK(ctx, stat, "T-311", "t-311", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_311, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-311", "t-311", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_311 = 7;
    }
    /* t-312 */
    if (present & ((uint32_t)1 << 8)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->t_312, 0, 15);
-      RT_CHECK(ctx, stat, "T-312", "t-312", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_312, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "T-312", "t-312", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_312 = 1;
    }
    /* n-312 */
    if (present & ((uint32_t)1 << 7)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_312, 0, 7);
-      RT_CHECK(ctx, stat, "N-312", "n-312", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_312, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "N-312", "n-312", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->n_312 = 0;
    }
    /* t-313 */
    if (present & ((uint32_t)1 << 6)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->t_313, 0, 15);
-      RT_CHECK(ctx, stat, "T-313", "t-313", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_313, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "T-313", "t-313", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_313 = 3;
    }
    /* n-313 */
    if (present & ((uint32_t)1 << 5)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_313, 0, 7);
-      RT_CHECK(ctx, stat, "N-313", "n-313", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_313, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "N-313", "n-313", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->n_313 = 4;
    }
    /* t-314 */
    if (present & ((uint32_t)1 << 4)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_314, 0, 7);
-      RT_CHECK(ctx, stat, "T-314", "t-314", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_314, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-314", "t-314", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_314 = 5;
    }
    /* t-315 */
    if (present & ((uint32_t)1 << 3)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_315, 0, 7);
-      RT_CHECK(ctx, stat, "T-315", "t-315", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_315, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-315", "t-315", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_315 = 4;
    }
    /* n-315 */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_315, 0, 7);
-      RT_CHECK(ctx, stat, "N-315", "n-315", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_315, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "N-315", "n-315", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->n_315 = 0;
    }
    /* t-316 */
    if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_316, 0, 7);
-      RT_CHECK(ctx, stat, "T-316", "t-316", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_316, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-316", "t-316", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_316 = 3;
    }
    /* t-317 */
    if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_317, 0, 7);
-      RT_CHECK(ctx, stat, "T-317", "t-317", -1, "UE-ConnTimersAndConstants");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_317, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-317", "t-317", -1, "UE-ConnTimersAndConstants");
    }
    else {
       pvalue->t_317 = 4;
@@ -4012,250 +5482,335 @@ int asn1PD_UMTS_UE_ConnTimersAndConstants(rtxContext* RT_RESTRICT ctx, UE_ConnTi
    return 0;
 }
 
-int asn1PD_UMTS_T_300(rtxContext* RT_RESTRICT ctx, T_300* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_ConnTimersAndConstants(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_ConnTimersAndConstants, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_300(rtxContext* RT_RESTRICT ctx, T_300* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-300");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-300");
+   return 0;
+}
+
+int asn1PD_UMTS_T_300(rtxContext* RT_RESTRICT ctx, T_300* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_T_300, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_300(rtxContext* RT_RESTRICT ctx, N_300* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-300");
    return 0;
 }
 
 int asn1PD_UMTS_N_300(rtxContext* RT_RESTRICT ctx, N_300* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-300");
+   RT_DECODE_ENTRY(ctx, dec_N_300, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_IdleTimersAndConstants(rtxContext* RT_RESTRICT ctx, UE_IdleTimersAndConstants* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* t-300 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_300, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "T-300", "t-300", -1, "UE-IdleTimersAndConstants");
+   /* n-300 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_300, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "N-300", "n-300", -1, "UE-IdleTimersAndConstants");
+   /* t-312 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_312, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "T-312", "t-312", -1, "UE-IdleTimersAndConstants");
+   /* n-312 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_312, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "N-312", "n-312", -1, "UE-IdleTimersAndConstants");
    return 0;
 }
 
 int asn1PD_UMTS_UE_IdleTimersAndConstants(rtxContext* RT_RESTRICT ctx, UE_IdleTimersAndConstants* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* t-300 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->t_300, 0, 14);
-   RT_CHECK(ctx, stat, "T-300", "t-300", -1, "UE-IdleTimersAndConstants");
-   /* n-300 */
-   stat = pd_ConsUInt8(ctx, &pvalue->n_300, 0, 7);
-   RT_CHECK(ctx, stat, "N-300", "n-300", -1, "UE-IdleTimersAndConstants");
-   /* t-312 */
-   stat = pd_ConsUInt8(ctx, &pvalue->t_312, 0, 15);
-   RT_CHECK(ctx, stat, "T-312", "t-312", -1, "UE-IdleTimersAndConstants");
-   /* n-312 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->n_312, 0, 7);
-   RT_CHECK(ctx, stat, "N-312", "n-312", -1, "UE-IdleTimersAndConstants");
+   RT_DECODE_ENTRY(ctx, dec_UE_IdleTimersAndConstants, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_312ext(rtxContext* RT_RESTRICT ctx, N_312ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-312ext");
    return 0;
 }
 
 int asn1PD_UMTS_N_312ext(rtxContext* RT_RESTRICT ctx, N_312ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_N_312ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_315ext(rtxContext* RT_RESTRICT ctx, N_315ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-312ext");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-315ext");
    return 0;
 }
 
 int asn1PD_UMTS_N_315ext(rtxContext* RT_RESTRICT ctx, N_315ext* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-315ext");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_N_315ext, pvalue);
 }
 
-int asn1PD_UMTS_UE_ConnTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants_v3a0ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UE_ConnTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants-v3a0ext");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-ConnTimersAndConstants-v3a0ext");
    /* n-312 */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_312, 0, 3);
-      RT_CHECK(ctx, stat, "N-312ext", "n-312", -1, "UE-ConnTimersAndConstants-v3a0ext");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_312, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "N-312ext", "n-312", -1, "UE-ConnTimersAndConstants-v3a0ext");
    }
    /* n-315 */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_315, 0, 3);
-      RT_CHECK(ctx, stat, "N-315ext", "n-315", -1, "UE-ConnTimersAndConstants-v3a0ext");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_315, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "N-315ext", "n-315", -1, "UE-ConnTimersAndConstants-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_ConnTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants_v3a0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_ConnTimersAndConstants_v3a0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_IdleTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, UE_IdleTimersAndConstants_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-IdleTimersAndConstants-v3a0ext");
+   /* n-312 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_312, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "N-312ext", "n-312", -1, "UE-IdleTimersAndConstants-v3a0ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_UE_IdleTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, UE_IdleTimersAndConstants_v3a0ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_UE_IdleTimersAndConstants_v3a0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType1_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-IdleTimersAndConstants-v3a0ext");
-   /* n-312 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_312, 0, 3);
-      RT_CHECK(ctx, stat, "N-312ext", "n-312", -1, "UE-IdleTimersAndConstants-v3a0ext");
-   }
+   /* ue-ConnTimersAndConstants-v3a0ext */
+   stat = dec_UE_ConnTimersAndConstants_v3a0ext(ctx, &pvalue->ue_ConnTimersAndConstants_v3a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants-v3a0ext", -1, "SysInfoType1-v3a0ext-IEs");
+   /* ue-IdleTimersAndConstants-v3a0ext */
+   stat = dec_UE_IdleTimersAndConstants_v3a0ext(ctx, &pvalue->ue_IdleTimersAndConstants_v3a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants-v3a0ext", -1, "SysInfoType1-v3a0ext-IEs");
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType1_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0ext_IEs* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* ue-ConnTimersAndConstants-v3a0ext */
-   stat = asn1PD_UMTS_UE_ConnTimersAndConstants_v3a0ext(ctx, &pvalue->ue_ConnTimersAndConstants_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants-v3a0ext", -1, "SysInfoType1-v3a0ext-IEs");
-   /* ue-IdleTimersAndConstants-v3a0ext */
-   stat = asn1PD_UMTS_UE_IdleTimersAndConstants_v3a0ext(ctx, &pvalue->ue_IdleTimersAndConstants_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants-v3a0ext", -1, "SysInfoType1-v3a0ext-IEs");
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType1_v3a0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_323(rtxContext* RT_RESTRICT ctx, T_323* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-323");
    return 0;
 }
 
 int asn1PD_UMTS_T_323(rtxContext* RT_RESTRICT ctx, T_323* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-323");
+   RT_DECODE_ENTRY(ctx, dec_T_323, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_ConnTimersAndConstants_v860ext(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-ConnTimersAndConstants-v860ext");
+   /* t-323 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_323, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-323", "t-323", -1, "UE-ConnTimersAndConstants-v860ext");
+   }
    return 0;
 }
 
 int asn1PD_UMTS_UE_ConnTimersAndConstants_v860ext(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants_v860ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_UE_ConnTimersAndConstants_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType1_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType1_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants-v860ext");
-   /* t-323 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_323, 0, 7);
-      RT_CHECK(ctx, stat, "T-323", "t-323", -1, "UE-ConnTimersAndConstants-v860ext");
-   }
+   /* ue-ConnTimersAndConstants */
+   stat = dec_UE_ConnTimersAndConstants_v860ext(ctx, &pvalue->ue_ConnTimersAndConstants, cur);
+   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "SysInfoType1-v860ext-IEs");
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType1_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType1_v860ext_IEs* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType1_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* ue-ConnTimersAndConstants */
-   stat = asn1PD_UMTS_UE_ConnTimersAndConstants_v860ext(ctx, &pvalue->ue_ConnTimersAndConstants);
-   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "SysInfoType1-v860ext-IEs");
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* sysInfoType1-v860ext */
-   stat = asn1PD_UMTS_SysInfoType1_v860ext_IEs(ctx, &pvalue->sysInfoType1_v860ext);
+   stat = dec_SysInfoType1_v860ext_IEs(ctx, &pvalue->sysInfoType1_v860ext, cur);
    RT_CHECK(ctx, stat, 0, "sysInfoType1-v860ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType1_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType1-v3a0ext */
+   stat = dec_SysInfoType1_v3a0ext_IEs(ctx, &pvalue->sysInfoType1_v3a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType1-v3a0ext", -1, 0);
+   /* v860NonCriticalExtentions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(ctx, &pvalue->v860NonCriticalExtentions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtentions", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType1_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType1_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType1_v3a0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType1(rtxContext* RT_RESTRICT ctx, SysInfoType1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType1-v3a0ext */
-   stat = asn1PD_UMTS_SysInfoType1_v3a0ext_IEs(ctx, &pvalue->sysInfoType1_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType1-v3a0ext", -1, 0);
-   /* v860NonCriticalExtentions */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType1");
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = dec_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SysInfoType1");
+   /* cn-DomainSysInfoList */
+   stat = dec_CN_DomainSysInfoList(ctx, &pvalue->cn_DomainSysInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSysInfoList", -1, "SysInfoType1");
+   /* ue-ConnTimersAndConstants */
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(ctx, &pvalue->v860NonCriticalExtentions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtentions", -1, 0);
+      stat = dec_UE_ConnTimersAndConstants(ctx, &pvalue->ue_ConnTimersAndConstants, cur);
+      RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "SysInfoType1");
+   }
+   /* ue-IdleTimersAndConstants */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_IdleTimersAndConstants(ctx, &pvalue->ue_IdleTimersAndConstants, cur);
+      RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants", -1, "SysInfoType1");
+   }
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_SysInfoType1_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType1");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType1(rtxContext* RT_RESTRICT ctx, SysInfoType1* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType1");
-   /* cn-CommonGSM-MAP-NAS-SysInfo */
-   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SysInfoType1");
-   /* cn-DomainSysInfoList */
-   stat = asn1PD_UMTS_CN_DomainSysInfoList(ctx, &pvalue->cn_DomainSysInfoList);
-   RT_CHECK(ctx, stat, 0, "cn-DomainSysInfoList", -1, "SysInfoType1");
-   /* ue-ConnTimersAndConstants */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_ConnTimersAndConstants(ctx, &pvalue->ue_ConnTimersAndConstants);
-      RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "SysInfoType1");
-   }
-   /* ue-IdleTimersAndConstants */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_IdleTimersAndConstants(ctx, &pvalue->ue_IdleTimersAndConstants);
-      RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants", -1, "SysInfoType1");
-   }
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType1_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType1");
-   }
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType1, pvalue);
+}
+
+RT_MERGED_BODY int dec_URA_Identity(rtxContext* RT_RESTRICT ctx, URA_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, pvalue, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "URA-Identity");
    return 0;
 }
 
 int asn1PD_UMTS_URA_Identity(rtxContext* RT_RESTRICT ctx, URA_Identity* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "URA-Identity");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_URA_Identity, pvalue);
 }
 
-int asn1PD_UMTS_URA_IdentityList(rtxContext* RT_RESTRICT ctx, URA_IdentityList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_URA_IdentityList(rtxContext* RT_RESTRICT ctx, URA_IdentityList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t i;
+   uint32_t i, n;
    {
       uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "URA-IdentityList");
-      pvalue->n = raw + 1;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "URA-IdentityList");
+      pvalue->n = n = raw + 1;
       if (raw > 7) {
          rtxErrAddStrParm(ctx, "URA-IdentityList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "URA-IdentityList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "URA-IdentityList");
       }
    }
-   for (i = 0; i < pvalue->n; i++) {
+   for (i = 0; i < n; i++) {
       asn1Init_UMTS_URA_Identity(&pvalue->elem[i]);
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->elem[i]);
+      stat = dec_URA_Identity(ctx, &pvalue->elem[i], cur);
       if (stat != 0) {
          pvalue->n = i + 1;
          RT_FAIL(ctx, stat, 0, "URA-Identity", (int32_t)i, "URA-IdentityList");
@@ -4264,746 +5819,971 @@ int asn1PD_UMTS_URA_IdentityList(rtxContext* RT_RESTRICT ctx, URA_IdentityList* 
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType2_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_URA_IdentityList(rtxContext* RT_RESTRICT ctx, URA_IdentityList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_URA_IdentityList, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType2_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType2(rtxContext* RT_RESTRICT ctx, SysInfoType2* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType2_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType2_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType2(rtxContext* RT_RESTRICT ctx, SysInfoType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType2");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType2");
    /* ura-IdentityList */
-   stat = asn1PD_UMTS_URA_IdentityList(ctx, &pvalue->ura_IdentityList);
+   stat = dec_URA_IdentityList(ctx, &pvalue->ura_IdentityList, cur);
    RT_CHECK(ctx, stat, 0, "ura-IdentityList", -1, "SysInfoType2");
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_SysInfoType2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType2");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_Interference(rtxContext* RT_RESTRICT ctx, UL_Interference* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType2(rtxContext* RT_RESTRICT ctx, SysInfoType2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType2, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_Interference(rtxContext* RT_RESTRICT ctx, UL_Interference* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -110, -70);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-Interference");
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -110, -70);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-Interference");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_Interference(rtxContext* RT_RESTRICT ctx, UL_Interference* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_Interference, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-Interference */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->ul_Interference, -110, -70);
+   RT_CHECK_AT(ctx, cur, stat, "UL-Interference", "ul-Interference", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* ul-Interference */
-   stat = pd_ConsInt8(ctx, &pvalue->ul_Interference, -110, -70);
-   RT_CHECK(ctx, stat, "UL-Interference", "ul-Interference", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType7_modeSpecificInfo_fdd, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoType7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType7_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
          pvalue->u.fdd = (SysInfoType7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(SysInfoType7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_SysInfoType7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_SysInfoType7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DynamicPersistenceLevel(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DynamicPersistenceLevel");
    return 0;
 }
 
 int asn1PD_UMTS_DynamicPersistenceLevel(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevel* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_DynamicPersistenceLevel, pvalue);
+}
+
+RT_MERGED_BODY int dec_DynamicPersistenceLevelList(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevelList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DynamicPersistenceLevel");
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DynamicPersistenceLevelList");
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "DynamicPersistenceLevelList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DynamicPersistenceLevelList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 8);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelList");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_DynamicPersistenceLevelList(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevelList* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_DynamicPersistenceLevelList, pvalue);
+}
+
+RT_MERGED_BODY int dec_ExpirationTimeFactor(rtxContext* RT_RESTRICT ctx, ExpirationTimeFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "DynamicPersistenceLevelList");
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "DynamicPersistenceLevelList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DynamicPersistenceLevelList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 8);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelList");
-      }
-   }
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ExpirationTimeFactor");
    return 0;
 }
 
 int asn1PD_UMTS_ExpirationTimeFactor(rtxContext* RT_RESTRICT ctx, ExpirationTimeFactor* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ExpirationTimeFactor");
+   RT_DECODE_ENTRY(ctx, dec_ExpirationTimeFactor, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType7_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType7_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType7_nonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoType7(rtxContext* RT_RESTRICT ctx, SysInfoType7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType7(rtxContext* RT_RESTRICT ctx, SysInfoType7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType7");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType7");
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_SysInfoType7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = dec_SysInfoType7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType7");
    /* prach-Information-SIB5-List */
-   stat = asn1PD_UMTS_DynamicPersistenceLevelList(ctx, &pvalue->prach_Information_SIB5_List);
+   stat = dec_DynamicPersistenceLevelList(ctx, &pvalue->prach_Information_SIB5_List, cur);
    RT_CHECK(ctx, stat, 0, "prach-Information-SIB5-List", -1, "SysInfoType7");
    /* prach-Information-SIB6-List */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DynamicPersistenceLevelList(ctx, &pvalue->prach_Information_SIB6_List);
+      stat = dec_DynamicPersistenceLevelList(ctx, &pvalue->prach_Information_SIB6_List, cur);
       RT_CHECK(ctx, stat, 0, "prach-Information-SIB6-List", -1, "SysInfoType7");
    }
    /* expirationTimeFactor */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->expirationTimeFactor, 1, 8);
-      RT_CHECK(ctx, stat, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType7");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->expirationTimeFactor, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType7");
    }
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_SysInfoType7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType7(rtxContext* RT_RESTRICT ctx, SysInfoType7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType7, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, PLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* plmn-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_PLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, PLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* plmn-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PLMNsOfIntraFreqCellsList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, PLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PLMNsOfIntraFreqCellsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PLMNsOfIntraFreqCellsList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PLMNsOfIntraFreqCellsList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PLMNsOfIntraFreqCellsList");
+      elem = (PLMNsOfIntraFreqCellsList_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PLMNsOfIntraFreqCellsList_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PLMNsOfIntraFreqCellsList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfIntraFreqCellsList");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, PLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PLMNsOfIntraFreqCellsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PLMNsOfIntraFreqCellsList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PLMNsOfIntraFreqCellsList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PLMNsOfIntraFreqCellsList");
-      elem = (PLMNsOfIntraFreqCellsList_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PLMNsOfIntraFreqCellsList_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PLMNsOfIntraFreqCellsList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfIntraFreqCellsList");
+   RT_DECODE_ENTRY(ctx, dec_PLMNsOfIntraFreqCellsList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, PLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* plmn-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_PLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, PLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* plmn-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PLMNsOfInterFreqCellsList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, PLMNsOfInterFreqCellsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PLMNsOfInterFreqCellsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PLMNsOfInterFreqCellsList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PLMNsOfInterFreqCellsList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PLMNsOfInterFreqCellsList");
+      elem = (PLMNsOfInterFreqCellsList_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PLMNsOfInterFreqCellsList_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PLMNsOfInterFreqCellsList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfInterFreqCellsList");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, PLMNsOfInterFreqCellsList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PLMNsOfInterFreqCellsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PLMNsOfInterFreqCellsList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PLMNsOfInterFreqCellsList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PLMNsOfInterFreqCellsList");
-      elem = (PLMNsOfInterFreqCellsList_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PLMNsOfInterFreqCellsList_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PLMNsOfInterFreqCellsList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfInterFreqCellsList");
+   RT_DECODE_ENTRY(ctx, dec_PLMNsOfInterFreqCellsList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLMNsOfInterRATCellsList_element(rtxContext* RT_RESTRICT ctx, PLMNsOfInterRATCellsList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* plmn-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_PLMNsOfInterRATCellsList_element(rtxContext* RT_RESTRICT ctx, PLMNsOfInterRATCellsList_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* plmn-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PLMNsOfInterRATCellsList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLMNsOfInterRATCellsList(rtxContext* RT_RESTRICT ctx, PLMNsOfInterRATCellsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PLMNsOfInterRATCellsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PLMNsOfInterRATCellsList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PLMNsOfInterRATCellsList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PLMNsOfInterRATCellsList");
+      elem = (PLMNsOfInterRATCellsList_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PLMNsOfInterRATCellsList_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PLMNsOfInterRATCellsList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfInterRATCellsList");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PLMNsOfInterRATCellsList(rtxContext* RT_RESTRICT ctx, PLMNsOfInterRATCellsList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PLMNsOfInterRATCellsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PLMNsOfInterRATCellsList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PLMNsOfInterRATCellsList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PLMNsOfInterRATCellsList");
-      elem = (PLMNsOfInterRATCellsList_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PLMNsOfInterRATCellsList_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PLMNsOfInterRATCellsList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfInterRATCellsList");
+   RT_DECODE_ENTRY(ctx, dec_PLMNsOfInterRATCellsList, pvalue);
+}
+
+static int dec_PLMNIdentitiesOfNeighbourCells(rtxContext* RT_RESTRICT ctx, PLMNIdentitiesOfNeighbourCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells");
+   /* plmnsOfIntraFreqCellsList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PLMNsOfIntraFreqCellsList(ctx, &pvalue->plmnsOfIntraFreqCellsList, cur);
+      RT_CHECK(ctx, stat, 0, "plmnsOfIntraFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
+   }
+   /* plmnsOfInterFreqCellsList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PLMNsOfInterFreqCellsList(ctx, &pvalue->plmnsOfInterFreqCellsList, cur);
+      RT_CHECK(ctx, stat, 0, "plmnsOfInterFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
+   }
+   /* plmnsOfInterRATCellsList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_PLMNsOfInterRATCellsList(ctx, &pvalue->plmnsOfInterRATCellsList, cur);
+      RT_CHECK(ctx, stat, 0, "plmnsOfInterRATCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PLMNIdentitiesOfNeighbourCells(rtxContext* RT_RESTRICT ctx, PLMNIdentitiesOfNeighbourCells* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PLMNIdentitiesOfNeighbourCells, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType18_v6b0ext(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells");
-   /* plmnsOfIntraFreqCellsList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMNsOfIntraFreqCellsList(ctx, &pvalue->plmnsOfIntraFreqCellsList);
-      RT_CHECK(ctx, stat, 0, "plmnsOfIntraFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
-   }
-   /* plmnsOfInterFreqCellsList */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType18-v6b0ext");
+   /* idleModePLMNIdentitiesSIB11bis */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PLMNsOfInterFreqCellsList(ctx, &pvalue->plmnsOfInterFreqCellsList);
-      RT_CHECK(ctx, stat, 0, "plmnsOfInterFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
+      pvalue->m |= 0x1u;
+      stat = dec_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->idleModePLMNIdentitiesSIB11bis, cur);
+      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentitiesSIB11bis", -1, "SysInfoType18-v6b0ext");
    }
-   /* plmnsOfInterRATCellsList */
+   /* connectedModePLMNIdentitiesSIB11bis */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PLMNsOfInterRATCellsList(ctx, &pvalue->plmnsOfInterRATCellsList);
-      RT_CHECK(ctx, stat, 0, "plmnsOfInterRATCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
+      pvalue->m |= 0x2u;
+      stat = dec_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->connectedModePLMNIdentitiesSIB11bis, cur);
+      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentitiesSIB11bis", -1, "SysInfoType18-v6b0ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType18_v6b0ext(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType18-v6b0ext");
-   /* idleModePLMNIdentitiesSIB11bis */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->idleModePLMNIdentitiesSIB11bis);
-      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentitiesSIB11bis", -1, "SysInfoType18-v6b0ext");
-   }
-   /* connectedModePLMNIdentitiesSIB11bis */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->connectedModePLMNIdentitiesSIB11bis);
-      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentitiesSIB11bis", -1, "SysInfoType18-v6b0ext");
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType18_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PLMN_IdentityWithOptionalMCC_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PLMN_IdentityWithOptionalMCC_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
+      elem = (PLMN_IdentityWithOptionalMCC_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PLMN_IdentityWithOptionalMCC_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PLMN_IdentityWithOptionalMCC_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PLMN_IdentityWithOptionalMCC_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PLMN_IdentityWithOptionalMCC_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
-      elem = (PLMN_IdentityWithOptionalMCC_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PLMN_IdentityWithOptionalMCC_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PLMN_IdentityWithOptionalMCC_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
+   RT_DECODE_ENTRY(ctx, dec_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiplePLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* multiplePLMN-list */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(ctx, &pvalue->multiplePLMN_list, cur);
+      RT_CHECK(ctx, stat, 0, "multiplePLMN-list", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MultiplePLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* multiplePLMN-list */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(ctx, &pvalue->multiplePLMN_list);
-      RT_CHECK(ctx, stat, 0, "multiplePLMN-list", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_MultiplePLMNsOfIntraFreqCellsList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiplePLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MultiplePLMNsOfIntraFreqCellsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MultiplePLMNsOfIntraFreqCellsList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MultiplePLMNsOfIntraFreqCellsList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "MultiplePLMNsOfIntraFreqCellsList");
+      elem = (MultiplePLMNsOfIntraFreqCellsList_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MultiplePLMNsOfIntraFreqCellsList_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MultiplePLMNsOfIntraFreqCellsList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MultiplePLMNsOfIntraFreqCellsList");
    }
    return 0;
 }
 
 int asn1PD_UMTS_MultiplePLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MultiplePLMNsOfIntraFreqCellsList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiplePLMNsOfIntraFreqCellsList");
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      MultiplePLMNsOfIntraFreqCellsList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MultiplePLMNsOfIntraFreqCellsList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "MultiplePLMNsOfIntraFreqCellsList");
-      elem = (MultiplePLMNsOfIntraFreqCellsList_element*)(node + 1);
+      PLMN_IdentityWithOptionalMCC_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PLMN_IdentityWithOptionalMCC_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
+      elem = (PLMN_IdentityWithOptionalMCC_r6*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_MultiplePLMNsOfIntraFreqCellsList_element(elem);
+      asn1Init_UMTS_PLMN_IdentityWithOptionalMCC_r6(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MultiplePLMNsOfIntraFreqCellsList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MultiplePLMNsOfIntraFreqCellsList");
+      stat = dec_PLMN_IdentityWithOptionalMCC_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PLMN_IdentityWithOptionalMCC_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PLMN_IdentityWithOptionalMCC_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
-      elem = (PLMN_IdentityWithOptionalMCC_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PLMN_IdentityWithOptionalMCC_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PLMN_IdentityWithOptionalMCC_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
+   RT_DECODE_ENTRY(ctx, dec_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiplePLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* multiplePLMN-list */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(ctx, &pvalue->multiplePLMN_list, cur);
+      RT_CHECK(ctx, stat, 0, "multiplePLMN-list", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MultiplePLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* multiplePLMN-list */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(ctx, &pvalue->multiplePLMN_list);
-      RT_CHECK(ctx, stat, 0, "multiplePLMN-list", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_MultiplePLMNsOfInterFreqCellsList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiplePLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfInterFreqCellsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MultiplePLMNsOfInterFreqCellsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MultiplePLMNsOfInterFreqCellsList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MultiplePLMNsOfInterFreqCellsList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "MultiplePLMNsOfInterFreqCellsList");
+      elem = (MultiplePLMNsOfInterFreqCellsList_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MultiplePLMNsOfInterFreqCellsList_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MultiplePLMNsOfInterFreqCellsList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MultiplePLMNsOfInterFreqCellsList");
    }
    return 0;
 }
 
 int asn1PD_UMTS_MultiplePLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, MultiplePLMNsOfInterFreqCellsList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiplePLMNsOfInterFreqCellsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MultiplePLMNsOfInterFreqCellsList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MultiplePLMNsOfInterFreqCellsList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "MultiplePLMNsOfInterFreqCellsList");
-      elem = (MultiplePLMNsOfInterFreqCellsList_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MultiplePLMNsOfInterFreqCellsList_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MultiplePLMNsOfInterFreqCellsList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MultiplePLMNsOfInterFreqCellsList");
+   RT_DECODE_ENTRY(ctx, dec_MultiplePLMNsOfInterFreqCellsList, pvalue);
+}
+
+static int dec_PLMNIdentitiesOfNeighbourCells_v860ext(rtxContext* RT_RESTRICT ctx, PLMNIdentitiesOfNeighbourCells_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
+   /* multipleplmnsOfIntraFreqCellsList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MultiplePLMNsOfIntraFreqCellsList(ctx, &pvalue->multipleplmnsOfIntraFreqCellsList, cur);
+      RT_CHECK(ctx, stat, 0, "multipleplmnsOfIntraFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
+   }
+   /* multipleplmnsOfInterFreqCellsList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MultiplePLMNsOfInterFreqCellsList(ctx, &pvalue->multipleplmnsOfInterFreqCellsList, cur);
+      RT_CHECK(ctx, stat, 0, "multipleplmnsOfInterFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PLMNIdentitiesOfNeighbourCells_v860ext(rtxContext* RT_RESTRICT ctx, PLMNIdentitiesOfNeighbourCells_v860ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PLMNIdentitiesOfNeighbourCells_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType18_v860ext(rtxContext* RT_RESTRICT ctx, SysInfoType18_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
-   /* multipleplmnsOfIntraFreqCellsList */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType18-v860ext");
+   /* idleModePLMNIdentities */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MultiplePLMNsOfIntraFreqCellsList(ctx, &pvalue->multipleplmnsOfIntraFreqCellsList);
-      RT_CHECK(ctx, stat, 0, "multipleplmnsOfIntraFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
+      stat = dec_PLMNIdentitiesOfNeighbourCells_v860ext(ctx, &pvalue->idleModePLMNIdentities, cur);
+      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentities", -1, "SysInfoType18-v860ext");
    }
-   /* multipleplmnsOfInterFreqCellsList */
+   /* connectedModePLMNIdentities */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MultiplePLMNsOfInterFreqCellsList(ctx, &pvalue->multipleplmnsOfInterFreqCellsList);
-      RT_CHECK(ctx, stat, 0, "multipleplmnsOfInterFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
+      stat = dec_PLMNIdentitiesOfNeighbourCells_v860ext(ctx, &pvalue->connectedModePLMNIdentities, cur);
+      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentities", -1, "SysInfoType18-v860ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType18_v860ext(rtxContext* RT_RESTRICT ctx, SysInfoType18_v860ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType18_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType18-v860ext");
-   /* idleModePLMNIdentities */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMNIdentitiesOfNeighbourCells_v860ext(ctx, &pvalue->idleModePLMNIdentities);
-      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentities", -1, "SysInfoType18-v860ext");
-   }
-   /* connectedModePLMNIdentities */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PLMNIdentitiesOfNeighbourCells_v860ext(ctx, &pvalue->connectedModePLMNIdentities);
-      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentities", -1, "SysInfoType18-v860ext");
-   }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* sysInfoType18-v860ext */
-   stat = asn1PD_UMTS_SysInfoType18_v860ext(ctx, &pvalue->sysInfoType18_v860ext);
+   stat = dec_SysInfoType18_v860ext(ctx, &pvalue->sysInfoType18_v860ext, cur);
    RT_CHECK(ctx, stat, 0, "sysInfoType18-v860ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType18_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType18-v6b0ext */
+   stat = dec_SysInfoType18_v6b0ext(ctx, &pvalue->sysInfoType18_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType18-v6b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType18_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType18_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType18_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType18(rtxContext* RT_RESTRICT ctx, SysInfoType18* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType18-v6b0ext */
-   stat = asn1PD_UMTS_SysInfoType18_v6b0ext(ctx, &pvalue->sysInfoType18_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType18-v6b0ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType18");
+   /* idleModePLMNIdentities */
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+      stat = dec_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->idleModePLMNIdentities, cur);
+      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentities", -1, "SysInfoType18");
+   }
+   /* connectedModePLMNIdentities */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->connectedModePLMNIdentities, cur);
+      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentities", -1, "SysInfoType18");
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_SysInfoType18_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoType18");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType18(rtxContext* RT_RESTRICT ctx, SysInfoType18* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType18");
-   /* idleModePLMNIdentities */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->idleModePLMNIdentities);
-      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentities", -1, "SysInfoType18");
-   }
-   /* connectedModePLMNIdentities */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->connectedModePLMNIdentities);
-      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentities", -1, "SysInfoType18");
-   }
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType18_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoType18");
-   }
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType18, pvalue);
+}
+
+RT_MERGED_BODY int dec_PICH_PowerOffset(rtxContext* RT_RESTRICT ctx, PICH_PowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -10, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PICH-PowerOffset");
    return 0;
 }
 
 int asn1PD_UMTS_PICH_PowerOffset(rtxContext* RT_RESTRICT ctx, PICH_PowerOffset* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PICH_PowerOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_AICH_PowerOffset(rtxContext* RT_RESTRICT ctx, AICH_PowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -10, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-PowerOffset");
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -22, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AICH-PowerOffset");
    return 0;
 }
 
 int asn1PD_UMTS_AICH_PowerOffset(rtxContext* RT_RESTRICT ctx, AICH_PowerOffset* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -22, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AICH-PowerOffset");
+   RT_DECODE_ENTRY(ctx, dec_AICH_PowerOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* aich-PowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->aich_PowerOffset, -22, 5);
+   RT_CHECK_AT(ctx, cur, stat, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* aich-PowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->aich_PowerOffset, -22, 5);
-   RT_CHECK(ctx, stat, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_Identity(rtxContext* RT_RESTRICT ctx, PUSCH_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-Identity");
    return 0;
 }
 
 int asn1PD_UMTS_PUSCH_Identity(rtxContext* RT_RESTRICT ctx, PUSCH_Identity* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_IdentityPlain(rtxContext* RT_RESTRICT ctx, TFCS_IdentityPlain* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Identity");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TFCS-IdentityPlain");
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_IdentityPlain(rtxContext* RT_RESTRICT ctx, TFCS_IdentityPlain* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TFCS_IdentityPlain, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondInterleavingMode(rtxContext* RT_RESTRICT ctx, SecondInterleavingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFCS-IdentityPlain");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SecondInterleavingMode");
    return 0;
 }
 
 int asn1PD_UMTS_SecondInterleavingMode(rtxContext* RT_RESTRICT ctx, SecondInterleavingMode* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SecondInterleavingMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCI_Coding(rtxContext* RT_RESTRICT ctx, TFCI_Coding* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondInterleavingMode");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TFCI-Coding");
    return 0;
 }
 
 int asn1PD_UMTS_TFCI_Coding(rtxContext* RT_RESTRICT ctx, TFCI_Coding* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TFCI_Coding, pvalue);
+}
+
+RT_MERGED_BODY int dec_PuncturingLimit(rtxContext* RT_RESTRICT ctx, PuncturingLimit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFCI-Coding");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PuncturingLimit");
    return 0;
 }
 
 int asn1PD_UMTS_PuncturingLimit(rtxContext* RT_RESTRICT ctx, PuncturingLimit* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PuncturingLimit");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PuncturingLimit, pvalue);
 }
 
-int asn1PD_UMTS_RepetitionPeriodAndLength(rtxContext* RT_RESTRICT ctx, RepetitionPeriodAndLength* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_RepetitionPeriodAndLength(rtxContext* RT_RESTRICT ctx, RepetitionPeriodAndLength* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RepetitionPeriodAndLength");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RepetitionPeriodAndLength");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* repetitionPeriod1 */
          break;
       case 1: /* repetitionPeriod2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.repetitionPeriod2, 1, 1);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLength");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.repetitionPeriod2, 1, 1);
+         RT_CHECK_AT(ctx, cur, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLength");
          break;
       case 2: /* repetitionPeriod4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.repetitionPeriod4, 1, 3);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLength");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.repetitionPeriod4, 1, 3);
+         RT_CHECK_AT(ctx, cur, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLength");
          break;
       case 3: /* repetitionPeriod8 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.repetitionPeriod8, 1, 7);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLength");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.repetitionPeriod8, 1, 7);
+         RT_CHECK_AT(ctx, cur, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLength");
          break;
       case 4: /* repetitionPeriod16 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.repetitionPeriod16, 1, 15);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLength");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.repetitionPeriod16, 1, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLength");
          break;
       case 5: /* repetitionPeriod32 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.repetitionPeriod32, 1, 31);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLength");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.repetitionPeriod32, 1, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLength");
          break;
       case 6: /* repetitionPeriod64 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.repetitionPeriod64, 1, 63);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod64", -1, "RepetitionPeriodAndLength");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.repetitionPeriod64, 1, 63);
+         RT_CHECK_AT(ctx, cur, stat, 0, "repetitionPeriod64", -1, "RepetitionPeriodAndLength");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodAndLength");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodAndLength");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RepetitionPeriodAndLength(rtxContext* RT_RESTRICT ctx, RepetitionPeriodAndLength* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RepetitionPeriodAndLength, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonTimeslotInfo(rtxContext* RT_RESTRICT ctx, CommonTimeslotInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CommonTimeslotInfo");
+   /* secondInterleavingMode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->secondInterleavingMode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfo");
+   /* tfci-Coding */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tfci_Coding, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfo");
+   }
+   /* puncturingLimit */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfo");
+   /* repetitionPeriodAndLength */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, "CommonTimeslotInfo");
    }
    return 0;
 }
 
 int asn1PD_UMTS_CommonTimeslotInfo(rtxContext* RT_RESTRICT ctx, CommonTimeslotInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CommonTimeslotInfo");
-   /* secondInterleavingMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->secondInterleavingMode, 0, 1);
-   RT_CHECK(ctx, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfo");
-   /* tfci-Coding */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tfci_Coding, 0, 3);
-      RT_CHECK(ctx, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfo");
-   }
-   /* puncturingLimit */
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfo");
-   /* repetitionPeriodAndLength */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, "CommonTimeslotInfo");
-   }
+   RT_DECODE_ENTRY(ctx, dec_CommonTimeslotInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotNumber(rtxContext* RT_RESTRICT ctx, TimeslotNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeslotNumber");
    return 0;
 }
 
 int asn1PD_UMTS_TimeslotNumber(rtxContext* RT_RESTRICT ctx, TimeslotNumber* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TimeslotNumber, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleConfigurationBurstType1and3(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1and3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotNumber");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MidambleConfigurationBurstType1and3");
    return 0;
 }
 
 int asn1PD_UMTS_MidambleConfigurationBurstType1and3(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1and3* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MidambleConfigurationBurstType1and3, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftLong(rtxContext* RT_RESTRICT ctx, MidambleShiftLong* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType1and3");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MidambleShiftLong");
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftLong(rtxContext* RT_RESTRICT ctx, MidambleShiftLong* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleShiftLong");
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftLong, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* defaultMidamble */
@@ -5012,59 +6792,84 @@ int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode
          break;
       case 2: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType1and3 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type1* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleConfigurationBurstType1and3 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_burstType_type1, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleConfigurationBurstType2(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MidambleConfigurationBurstType2");
    return 0;
 }
 
 int asn1PD_UMTS_MidambleConfigurationBurstType2(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MidambleConfigurationBurstType2, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftShort(rtxContext* RT_RESTRICT ctx, MidambleShiftShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType2");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MidambleShiftShort");
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftShort(rtxContext* RT_RESTRICT ctx, MidambleShiftShort* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleShiftShort");
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftShort, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftShort", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* defaultMidamble */
@@ -5073,333 +6878,428 @@ int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode
          break;
       case 2: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType2 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type2* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_burstType_type2, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* midambleConfigurationBurstType2 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* defaultMidamble */
          break;
       case 1: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType_type3(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType1and3 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type3(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType_type3* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleConfigurationBurstType1and3 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_burstType_type3, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* type1 */
+         pvalue->u.type1 = (MidambleShiftAndBurstType_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_burstType_type1));
+         if (pvalue->u.type1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_burstType_type1(pvalue->u.type1);
+         stat = dec_MidambleShiftAndBurstType_burstType_type1(ctx, pvalue->u.type1, cur);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 1: /* type2 */
+         pvalue->u.type2 = (MidambleShiftAndBurstType_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_burstType_type2));
+         if (pvalue->u.type2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type2", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_burstType_type2(pvalue->u.type2);
+         stat = dec_MidambleShiftAndBurstType_burstType_type2(ctx, pvalue->u.type2, cur);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      case 2: /* type3 */
+         pvalue->u.type3 = (MidambleShiftAndBurstType_burstType_type3*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_burstType_type3));
+         if (pvalue->u.type3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type3", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_burstType_type3(pvalue->u.type3);
+         stat = dec_MidambleShiftAndBurstType_burstType_type3(ctx, pvalue->u.type3, cur);
+         RT_CHECK(ctx, stat, 0, "type3", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_burstType* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* type1 */
-         pvalue->u.type1 = (MidambleShiftAndBurstType_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_burstType_type1));
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
-         asn1Init_UMTS_MidambleShiftAndBurstType_burstType_type1(pvalue->u.type1);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
-         break;
-      case 1: /* type2 */
-         pvalue->u.type2 = (MidambleShiftAndBurstType_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_burstType_type2));
-         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type2", -1, 0);
-         asn1Init_UMTS_MidambleShiftAndBurstType_burstType_type2(pvalue->u.type2);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
-         break;
-      case 2: /* type3 */
-         pvalue->u.type3 = (MidambleShiftAndBurstType_burstType_type3*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_burstType_type3));
-         if (pvalue->u.type3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type3", -1, 0);
-         asn1Init_UMTS_MidambleShiftAndBurstType_burstType_type3(pvalue->u.type3);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_burstType_type3(ctx, pvalue->u.type3);
-         RT_CHECK(ctx, stat, 0, "type3", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_burstType, pvalue);
+}
+
+static int dec_MidambleShiftAndBurstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* burstType */
+   stat = dec_MidambleShiftAndBurstType_burstType(ctx, &pvalue->burstType, cur);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType");
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualTimeslotInfo(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* burstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType");
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo");
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo");
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo");
    return 0;
 }
 
 int asn1PD_UMTS_IndividualTimeslotInfo(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo");
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo");
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo");
+   RT_DECODE_ENTRY(ctx, dec_IndividualTimeslotInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 30);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TS-ChannelisationCode");
    return 0;
 }
 
 int asn1PD_UMTS_UL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_UL_TS_ChannelisationCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TS_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 30);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCode");
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 1, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList");
+      pvalue->n = n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "UL-TS-ChannelisationCodeList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UL-TS-ChannelisationCodeList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 30);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "UL-TS-ChannelisationCode", "UL-TS-ChannelisationCode", (int32_t)i, "UL-TS-ChannelisationCodeList");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_UL_TS_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList");
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddStrParm(ctx, "UL-TS-ChannelisationCodeList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-TS-ChannelisationCodeList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 30);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "UL-TS-ChannelisationCode", "UL-TS-ChannelisationCode", (int32_t)i, "UL-TS-ChannelisationCodeList");
-      }
-   }
+   RT_DECODE_ENTRY(ctx, dec_UL_TS_ChannelisationCodeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* numAdditionalTimeslots */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->numAdditionalTimeslots, 1, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numAdditionalTimeslots", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* numAdditionalTimeslots */
-   stat = pd_ConsUInt8(ctx, &pvalue->numAdditionalTimeslots, 1, 13);
-   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_UplinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* ul-TS-ChannelisationCodeList */
+   stat = dec_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_UplinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_parameters_newParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsLast */
+         pvalue->u.sameAsLast = (UplinkAdditionalTimeslots_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(UplinkAdditionalTimeslots_parameters_sameAsLast));
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
+         stat = dec_UplinkAdditionalTimeslots_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
+         break;
+      case 1: /* newParameters */
+         pvalue->u.newParameters = (UplinkAdditionalTimeslots_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(UplinkAdditionalTimeslots_parameters_newParameters));
+         if (pvalue->u.newParameters == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
+         asn1Init_UMTS_UplinkAdditionalTimeslots_parameters_newParameters(pvalue->u.newParameters);
+         stat = dec_UplinkAdditionalTimeslots_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_UplinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sameAsLast */
-         pvalue->u.sameAsLast = (UplinkAdditionalTimeslots_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(UplinkAdditionalTimeslots_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
-         stat = asn1PD_UMTS_UplinkAdditionalTimeslots_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
-         break;
-      case 1: /* newParameters */
-         pvalue->u.newParameters = (UplinkAdditionalTimeslots_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(UplinkAdditionalTimeslots_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
-         asn1Init_UMTS_UplinkAdditionalTimeslots_parameters_newParameters(pvalue->u.newParameters);
-         stat = asn1PD_UMTS_UplinkAdditionalTimeslots_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* parameters */
+   stat = dec_UplinkAdditionalTimeslots_parameters(ctx, &pvalue->parameters, cur);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots");
    return 0;
 }
 
 int asn1PD_UMTS_UplinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* parameters */
-   stat = asn1PD_UMTS_UplinkAdditionalTimeslots_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots, pvalue);
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 13);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       UplinkAdditionalTimeslots* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UplinkAdditionalTimeslots));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UplinkAdditionalTimeslots", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UplinkAdditionalTimeslots", (int32_t)i, 0);
       elem = (UplinkAdditionalTimeslots*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_UplinkAdditionalTimeslots(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UplinkAdditionalTimeslots(ctx, elem);
+      stat = dec_UplinkAdditionalTimeslots(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* consecutive */
+         pvalue->u.consecutive = (UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive));
+         if (pvalue->u.consecutive == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
+         stat = dec_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive, cur);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 1: /* timeslotList */
+         pvalue->u.timeslotList = (UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList));
+         if (pvalue->u.timeslotList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
+         asn1Init_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
+         stat = dec_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* consecutive */
-         pvalue->u.consecutive = (UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive));
-         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
-         stat = asn1PD_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 1: /* timeslotList */
-         pvalue->u.timeslotList = (UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
-         asn1Init_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
-         stat = asn1PD_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots, pvalue);
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* noMore */
          break;
       case 1: /* additionalTimeslots */
          pvalue->u.additionalTimeslots = (UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
          asn1Init_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
-         stat = asn1PD_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
+         stat = dec_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
          RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_moreTimeslots, pvalue);
+}
+
+static int dec_UplinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dynamicSFusage */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dynamicSFusage);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes");
+   /* firstIndividualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes");
+   /* ul-TS-ChannelisationCodeList */
+   stat = dec_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes");
+   /* moreTimeslots */
+   stat = dec_UplinkTimeslotsCodes_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes");
    return 0;
 }
 
 int asn1PD_UMTS_UplinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* dynamicSFusage */
-   stat = rtxDecBitInline(ctx, &pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes");
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes");
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes");
-   /* moreTimeslots */
-   stat = asn1PD_UMTS_UplinkTimeslotsCodes_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes, pvalue);
 }
 
-int asn1PD_UMTS_PUSCH_Info(rtxContext* RT_RESTRICT ctx, PUSCH_Info* RT_RESTRICT pvalue)
+static int dec_PUSCH_Info(rtxContext* RT_RESTRICT ctx, PUSCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-Info");
    /* tfcs-ID */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info");
    }
    else {
       pvalue->tfcs_ID = 1;
@@ -5407,223 +7307,268 @@ int asn1PD_UMTS_PUSCH_Info(rtxContext* RT_RESTRICT ctx, PUSCH_Info* RT_RESTRICT 
    /* commonTimeslotInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
       RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info");
    }
    /* pusch-TimeslotsCodes */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->pusch_TimeslotsCodes);
+      stat = dec_UplinkTimeslotsCodes(ctx, &pvalue->pusch_TimeslotsCodes, cur);
       RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, "PUSCH-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_Info(rtxContext* RT_RESTRICT ctx, PUSCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_BitModeRLC_SizeInfo_sizeType2(rtxContext* RT_RESTRICT ctx, BitModeRLC_SizeInfo_sizeType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* part1 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->part1, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "part1", -1, 0);
+   /* part2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->part2, 1, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_BitModeRLC_SizeInfo_sizeType2(rtxContext* RT_RESTRICT ctx, BitModeRLC_SizeInfo_sizeType2* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_BitModeRLC_SizeInfo_sizeType2, pvalue);
+}
+
+RT_MERGED_BODY int dec_BitModeRLC_SizeInfo_sizeType3(rtxContext* RT_RESTRICT ctx, BitModeRLC_SizeInfo_sizeType3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* part1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->part1, 0, 15);
-   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->part1, 0, 47);
+   RT_CHECK_AT(ctx, cur, stat, 0, "part1", -1, 0);
    /* part2 */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->part2, 1, 7);
-      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->part2, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_BitModeRLC_SizeInfo_sizeType3(rtxContext* RT_RESTRICT ctx, BitModeRLC_SizeInfo_sizeType3* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_BitModeRLC_SizeInfo_sizeType3, pvalue);
+}
+
+RT_MERGED_BODY int dec_BitModeRLC_SizeInfo_sizeType4(rtxContext* RT_RESTRICT ctx, BitModeRLC_SizeInfo_sizeType4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* part1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->part1, 0, 47);
-   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->part1, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, 0, "part1", -1, 0);
    /* part2 */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->part2, 1, 15);
-      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->part2, 1, 63);
+      RT_CHECK_AT(ctx, cur, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_BitModeRLC_SizeInfo_sizeType4(rtxContext* RT_RESTRICT ctx, BitModeRLC_SizeInfo_sizeType4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* part1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->part1, 0, 62);
-   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
-   /* part2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->part2, 1, 63);
-      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_BitModeRLC_SizeInfo_sizeType4, pvalue);
+}
+
+static int dec_BitModeRLC_SizeInfo(rtxContext* RT_RESTRICT ctx, BitModeRLC_SizeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BitModeRLC-SizeInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sizeType1 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sizeType1, 0, 127);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sizeType1", -1, "BitModeRLC-SizeInfo");
+         break;
+      case 1: /* sizeType2 */
+         pvalue->u.sizeType2 = (BitModeRLC_SizeInfo_sizeType2*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo_sizeType2));
+         if (pvalue->u.sizeType2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sizeType2", -1, "BitModeRLC-SizeInfo");
+         asn1Init_UMTS_BitModeRLC_SizeInfo_sizeType2(pvalue->u.sizeType2);
+         stat = dec_BitModeRLC_SizeInfo_sizeType2(ctx, pvalue->u.sizeType2, cur);
+         RT_CHECK(ctx, stat, 0, "sizeType2", -1, "BitModeRLC-SizeInfo");
+         break;
+      case 2: /* sizeType3 */
+         pvalue->u.sizeType3 = (BitModeRLC_SizeInfo_sizeType3*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo_sizeType3));
+         if (pvalue->u.sizeType3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sizeType3", -1, "BitModeRLC-SizeInfo");
+         asn1Init_UMTS_BitModeRLC_SizeInfo_sizeType3(pvalue->u.sizeType3);
+         stat = dec_BitModeRLC_SizeInfo_sizeType3(ctx, pvalue->u.sizeType3, cur);
+         RT_CHECK(ctx, stat, 0, "sizeType3", -1, "BitModeRLC-SizeInfo");
+         break;
+      case 3: /* sizeType4 */
+         pvalue->u.sizeType4 = (BitModeRLC_SizeInfo_sizeType4*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo_sizeType4));
+         if (pvalue->u.sizeType4 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sizeType4", -1, "BitModeRLC-SizeInfo");
+         asn1Init_UMTS_BitModeRLC_SizeInfo_sizeType4(pvalue->u.sizeType4);
+         stat = dec_BitModeRLC_SizeInfo_sizeType4(ctx, pvalue->u.sizeType4, cur);
+         RT_CHECK(ctx, stat, 0, "sizeType4", -1, "BitModeRLC-SizeInfo");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "BitModeRLC-SizeInfo");
    }
    return 0;
 }
 
 int asn1PD_UMTS_BitModeRLC_SizeInfo(rtxContext* RT_RESTRICT ctx, BitModeRLC_SizeInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BitModeRLC-SizeInfo");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sizeType1 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sizeType1, 0, 127);
-         RT_CHECK(ctx, stat, 0, "sizeType1", -1, "BitModeRLC-SizeInfo");
-         break;
-      case 1: /* sizeType2 */
-         pvalue->u.sizeType2 = (BitModeRLC_SizeInfo_sizeType2*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo_sizeType2));
-         if (pvalue->u.sizeType2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sizeType2", -1, "BitModeRLC-SizeInfo");
-         asn1Init_UMTS_BitModeRLC_SizeInfo_sizeType2(pvalue->u.sizeType2);
-         stat = asn1PD_UMTS_BitModeRLC_SizeInfo_sizeType2(ctx, pvalue->u.sizeType2);
-         RT_CHECK(ctx, stat, 0, "sizeType2", -1, "BitModeRLC-SizeInfo");
-         break;
-      case 2: /* sizeType3 */
-         pvalue->u.sizeType3 = (BitModeRLC_SizeInfo_sizeType3*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo_sizeType3));
-         if (pvalue->u.sizeType3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sizeType3", -1, "BitModeRLC-SizeInfo");
-         asn1Init_UMTS_BitModeRLC_SizeInfo_sizeType3(pvalue->u.sizeType3);
-         stat = asn1PD_UMTS_BitModeRLC_SizeInfo_sizeType3(ctx, pvalue->u.sizeType3);
-         RT_CHECK(ctx, stat, 0, "sizeType3", -1, "BitModeRLC-SizeInfo");
-         break;
-      case 3: /* sizeType4 */
-         pvalue->u.sizeType4 = (BitModeRLC_SizeInfo_sizeType4*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo_sizeType4));
-         if (pvalue->u.sizeType4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sizeType4", -1, "BitModeRLC-SizeInfo");
-         asn1Init_UMTS_BitModeRLC_SizeInfo_sizeType4(pvalue->u.sizeType4);
-         stat = asn1PD_UMTS_BitModeRLC_SizeInfo_sizeType4(ctx, pvalue->u.sizeType4);
-         RT_CHECK(ctx, stat, 0, "sizeType4", -1, "BitModeRLC-SizeInfo");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "BitModeRLC-SizeInfo");
+   RT_DECODE_ENTRY(ctx, dec_BitModeRLC_SizeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_OctetModeRLC_SizeInfoType1_sizeType2(rtxContext* RT_RESTRICT ctx, OctetModeRLC_SizeInfoType1_sizeType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* part1 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->part1, 0, 23);
+   RT_CHECK_AT(ctx, cur, stat, 0, "part1", -1, 0);
+   /* part2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->part2, 1, 3);
+      RT_CHECK_AT(ctx, cur, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_OctetModeRLC_SizeInfoType1_sizeType2(rtxContext* RT_RESTRICT ctx, OctetModeRLC_SizeInfoType1_sizeType2* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_OctetModeRLC_SizeInfoType1_sizeType2, pvalue);
+}
+
+RT_MERGED_BODY int dec_OctetModeRLC_SizeInfoType1_sizeType3(rtxContext* RT_RESTRICT ctx, OctetModeRLC_SizeInfoType1_sizeType3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* part1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->part1, 0, 23);
-   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->part1, 0, 61);
+   RT_CHECK_AT(ctx, cur, stat, 0, "part1", -1, 0);
    /* part2 */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->part2, 1, 3);
-      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->part2, 1, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_OctetModeRLC_SizeInfoType1_sizeType3(rtxContext* RT_RESTRICT ctx, OctetModeRLC_SizeInfoType1_sizeType3* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* part1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->part1, 0, 61);
-   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
-   /* part2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->part2, 1, 7);
-      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_OctetModeRLC_SizeInfoType1_sizeType3, pvalue);
+}
+
+static int dec_OctetModeRLC_SizeInfoType1(rtxContext* RT_RESTRICT ctx, OctetModeRLC_SizeInfoType1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "OctetModeRLC-SizeInfoType1");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sizeType1 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sizeType1, 0, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType1");
+         break;
+      case 1: /* sizeType2 */
+         pvalue->u.sizeType2 = (OctetModeRLC_SizeInfoType1_sizeType2*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1_sizeType2));
+         if (pvalue->u.sizeType2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType1");
+         asn1Init_UMTS_OctetModeRLC_SizeInfoType1_sizeType2(pvalue->u.sizeType2);
+         stat = dec_OctetModeRLC_SizeInfoType1_sizeType2(ctx, pvalue->u.sizeType2, cur);
+         RT_CHECK(ctx, stat, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType1");
+         break;
+      case 2: /* sizeType3 */
+         pvalue->u.sizeType3 = (OctetModeRLC_SizeInfoType1_sizeType3*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1_sizeType3));
+         if (pvalue->u.sizeType3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType1");
+         asn1Init_UMTS_OctetModeRLC_SizeInfoType1_sizeType3(pvalue->u.sizeType3);
+         stat = dec_OctetModeRLC_SizeInfoType1_sizeType3(ctx, pvalue->u.sizeType3, cur);
+         RT_CHECK(ctx, stat, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType1");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "OctetModeRLC-SizeInfoType1");
    }
    return 0;
 }
 
 int asn1PD_UMTS_OctetModeRLC_SizeInfoType1(rtxContext* RT_RESTRICT ctx, OctetModeRLC_SizeInfoType1* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_OctetModeRLC_SizeInfoType1, pvalue);
+}
+
+RT_MERGED_BODY int dec_DedicatedDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "OctetModeRLC-SizeInfoType1");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* sizeType1 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sizeType1, 0, 31);
-         RT_CHECK(ctx, stat, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType1");
+      case 0: /* bitMode */
+         pvalue->u.bitMode = (BitModeRLC_SizeInfo*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo));
+         if (pvalue->u.bitMode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "bitMode", -1, 0);
+         asn1Init_UMTS_BitModeRLC_SizeInfo(pvalue->u.bitMode);
+         stat = dec_BitModeRLC_SizeInfo(ctx, pvalue->u.bitMode, cur);
+         RT_CHECK(ctx, stat, 0, "bitMode", -1, 0);
          break;
-      case 1: /* sizeType2 */
-         pvalue->u.sizeType2 = (OctetModeRLC_SizeInfoType1_sizeType2*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1_sizeType2));
-         if (pvalue->u.sizeType2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType1");
-         asn1Init_UMTS_OctetModeRLC_SizeInfoType1_sizeType2(pvalue->u.sizeType2);
-         stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1_sizeType2(ctx, pvalue->u.sizeType2);
-         RT_CHECK(ctx, stat, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType1");
-         break;
-      case 2: /* sizeType3 */
-         pvalue->u.sizeType3 = (OctetModeRLC_SizeInfoType1_sizeType3*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1_sizeType3));
-         if (pvalue->u.sizeType3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType1");
-         asn1Init_UMTS_OctetModeRLC_SizeInfoType1_sizeType3(pvalue->u.sizeType3);
-         stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1_sizeType3(ctx, pvalue->u.sizeType3);
-         RT_CHECK(ctx, stat, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType1");
+      case 1: /* octetModeType1 */
+         pvalue->u.octetModeType1 = (OctetModeRLC_SizeInfoType1*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1));
+         if (pvalue->u.octetModeType1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "octetModeType1", -1, 0);
+         asn1Init_UMTS_OctetModeRLC_SizeInfoType1(pvalue->u.octetModeType1);
+         stat = dec_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeType1, cur);
+         RT_CHECK(ctx, stat, 0, "octetModeType1", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "OctetModeRLC-SizeInfoType1");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_DedicatedDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* bitMode */
-         pvalue->u.bitMode = (BitModeRLC_SizeInfo*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo));
-         if (pvalue->u.bitMode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "bitMode", -1, 0);
-         asn1Init_UMTS_BitModeRLC_SizeInfo(pvalue->u.bitMode);
-         stat = asn1PD_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitMode);
-         RT_CHECK(ctx, stat, 0, "bitMode", -1, 0);
-         break;
-      case 1: /* octetModeType1 */
-         pvalue->u.octetModeType1 = (OctetModeRLC_SizeInfoType1*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1));
-         if (pvalue->u.octetModeType1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "octetModeType1", -1, 0);
-         asn1Init_UMTS_OctetModeRLC_SizeInfoType1(pvalue->u.octetModeType1);
-         stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeType1);
-         RT_CHECK(ctx, stat, 0, "octetModeType1", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DedicatedDynamicTF_Info_rlc_Size, pvalue);
 }
 
-int asn1PD_UMTS_NumberOfTransportBlocks(rtxContext* RT_RESTRICT ctx, NumberOfTransportBlocks* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_NumberOfTransportBlocks(rtxContext* RT_RESTRICT ctx, NumberOfTransportBlocks* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NumberOfTransportBlocks");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NumberOfTransportBlocks");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* zero */
@@ -5631,99 +7576,124 @@ int asn1PD_UMTS_NumberOfTransportBlocks(rtxContext* RT_RESTRICT ctx, NumberOfTra
       case 1: /* one */
          break;
       case 2: /* small */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.small, 2, 17);
-         RT_CHECK(ctx, stat, 0, "small", -1, "NumberOfTransportBlocks");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.small, 2, 17);
+         RT_CHECK_AT(ctx, cur, stat, 0, "small", -1, "NumberOfTransportBlocks");
          break;
       case 3: /* large */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.large, 18, 512);
-         RT_CHECK(ctx, stat, 0, "large", -1, "NumberOfTransportBlocks");
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.large, 18, 512);
+         RT_CHECK_AT(ctx, cur, stat, 0, "large", -1, "NumberOfTransportBlocks");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "NumberOfTransportBlocks");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "NumberOfTransportBlocks");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NumberOfTransportBlocks(rtxContext* RT_RESTRICT ctx, NumberOfTransportBlocks* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NumberOfTransportBlocks, pvalue);
+}
+
+RT_MERGED_BODY int dec_DedicatedDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NumberOfTransportBlocks* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NumberOfTransportBlocks));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
+      elem = (NumberOfTransportBlocks*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NumberOfTransportBlocks(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NumberOfTransportBlocks(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_DedicatedDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_DedicatedDynamicTF_Info_numberOfTbSizeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_Identity(rtxContext* RT_RESTRICT ctx, RB_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NumberOfTransportBlocks* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NumberOfTransportBlocks));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
-      elem = (NumberOfTransportBlocks*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NumberOfTransportBlocks(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NumberOfTransportBlocks(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
-   }
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-Identity");
    return 0;
 }
 
 int asn1PD_UMTS_RB_Identity(rtxContext* RT_RESTRICT ctx, RB_Identity* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-Identity");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_RB_Identity, pvalue);
 }
 
-int asn1PD_UMTS_LogicalChannelByRB(rtxContext* RT_RESTRICT ctx, LogicalChannelByRB* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_LogicalChannelByRB(rtxContext* RT_RESTRICT ctx, LogicalChannelByRB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "LogicalChannelByRB");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "LogicalChannelByRB");
    /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "LogicalChannelByRB");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "LogicalChannelByRB");
    /* logChOfRb */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->logChOfRb, 0, 1);
-      RT_CHECK(ctx, stat, 0, "logChOfRb", -1, "LogicalChannelByRB");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->logChOfRb, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, 0, "logChOfRb", -1, "LogicalChannelByRB");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_LogicalChannelByRB(rtxContext* RT_RESTRICT ctx, LogicalChannelByRB* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_LogicalChannelByRB, pvalue);
+}
+
+RT_MERGED_BODY int dec_LogicalChannelList_explicitList(rtxContext* RT_RESTRICT ctx, LogicalChannelList_explicitList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 15);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      LogicalChannelByRB* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(LogicalChannelByRB));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "LogicalChannelByRB", (int32_t)i, 0);
+      elem = (LogicalChannelByRB*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_LogicalChannelByRB(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_LogicalChannelByRB(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "LogicalChannelByRB", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_LogicalChannelList_explicitList(rtxContext* RT_RESTRICT ctx, LogicalChannelList_explicitList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 15);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      LogicalChannelByRB* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(LogicalChannelByRB));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "LogicalChannelByRB", (int32_t)i, 0);
-      elem = (LogicalChannelByRB*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_LogicalChannelByRB(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_LogicalChannelByRB(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "LogicalChannelByRB", (int32_t)i, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_LogicalChannelList_explicitList, pvalue);
 }
 
-int asn1PD_UMTS_LogicalChannelList(rtxContext* RT_RESTRICT ctx, LogicalChannelList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_LogicalChannelList(rtxContext* RT_RESTRICT ctx, LogicalChannelList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "LogicalChannelList");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "LogicalChannelList");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* allSizes */
@@ -5732,3284 +7702,1715 @@ int asn1PD_UMTS_LogicalChannelList(rtxContext* RT_RESTRICT ctx, LogicalChannelLi
          break;
       case 2: /* explicitList */
          pvalue->u.explicitList = (LogicalChannelList_explicitList*)rtxMemHeapAlloc(ctx, sizeof(LogicalChannelList_explicitList));
-         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicitList", -1, "LogicalChannelList");
+         if (pvalue->u.explicitList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicitList", -1, "LogicalChannelList");
          asn1Init_UMTS_LogicalChannelList_explicitList(pvalue->u.explicitList);
-         stat = asn1PD_UMTS_LogicalChannelList_explicitList(ctx, pvalue->u.explicitList);
+         stat = dec_LogicalChannelList_explicitList(ctx, pvalue->u.explicitList, cur);
          RT_CHECK(ctx, stat, 0, "explicitList", -1, "LogicalChannelList");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "LogicalChannelList");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "LogicalChannelList");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_LogicalChannelList(rtxContext* RT_RESTRICT ctx, LogicalChannelList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_LogicalChannelList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DedicatedDynamicTF_Info(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rlc-Size */
+   stat = dec_DedicatedDynamicTF_Info_rlc_Size(ctx, &pvalue->rlc_Size, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-Size", -1, "DedicatedDynamicTF-Info");
+   /* numberOfTbSizeList */
+   stat = dec_DedicatedDynamicTF_Info_numberOfTbSizeList(ctx, &pvalue->numberOfTbSizeList, cur);
+   RT_CHECK(ctx, stat, 0, "numberOfTbSizeList", -1, "DedicatedDynamicTF-Info");
+   /* logicalChannelList */
+   stat = dec_LogicalChannelList(ctx, &pvalue->logicalChannelList, cur);
+   RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "DedicatedDynamicTF-Info");
    return 0;
 }
 
 int asn1PD_UMTS_DedicatedDynamicTF_Info(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* rlc-Size */
-   stat = asn1PD_UMTS_DedicatedDynamicTF_Info_rlc_Size(ctx, &pvalue->rlc_Size);
-   RT_CHECK(ctx, stat, 0, "rlc-Size", -1, "DedicatedDynamicTF-Info");
-   /* numberOfTbSizeList */
-   stat = asn1PD_UMTS_DedicatedDynamicTF_Info_numberOfTbSizeList(ctx, &pvalue->numberOfTbSizeList);
-   RT_CHECK(ctx, stat, 0, "numberOfTbSizeList", -1, "DedicatedDynamicTF-Info");
-   /* logicalChannelList */
-   stat = asn1PD_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
-   RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "DedicatedDynamicTF-Info");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DedicatedDynamicTF_Info, pvalue);
 }
 
-int asn1PD_UMTS_DedicatedDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_InfoList* RT_RESTRICT pvalue)
+static int dec_DedicatedDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DedicatedDynamicTF-InfoList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DedicatedDynamicTF-InfoList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       DedicatedDynamicTF_Info* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DedicatedDynamicTF_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DedicatedDynamicTF-Info", (int32_t)i, "DedicatedDynamicTF-InfoList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DedicatedDynamicTF-Info", (int32_t)i, "DedicatedDynamicTF-InfoList");
       elem = (DedicatedDynamicTF_Info*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_DedicatedDynamicTF_Info(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DedicatedDynamicTF_Info(ctx, elem);
+      stat = dec_DedicatedDynamicTF_Info(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "DedicatedDynamicTF-Info", (int32_t)i, "DedicatedDynamicTF-InfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DedicatedDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_InfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DedicatedDynamicTF_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_DynamicTTI_rlc_Size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* bitMode */
+         pvalue->u.bitMode = (BitModeRLC_SizeInfo*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo));
+         if (pvalue->u.bitMode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "bitMode", -1, 0);
+         asn1Init_UMTS_BitModeRLC_SizeInfo(pvalue->u.bitMode);
+         stat = dec_BitModeRLC_SizeInfo(ctx, pvalue->u.bitMode, cur);
+         RT_CHECK(ctx, stat, 0, "bitMode", -1, 0);
+         break;
+      case 1: /* octetModeType1 */
+         pvalue->u.octetModeType1 = (OctetModeRLC_SizeInfoType1*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1));
+         if (pvalue->u.octetModeType1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "octetModeType1", -1, 0);
+         asn1Init_UMTS_OctetModeRLC_SizeInfoType1(pvalue->u.octetModeType1);
+         stat = dec_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeType1, cur);
+         RT_CHECK(ctx, stat, 0, "octetModeType1", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_DynamicTTI_rlc_Size* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size, pvalue);
+}
+
+RT_MERGED_BODY int dec_TransmissionTimeInterval(rtxContext* RT_RESTRICT ctx, TransmissionTimeInterval* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* bitMode */
-         pvalue->u.bitMode = (BitModeRLC_SizeInfo*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo));
-         if (pvalue->u.bitMode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "bitMode", -1, 0);
-         asn1Init_UMTS_BitModeRLC_SizeInfo(pvalue->u.bitMode);
-         stat = asn1PD_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitMode);
-         RT_CHECK(ctx, stat, 0, "bitMode", -1, 0);
-         break;
-      case 1: /* octetModeType1 */
-         pvalue->u.octetModeType1 = (OctetModeRLC_SizeInfoType1*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1));
-         if (pvalue->u.octetModeType1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "octetModeType1", -1, 0);
-         asn1Init_UMTS_OctetModeRLC_SizeInfoType1(pvalue->u.octetModeType1);
-         stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeType1);
-         RT_CHECK(ctx, stat, 0, "octetModeType1", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransmissionTimeInterval");
    return 0;
 }
 
 int asn1PD_UMTS_TransmissionTimeInterval(rtxContext* RT_RESTRICT ctx, TransmissionTimeInterval* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionTimeInterval");
+   RT_DECODE_ENTRY(ctx, dec_TransmissionTimeInterval, pvalue);
+}
+
+RT_MERGED_BODY int dec_NumberOfTbSizeAndTTIList_element(rtxContext* RT_RESTRICT ctx, NumberOfTbSizeAndTTIList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* numberOfTransportBlocks */
+   stat = dec_NumberOfTransportBlocks(ctx, &pvalue->numberOfTransportBlocks, cur);
+   RT_CHECK(ctx, stat, 0, "numberOfTransportBlocks", -1, 0);
+   /* transmissionTimeInterval */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->transmissionTimeInterval, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "TransmissionTimeInterval", "transmissionTimeInterval", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_NumberOfTbSizeAndTTIList_element(rtxContext* RT_RESTRICT ctx, NumberOfTbSizeAndTTIList_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* numberOfTransportBlocks */
-   stat = asn1PD_UMTS_NumberOfTransportBlocks(ctx, &pvalue->numberOfTransportBlocks);
-   RT_CHECK(ctx, stat, 0, "numberOfTransportBlocks", -1, 0);
-   /* transmissionTimeInterval */
-   stat = pd_ConsUnsigned(ctx, &pvalue->transmissionTimeInterval, 0, 3);
-   RT_CHECK(ctx, stat, "TransmissionTimeInterval", "transmissionTimeInterval", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_NumberOfTbSizeAndTTIList_element, pvalue);
 }
 
-int asn1PD_UMTS_NumberOfTbSizeAndTTIList(rtxContext* RT_RESTRICT ctx, NumberOfTbSizeAndTTIList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_NumberOfTbSizeAndTTIList(rtxContext* RT_RESTRICT ctx, NumberOfTbSizeAndTTIList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NumberOfTbSizeAndTTIList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NumberOfTbSizeAndTTIList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NumberOfTbSizeAndTTIList_element* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NumberOfTbSizeAndTTIList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "NumberOfTbSizeAndTTIList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "NumberOfTbSizeAndTTIList");
       elem = (NumberOfTbSizeAndTTIList_element*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NumberOfTbSizeAndTTIList_element(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NumberOfTbSizeAndTTIList_element(ctx, elem);
+      stat = dec_NumberOfTbSizeAndTTIList_element(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NumberOfTbSizeAndTTIList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_DedicatedDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NumberOfTbSizeAndTTIList(rtxContext* RT_RESTRICT ctx, NumberOfTbSizeAndTTIList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NumberOfTbSizeAndTTIList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DedicatedDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* rlc-Size */
-   stat = asn1PD_UMTS_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(ctx, &pvalue->rlc_Size);
+   stat = dec_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(ctx, &pvalue->rlc_Size, cur);
    RT_CHECK(ctx, stat, 0, "rlc-Size", -1, "DedicatedDynamicTF-Info-DynamicTTI");
    /* numberOfTbSizeAndTTIList */
-   stat = asn1PD_UMTS_NumberOfTbSizeAndTTIList(ctx, &pvalue->numberOfTbSizeAndTTIList);
+   stat = dec_NumberOfTbSizeAndTTIList(ctx, &pvalue->numberOfTbSizeAndTTIList, cur);
    RT_CHECK(ctx, stat, 0, "numberOfTbSizeAndTTIList", -1, "DedicatedDynamicTF-Info-DynamicTTI");
    /* logicalChannelList */
-   stat = asn1PD_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
+   stat = dec_LogicalChannelList(ctx, &pvalue->logicalChannelList, cur);
    RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "DedicatedDynamicTF-Info-DynamicTTI");
    return 0;
 }
 
-int asn1PD_UMTS_DedicatedDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DedicatedDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DedicatedDynamicTF_Info_DynamicTTI, pvalue);
+}
+
+RT_MERGED_BODY int dec_DedicatedDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DedicatedDynamicTF-InfoList-DynamicTTI");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DedicatedDynamicTF-InfoList-DynamicTTI");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       DedicatedDynamicTF_Info_DynamicTTI* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DedicatedDynamicTF_Info_DynamicTTI));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DedicatedDynamicTF-Info-DynamicTTI", (int32_t)i, "DedicatedDynamicTF-InfoList-DynamicTTI");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DedicatedDynamicTF-Info-DynamicTTI", (int32_t)i, "DedicatedDynamicTF-InfoList-DynamicTTI");
       elem = (DedicatedDynamicTF_Info_DynamicTTI*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_DedicatedDynamicTF_Info_DynamicTTI(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DedicatedDynamicTF_Info_DynamicTTI(ctx, elem);
+      stat = dec_DedicatedDynamicTF_Info_DynamicTTI(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "DedicatedDynamicTF-Info-DynamicTTI", (int32_t)i, "DedicatedDynamicTF-InfoList-DynamicTTI");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DedicatedDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, DedicatedDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DedicatedDynamicTF_InfoList_DynamicTTI, pvalue);
+}
+
+static int dec_DedicatedTransChTFS_tti(rtxContext* RT_RESTRICT ctx, DedicatedTransChTFS_tti* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tti10 */
+         pvalue->u.tti10 = (DedicatedDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(DedicatedDynamicTF_InfoList));
+         if (pvalue->u.tti10 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti10", -1, 0);
+         asn1Init_UMTS_DedicatedDynamicTF_InfoList(pvalue->u.tti10);
+         stat = dec_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti10, cur);
+         RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
+         break;
+      case 1: /* tti20 */
+         pvalue->u.tti20 = (DedicatedDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(DedicatedDynamicTF_InfoList));
+         if (pvalue->u.tti20 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti20", -1, 0);
+         asn1Init_UMTS_DedicatedDynamicTF_InfoList(pvalue->u.tti20);
+         stat = dec_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti20, cur);
+         RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
+         break;
+      case 2: /* tti40 */
+         pvalue->u.tti40 = (DedicatedDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(DedicatedDynamicTF_InfoList));
+         if (pvalue->u.tti40 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti40", -1, 0);
+         asn1Init_UMTS_DedicatedDynamicTF_InfoList(pvalue->u.tti40);
+         stat = dec_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti40, cur);
+         RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
+         break;
+      case 3: /* tti80 */
+         pvalue->u.tti80 = (DedicatedDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(DedicatedDynamicTF_InfoList));
+         if (pvalue->u.tti80 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti80", -1, 0);
+         asn1Init_UMTS_DedicatedDynamicTF_InfoList(pvalue->u.tti80);
+         stat = dec_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti80, cur);
+         RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
+         break;
+      case 4: /* dynamic */
+         pvalue->u.dynamic = (DedicatedDynamicTF_InfoList_DynamicTTI*)rtxMemHeapAlloc(ctx, sizeof(DedicatedDynamicTF_InfoList_DynamicTTI));
+         if (pvalue->u.dynamic == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dynamic", -1, 0);
+         asn1Init_UMTS_DedicatedDynamicTF_InfoList_DynamicTTI(pvalue->u.dynamic);
+         stat = dec_DedicatedDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic, cur);
+         RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_DedicatedTransChTFS_tti(rtxContext* RT_RESTRICT ctx, DedicatedTransChTFS_tti* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_DedicatedTransChTFS_tti, pvalue);
+}
+
+RT_MERGED_BODY int dec_CodingRate(rtxContext* RT_RESTRICT ctx, CodingRate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tti10 */
-         pvalue->u.tti10 = (DedicatedDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(DedicatedDynamicTF_InfoList));
-         if (pvalue->u.tti10 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti10", -1, 0);
-         asn1Init_UMTS_DedicatedDynamicTF_InfoList(pvalue->u.tti10);
-         stat = asn1PD_UMTS_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti10);
-         RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
-         break;
-      case 1: /* tti20 */
-         pvalue->u.tti20 = (DedicatedDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(DedicatedDynamicTF_InfoList));
-         if (pvalue->u.tti20 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti20", -1, 0);
-         asn1Init_UMTS_DedicatedDynamicTF_InfoList(pvalue->u.tti20);
-         stat = asn1PD_UMTS_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti20);
-         RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
-         break;
-      case 2: /* tti40 */
-         pvalue->u.tti40 = (DedicatedDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(DedicatedDynamicTF_InfoList));
-         if (pvalue->u.tti40 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti40", -1, 0);
-         asn1Init_UMTS_DedicatedDynamicTF_InfoList(pvalue->u.tti40);
-         stat = asn1PD_UMTS_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti40);
-         RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
-         break;
-      case 3: /* tti80 */
-         pvalue->u.tti80 = (DedicatedDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(DedicatedDynamicTF_InfoList));
-         if (pvalue->u.tti80 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti80", -1, 0);
-         asn1Init_UMTS_DedicatedDynamicTF_InfoList(pvalue->u.tti80);
-         stat = asn1PD_UMTS_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti80);
-         RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
-         break;
-      case 4: /* dynamic */
-         pvalue->u.dynamic = (DedicatedDynamicTF_InfoList_DynamicTTI*)rtxMemHeapAlloc(ctx, sizeof(DedicatedDynamicTF_InfoList_DynamicTTI));
-         if (pvalue->u.dynamic == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dynamic", -1, 0);
-         asn1Init_UMTS_DedicatedDynamicTF_InfoList_DynamicTTI(pvalue->u.dynamic);
-         stat = asn1PD_UMTS_DedicatedDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic);
-         RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CodingRate");
    return 0;
 }
 
 int asn1PD_UMTS_CodingRate(rtxContext* RT_RESTRICT ctx, CodingRate* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CodingRate");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CodingRate, pvalue);
 }
 
-int asn1PD_UMTS_ChannelCodingType(rtxContext* RT_RESTRICT ctx, ChannelCodingType* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_ChannelCodingType(rtxContext* RT_RESTRICT ctx, ChannelCodingType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ChannelCodingType");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ChannelCodingType");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* noCoding */
          break;
       case 1: /* convolutional */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.convolutional, 0, 1);
-         RT_CHECK(ctx, stat, "CodingRate", "convolutional", -1, "ChannelCodingType");
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.convolutional, 0, 1);
+         RT_CHECK_AT(ctx, cur, stat, "CodingRate", "convolutional", -1, "ChannelCodingType");
          break;
       case 2: /* turbo */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ChannelCodingType");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ChannelCodingType");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_ChannelCodingType(rtxContext* RT_RESTRICT ctx, ChannelCodingType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ChannelCodingType, pvalue);
+}
+
+RT_MERGED_BODY int dec_RateMatchingAttribute(rtxContext* RT_RESTRICT ctx, RateMatchingAttribute* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 1, 256);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RateMatchingAttribute");
    return 0;
 }
 
 int asn1PD_UMTS_RateMatchingAttribute(rtxContext* RT_RESTRICT ctx, RateMatchingAttribute* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_RateMatchingAttribute, pvalue);
+}
+
+RT_MERGED_BODY int dec_CRC_Size(rtxContext* RT_RESTRICT ctx, CRC_Size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 1, 256);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RateMatchingAttribute");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CRC-Size");
    return 0;
 }
 
 int asn1PD_UMTS_CRC_Size(rtxContext* RT_RESTRICT ctx, CRC_Size* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CRC-Size");
+   RT_DECODE_ENTRY(ctx, dec_CRC_Size, pvalue);
+}
+
+RT_MERGED_BODY int dec_SemistaticTF_Information(rtxContext* RT_RESTRICT ctx, SemistaticTF_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* channelCodingType */
+   stat = dec_ChannelCodingType(ctx, &pvalue->channelCodingType, cur);
+   RT_CHECK(ctx, stat, 0, "channelCodingType", -1, "SemistaticTF-Information");
+   /* rateMatchingAttribute */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->rateMatchingAttribute, 1, 256);
+   RT_CHECK_AT(ctx, cur, stat, "RateMatchingAttribute", "rateMatchingAttribute", -1, "SemistaticTF-Information");
+   /* crc-Size */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->crc_Size, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "CRC-Size", "crc-Size", -1, "SemistaticTF-Information");
    return 0;
 }
 
 int asn1PD_UMTS_SemistaticTF_Information(rtxContext* RT_RESTRICT ctx, SemistaticTF_Information* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SemistaticTF_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_DedicatedTransChTFS(rtxContext* RT_RESTRICT ctx, DedicatedTransChTFS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* channelCodingType */
-   stat = asn1PD_UMTS_ChannelCodingType(ctx, &pvalue->channelCodingType);
-   RT_CHECK(ctx, stat, 0, "channelCodingType", -1, "SemistaticTF-Information");
-   /* rateMatchingAttribute */
-   stat = pd_ConsUInt16(ctx, &pvalue->rateMatchingAttribute, 1, 256);
-   RT_CHECK(ctx, stat, "RateMatchingAttribute", "rateMatchingAttribute", -1, "SemistaticTF-Information");
-   /* crc-Size */
-   stat = pd_ConsUnsigned(ctx, &pvalue->crc_Size, 0, 4);
-   RT_CHECK(ctx, stat, "CRC-Size", "crc-Size", -1, "SemistaticTF-Information");
+   /* tti */
+   stat = dec_DedicatedTransChTFS_tti(ctx, &pvalue->tti, cur);
+   RT_CHECK(ctx, stat, 0, "tti", -1, "DedicatedTransChTFS");
+   /* semistaticTF-Information */
+   stat = dec_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information, cur);
+   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "DedicatedTransChTFS");
    return 0;
 }
 
 int asn1PD_UMTS_DedicatedTransChTFS(rtxContext* RT_RESTRICT ctx, DedicatedTransChTFS* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* tti */
-   stat = asn1PD_UMTS_DedicatedTransChTFS_tti(ctx, &pvalue->tti);
-   RT_CHECK(ctx, stat, 0, "tti", -1, "DedicatedTransChTFS");
-   /* semistaticTF-Information */
-   stat = asn1PD_UMTS_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information);
-   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "DedicatedTransChTFS");
+   RT_DECODE_ENTRY(ctx, dec_DedicatedTransChTFS, pvalue);
+}
+
+RT_MERGED_BODY int dec_OctetModeRLC_SizeInfoType2(rtxContext* RT_RESTRICT ctx, OctetModeRLC_SizeInfoType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "OctetModeRLC-SizeInfoType2");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sizeType1 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sizeType1, 0, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType2");
+         break;
+      case 1: /* sizeType2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sizeType2, 0, 63);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType2");
+         break;
+      case 2: /* sizeType3 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sizeType3, 0, 56);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType2");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "OctetModeRLC-SizeInfoType2");
+   }
    return 0;
 }
 
 int asn1PD_UMTS_OctetModeRLC_SizeInfoType2(rtxContext* RT_RESTRICT ctx, OctetModeRLC_SizeInfoType2* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "OctetModeRLC-SizeInfoType2");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sizeType1 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sizeType1, 0, 31);
-         RT_CHECK(ctx, stat, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType2");
-         break;
-      case 1: /* sizeType2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sizeType2, 0, 63);
-         RT_CHECK(ctx, stat, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType2");
-         break;
-      case 2: /* sizeType3 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sizeType3, 0, 56);
-         RT_CHECK(ctx, stat, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType2");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "OctetModeRLC-SizeInfoType2");
-   }
+   RT_DECODE_ENTRY(ctx, dec_OctetModeRLC_SizeInfoType2, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_rlc_Size_fdd(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_rlc_Size_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* octetModeRLC-SizeInfoType2 */
+   stat = dec_OctetModeRLC_SizeInfoType2(ctx, &pvalue->octetModeRLC_SizeInfoType2, cur);
+   RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType2", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_CommonDynamicTF_Info_rlc_Size_fdd(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_rlc_Size_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* octetModeRLC-SizeInfoType2 */
-   stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType2(ctx, &pvalue->octetModeRLC_SizeInfoType2);
-   RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType2", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_CommonDynamicTF_Info_rlc_Size_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* bitModeRLC-SizeInfo */
+         pvalue->u.bitModeRLC_SizeInfo = (BitModeRLC_SizeInfo*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo));
+         if (pvalue->u.bitModeRLC_SizeInfo == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "bitModeRLC-SizeInfo", -1, 0);
+         asn1Init_UMTS_BitModeRLC_SizeInfo(pvalue->u.bitModeRLC_SizeInfo);
+         stat = dec_BitModeRLC_SizeInfo(ctx, pvalue->u.bitModeRLC_SizeInfo, cur);
+         RT_CHECK(ctx, stat, 0, "bitModeRLC-SizeInfo", -1, 0);
+         break;
+      case 1: /* octetModeRLC-SizeInfoType1 */
+         pvalue->u.octetModeRLC_SizeInfoType1 = (OctetModeRLC_SizeInfoType1*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1));
+         if (pvalue->u.octetModeRLC_SizeInfoType1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "octetModeRLC-SizeInfoType1", -1, 0);
+         asn1Init_UMTS_OctetModeRLC_SizeInfoType1(pvalue->u.octetModeRLC_SizeInfoType1);
+         stat = dec_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeRLC_SizeInfoType1, cur);
+         RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType1", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* bitModeRLC-SizeInfo */
-         pvalue->u.bitModeRLC_SizeInfo = (BitModeRLC_SizeInfo*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo));
-         if (pvalue->u.bitModeRLC_SizeInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "bitModeRLC-SizeInfo", -1, 0);
-         asn1Init_UMTS_BitModeRLC_SizeInfo(pvalue->u.bitModeRLC_SizeInfo);
-         stat = asn1PD_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitModeRLC_SizeInfo);
-         RT_CHECK(ctx, stat, 0, "bitModeRLC-SizeInfo", -1, 0);
-         break;
-      case 1: /* octetModeRLC-SizeInfoType1 */
-         pvalue->u.octetModeRLC_SizeInfoType1 = (OctetModeRLC_SizeInfoType1*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1));
-         if (pvalue->u.octetModeRLC_SizeInfoType1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "octetModeRLC-SizeInfoType1", -1, 0);
-         asn1Init_UMTS_OctetModeRLC_SizeInfoType1(pvalue->u.octetModeRLC_SizeInfoType1);
-         stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeRLC_SizeInfoType1);
-         RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType1", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_rlc_Size_tdd(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_rlc_Size_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* commonTDD-Choice */
+   stat = dec_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(ctx, &pvalue->commonTDD_Choice, cur);
+   RT_CHECK(ctx, stat, 0, "commonTDD-Choice", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_CommonDynamicTF_Info_rlc_Size_tdd(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_rlc_Size_tdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* commonTDD-Choice */
-   stat = asn1PD_UMTS_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(ctx, &pvalue->commonTDD_Choice);
-   RT_CHECK(ctx, stat, 0, "commonTDD-Choice", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_CommonDynamicTF_Info_rlc_Size_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CommonDynamicTF_Info_rlc_Size_fdd*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_Info_rlc_Size_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_Info_rlc_Size_fdd(pvalue->u.fdd);
+         stat = dec_CommonDynamicTF_Info_rlc_Size_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CommonDynamicTF_Info_rlc_Size_tdd*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_Info_rlc_Size_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_Info_rlc_Size_tdd(pvalue->u.tdd);
+         stat = dec_CommonDynamicTF_Info_rlc_Size_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_CommonDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CommonDynamicTF_Info_rlc_Size, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CommonDynamicTF_Info_rlc_Size_fdd*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_Info_rlc_Size_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_Info_rlc_Size_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CommonDynamicTF_Info_rlc_Size_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CommonDynamicTF_Info_rlc_Size_tdd*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_Info_rlc_Size_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_Info_rlc_Size_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CommonDynamicTF_Info_rlc_Size_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NumberOfTransportBlocks* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NumberOfTransportBlocks));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
+      elem = (NumberOfTransportBlocks*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NumberOfTransportBlocks(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NumberOfTransportBlocks(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CommonDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NumberOfTransportBlocks* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NumberOfTransportBlocks));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
-      elem = (NumberOfTransportBlocks*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NumberOfTransportBlocks(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NumberOfTransportBlocks(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_CommonDynamicTF_Info_numberOfTbSizeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonDynamicTF_Info(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rlc-Size */
+   stat = dec_CommonDynamicTF_Info_rlc_Size(ctx, &pvalue->rlc_Size, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-Size", -1, "CommonDynamicTF-Info");
+   /* numberOfTbSizeList */
+   stat = dec_CommonDynamicTF_Info_numberOfTbSizeList(ctx, &pvalue->numberOfTbSizeList, cur);
+   RT_CHECK(ctx, stat, 0, "numberOfTbSizeList", -1, "CommonDynamicTF-Info");
+   /* logicalChannelList */
+   stat = dec_LogicalChannelList(ctx, &pvalue->logicalChannelList, cur);
+   RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "CommonDynamicTF-Info");
    return 0;
 }
 
 int asn1PD_UMTS_CommonDynamicTF_Info(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* rlc-Size */
-   stat = asn1PD_UMTS_CommonDynamicTF_Info_rlc_Size(ctx, &pvalue->rlc_Size);
-   RT_CHECK(ctx, stat, 0, "rlc-Size", -1, "CommonDynamicTF-Info");
-   /* numberOfTbSizeList */
-   stat = asn1PD_UMTS_CommonDynamicTF_Info_numberOfTbSizeList(ctx, &pvalue->numberOfTbSizeList);
-   RT_CHECK(ctx, stat, 0, "numberOfTbSizeList", -1, "CommonDynamicTF-Info");
-   /* logicalChannelList */
-   stat = asn1PD_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
-   RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "CommonDynamicTF-Info");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CommonDynamicTF_Info, pvalue);
 }
 
-int asn1PD_UMTS_CommonDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_InfoList* RT_RESTRICT pvalue)
+static int dec_CommonDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CommonDynamicTF-InfoList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CommonDynamicTF-InfoList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       CommonDynamicTF_Info* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CommonDynamicTF_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CommonDynamicTF-Info", (int32_t)i, "CommonDynamicTF-InfoList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CommonDynamicTF-Info", (int32_t)i, "CommonDynamicTF-InfoList");
       elem = (CommonDynamicTF_Info*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_CommonDynamicTF_Info(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CommonDynamicTF_Info(ctx, elem);
+      stat = dec_CommonDynamicTF_Info(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "CommonDynamicTF-Info", (int32_t)i, "CommonDynamicTF-InfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_InfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonDynamicTF_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* bitModeRLC-SizeInfo */
+         pvalue->u.bitModeRLC_SizeInfo = (BitModeRLC_SizeInfo*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo));
+         if (pvalue->u.bitModeRLC_SizeInfo == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "bitModeRLC-SizeInfo", -1, 0);
+         asn1Init_UMTS_BitModeRLC_SizeInfo(pvalue->u.bitModeRLC_SizeInfo);
+         stat = dec_BitModeRLC_SizeInfo(ctx, pvalue->u.bitModeRLC_SizeInfo, cur);
+         RT_CHECK(ctx, stat, 0, "bitModeRLC-SizeInfo", -1, 0);
+         break;
+      case 1: /* octetModeRLC-SizeInfoType1 */
+         pvalue->u.octetModeRLC_SizeInfoType1 = (OctetModeRLC_SizeInfoType1*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1));
+         if (pvalue->u.octetModeRLC_SizeInfoType1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "octetModeRLC-SizeInfoType1", -1, 0);
+         asn1Init_UMTS_OctetModeRLC_SizeInfoType1(pvalue->u.octetModeRLC_SizeInfoType1);
+         stat = dec_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeRLC_SizeInfoType1, cur);
+         RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType1", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* bitModeRLC-SizeInfo */
-         pvalue->u.bitModeRLC_SizeInfo = (BitModeRLC_SizeInfo*)rtxMemHeapAlloc(ctx, sizeof(BitModeRLC_SizeInfo));
-         if (pvalue->u.bitModeRLC_SizeInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "bitModeRLC-SizeInfo", -1, 0);
-         asn1Init_UMTS_BitModeRLC_SizeInfo(pvalue->u.bitModeRLC_SizeInfo);
-         stat = asn1PD_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitModeRLC_SizeInfo);
-         RT_CHECK(ctx, stat, 0, "bitModeRLC-SizeInfo", -1, 0);
-         break;
-      case 1: /* octetModeRLC-SizeInfoType1 */
-         pvalue->u.octetModeRLC_SizeInfoType1 = (OctetModeRLC_SizeInfoType1*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1));
-         if (pvalue->u.octetModeRLC_SizeInfoType1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "octetModeRLC-SizeInfoType1", -1, 0);
-         asn1Init_UMTS_OctetModeRLC_SizeInfoType1(pvalue->u.octetModeRLC_SizeInfoType1);
-         stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeRLC_SizeInfoType1);
-         RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType1", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* commonTDD-Choice */
+   stat = dec_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(ctx, &pvalue->commonTDD_Choice, cur);
+   RT_CHECK(ctx, stat, 0, "commonTDD-Choice", -1, "CommonDynamicTF-Info-DynamicTTI");
+   /* numberOfTbSizeAndTTIList */
+   stat = dec_NumberOfTbSizeAndTTIList(ctx, &pvalue->numberOfTbSizeAndTTIList, cur);
+   RT_CHECK(ctx, stat, 0, "numberOfTbSizeAndTTIList", -1, "CommonDynamicTF-Info-DynamicTTI");
+   /* logicalChannelList */
+   stat = dec_LogicalChannelList(ctx, &pvalue->logicalChannelList, cur);
+   RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "CommonDynamicTF-Info-DynamicTTI");
    return 0;
 }
 
 int asn1PD_UMTS_CommonDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* commonTDD-Choice */
-   stat = asn1PD_UMTS_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(ctx, &pvalue->commonTDD_Choice);
-   RT_CHECK(ctx, stat, 0, "commonTDD-Choice", -1, "CommonDynamicTF-Info-DynamicTTI");
-   /* numberOfTbSizeAndTTIList */
-   stat = asn1PD_UMTS_NumberOfTbSizeAndTTIList(ctx, &pvalue->numberOfTbSizeAndTTIList);
-   RT_CHECK(ctx, stat, 0, "numberOfTbSizeAndTTIList", -1, "CommonDynamicTF-Info-DynamicTTI");
-   /* logicalChannelList */
-   stat = asn1PD_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
-   RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "CommonDynamicTF-Info-DynamicTTI");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CommonDynamicTF_Info_DynamicTTI, pvalue);
 }
 
-int asn1PD_UMTS_CommonDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue)
+static int dec_CommonDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CommonDynamicTF-InfoList-DynamicTTI");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CommonDynamicTF-InfoList-DynamicTTI");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       CommonDynamicTF_Info_DynamicTTI* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CommonDynamicTF_Info_DynamicTTI));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CommonDynamicTF-Info-DynamicTTI", (int32_t)i, "CommonDynamicTF-InfoList-DynamicTTI");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CommonDynamicTF-Info-DynamicTTI", (int32_t)i, "CommonDynamicTF-InfoList-DynamicTTI");
       elem = (CommonDynamicTF_Info_DynamicTTI*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_CommonDynamicTF_Info_DynamicTTI(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CommonDynamicTF_Info_DynamicTTI(ctx, elem);
+      stat = dec_CommonDynamicTF_Info_DynamicTTI(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "CommonDynamicTF-Info-DynamicTTI", (int32_t)i, "CommonDynamicTF-InfoList-DynamicTTI");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, CommonDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonDynamicTF_InfoList_DynamicTTI, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonTransChTFS_tti(rtxContext* RT_RESTRICT ctx, CommonTransChTFS_tti* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tti10 */
+         pvalue->u.tti10 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
+         if (pvalue->u.tti10 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti10", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti10);
+         stat = dec_CommonDynamicTF_InfoList(ctx, pvalue->u.tti10, cur);
+         RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
+         break;
+      case 1: /* tti20 */
+         pvalue->u.tti20 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
+         if (pvalue->u.tti20 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti20", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti20);
+         stat = dec_CommonDynamicTF_InfoList(ctx, pvalue->u.tti20, cur);
+         RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
+         break;
+      case 2: /* tti40 */
+         pvalue->u.tti40 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
+         if (pvalue->u.tti40 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti40", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti40);
+         stat = dec_CommonDynamicTF_InfoList(ctx, pvalue->u.tti40, cur);
+         RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
+         break;
+      case 3: /* tti80 */
+         pvalue->u.tti80 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
+         if (pvalue->u.tti80 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti80", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti80);
+         stat = dec_CommonDynamicTF_InfoList(ctx, pvalue->u.tti80, cur);
+         RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
+         break;
+      case 4: /* dynamic */
+         pvalue->u.dynamic = (CommonDynamicTF_InfoList_DynamicTTI*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList_DynamicTTI));
+         if (pvalue->u.dynamic == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dynamic", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_InfoList_DynamicTTI(pvalue->u.dynamic);
+         stat = dec_CommonDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic, cur);
+         RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CommonTransChTFS_tti(rtxContext* RT_RESTRICT ctx, CommonTransChTFS_tti* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tti10 */
-         pvalue->u.tti10 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti10 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti10", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti10);
-         stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti10);
-         RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
-         break;
-      case 1: /* tti20 */
-         pvalue->u.tti20 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti20 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti20", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti20);
-         stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti20);
-         RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
-         break;
-      case 2: /* tti40 */
-         pvalue->u.tti40 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti40 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti40", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti40);
-         stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti40);
-         RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
-         break;
-      case 3: /* tti80 */
-         pvalue->u.tti80 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti80 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti80", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti80);
-         stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti80);
-         RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
-         break;
-      case 4: /* dynamic */
-         pvalue->u.dynamic = (CommonDynamicTF_InfoList_DynamicTTI*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList_DynamicTTI));
-         if (pvalue->u.dynamic == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dynamic", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_InfoList_DynamicTTI(pvalue->u.dynamic);
-         stat = asn1PD_UMTS_CommonDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic);
-         RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_CommonTransChTFS_tti, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonTransChTFS(rtxContext* RT_RESTRICT ctx, CommonTransChTFS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tti */
+   stat = dec_CommonTransChTFS_tti(ctx, &pvalue->tti, cur);
+   RT_CHECK(ctx, stat, 0, "tti", -1, "CommonTransChTFS");
+   /* semistaticTF-Information */
+   stat = dec_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information, cur);
+   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "CommonTransChTFS");
    return 0;
 }
 
 int asn1PD_UMTS_CommonTransChTFS(rtxContext* RT_RESTRICT ctx, CommonTransChTFS* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* tti */
-   stat = asn1PD_UMTS_CommonTransChTFS_tti(ctx, &pvalue->tti);
-   RT_CHECK(ctx, stat, 0, "tti", -1, "CommonTransChTFS");
-   /* semistaticTF-Information */
-   stat = asn1PD_UMTS_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information);
-   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "CommonTransChTFS");
+   RT_DECODE_ENTRY(ctx, dec_CommonTransChTFS, pvalue);
+}
+
+static int dec_TransportFormatSet(rtxContext* RT_RESTRICT ctx, TransportFormatSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransportFormatSet");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dedicatedTransChTFS */
+         pvalue->u.dedicatedTransChTFS = (DedicatedTransChTFS*)rtxMemHeapAlloc(ctx, sizeof(DedicatedTransChTFS));
+         if (pvalue->u.dedicatedTransChTFS == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dedicatedTransChTFS", -1, "TransportFormatSet");
+         asn1Init_UMTS_DedicatedTransChTFS(pvalue->u.dedicatedTransChTFS);
+         stat = dec_DedicatedTransChTFS(ctx, pvalue->u.dedicatedTransChTFS, cur);
+         RT_CHECK(ctx, stat, 0, "dedicatedTransChTFS", -1, "TransportFormatSet");
+         break;
+      case 1: /* commonTransChTFS */
+         pvalue->u.commonTransChTFS = (CommonTransChTFS*)rtxMemHeapAlloc(ctx, sizeof(CommonTransChTFS));
+         if (pvalue->u.commonTransChTFS == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "commonTransChTFS", -1, "TransportFormatSet");
+         asn1Init_UMTS_CommonTransChTFS(pvalue->u.commonTransChTFS);
+         stat = dec_CommonTransChTFS(ctx, pvalue->u.commonTransChTFS, cur);
+         RT_CHECK(ctx, stat, 0, "commonTransChTFS", -1, "TransportFormatSet");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TransportFormatSet");
+   }
    return 0;
 }
 
 int asn1PD_UMTS_TransportFormatSet(rtxContext* RT_RESTRICT ctx, TransportFormatSet* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TransportFormatSet, pvalue);
+}
+
+RT_MERGED_BODY int dec_GainFactor(rtxContext* RT_RESTRICT ctx, GainFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransportFormatSet");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dedicatedTransChTFS */
-         pvalue->u.dedicatedTransChTFS = (DedicatedTransChTFS*)rtxMemHeapAlloc(ctx, sizeof(DedicatedTransChTFS));
-         if (pvalue->u.dedicatedTransChTFS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dedicatedTransChTFS", -1, "TransportFormatSet");
-         asn1Init_UMTS_DedicatedTransChTFS(pvalue->u.dedicatedTransChTFS);
-         stat = asn1PD_UMTS_DedicatedTransChTFS(ctx, pvalue->u.dedicatedTransChTFS);
-         RT_CHECK(ctx, stat, 0, "dedicatedTransChTFS", -1, "TransportFormatSet");
-         break;
-      case 1: /* commonTransChTFS */
-         pvalue->u.commonTransChTFS = (CommonTransChTFS*)rtxMemHeapAlloc(ctx, sizeof(CommonTransChTFS));
-         if (pvalue->u.commonTransChTFS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "commonTransChTFS", -1, "TransportFormatSet");
-         asn1Init_UMTS_CommonTransChTFS(pvalue->u.commonTransChTFS);
-         stat = asn1PD_UMTS_CommonTransChTFS(ctx, pvalue->u.commonTransChTFS);
-         RT_CHECK(ctx, stat, 0, "commonTransChTFS", -1, "TransportFormatSet");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransportFormatSet");
-   }
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GainFactor");
    return 0;
 }
 
 int asn1PD_UMTS_GainFactor(rtxContext* RT_RESTRICT ctx, GainFactor* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GainFactor");
+   RT_DECODE_ENTRY(ctx, dec_GainFactor, pvalue);
+}
+
+RT_MERGED_BODY int dec_SignalledGainFactors_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SignalledGainFactors_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* gainFactorBetaC */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->gainFactorBetaC, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "GainFactor", "gainFactorBetaC", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SignalledGainFactors_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SignalledGainFactors_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* gainFactorBetaC */
-   stat = pd_ConsUInt8(ctx, &pvalue->gainFactorBetaC, 0, 15);
-   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaC", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SignalledGainFactors_modeSpecificInfo_fdd, pvalue);
 }
 
-int asn1PD_UMTS_SignalledGainFactors_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SignalledGainFactors_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SignalledGainFactors_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SignalledGainFactors_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
          pvalue->u.fdd = (SignalledGainFactors_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(SignalledGainFactors_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_SignalledGainFactors_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_SignalledGainFactors_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_SignalledGainFactors_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SignalledGainFactors_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SignalledGainFactors_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReferenceTFC_ID(rtxContext* RT_RESTRICT ctx, ReferenceTFC_ID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReferenceTFC-ID");
    return 0;
 }
 
 int asn1PD_UMTS_ReferenceTFC_ID(rtxContext* RT_RESTRICT ctx, ReferenceTFC_ID* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReferenceTFC-ID");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ReferenceTFC_ID, pvalue);
 }
 
-int asn1PD_UMTS_SignalledGainFactors(rtxContext* RT_RESTRICT ctx, SignalledGainFactors* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SignalledGainFactors(rtxContext* RT_RESTRICT ctx, SignalledGainFactors* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SignalledGainFactors");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SignalledGainFactors");
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_SignalledGainFactors_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = dec_SignalledGainFactors_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SignalledGainFactors");
    /* gainFactorBetaD */
-   stat = pd_ConsUInt8(ctx, &pvalue->gainFactorBetaD, 0, 15);
-   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaD", -1, "SignalledGainFactors");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->gainFactorBetaD, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "GainFactor", "gainFactorBetaD", -1, "SignalledGainFactors");
    /* referenceTFC-ID */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->referenceTFC_ID, 0, 3);
-      RT_CHECK(ctx, stat, "ReferenceTFC-ID", "referenceTFC-ID", -1, "SignalledGainFactors");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->referenceTFC_ID, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "ReferenceTFC-ID", "referenceTFC-ID", -1, "SignalledGainFactors");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SignalledGainFactors(rtxContext* RT_RESTRICT ctx, SignalledGainFactors* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SignalledGainFactors, pvalue);
+}
+
+RT_MERGED_BODY int dec_GainFactorInformation(rtxContext* RT_RESTRICT ctx, GainFactorInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GainFactorInformation");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* signalledGainFactors */
+         pvalue->u.signalledGainFactors = (SignalledGainFactors*)rtxMemHeapAlloc(ctx, sizeof(SignalledGainFactors));
+         if (pvalue->u.signalledGainFactors == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "signalledGainFactors", -1, "GainFactorInformation");
+         asn1Init_UMTS_SignalledGainFactors(pvalue->u.signalledGainFactors);
+         stat = dec_SignalledGainFactors(ctx, pvalue->u.signalledGainFactors, cur);
+         RT_CHECK(ctx, stat, 0, "signalledGainFactors", -1, "GainFactorInformation");
+         break;
+      case 1: /* computedGainFactors */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.computedGainFactors, 0, 3);
+         RT_CHECK_AT(ctx, cur, stat, "ReferenceTFC-ID", "computedGainFactors", -1, "GainFactorInformation");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "GainFactorInformation");
    }
    return 0;
 }
 
 int asn1PD_UMTS_GainFactorInformation(rtxContext* RT_RESTRICT ctx, GainFactorInformation* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_GainFactorInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_PowerOffsetPp_m(rtxContext* RT_RESTRICT ctx, PowerOffsetPp_m* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GainFactorInformation");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* signalledGainFactors */
-         pvalue->u.signalledGainFactors = (SignalledGainFactors*)rtxMemHeapAlloc(ctx, sizeof(SignalledGainFactors));
-         if (pvalue->u.signalledGainFactors == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "signalledGainFactors", -1, "GainFactorInformation");
-         asn1Init_UMTS_SignalledGainFactors(pvalue->u.signalledGainFactors);
-         stat = asn1PD_UMTS_SignalledGainFactors(ctx, pvalue->u.signalledGainFactors);
-         RT_CHECK(ctx, stat, 0, "signalledGainFactors", -1, "GainFactorInformation");
-         break;
-      case 1: /* computedGainFactors */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.computedGainFactors, 0, 3);
-         RT_CHECK(ctx, stat, "ReferenceTFC-ID", "computedGainFactors", -1, "GainFactorInformation");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "GainFactorInformation");
-   }
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -5, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PowerOffsetPp-m");
    return 0;
 }
 
 int asn1PD_UMTS_PowerOffsetPp_m(rtxContext* RT_RESTRICT ctx, PowerOffsetPp_m* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -5, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetPp-m");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PowerOffsetPp_m, pvalue);
 }
 
-int asn1PD_UMTS_PowerOffsetInformation(rtxContext* RT_RESTRICT ctx, PowerOffsetInformation* RT_RESTRICT pvalue)
+static int dec_PowerOffsetInformation(rtxContext* RT_RESTRICT ctx, PowerOffsetInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetInformation");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PowerOffsetInformation");
    /* gainFactorInformation */
-   stat = asn1PD_UMTS_GainFactorInformation(ctx, &pvalue->gainFactorInformation);
+   stat = dec_GainFactorInformation(ctx, &pvalue->gainFactorInformation, cur);
    RT_CHECK(ctx, stat, 0, "gainFactorInformation", -1, "PowerOffsetInformation");
    /* powerOffsetPp-m */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->powerOffsetPp_m, -5, 10);
-      RT_CHECK(ctx, stat, "PowerOffsetPp-m", "powerOffsetPp-m", -1, "PowerOffsetInformation");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->powerOffsetPp_m, -5, 10);
+      RT_CHECK_AT(ctx, cur, stat, "PowerOffsetPp-m", "powerOffsetPp-m", -1, "PowerOffsetInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PowerOffsetInformation(rtxContext* RT_RESTRICT ctx, PowerOffsetInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PowerOffsetInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc2 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ctfc2, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ctfc2", -1, 0);
+   /* powerOffsetInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc2 */
-   stat = pd_ConsUInt8(ctx, &pvalue->ctfc2, 0, 3);
-   RT_CHECK(ctx, stat, 0, "ctfc2", -1, 0);
-   /* powerOffsetInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc2Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc2Bit* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc2Bit, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc4 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ctfc4, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ctfc4", -1, 0);
+   /* powerOffsetInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc4 */
-   stat = pd_ConsUInt8(ctx, &pvalue->ctfc4, 0, 15);
-   RT_CHECK(ctx, stat, 0, "ctfc4", -1, 0);
-   /* powerOffsetInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc4Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc4Bit* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc4Bit, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc6 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ctfc6, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ctfc6", -1, 0);
+   /* powerOffsetInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc6 */
-   stat = pd_ConsUInt8(ctx, &pvalue->ctfc6, 0, 63);
-   RT_CHECK(ctx, stat, 0, "ctfc6", -1, 0);
-   /* powerOffsetInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc6Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc6Bit* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc6Bit, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc8 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ctfc8, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ctfc8", -1, 0);
+   /* powerOffsetInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc8 */
-   stat = pd_ConsUInt8(ctx, &pvalue->ctfc8, 0, 255);
-   RT_CHECK(ctx, stat, 0, "ctfc8", -1, 0);
-   /* powerOffsetInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc8Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc8Bit* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc8Bit, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc12 */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ctfc12, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ctfc12", -1, 0);
+   /* powerOffsetInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc12 */
-   stat = pd_ConsUInt16(ctx, &pvalue->ctfc12, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "ctfc12", -1, 0);
-   /* powerOffsetInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc12Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc12Bit* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc12Bit, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc16 */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ctfc16, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ctfc16", -1, 0);
+   /* powerOffsetInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc16 */
-   stat = pd_ConsUInt16(ctx, &pvalue->ctfc16, 0, 65535);
-   RT_CHECK(ctx, stat, 0, "ctfc16", -1, 0);
-   /* powerOffsetInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc16Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc16Bit* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc16Bit, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc24 */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->ctfc24, 0, 16777215);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ctfc24", -1, 0);
+   /* powerOffsetInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc24 */
-   stat = pd_ConsUInt32(ctx, &pvalue->ctfc24, 0, 16777215);
-   RT_CHECK(ctx, stat, 0, "ctfc24", -1, 0);
-   /* powerOffsetInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc24Bit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize_ctfc24Bit* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize_ctfc24Bit, pvalue);
+}
+
+static int dec_TFCS_ReconfAdd_ctfcSize(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ctfc2Bit */
+         pvalue->u.ctfc2Bit = (TFCS_ReconfAdd_ctfcSize_ctfc2Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc2Bit));
+         if (pvalue->u.ctfc2Bit == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ctfc2Bit", -1, 0);
+         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(pvalue->u.ctfc2Bit);
+         stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(ctx, pvalue->u.ctfc2Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc2Bit", -1, 0);
+         break;
+      case 1: /* ctfc4Bit */
+         pvalue->u.ctfc4Bit = (TFCS_ReconfAdd_ctfcSize_ctfc4Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc4Bit));
+         if (pvalue->u.ctfc4Bit == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ctfc4Bit", -1, 0);
+         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(pvalue->u.ctfc4Bit);
+         stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(ctx, pvalue->u.ctfc4Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc4Bit", -1, 0);
+         break;
+      case 2: /* ctfc6Bit */
+         pvalue->u.ctfc6Bit = (TFCS_ReconfAdd_ctfcSize_ctfc6Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc6Bit));
+         if (pvalue->u.ctfc6Bit == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ctfc6Bit", -1, 0);
+         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(pvalue->u.ctfc6Bit);
+         stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(ctx, pvalue->u.ctfc6Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc6Bit", -1, 0);
+         break;
+      case 3: /* ctfc8Bit */
+         pvalue->u.ctfc8Bit = (TFCS_ReconfAdd_ctfcSize_ctfc8Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc8Bit));
+         if (pvalue->u.ctfc8Bit == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ctfc8Bit", -1, 0);
+         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(pvalue->u.ctfc8Bit);
+         stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(ctx, pvalue->u.ctfc8Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc8Bit", -1, 0);
+         break;
+      case 4: /* ctfc12Bit */
+         pvalue->u.ctfc12Bit = (TFCS_ReconfAdd_ctfcSize_ctfc12Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc12Bit));
+         if (pvalue->u.ctfc12Bit == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ctfc12Bit", -1, 0);
+         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(pvalue->u.ctfc12Bit);
+         stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(ctx, pvalue->u.ctfc12Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc12Bit", -1, 0);
+         break;
+      case 5: /* ctfc16Bit */
+         pvalue->u.ctfc16Bit = (TFCS_ReconfAdd_ctfcSize_ctfc16Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc16Bit));
+         if (pvalue->u.ctfc16Bit == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ctfc16Bit", -1, 0);
+         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(pvalue->u.ctfc16Bit);
+         stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(ctx, pvalue->u.ctfc16Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc16Bit", -1, 0);
+         break;
+      case 6: /* ctfc24Bit */
+         pvalue->u.ctfc24Bit = (TFCS_ReconfAdd_ctfcSize_ctfc24Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc24Bit));
+         if (pvalue->u.ctfc24Bit == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ctfc24Bit", -1, 0);
+         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(pvalue->u.ctfc24Bit);
+         stat = dec_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(ctx, pvalue->u.ctfc24Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc24Bit", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd_ctfcSize* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ctfc2Bit */
-         pvalue->u.ctfc2Bit = (TFCS_ReconfAdd_ctfcSize_ctfc2Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc2Bit));
-         if (pvalue->u.ctfc2Bit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ctfc2Bit", -1, 0);
-         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(pvalue->u.ctfc2Bit);
-         stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(ctx, pvalue->u.ctfc2Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc2Bit", -1, 0);
-         break;
-      case 1: /* ctfc4Bit */
-         pvalue->u.ctfc4Bit = (TFCS_ReconfAdd_ctfcSize_ctfc4Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc4Bit));
-         if (pvalue->u.ctfc4Bit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ctfc4Bit", -1, 0);
-         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(pvalue->u.ctfc4Bit);
-         stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(ctx, pvalue->u.ctfc4Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc4Bit", -1, 0);
-         break;
-      case 2: /* ctfc6Bit */
-         pvalue->u.ctfc6Bit = (TFCS_ReconfAdd_ctfcSize_ctfc6Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc6Bit));
-         if (pvalue->u.ctfc6Bit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ctfc6Bit", -1, 0);
-         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(pvalue->u.ctfc6Bit);
-         stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(ctx, pvalue->u.ctfc6Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc6Bit", -1, 0);
-         break;
-      case 3: /* ctfc8Bit */
-         pvalue->u.ctfc8Bit = (TFCS_ReconfAdd_ctfcSize_ctfc8Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc8Bit));
-         if (pvalue->u.ctfc8Bit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ctfc8Bit", -1, 0);
-         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(pvalue->u.ctfc8Bit);
-         stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(ctx, pvalue->u.ctfc8Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc8Bit", -1, 0);
-         break;
-      case 4: /* ctfc12Bit */
-         pvalue->u.ctfc12Bit = (TFCS_ReconfAdd_ctfcSize_ctfc12Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc12Bit));
-         if (pvalue->u.ctfc12Bit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ctfc12Bit", -1, 0);
-         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(pvalue->u.ctfc12Bit);
-         stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(ctx, pvalue->u.ctfc12Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc12Bit", -1, 0);
-         break;
-      case 5: /* ctfc16Bit */
-         pvalue->u.ctfc16Bit = (TFCS_ReconfAdd_ctfcSize_ctfc16Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc16Bit));
-         if (pvalue->u.ctfc16Bit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ctfc16Bit", -1, 0);
-         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(pvalue->u.ctfc16Bit);
-         stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(ctx, pvalue->u.ctfc16Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc16Bit", -1, 0);
-         break;
-      case 6: /* ctfc24Bit */
-         pvalue->u.ctfc24Bit = (TFCS_ReconfAdd_ctfcSize_ctfc24Bit*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd_ctfcSize_ctfc24Bit));
-         if (pvalue->u.ctfc24Bit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ctfc24Bit", -1, 0);
-         asn1Init_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(pvalue->u.ctfc24Bit);
-         stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(ctx, pvalue->u.ctfc24Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc24Bit", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd_ctfcSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_ReconfAdd(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ctfcSize */
+   stat = dec_TFCS_ReconfAdd_ctfcSize(ctx, &pvalue->ctfcSize, cur);
+   RT_CHECK(ctx, stat, 0, "ctfcSize", -1, "TFCS-ReconfAdd");
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_ReconfAdd(rtxContext* RT_RESTRICT ctx, TFCS_ReconfAdd* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TFCS_ReconfAdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_Removal(rtxContext* RT_RESTRICT ctx, TFCS_Removal* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* ctfcSize */
-   stat = asn1PD_UMTS_TFCS_ReconfAdd_ctfcSize(ctx, &pvalue->ctfcSize);
-   RT_CHECK(ctx, stat, 0, "ctfcSize", -1, "TFCS-ReconfAdd");
+   /* tfci */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->tfci, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci", -1, "TFCS-Removal");
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_Removal(rtxContext* RT_RESTRICT ctx, TFCS_Removal* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* tfci */
-   stat = pd_ConsUInt16(ctx, &pvalue->tfci, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "tfci", -1, "TFCS-Removal");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_TFCS_Removal, pvalue);
 }
 
-int asn1PD_UMTS_TFCS_RemovalList(rtxContext* RT_RESTRICT ctx, TFCS_RemovalList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_TFCS_RemovalList(rtxContext* RT_RESTRICT ctx, TFCS_RemovalList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 1024);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFCS-RemovalList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TFCS-RemovalList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       TFCS_Removal* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_Removal));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TFCS-Removal", (int32_t)i, "TFCS-RemovalList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TFCS-Removal", (int32_t)i, "TFCS-RemovalList");
       elem = (TFCS_Removal*)(node + 1);
       node->data = elem;
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TFCS_Removal(ctx, elem);
+      stat = dec_TFCS_Removal(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "TFCS-Removal", (int32_t)i, "TFCS-RemovalList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_ExplicitTFCS_Configuration_replacement(rtxContext* RT_RESTRICT ctx, ExplicitTFCS_Configuration_replacement* RT_RESTRICT pvalue)
+int asn1PD_UMTS_TFCS_RemovalList(rtxContext* RT_RESTRICT ctx, TFCS_RemovalList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TFCS_RemovalList, pvalue);
+}
+
+RT_MERGED_BODY int dec_ExplicitTFCS_Configuration_replacement(rtxContext* RT_RESTRICT ctx, ExplicitTFCS_Configuration_replacement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* tfcsRemoval */
-   stat = asn1PD_UMTS_TFCS_RemovalList(ctx, &pvalue->tfcsRemoval);
+   stat = dec_TFCS_RemovalList(ctx, &pvalue->tfcsRemoval, cur);
    RT_CHECK(ctx, stat, 0, "tfcsRemoval", -1, 0);
    /* tfcsAdd */
-   stat = asn1PD_UMTS_TFCS_ReconfAdd(ctx, &pvalue->tfcsAdd);
+   stat = dec_TFCS_ReconfAdd(ctx, &pvalue->tfcsAdd, cur);
    RT_CHECK(ctx, stat, 0, "tfcsAdd", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ExplicitTFCS_Configuration_replacement(rtxContext* RT_RESTRICT ctx, ExplicitTFCS_Configuration_replacement* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ExplicitTFCS_Configuration_replacement, pvalue);
+}
+
+static int dec_ExplicitTFCS_Configuration(rtxContext* RT_RESTRICT ctx, ExplicitTFCS_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ExplicitTFCS-Configuration");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (TFCS_ReconfAdd*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd));
+         if (pvalue->u.complete == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "complete", -1, "ExplicitTFCS-Configuration");
+         asn1Init_UMTS_TFCS_ReconfAdd(pvalue->u.complete);
+         stat = dec_TFCS_ReconfAdd(ctx, pvalue->u.complete, cur);
+         RT_CHECK(ctx, stat, 0, "complete", -1, "ExplicitTFCS-Configuration");
+         break;
+      case 1: /* addition */
+         pvalue->u.addition = (TFCS_ReconfAdd*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd));
+         if (pvalue->u.addition == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "addition", -1, "ExplicitTFCS-Configuration");
+         asn1Init_UMTS_TFCS_ReconfAdd(pvalue->u.addition);
+         stat = dec_TFCS_ReconfAdd(ctx, pvalue->u.addition, cur);
+         RT_CHECK(ctx, stat, 0, "addition", -1, "ExplicitTFCS-Configuration");
+         break;
+      case 2: /* removal */
+         pvalue->u.removal = (TFCS_RemovalList*)rtxMemHeapAlloc(ctx, sizeof(TFCS_RemovalList));
+         if (pvalue->u.removal == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "removal", -1, "ExplicitTFCS-Configuration");
+         asn1Init_UMTS_TFCS_RemovalList(pvalue->u.removal);
+         stat = dec_TFCS_RemovalList(ctx, pvalue->u.removal, cur);
+         RT_CHECK(ctx, stat, 0, "removal", -1, "ExplicitTFCS-Configuration");
+         break;
+      case 3: /* replacement */
+         pvalue->u.replacement = (ExplicitTFCS_Configuration_replacement*)rtxMemHeapAlloc(ctx, sizeof(ExplicitTFCS_Configuration_replacement));
+         if (pvalue->u.replacement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "replacement", -1, "ExplicitTFCS-Configuration");
+         asn1Init_UMTS_ExplicitTFCS_Configuration_replacement(pvalue->u.replacement);
+         stat = dec_ExplicitTFCS_Configuration_replacement(ctx, pvalue->u.replacement, cur);
+         RT_CHECK(ctx, stat, 0, "replacement", -1, "ExplicitTFCS-Configuration");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ExplicitTFCS-Configuration");
+   }
    return 0;
 }
 
 int asn1PD_UMTS_ExplicitTFCS_Configuration(rtxContext* RT_RESTRICT ctx, ExplicitTFCS_Configuration* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_ExplicitTFCS_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_SplitType(rtxContext* RT_RESTRICT ctx, SplitType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ExplicitTFCS-Configuration");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (TFCS_ReconfAdd*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, "ExplicitTFCS-Configuration");
-         asn1Init_UMTS_TFCS_ReconfAdd(pvalue->u.complete);
-         stat = asn1PD_UMTS_TFCS_ReconfAdd(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, "ExplicitTFCS-Configuration");
-         break;
-      case 1: /* addition */
-         pvalue->u.addition = (TFCS_ReconfAdd*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd));
-         if (pvalue->u.addition == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "addition", -1, "ExplicitTFCS-Configuration");
-         asn1Init_UMTS_TFCS_ReconfAdd(pvalue->u.addition);
-         stat = asn1PD_UMTS_TFCS_ReconfAdd(ctx, pvalue->u.addition);
-         RT_CHECK(ctx, stat, 0, "addition", -1, "ExplicitTFCS-Configuration");
-         break;
-      case 2: /* removal */
-         pvalue->u.removal = (TFCS_RemovalList*)rtxMemHeapAlloc(ctx, sizeof(TFCS_RemovalList));
-         if (pvalue->u.removal == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "removal", -1, "ExplicitTFCS-Configuration");
-         asn1Init_UMTS_TFCS_RemovalList(pvalue->u.removal);
-         stat = asn1PD_UMTS_TFCS_RemovalList(ctx, pvalue->u.removal);
-         RT_CHECK(ctx, stat, 0, "removal", -1, "ExplicitTFCS-Configuration");
-         break;
-      case 3: /* replacement */
-         pvalue->u.replacement = (ExplicitTFCS_Configuration_replacement*)rtxMemHeapAlloc(ctx, sizeof(ExplicitTFCS_Configuration_replacement));
-         if (pvalue->u.replacement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "replacement", -1, "ExplicitTFCS-Configuration");
-         asn1Init_UMTS_ExplicitTFCS_Configuration_replacement(pvalue->u.replacement);
-         stat = asn1PD_UMTS_ExplicitTFCS_Configuration_replacement(ctx, pvalue->u.replacement);
-         RT_CHECK(ctx, stat, 0, "replacement", -1, "ExplicitTFCS-Configuration");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ExplicitTFCS-Configuration");
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SplitType");
    return 0;
 }
 
 int asn1PD_UMTS_SplitType(rtxContext* RT_RESTRICT ctx, SplitType* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SplitType, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_InfoForDSCH(rtxContext* RT_RESTRICT ctx, TFCS_InfoForDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SplitType");
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TFCS-InfoForDSCH");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ctfc2bit */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ctfc2bit, 0, 3);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ctfc2bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 1: /* ctfc4bit */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ctfc4bit, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ctfc4bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 2: /* ctfc6bit */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ctfc6bit, 0, 63);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ctfc6bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 3: /* ctfc8bit */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ctfc8bit, 0, 255);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ctfc8bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 4: /* ctfc12bit */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.ctfc12bit, 0, 4095);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ctfc12bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 5: /* ctfc16bit */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.ctfc16bit, 0, 65535);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ctfc16bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 6: /* ctfc24bit */
+         stat = pd_ConsUInt32At(ctx, cur, &pvalue->u.ctfc24bit, 0, 16777215);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ctfc24bit", -1, "TFCS-InfoForDSCH");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TFCS-InfoForDSCH");
+   }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS_InfoForDSCH(rtxContext* RT_RESTRICT ctx, TFCS_InfoForDSCH* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFCS-InfoForDSCH");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ctfc2bit */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ctfc2bit, 0, 3);
-         RT_CHECK(ctx, stat, 0, "ctfc2bit", -1, "TFCS-InfoForDSCH");
-         break;
-      case 1: /* ctfc4bit */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ctfc4bit, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ctfc4bit", -1, "TFCS-InfoForDSCH");
-         break;
-      case 2: /* ctfc6bit */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ctfc6bit, 0, 63);
-         RT_CHECK(ctx, stat, 0, "ctfc6bit", -1, "TFCS-InfoForDSCH");
-         break;
-      case 3: /* ctfc8bit */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ctfc8bit, 0, 255);
-         RT_CHECK(ctx, stat, 0, "ctfc8bit", -1, "TFCS-InfoForDSCH");
-         break;
-      case 4: /* ctfc12bit */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.ctfc12bit, 0, 4095);
-         RT_CHECK(ctx, stat, 0, "ctfc12bit", -1, "TFCS-InfoForDSCH");
-         break;
-      case 5: /* ctfc16bit */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.ctfc16bit, 0, 65535);
-         RT_CHECK(ctx, stat, 0, "ctfc16bit", -1, "TFCS-InfoForDSCH");
-         break;
-      case 6: /* ctfc24bit */
-         stat = pd_ConsUInt32(ctx, &pvalue->u.ctfc24bit, 0, 16777215);
-         RT_CHECK(ctx, stat, 0, "ctfc24bit", -1, "TFCS-InfoForDSCH");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFCS-InfoForDSCH");
-   }
+   RT_DECODE_ENTRY(ctx, dec_TFCS_InfoForDSCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCI_Range(rtxContext* RT_RESTRICT ctx, TFCI_Range* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxTFCIField2Value */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->maxTFCIField2Value, 1, 1023);
+   RT_CHECK_AT(ctx, cur, stat, 0, "maxTFCIField2Value", -1, "TFCI-Range");
+   /* tfcs-InfoForDSCH */
+   stat = dec_TFCS_InfoForDSCH(ctx, &pvalue->tfcs_InfoForDSCH, cur);
+   RT_CHECK(ctx, stat, 0, "tfcs-InfoForDSCH", -1, "TFCI-Range");
    return 0;
 }
 
 int asn1PD_UMTS_TFCI_Range(rtxContext* RT_RESTRICT ctx, TFCI_Range* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* maxTFCIField2Value */
-   stat = pd_ConsUInt16(ctx, &pvalue->maxTFCIField2Value, 1, 1023);
-   RT_CHECK(ctx, stat, 0, "maxTFCIField2Value", -1, "TFCI-Range");
-   /* tfcs-InfoForDSCH */
-   stat = asn1PD_UMTS_TFCS_InfoForDSCH(ctx, &pvalue->tfcs_InfoForDSCH);
-   RT_CHECK(ctx, stat, 0, "tfcs-InfoForDSCH", -1, "TFCI-Range");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_TFCI_Range, pvalue);
 }
 
-int asn1PD_UMTS_TFCI_RangeList(rtxContext* RT_RESTRICT ctx, TFCI_RangeList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_TFCI_RangeList(rtxContext* RT_RESTRICT ctx, TFCI_RangeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 256);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFCI-RangeList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TFCI-RangeList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       TFCI_Range* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCI_Range));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TFCI-Range", (int32_t)i, "TFCI-RangeList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TFCI-Range", (int32_t)i, "TFCI-RangeList");
       elem = (TFCI_Range*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_TFCI_Range(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TFCI_Range(ctx, elem);
+      stat = dec_TFCI_Range(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "TFCI-Range", (int32_t)i, "TFCI-RangeList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TFCI_RangeList(rtxContext* RT_RESTRICT ctx, TFCI_RangeList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TFCI_RangeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCI_Field2_Information(rtxContext* RT_RESTRICT ctx, TFCI_Field2_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TFCI-Field2-Information");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tfci-Range */
+         pvalue->u.tfci_Range = (TFCI_RangeList*)rtxMemHeapAlloc(ctx, sizeof(TFCI_RangeList));
+         if (pvalue->u.tfci_Range == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tfci-Range", -1, "TFCI-Field2-Information");
+         asn1Init_UMTS_TFCI_RangeList(pvalue->u.tfci_Range);
+         stat = dec_TFCI_RangeList(ctx, pvalue->u.tfci_Range, cur);
+         RT_CHECK(ctx, stat, 0, "tfci-Range", -1, "TFCI-Field2-Information");
+         break;
+      case 1: /* explicit-config */
+         pvalue->u.explicit_config = (ExplicitTFCS_Configuration*)rtxMemHeapAlloc(ctx, sizeof(ExplicitTFCS_Configuration));
+         if (pvalue->u.explicit_config == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit-config", -1, "TFCI-Field2-Information");
+         asn1Init_UMTS_ExplicitTFCS_Configuration(pvalue->u.explicit_config);
+         stat = dec_ExplicitTFCS_Configuration(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, "TFCI-Field2-Information");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TFCI-Field2-Information");
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCI_Field2_Information(rtxContext* RT_RESTRICT ctx, TFCI_Field2_Information* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFCI-Field2-Information");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tfci-Range */
-         pvalue->u.tfci_Range = (TFCI_RangeList*)rtxMemHeapAlloc(ctx, sizeof(TFCI_RangeList));
-         if (pvalue->u.tfci_Range == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tfci-Range", -1, "TFCI-Field2-Information");
-         asn1Init_UMTS_TFCI_RangeList(pvalue->u.tfci_Range);
-         stat = asn1PD_UMTS_TFCI_RangeList(ctx, pvalue->u.tfci_Range);
-         RT_CHECK(ctx, stat, 0, "tfci-Range", -1, "TFCI-Field2-Information");
-         break;
-      case 1: /* explicit-config */
-         pvalue->u.explicit_config = (ExplicitTFCS_Configuration*)rtxMemHeapAlloc(ctx, sizeof(ExplicitTFCS_Configuration));
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, "TFCI-Field2-Information");
-         asn1Init_UMTS_ExplicitTFCS_Configuration(pvalue->u.explicit_config);
-         stat = asn1PD_UMTS_ExplicitTFCS_Configuration(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, "TFCI-Field2-Information");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFCI-Field2-Information");
+   RT_DECODE_ENTRY(ctx, dec_TFCI_Field2_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_SplitTFCI_Signalling(rtxContext* RT_RESTRICT ctx, SplitTFCI_Signalling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SplitTFCI-Signalling");
+   /* splitType */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->splitType, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "SplitType", "splitType", -1, "SplitTFCI-Signalling");
+   }
+   /* tfci-Field2-Length */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfci_Field2_Length, 1, 10);
+      RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Field2-Length", -1, "SplitTFCI-Signalling");
+   }
+   /* tfci-Field1-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_ExplicitTFCS_Configuration(ctx, &pvalue->tfci_Field1_Information, cur);
+      RT_CHECK(ctx, stat, 0, "tfci-Field1-Information", -1, "SplitTFCI-Signalling");
+   }
+   /* tfci-Field2-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_TFCI_Field2_Information(ctx, &pvalue->tfci_Field2_Information, cur);
+      RT_CHECK(ctx, stat, 0, "tfci-Field2-Information", -1, "SplitTFCI-Signalling");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SplitTFCI_Signalling(rtxContext* RT_RESTRICT ctx, SplitTFCI_Signalling* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SplitTFCI-Signalling");
-   /* splitType */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->splitType, 0, 1);
-      RT_CHECK(ctx, stat, "SplitType", "splitType", -1, "SplitTFCI-Signalling");
-   }
-   /* tfci-Field2-Length */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->tfci_Field2_Length, 1, 10);
-      RT_CHECK(ctx, stat, 0, "tfci-Field2-Length", -1, "SplitTFCI-Signalling");
-   }
-   /* tfci-Field1-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_ExplicitTFCS_Configuration(ctx, &pvalue->tfci_Field1_Information);
-      RT_CHECK(ctx, stat, 0, "tfci-Field1-Information", -1, "SplitTFCI-Signalling");
-   }
-   /* tfci-Field2-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TFCI_Field2_Information(ctx, &pvalue->tfci_Field2_Information);
-      RT_CHECK(ctx, stat, 0, "tfci-Field2-Information", -1, "SplitTFCI-Signalling");
+   RT_DECODE_ENTRY(ctx, dec_SplitTFCI_Signalling, pvalue);
+}
+
+static int dec_TFCS(rtxContext* RT_RESTRICT ctx, TFCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TFCS");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* normalTFCI-Signalling */
+         pvalue->u.normalTFCI_Signalling = (ExplicitTFCS_Configuration*)rtxMemHeapAlloc(ctx, sizeof(ExplicitTFCS_Configuration));
+         if (pvalue->u.normalTFCI_Signalling == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "normalTFCI-Signalling", -1, "TFCS");
+         asn1Init_UMTS_ExplicitTFCS_Configuration(pvalue->u.normalTFCI_Signalling);
+         stat = dec_ExplicitTFCS_Configuration(ctx, pvalue->u.normalTFCI_Signalling, cur);
+         RT_CHECK(ctx, stat, 0, "normalTFCI-Signalling", -1, "TFCS");
+         break;
+      case 1: /* dummy */
+         pvalue->u.dummy = (SplitTFCI_Signalling*)rtxMemHeapAlloc(ctx, sizeof(SplitTFCI_Signalling));
+         if (pvalue->u.dummy == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dummy", -1, "TFCS");
+         asn1Init_UMTS_SplitTFCI_Signalling(pvalue->u.dummy);
+         stat = dec_SplitTFCI_Signalling(ctx, pvalue->u.dummy, cur);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "TFCS");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TFCS");
    }
    return 0;
 }
 
 int asn1PD_UMTS_TFCS(rtxContext* RT_RESTRICT ctx, TFCS* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFCS");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* normalTFCI-Signalling */
-         pvalue->u.normalTFCI_Signalling = (ExplicitTFCS_Configuration*)rtxMemHeapAlloc(ctx, sizeof(ExplicitTFCS_Configuration));
-         if (pvalue->u.normalTFCI_Signalling == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "normalTFCI-Signalling", -1, "TFCS");
-         asn1Init_UMTS_ExplicitTFCS_Configuration(pvalue->u.normalTFCI_Signalling);
-         stat = asn1PD_UMTS_ExplicitTFCS_Configuration(ctx, pvalue->u.normalTFCI_Signalling);
-         RT_CHECK(ctx, stat, 0, "normalTFCI-Signalling", -1, "TFCS");
-         break;
-      case 1: /* dummy */
-         pvalue->u.dummy = (SplitTFCI_Signalling*)rtxMemHeapAlloc(ctx, sizeof(SplitTFCI_Signalling));
-         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dummy", -1, "TFCS");
-         asn1Init_UMTS_SplitTFCI_Signalling(pvalue->u.dummy);
-         stat = asn1PD_UMTS_SplitTFCI_Signalling(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat, 0, "dummy", -1, "TFCS");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFCS");
+   RT_DECODE_ENTRY(ctx, dec_TFCS, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_SysInfo(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfo");
+   /* pusch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo");
+   /* pusch-Info */
+   stat = dec_PUSCH_Info(ctx, &pvalue->pusch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo");
+   /* usch-TFS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TransportFormatSet(ctx, &pvalue->usch_TFS, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TFS", -1, "PUSCH-SysInfo");
+   }
+   /* usch-TFCS */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TFCS(ctx, &pvalue->usch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PUSCH_SysInfo(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo");
-   /* pusch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo");
-   /* pusch-Info */
-   stat = asn1PD_UMTS_PUSCH_Info(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo");
-   /* usch-TFS */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
-      RT_CHECK(ctx, stat, 0, "usch-TFS", -1, "PUSCH-SysInfo");
-   }
-   /* usch-TFCS */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DurationTimeInfo(rtxContext* RT_RESTRICT ctx, DurationTimeInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 1, 4096);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DurationTimeInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_TimeInfo(rtxContext* RT_RESTRICT ctx, SFN_TimeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* activationTimeSFN */
-   stat = pd_ConsUInt16(ctx, &pvalue->activationTimeSFN, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "activationTimeSFN", -1, "SFN-TimeInfo");
-   /* physChDuration */
-   stat = pd_ConsUInt16(ctx, &pvalue->physChDuration, 1, 4096);
-   RT_CHECK(ctx, stat, "DurationTimeInfo", "physChDuration", -1, "SFN-TimeInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfo */
-   stat = asn1PD_UMTS_PUSCH_SysInfo(ctx, &pvalue->pusch_SysInfo);
-   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
-   /* sfn-TimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PUSCH_SysInfoList_SFN_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfoList_SFN_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN");
-      elem = (PUSCH_SysInfoList_SFN_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PUSCH_SysInfoList_SFN_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_Identity(rtxContext* RT_RESTRICT ctx, PDSCH_Identity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Identity");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TS-ChannelisationCode");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* firstChannelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "firstChannelisationCode", -1, 0);
-   /* lastChannelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->lastChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "lastChannelisationCode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* consecutive */
-         pvalue->u.consecutive = (DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive));
-         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
-         stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 1: /* bitmap */
-         pvalue->u.bitmap = (DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap*)rtxMemHeapAlloc(ctx, sizeof(DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap));
-         if (pvalue->u.bitmap == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "bitmap", -1, 0);
-         asn1Init_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(pvalue->u.bitmap);
-         stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(ctx, pvalue->u.bitmap);
-         RT_CHECK(ctx, stat, 0, "bitmap", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TS_ChannelisationCodesShort(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* codesRepresentation */
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation(ctx, &pvalue->codesRepresentation);
-   RT_CHECK(ctx, stat, 0, "codesRepresentation", -1, "DL-TS-ChannelisationCodesShort");
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sameAsLast */
-         pvalue->u.sameAsLast = (DownlinkAdditionalTimeslots_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkAdditionalTimeslots_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
-         stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
-         break;
-      case 1: /* newParameters */
-         pvalue->u.newParameters = (DownlinkAdditionalTimeslots_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(DownlinkAdditionalTimeslots_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
-         asn1Init_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(pvalue->u.newParameters);
-         stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* parameters */
-   stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots");
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DownlinkAdditionalTimeslots* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DownlinkAdditionalTimeslots));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DownlinkAdditionalTimeslots", (int32_t)i, 0);
-      elem = (DownlinkAdditionalTimeslots*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DownlinkAdditionalTimeslots(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DownlinkAdditionalTimeslots(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* consecutive */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.consecutive, 1, 13);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 1: /* timeslotList */
-         pvalue->u.timeslotList = (DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
-         asn1Init_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
-         stat = asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* noMore */
-         break;
-      case 1: /* additionalTimeslots */
-         pvalue->u.additionalTimeslots = (DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
-         asn1Init_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
-         stat = asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes");
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes");
-   /* moreTimeslots */
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes");
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_Info(rtxContext* RT_RESTRICT ctx, PDSCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info");
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info");
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* commonTimeslotInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info");
-   }
-   /* pdsch-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, "PDSCH-Info");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_SysInfo(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo");
-   /* pdsch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo");
-   /* pdsch-Info */
-   stat = asn1PD_UMTS_PDSCH_Info(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo");
-   /* dsch-TFS */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
-      RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, "PDSCH-SysInfo");
-   }
-   /* dsch-TFCS */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-SysInfo */
-   stat = asn1PD_UMTS_PDSCH_SysInfo(ctx, &pvalue->pdsch_SysInfo);
-   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
-   /* sfn-TimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PDSCH_SysInfoList_SFN_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfoList_SFN_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN");
-      elem = (PDSCH_SysInfoList_SFN_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PDSCH_SysInfoList_SFN_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_TX_Power* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 6, 43);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCCPCH-TX-Power");
-   return 0;
-}
-
-int asn1PD_UMTS_Alpha(rtxContext* RT_RESTRICT ctx, Alpha* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Alpha");
-   return 0;
-}
-
-int asn1PD_UMTS_ConstantValueTdd(rtxContext* RT_RESTRICT ctx, ConstantValueTdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -35, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ConstantValueTdd");
-   return 0;
-}
-
-int asn1PD_UMTS_OpenLoopPowerControl_TDD(rtxContext* RT_RESTRICT ctx, OpenLoopPowerControl_TDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "OpenLoopPowerControl-TDD");
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "OpenLoopPowerControl-TDD");
-   /* alpha */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->alpha, 0, 8);
-      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, "OpenLoopPowerControl-TDD");
-   }
-   /* prach-ConstantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->prach_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, "OpenLoopPowerControl-TDD");
-   /* dpch-ConstantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
-   /* pusch-ConstantValue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->pusch_ConstantValue, -35, 10);
-      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
-   }
-   /* openLoopPowerControl-TDD */
-   stat = asn1PD_UMTS_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD);
-   RT_CHECK(ctx, stat, 0, "openLoopPowerControl-TDD", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (SysInfoType5_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(SysInfoType5_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_SysInfoType5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (SysInfoType5_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_SysInfoType5_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_SysInfoType5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_fdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tx-DiversityIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd_syncCase_syncCase1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotSync2(rtxContext* RT_RESTRICT ctx, TimeslotSync2* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotSync2");
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd_syncCase_syncCase2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotSync2 */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotSync2, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd_syncCase* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* syncCase1 */
-         pvalue->u.syncCase1 = (PrimaryCCPCH_Info_tdd_syncCase_syncCase1*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_tdd_syncCase_syncCase1));
-         if (pvalue->u.syncCase1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "syncCase1", -1, 0);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
-         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
-         break;
-      case 1: /* syncCase2 */
-         pvalue->u.syncCase2 = (PrimaryCCPCH_Info_tdd_syncCase_syncCase2*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_tdd_syncCase_syncCase2));
-         if (pvalue->u.syncCase2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "syncCase2", -1, 0);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
-         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellParametersID(rtxContext* RT_RESTRICT ctx, CellParametersID* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellParametersID");
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_tdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* syncCase */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase(ctx, &pvalue->syncCase);
-      RT_CHECK(ctx, stat, 0, "syncCase", -1, 0);
-   }
-   /* cellParametersID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
-   }
-   /* sctd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCCPCH-Info");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (PrimaryCCPCH_Info_fdd*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "PrimaryCCPCH-Info");
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "PrimaryCCPCH-Info");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PrimaryCCPCH_Info_tdd*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "PrimaryCCPCH-Info");
-         asn1Init_UMTS_PrimaryCCPCH_Info_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "PrimaryCCPCH-Info");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PrimaryCCPCH-Info");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AvailableSignatures(rtxContext* RT_RESTRICT ctx, AvailableSignatures* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AvailableSignatures");
-   return 0;
-}
-
-int asn1PD_UMTS_SF_PRACH(rtxContext* RT_RESTRICT ctx, SF_PRACH* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF-PRACH");
-   return 0;
-}
-
-int asn1PD_UMTS_PreambleScramblingCodeWordNumber(rtxContext* RT_RESTRICT ctx, PreambleScramblingCodeWordNumber* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PreambleScramblingCodeWordNumber");
-   return 0;
-}
-
-int asn1PD_UMTS_AvailableSubChannelNumbers(rtxContext* RT_RESTRICT ctx, AvailableSubChannelNumbers* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, pvalue, 12, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AvailableSubChannelNumbers");
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* availableSignatures */
-   stat = asn1PD_UMTS_AvailableSignatures(ctx, &pvalue->availableSignatures);
-   RT_CHECK(ctx, stat, 0, "availableSignatures", -1, 0);
-   /* availableSF */
-   stat = pd_ConsUnsigned(ctx, &pvalue->availableSF, 0, 3);
-   RT_CHECK(ctx, stat, "SF-PRACH", "availableSF", -1, 0);
-   /* preambleScramblingCodeWordNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->preambleScramblingCodeWordNumber, 0, 15);
-   RT_CHECK(ctx, stat, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, 0);
-   /* puncturingLimit */
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   /* availableSubChannelNumbers */
-   stat = asn1PD_UMTS_AvailableSubChannelNumbers(ctx, &pvalue->availableSubChannelNumbers);
-   RT_CHECK(ctx, stat, 0, "availableSubChannelNumbers", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_PRACH_CCode8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode8* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PRACH-CCode8");
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_PRACH_CCodeList_sf8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCodeList_sf8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "sf8");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 7);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TDD-PRACH-CCode8", "TDD-PRACH-CCode8", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode16* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PRACH-CCode16");
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCodeList_sf16* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "sf16");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TDD-PRACH-CCode16", "TDD-PRACH-CCode16", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCodeList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PRACH-CCodeList");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sf8 */
-         pvalue->u.sf8 = (TDD_PRACH_CCodeList_sf8*)rtxMemHeapAlloc(ctx, sizeof(TDD_PRACH_CCodeList_sf8));
-         if (pvalue->u.sf8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sf8", -1, "TDD-PRACH-CCodeList");
-         asn1Init_UMTS_TDD_PRACH_CCodeList_sf8(pvalue->u.sf8);
-         stat = asn1PD_UMTS_TDD_PRACH_CCodeList_sf8(ctx, pvalue->u.sf8);
-         RT_CHECK(ctx, stat, 0, "sf8", -1, "TDD-PRACH-CCodeList");
-         break;
-      case 1: /* sf16 */
-         pvalue->u.sf16 = (TDD_PRACH_CCodeList_sf16*)rtxMemHeapAlloc(ctx, sizeof(TDD_PRACH_CCodeList_sf16));
-         if (pvalue->u.sf16 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sf16", -1, "TDD-PRACH-CCodeList");
-         asn1Init_UMTS_TDD_PRACH_CCodeList_sf16(pvalue->u.sf16);
-         stat = asn1PD_UMTS_TDD_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16);
-         RT_CHECK(ctx, stat, 0, "sf16", -1, "TDD-PRACH-CCodeList");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TDD-PRACH-CCodeList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_Midamble(rtxContext* RT_RESTRICT ctx, PRACH_Midamble* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Midamble");
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   /* channelisationCodeList */
-   stat = asn1PD_UMTS_TDD_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, 0);
-   /* prach-Midamble */
-   stat = pd_ConsUnsigned(ctx, &pvalue->prach_Midamble, 0, 1);
-   RT_CHECK(ctx, stat, "PRACH-Midamble", "prach-Midamble", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (PRACH_RACH_Info_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_RACH_Info_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PRACH_RACH_Info_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_RACH_Info_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_RACH_Info(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PRACH-RACH-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, TransportChannelIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_FDD_assignedSubChannelNumber(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD_assignedSubChannelNumber* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, pvalue, 4, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_FDD(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* availableSignatureStartIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->availableSignatureStartIndex, 0, 15);
-   RT_CHECK(ctx, stat, 0, "availableSignatureStartIndex", -1, "AccessServiceClass-FDD");
-   /* availableSignatureEndIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->availableSignatureEndIndex, 0, 15);
-   RT_CHECK(ctx, stat, 0, "availableSignatureEndIndex", -1, "AccessServiceClass-FDD");
-   /* assignedSubChannelNumber */
-   stat = asn1PD_UMTS_AccessServiceClass_FDD_assignedSubChannelNumber(ctx, &pvalue->assignedSubChannelNumber);
-   RT_CHECK(ctx, stat, 0, "assignedSubChannelNumber", -1, "AccessServiceClass-FDD");
-   return 0;
-}
-
-int asn1PD_UMTS_ASCSetting_FDD(rtxContext* RT_RESTRICT ctx, ASCSetting_FDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-FDD");
-   /* accessServiceClass-FDD */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_FDD(ctx, &pvalue->accessServiceClass_FDD);
-      RT_CHECK(ctx, stat, 0, "accessServiceClass-FDD", -1, "ASCSetting-FDD");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_Partitioning_fdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_fdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ASCSetting_FDD* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_FDD));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ASCSetting-FDD", (int32_t)i, 0);
-      elem = (ASCSetting_FDD*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_ASCSetting_FDD(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ASCSetting_FDD(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "ASCSetting-FDD", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_channelisationCodeIndices* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2_subchannels* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->subchannels, 0, 1);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4_subchannels* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, pvalue, 4, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size4_subchannels(ctx, &pvalue->subchannels);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8_subchannels* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size8_subchannels(ctx, &pvalue->subchannels);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* size1 */
-         break;
-      case 1: /* size2 */
-         pvalue->u.size2 = (AccessServiceClass_TDD_subchannelSize_size2*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_subchannelSize_size2));
-         if (pvalue->u.size2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size2", -1, 0);
-         asn1Init_UMTS_AccessServiceClass_TDD_subchannelSize_size2(pvalue->u.size2);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size2(ctx, pvalue->u.size2);
-         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
-         break;
-      case 2: /* size4 */
-         pvalue->u.size4 = (AccessServiceClass_TDD_subchannelSize_size4*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_subchannelSize_size4));
-         if (pvalue->u.size4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size4", -1, 0);
-         asn1Init_UMTS_AccessServiceClass_TDD_subchannelSize_size4(pvalue->u.size4);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size4(ctx, pvalue->u.size4);
-         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
-         break;
-      case 3: /* size8 */
-         pvalue->u.size8 = (AccessServiceClass_TDD_subchannelSize_size8*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_subchannelSize_size8));
-         if (pvalue->u.size8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size8", -1, 0);
-         asn1Init_UMTS_AccessServiceClass_TDD_subchannelSize_size8(pvalue->u.size8);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size8(ctx, pvalue->u.size8);
-         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AccessServiceClass-TDD");
-   /* channelisationCodeIndices */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_channelisationCodeIndices(ctx, &pvalue->channelisationCodeIndices);
-      RT_CHECK(ctx, stat, 0, "channelisationCodeIndices", -1, "AccessServiceClass-TDD");
-   }
-   /* subchannelSize */
-   stat = asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize(ctx, &pvalue->subchannelSize);
-   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD");
-   return 0;
-}
-
-int asn1PD_UMTS_ASCSetting_TDD(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-TDD");
-   /* accessServiceClass-TDD */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD(ctx, &pvalue->accessServiceClass_TDD);
-      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD", -1, "ASCSetting-TDD");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_Partitioning_tdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ASCSetting_TDD* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_TDD));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ASCSetting-TDD", (int32_t)i, 0);
-      elem = (ASCSetting_TDD*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_ASCSetting_TDD(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ASCSetting_TDD(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_Partitioning(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Partitioning");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (PRACH_Partitioning_fdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_Partitioning_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "PRACH-Partitioning");
-         asn1Init_UMTS_PRACH_Partitioning_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PRACH_Partitioning_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "PRACH-Partitioning");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PRACH_Partitioning_tdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_Partitioning_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "PRACH-Partitioning");
-         asn1Init_UMTS_PRACH_Partitioning_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PRACH_Partitioning_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "PRACH-Partitioning");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PRACH-Partitioning");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PersistenceScalingFactor(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactor* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PersistenceScalingFactor");
-   return 0;
-}
-
-int asn1PD_UMTS_PersistenceScalingFactorList(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactorList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "PersistenceScalingFactorList");
-      pvalue->n = raw + 1;
-      if (raw > 5) {
-         rtxErrAddStrParm(ctx, "PersistenceScalingFactorList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PersistenceScalingFactorList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 7);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "PersistenceScalingFactor", "PersistenceScalingFactor", (int32_t)i, "PersistenceScalingFactorList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AC_To_ASC_Mapping(rtxContext* RT_RESTRICT ctx, AC_To_ASC_Mapping* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AC-To-ASC-Mapping");
-   return 0;
-}
-
-int asn1PD_UMTS_AC_To_ASC_MappingTable(rtxContext* RT_RESTRICT ctx, AC_To_ASC_MappingTable* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   pvalue->n = 7;
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 7);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "AC-To-ASC-Mapping", "AC-To-ASC-Mapping", (int32_t)i, "AC-To-ASC-MappingTable");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCPICH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_TX_Power* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -10, 50);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCPICH-TX-Power");
-   return 0;
-}
-
-int asn1PD_UMTS_ConstantValue(rtxContext* RT_RESTRICT ctx, ConstantValue* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -35, -10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ConstantValue");
-   return 0;
-}
-
-int asn1PD_UMTS_PowerRampStep(rtxContext* RT_RESTRICT ctx, PowerRampStep* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerRampStep");
-   return 0;
-}
-
-int asn1PD_UMTS_PreambleRetransMax(rtxContext* RT_RESTRICT ctx, PreambleRetransMax* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PreambleRetransMax");
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_PowerOffset(rtxContext* RT_RESTRICT ctx, PRACH_PowerOffset* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* powerRampStep */
-   stat = pd_ConsUInt8(ctx, &pvalue->powerRampStep, 1, 8);
-   RT_CHECK(ctx, stat, "PowerRampStep", "powerRampStep", -1, "PRACH-PowerOffset");
-   /* preambleRetransMax */
-   stat = pd_ConsUInt8(ctx, &pvalue->preambleRetransMax, 1, 64);
-   RT_CHECK(ctx, stat, "PreambleRetransMax", "preambleRetransMax", -1, "PRACH-PowerOffset");
-   return 0;
-}
-
-int asn1PD_UMTS_NB01(rtxContext* RT_RESTRICT ctx, NB01* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 50);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NB01");
-   return 0;
-}
-
-int asn1PD_UMTS_RACH_TransmissionParameters(rtxContext* RT_RESTRICT ctx, RACH_TransmissionParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mmax */
-   stat = pd_ConsUInt8(ctx, &pvalue->mmax, 1, 32);
-   RT_CHECK(ctx, stat, 0, "mmax", -1, "RACH-TransmissionParameters");
-   /* nb01Min */
-   stat = pd_ConsUInt8(ctx, &pvalue->nb01Min, 0, 50);
-   RT_CHECK(ctx, stat, "NB01", "nb01Min", -1, "RACH-TransmissionParameters");
-   /* nb01Max */
-   stat = pd_ConsUInt8(ctx, &pvalue->nb01Max, 0, 50);
-   RT_CHECK(ctx, stat, "NB01", "nb01Max", -1, "RACH-TransmissionParameters");
-   return 0;
-}
-
-int asn1PD_UMTS_ChannelisationCode256(rtxContext* RT_RESTRICT ctx, ChannelisationCode256* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ChannelisationCode256");
-   return 0;
-}
-
-int asn1PD_UMTS_AICH_TransmissionTiming(rtxContext* RT_RESTRICT ctx, AICH_TransmissionTiming* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AICH-TransmissionTiming");
-   return 0;
-}
-
-int asn1PD_UMTS_AICH_Info(rtxContext* RT_RESTRICT ctx, AICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* channelisationCode256 */
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, "AICH-Info");
-   /* sttd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, "AICH-Info");
-   /* aich-TransmissionTiming */
-   stat = pd_ConsUnsigned(ctx, &pvalue->aich_TransmissionTiming, 0, 1);
-   RT_CHECK(ctx, stat, "AICH-TransmissionTiming", "aich-TransmissionTiming", -1, "AICH-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-   }
-   /* constantValue */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->constantValue, -35, -10);
-      RT_CHECK(ctx, stat, "ConstantValue", "constantValue", -1, 0);
-   }
-   /* prach-PowerOffset */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset);
-      RT_CHECK(ctx, stat, 0, "prach-PowerOffset", -1, 0);
-   }
-   /* rach-TransmissionParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters);
-      RT_CHECK(ctx, stat, 0, "rach-TransmissionParameters", -1, 0);
-   }
-   /* aich-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_AICH_Info(ctx, &pvalue->aich_Info);
-      RT_CHECK(ctx, stat, 0, "aich-Info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_SystemInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (PRACH_SystemInformation_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_SystemInformation_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_SystemInformation(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformation");
-   /* prach-RACH-Info */
-   stat = asn1PD_UMTS_PRACH_RACH_Info(ctx, &pvalue->prach_RACH_Info);
-   RT_CHECK(ctx, stat, 0, "prach-RACH-Info", -1, "PRACH-SystemInformation");
-   /* transportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "PRACH-SystemInformation");
-   /* rach-TransportFormatSet */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->rach_TransportFormatSet);
-      RT_CHECK(ctx, stat, 0, "rach-TransportFormatSet", -1, "PRACH-SystemInformation");
-   }
-   /* rach-TFCS */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->rach_TFCS);
-      RT_CHECK(ctx, stat, 0, "rach-TFCS", -1, "PRACH-SystemInformation");
-   }
-   /* prach-Partitioning */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PRACH_Partitioning(ctx, &pvalue->prach_Partitioning);
-      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-SystemInformation");
-   }
-   /* persistenceScalingFactorList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList);
-      RT_CHECK(ctx, stat, 0, "persistenceScalingFactorList", -1, "PRACH-SystemInformation");
-   }
-   /* ac-To-ASC-MappingTable */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable);
-      RT_CHECK(ctx, stat, 0, "ac-To-ASC-MappingTable", -1, "PRACH-SystemInformation");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_PRACH_SystemInformation_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PRACH-SystemInformation");
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_SystemInformationList(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PRACH_SystemInformation* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_SystemInformation));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PRACH-SystemInformation", (int32_t)i, "PRACH-SystemInformationList");
-      elem = (PRACH_SystemInformation*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PRACH_SystemInformation(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PRACH_SystemInformation(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation", (int32_t)i, "PRACH-SystemInformationList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PCPICH_UsageForChannelEst(rtxContext* RT_RESTRICT ctx, PCPICH_UsageForChannelEst* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PCPICH-UsageForChannelEst");
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryScramblingCode(rtxContext* RT_RESTRICT ctx, SecondaryScramblingCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryScramblingCode");
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCPICH_Info(rtxContext* RT_RESTRICT ctx, SecondaryCPICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryCPICH-Info");
-   /* secondaryDL-ScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryDL_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryDL-ScramblingCode", -1, "SecondaryCPICH-Info");
-   }
-   /* channelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode", -1, "SecondaryCPICH-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_SF256_AndCodeNumber(rtxContext* RT_RESTRICT ctx, SF256_AndCodeNumber* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF256-AndCodeNumber");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sf4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf4, 0, 3);
-         RT_CHECK(ctx, stat, 0, "sf4", -1, "SF256-AndCodeNumber");
-         break;
-      case 1: /* sf8 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf8, 0, 7);
-         RT_CHECK(ctx, stat, 0, "sf8", -1, "SF256-AndCodeNumber");
-         break;
-      case 2: /* sf16 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf16, 0, 15);
-         RT_CHECK(ctx, stat, 0, "sf16", -1, "SF256-AndCodeNumber");
-         break;
-      case 3: /* sf32 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf32, 0, 31);
-         RT_CHECK(ctx, stat, 0, "sf32", -1, "SF256-AndCodeNumber");
-         break;
-      case 4: /* sf64 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf64, 0, 63);
-         RT_CHECK(ctx, stat, 0, "sf64", -1, "SF256-AndCodeNumber");
-         break;
-      case 5: /* sf128 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf128, 0, 127);
-         RT_CHECK(ctx, stat, 0, "sf128", -1, "SF256-AndCodeNumber");
-         break;
-      case 6: /* sf256 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf256, 0, 255);
-         RT_CHECK(ctx, stat, 0, "sf256", -1, "SF256-AndCodeNumber");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SF256-AndCodeNumber");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PositionFixedOrFlexible(rtxContext* RT_RESTRICT ctx, PositionFixedOrFlexible* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PositionFixedOrFlexible");
-   return 0;
-}
-
-int asn1PD_UMTS_TimingOffset(rtxContext* RT_RESTRICT ctx, TimingOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 149);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimingOffset");
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy1 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dummy1, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "dummy1", -1, 0);
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   /* secondaryScramblingCode */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
-   }
-   /* sttd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
-   /* sf-AndCodeNumber */
-   stat = asn1PD_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
-   /* pilotSymbolExistence */
-   stat = rtxDecBitInline(ctx, &pvalue->pilotSymbolExistence);
-   RT_CHECK(ctx, stat, 0, "pilotSymbolExistence", -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* positionFixedOrFlexible */
-   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   /* timingOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
-   }
-   else {
-      pvalue->timingOffset = 0;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod2(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* length */
-   /* offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 1);
-   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod4(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* length */
-   stat = pd_ConsUInt8(ctx, &pvalue->length, 1, 3);
-   RT_CHECK(ctx, stat, 0, "length", -1, 0);
-   /* offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 3);
-   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod8(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* length */
-   stat = pd_ConsUInt8(ctx, &pvalue->length, 1, 7);
-   RT_CHECK(ctx, stat, 0, "length", -1, 0);
-   /* offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 7);
-   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod16(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod16* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* length */
-   stat = pd_ConsUInt8(ctx, &pvalue->length, 1, 15);
-   RT_CHECK(ctx, stat, 0, "length", -1, 0);
-   /* offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 15);
-   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod32(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod32* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* length */
-   stat = pd_ConsUInt8(ctx, &pvalue->length, 1, 31);
-   RT_CHECK(ctx, stat, 0, "length", -1, 0);
-   /* offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 31);
-   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod64(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod64* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* length */
-   stat = pd_ConsUInt8(ctx, &pvalue->length, 1, 63);
-   RT_CHECK(ctx, stat, 0, "length", -1, 0);
-   /* offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 63);
-   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RepetitionPeriodLengthAndOffset");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* repetitionPeriod1 */
-         break;
-      case 1: /* repetitionPeriod2 */
-         pvalue->u.repetitionPeriod2 = (RepetitionPeriodLengthAndOffset_repetitionPeriod2*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod2));
-         if (pvalue->u.repetitionPeriod2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "repetitionPeriod2", -1, "RepetitionPeriodLengthAndOffset");
-         stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod2(ctx, pvalue->u.repetitionPeriod2);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodLengthAndOffset");
-         break;
-      case 2: /* repetitionPeriod4 */
-         pvalue->u.repetitionPeriod4 = (RepetitionPeriodLengthAndOffset_repetitionPeriod4*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod4));
-         if (pvalue->u.repetitionPeriod4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "repetitionPeriod4", -1, "RepetitionPeriodLengthAndOffset");
-         stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod4(ctx, pvalue->u.repetitionPeriod4);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodLengthAndOffset");
-         break;
-      case 3: /* repetitionPeriod8 */
-         pvalue->u.repetitionPeriod8 = (RepetitionPeriodLengthAndOffset_repetitionPeriod8*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod8));
-         if (pvalue->u.repetitionPeriod8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "repetitionPeriod8", -1, "RepetitionPeriodLengthAndOffset");
-         stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod8(ctx, pvalue->u.repetitionPeriod8);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodLengthAndOffset");
-         break;
-      case 4: /* repetitionPeriod16 */
-         pvalue->u.repetitionPeriod16 = (RepetitionPeriodLengthAndOffset_repetitionPeriod16*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod16));
-         if (pvalue->u.repetitionPeriod16 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "repetitionPeriod16", -1, "RepetitionPeriodLengthAndOffset");
-         stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod16(ctx, pvalue->u.repetitionPeriod16);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodLengthAndOffset");
-         break;
-      case 5: /* repetitionPeriod32 */
-         pvalue->u.repetitionPeriod32 = (RepetitionPeriodLengthAndOffset_repetitionPeriod32*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod32));
-         if (pvalue->u.repetitionPeriod32 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "repetitionPeriod32", -1, "RepetitionPeriodLengthAndOffset");
-         stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod32(ctx, pvalue->u.repetitionPeriod32);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodLengthAndOffset");
-         break;
-      case 6: /* repetitionPeriod64 */
-         pvalue->u.repetitionPeriod64 = (RepetitionPeriodLengthAndOffset_repetitionPeriod64*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod64));
-         if (pvalue->u.repetitionPeriod64 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "repetitionPeriod64", -1, "RepetitionPeriodLengthAndOffset");
-         stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod64(ctx, pvalue->u.repetitionPeriod64);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod64", -1, "RepetitionPeriodLengthAndOffset");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodLengthAndOffset");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CommonTimeslotInfoSCCPCH(rtxContext* RT_RESTRICT ctx, CommonTimeslotInfoSCCPCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CommonTimeslotInfoSCCPCH");
-   /* secondInterleavingMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->secondInterleavingMode, 0, 1);
-   RT_CHECK(ctx, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoSCCPCH");
-   /* tfci-Coding */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tfci_Coding, 0, 3);
-      RT_CHECK(ctx, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoSCCPCH");
-   }
-   /* puncturingLimit */
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoSCCPCH");
-   /* repetitionPeriodLengthAndOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset(ctx, &pvalue->repetitionPeriodLengthAndOffset);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthAndOffset", -1, "CommonTimeslotInfoSCCPCH");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCode");
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCodeList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCodeList");
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "SCCPCH-ChannelisationCodeList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SCCPCH-ChannelisationCodeList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "SCCPCH-ChannelisationCode", "SCCPCH-ChannelisationCode", (int32_t)i, "SCCPCH-ChannelisationCodeList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* commonTimeslotInfo */
-   stat = asn1PD_UMTS_CommonTimeslotInfoSCCPCH(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* channelisationCode */
-   stat = asn1PD_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (SecondaryCCPCH_Info_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (SecondaryCCPCH_Info_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_FACH_PCH_Information(rtxContext* RT_RESTRICT ctx, FACH_PCH_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* transportFormatSet */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "FACH-PCH-Information");
-   /* transportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "FACH-PCH-Information");
-   /* ctch-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->ctch_Indicator);
-   RT_CHECK(ctx, stat, 0, "ctch-Indicator", -1, "FACH-PCH-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_FACH_PCH_InformationList(rtxContext* RT_RESTRICT ctx, FACH_PCH_InformationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FACH-PCH-InformationList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      FACH_PCH_Information* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FACH_PCH_Information));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "FACH-PCH-Information", (int32_t)i, "FACH-PCH-InformationList");
-      elem = (FACH_PCH_Information*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_FACH_PCH_Information(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_FACH_PCH_Information(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "FACH-PCH-Information", (int32_t)i, "FACH-PCH-InformationList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PI_CountPerFrame(rtxContext* RT_RESTRICT ctx, PI_CountPerFrame* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PI-CountPerFrame");
-   return 0;
-}
-
-int asn1PD_UMTS_PICH_Info_fdd(rtxContext* RT_RESTRICT ctx, PICH_Info_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* channelisationCode256 */
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
-   /* pi-CountPerFrame */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pi_CountPerFrame, 0, 3);
-   RT_CHECK(ctx, stat, "PI-CountPerFrame", "pi-CountPerFrame", -1, 0);
-   /* sttd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD_PICH_CCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PICH-CCode");
-   return 0;
-}
-
-int asn1PD_UMTS_RepPerLengthOffset_PICH(rtxContext* RT_RESTRICT ctx, RepPerLengthOffset_PICH* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RepPerLengthOffset-PICH");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* rpp4-2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp4_2, 0, 3);
-         RT_CHECK(ctx, stat, 0, "rpp4-2", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 1: /* rpp8-2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp8_2, 0, 7);
-         RT_CHECK(ctx, stat, 0, "rpp8-2", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 2: /* rpp8-4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp8_4, 0, 7);
-         RT_CHECK(ctx, stat, 0, "rpp8-4", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 3: /* rpp16-2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp16_2, 0, 15);
-         RT_CHECK(ctx, stat, 0, "rpp16-2", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 4: /* rpp16-4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp16_4, 0, 15);
-         RT_CHECK(ctx, stat, 0, "rpp16-4", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 5: /* rpp32-2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp32_2, 0, 31);
-         RT_CHECK(ctx, stat, 0, "rpp32-2", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 6: /* rpp32-4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp32_4, 0, 31);
-         RT_CHECK(ctx, stat, 0, "rpp32-4", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 7: /* rpp64-2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp64_2, 0, 63);
-         RT_CHECK(ctx, stat, 0, "rpp64-2", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 8: /* rpp64-4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp64_4, 0, 63);
-         RT_CHECK(ctx, stat, 0, "rpp64-4", -1, "RepPerLengthOffset-PICH");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepPerLengthOffset-PICH");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfo, pvalue);
 }
 

@@ -6,79 +6,2957 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_PagingIndicatorLength(rtxContext* RT_RESTRICT ctx, PagingIndicatorLength* RT_RESTRICT pvalue)
+/* The bodies of this unit. */
+RT_MERGED_BODY int dec_DurationTimeInfo(rtxContext* RT_RESTRICT ctx, DurationTimeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SFN_TimeInfo(rtxContext* RT_RESTRICT ctx, SFN_TimeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PUSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_Identity(rtxContext* RT_RESTRICT ctx, PDSCH_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_codesRepresentation(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DownlinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PDSCH_Info(rtxContext* RT_RESTRICT ctx, PDSCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_SysInfo(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PDSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_TX_Power* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Alpha(rtxContext* RT_RESTRICT ctx, Alpha* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ConstantValueTdd(rtxContext* RT_RESTRICT ctx, ConstantValueTdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_OpenLoopPowerControl_TDD(rtxContext* RT_RESTRICT ctx, OpenLoopPowerControl_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_fdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd_syncCase_syncCase1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotSync2(rtxContext* RT_RESTRICT ctx, TimeslotSync2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd_syncCase_syncCase2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_tdd_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd_syncCase* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellParametersID(rtxContext* RT_RESTRICT ctx, CellParametersID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_tdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PrimaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AvailableSignatures(rtxContext* RT_RESTRICT ctx, AvailableSignatures* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SF_PRACH(rtxContext* RT_RESTRICT ctx, SF_PRACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PreambleScramblingCodeWordNumber(rtxContext* RT_RESTRICT ctx, PreambleScramblingCodeWordNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AvailableSubChannelNumbers(rtxContext* RT_RESTRICT ctx, AvailableSubChannelNumbers* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_RACH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD_PRACH_CCode8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD_PRACH_CCodeList_sf8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCodeList_sf8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCodeList_sf16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_Midamble(rtxContext* RT_RESTRICT ctx, PRACH_Midamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_RACH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_RACH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_RACH_Info(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, TransportChannelIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_FDD_assignedSubChannelNumber(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD_assignedSubChannelNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_FDD(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ASCSetting_FDD(rtxContext* RT_RESTRICT ctx, ASCSetting_FDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_Partitioning_fdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_channelisationCodeIndices* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ASCSetting_TDD(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_Partitioning_tdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_Partitioning(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PersistenceScalingFactor(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PersistenceScalingFactorList(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactorList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AC_To_ASC_Mapping(rtxContext* RT_RESTRICT ctx, AC_To_ASC_Mapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AC_To_ASC_MappingTable(rtxContext* RT_RESTRICT ctx, AC_To_ASC_MappingTable* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCPICH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_TX_Power* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ConstantValue(rtxContext* RT_RESTRICT ctx, ConstantValue* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PowerRampStep(rtxContext* RT_RESTRICT ctx, PowerRampStep* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PreambleRetransMax(rtxContext* RT_RESTRICT ctx, PreambleRetransMax* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_PowerOffset(rtxContext* RT_RESTRICT ctx, PRACH_PowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NB01(rtxContext* RT_RESTRICT ctx, NB01* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RACH_TransmissionParameters(rtxContext* RT_RESTRICT ctx, RACH_TransmissionParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ChannelisationCode256(rtxContext* RT_RESTRICT ctx, ChannelisationCode256* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AICH_TransmissionTiming(rtxContext* RT_RESTRICT ctx, AICH_TransmissionTiming* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AICH_Info(rtxContext* RT_RESTRICT ctx, AICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_SystemInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_SystemInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PRACH_SystemInformation(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_SystemInformationList(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PCPICH_UsageForChannelEst(rtxContext* RT_RESTRICT ctx, PCPICH_UsageForChannelEst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryScramblingCode(rtxContext* RT_RESTRICT ctx, SecondaryScramblingCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCPICH_Info(rtxContext* RT_RESTRICT ctx, SecondaryCPICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SF256_AndCodeNumber(rtxContext* RT_RESTRICT ctx, SF256_AndCodeNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PositionFixedOrFlexible(rtxContext* RT_RESTRICT ctx, PositionFixedOrFlexible* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimingOffset(rtxContext* RT_RESTRICT ctx, TimingOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset_repetitionPeriod2(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset_repetitionPeriod4(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset_repetitionPeriod8(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset_repetitionPeriod16(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset_repetitionPeriod32(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod32* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset_repetitionPeriod64(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod64* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CommonTimeslotInfoSCCPCH(rtxContext* RT_RESTRICT ctx, CommonTimeslotInfoSCCPCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SecondaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FACH_PCH_Information(rtxContext* RT_RESTRICT ctx, FACH_PCH_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FACH_PCH_InformationList(rtxContext* RT_RESTRICT ctx, FACH_PCH_InformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PI_CountPerFrame(rtxContext* RT_RESTRICT ctx, PI_CountPerFrame* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PICH_Info_fdd(rtxContext* RT_RESTRICT ctx, PICH_Info_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD_PICH_CCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RepPerLengthOffset_PICH(rtxContext* RT_RESTRICT ctx, RepPerLengthOffset_PICH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingIndicatorLength(rtxContext* RT_RESTRICT ctx, PagingIndicatorLength* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_GAP(rtxContext* RT_RESTRICT ctx, N_GAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_PCH(rtxContext* RT_RESTRICT ctx, N_PCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PICH_Info_tdd(rtxContext* RT_RESTRICT ctx, PICH_Info_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PICH_Info(rtxContext* RT_RESTRICT ctx, PICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SCCPCH_SystemInformationList(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CBS_DRX_Level1Information(rtxContext* RT_RESTRICT ctx, CBS_DRX_Level1Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PNBSCH_Allocation_r4(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxPowerIncrease_r4(rtxContext* RT_RESTRICT ctx, MaxPowerIncrease_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_OpenLoopPowerControl_IPDL_TDD_r4(rtxContext* RT_RESTRICT ctx, OpenLoopPowerControl_IPDL_TDD_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Sync_UL_Codes_Bitmap(rtxContext* RT_RESTRICT ctx, Sync_UL_Codes_Bitmap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SYNC_UL_Info_r4(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotNumber_PRACH_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_PRACH_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD_PRACH_CCode_LCR_r4(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_ChanCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_ChanCodes_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_LCR_r4(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotNumber_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD_FPACH_CCode16_r4(rtxContext* RT_RESTRICT ctx, TDD_FPACH_CCode16_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Wi_LCR(rtxContext* RT_RESTRICT ctx, Wi_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FPACH_Info_r4(rtxContext* RT_RESTRICT ctx, FPACH_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_Definition_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_Definition_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_r4_prach_DefinitionList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_RACH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonTransChTFS_LCR_tti(rtxContext* RT_RESTRICT ctx, CommonTransChTFS_LCR_tti* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonTransChTFS_LCR(rtxContext* RT_RESTRICT ctx, CommonTransChTFS_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TransportFormatSet_LCR(rtxContext* RT_RESTRICT ctx, TransportFormatSet_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ASCSetting_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PRACH_Partitioning_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_SystemInformation_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PRACH_SystemInformationList_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_LCR_r4_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UplinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_Info_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PUSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DownlinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_Info_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PDSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_LCR_r4_ext_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PichChannelisationCodeList_LCR_r4(rtxContext* RT_RESTRICT ctx, PichChannelisationCodeList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PICH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PICH_Info_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SCCPCH_SystemInformationList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformationList_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RadioFrequencyBandFDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_USCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, USCH_TransportChannelsInfo_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_USCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, USCH_TransportChannelsInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PUSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DSCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, DSCH_TransportChannelsInfo_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DSCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, DSCH_TransportChannelsInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PDSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RadioFrequencyBandFDD2(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v650ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v650ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs_hsdpa_CellIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v680ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v690ext_IEs_edch_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_edch_CellIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_UM_RLC_LI_size(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_LI_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimerOSD_r6(rtxContext* RT_RESTRICT ctx, TimerOSD_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_WindowSizeOSD_r6(rtxContext* RT_RESTRICT ctx, WindowSizeOSD_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UM_RLC_OutOSeqDelivery_Info_r6(rtxContext* RT_RESTRICT ctx, UM_RLC_OutOSeqDelivery_Info_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_Info_MCCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MCCH_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TCTF_Presence(rtxContext* RT_RESTRICT ctx, MBMS_TCTF_Presence* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MCCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MCCH_ConfigurationInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonTimeslotInfoMBMS(rtxContext* RT_RESTRICT ctx, CommonTimeslotInfoMBMS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SecondaryCCPCHInfo_MBMS_r6(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_FACHCarryingMTCH_List(rtxContext* RT_RESTRICT ctx, MBMS_FACHCarryingMTCH_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MSCHSchedulingInfo(rtxContext* RT_RESTRICT ctx, MBMS_MSCHSchedulingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_Info_MSCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MSCH_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MSCH_ConfigurationInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_MBMS_r6(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DynamicTFInformationCCCH(rtxContext* RT_RESTRICT ctx, DynamicTFInformationCCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AdditionalPRACH_TF_and_TFCS_CCCH(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AdditionalPRACH_TF_and_TFCS_CCCH_List(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CBS_DRX_Level1Information_extension_r6(rtxContext* RT_RESTRICT ctx, CBS_DRX_Level1Information_extension_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_LogicalChannelIdentity(rtxContext* RT_RESTRICT ctx, LogicalChannelIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_ehs_QueueId(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueId* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonRBMappingInfo(rtxContext* RT_RESTRICT ctx, CommonRBMappingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T1_ReleaseTimer(rtxContext* RT_RESTRICT ctx, T1_ReleaseTimer* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Treset_ResetTimer(rtxContext* RT_RESTRICT ctx, Treset_ResetTimer* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_hs_WindowSize(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Common_MAC_ehs_ReorderingQueue(rtxContext* RT_RESTRICT ctx, Common_MAC_ehs_ReorderingQueue* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Common_MAC_ehs_ReorderingQueueList(rtxContext* RT_RESTRICT ctx, Common_MAC_ehs_ReorderingQueueList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Codes(rtxContext* RT_RESTRICT ctx, HS_SCCH_Codes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_SystemInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HARQMemorySize(rtxContext* RT_RESTRICT ctx, HARQMemorySize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HARQ_Info_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, HARQ_Info_memoryPartitioning_explicit_* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HARQ_Info_memoryPartitioning(rtxContext* RT_RESTRICT ctx, HARQ_Info_memoryPartitioning* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HARQ_Info(rtxContext* RT_RESTRICT ctx, HARQ_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_H_RNTI(rtxContext* RT_RESTRICT ctx, H_RNTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_common_H_RNTI_information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_CommonSystemInformation(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PICH_ForHSDPASupportedPaging(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TransportBlockSizeIndex(rtxContext* RT_RESTRICT ctx, TransportBlockSizeIndex* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_PagingSystemInformation_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_transportBlockSizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_PagingSystemInformation(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleConfigurationBurstType2_VHCR(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftShort_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftShort_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type3(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MidambleShiftAndBurstType_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_VHCR(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TS_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UplinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PUSCH_Info_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_Info_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_SysInfo_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_SFN_VHCR_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_VHCR_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PUSCH_SysInfoList_SFN_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_Info_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_VHCR(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DownlinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_Info_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_Info_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_Info_r7_tddOption(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_SysInfo_VHCR_r7(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PDSCH_SysInfoList_VHCR_r7(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD768_PRACH_CCode32(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode32* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD768_PRACH_CCodeList_sf32(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCodeList_sf32* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD768_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD768_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCodeList_sf16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD768_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_RACH_Info_VHCR_r7(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_Partitioning_r7_fdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_channelisationCodeIndices* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size16(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ASCSetting_TDD_r7(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_Partitioning_r7_tdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PRACH_Partitioning_r7(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_SystemInformation_VHCR_r7(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PRACH_SystemInformationList_VHCR_r7(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_RACH_Info_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_SystemInformation_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_LCR_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_SystemInformationList_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_LCR_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v770ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type3(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MidambleShiftAndBurstType_r7(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_r7(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD768_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD768_PICH_CCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PICH_Info_HCR_VHCR_r7_channelisationCode(rtxContext* RT_RESTRICT ctx, PICH_Info_HCR_VHCR_r7_channelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PICH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, PICH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SCCPCH_SystemInformation_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_SystemInformationList_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformationList_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_r7_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_r7(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DownlinkTimeslotsCodes_r7(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeSlotLCR_ext(rtxContext* RT_RESTRICT ctx, TimeSlotLCR_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_MBMS_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD_MBSFNTSlotInfo(rtxContext* RT_RESTRICT ctx, TDD_MBSFNTSlotInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD_MBSFNInformation(rtxContext* RT_RESTRICT ctx, TDD_MBSFNInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+
+/* Bodies held by other units. */
+RT_DECODE_EXTERN(PUSCH_SysInfo)
+RT_DECODE_EXTERN(IndividualTimeslotInfo)
+RT_DECODE_EXTERN(CommonTimeslotInfo)
+RT_DECODE_EXTERN(TransportFormatSet)
+RT_DECODE_EXTERN(TFCS)
+RT_DECODE_EXTERN(SysInfoType5_modeSpecificInfo_fdd)
+RT_DECODE_EXTERN(MidambleShiftAndBurstType)
+RT_DECODE_EXTERN(CommonDynamicTF_InfoList)
+RT_DECODE_EXTERN(CommonDynamicTF_InfoList_DynamicTTI)
+RT_DECODE_EXTERN(SemistaticTF_Information)
+RT_DECODE_EXTERN(DedicatedTransChTFS)
+RT_DECODE_EXTERN(UL_TS_ChannelisationCodeList)
+RT_DECODE_EXTERN(PUSCH_Info)
+RT_DECODE_EXTERN(OctetModeRLC_SizeInfoType2)
+RT_DECODE_EXTERN(PowerOffsetInformation)
+
+RT_MERGED_BODY int dec_DurationTimeInfo(rtxContext* RT_RESTRICT ctx, DurationTimeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingIndicatorLength");
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 1, 4096);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DurationTimeInfo");
    return 0;
 }
 
-int asn1PD_UMTS_N_GAP(rtxContext* RT_RESTRICT ctx, N_GAP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DurationTimeInfo(rtxContext* RT_RESTRICT ctx, DurationTimeInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-GAP");
+   RT_DECODE_ENTRY(ctx, dec_DurationTimeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SFN_TimeInfo(rtxContext* RT_RESTRICT ctx, SFN_TimeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* activationTimeSFN */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->activationTimeSFN, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "activationTimeSFN", -1, "SFN-TimeInfo");
+   /* physChDuration */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->physChDuration, 1, 4096);
+   RT_CHECK_AT(ctx, cur, stat, "DurationTimeInfo", "physChDuration", -1, "SFN-TimeInfo");
    return 0;
 }
 
-int asn1PD_UMTS_N_PCH(rtxContext* RT_RESTRICT ctx, N_PCH* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SFN_TimeInfo(rtxContext* RT_RESTRICT ctx, SFN_TimeInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-PCH");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SFN_TimeInfo, pvalue);
 }
 
-int asn1PD_UMTS_PICH_Info_tdd(rtxContext* RT_RESTRICT ctx, PICH_Info_tdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfo */
+   stat = dec_PUSCH_SysInfo(ctx, &pvalue->pusch_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfoList_SFN_element, pvalue);
+}
+
+static int dec_PUSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PUSCH_SysInfoList_SFN_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfoList_SFN_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN");
+      elem = (PUSCH_SysInfoList_SFN_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PUSCH_SysInfoList_SFN_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PUSCH_SysInfoList_SFN_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfoList_SFN, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_Identity(rtxContext* RT_RESTRICT ctx, PDSCH_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-Identity");
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_Identity(rtxContext* RT_RESTRICT ctx, PDSCH_Identity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-TS-ChannelisationCode");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TS_ChannelisationCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* firstChannelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode", "firstChannelisationCode", -1, 0);
+   /* lastChannelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->lastChannelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode", "lastChannelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, pvalue, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_codesRepresentation(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* consecutive */
+         pvalue->u.consecutive = (DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive));
+         if (pvalue->u.consecutive == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
+         stat = dec_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(ctx, pvalue->u.consecutive, cur);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 1: /* bitmap */
+         pvalue->u.bitmap = (DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap*)rtxMemHeapAlloc(ctx, sizeof(DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap));
+         if (pvalue->u.bitmap == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "bitmap", -1, 0);
+         asn1Init_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(pvalue->u.bitmap);
+         stat = dec_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(ctx, pvalue->u.bitmap, cur);
+         RT_CHECK(ctx, stat, 0, "bitmap", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TS_ChannelisationCodesShort_codesRepresentation, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* codesRepresentation */
+   stat = dec_DL_TS_ChannelisationCodesShort_codesRepresentation(ctx, &pvalue->codesRepresentation, cur);
+   RT_CHECK(ctx, stat, 0, "codesRepresentation", -1, "DL-TS-ChannelisationCodesShort");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TS_ChannelisationCodesShort(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TS_ChannelisationCodesShort, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* dl-TS-ChannelisationCodesShort */
+   stat = dec_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_parameters_newParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsLast */
+         pvalue->u.sameAsLast = (DownlinkAdditionalTimeslots_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkAdditionalTimeslots_parameters_sameAsLast));
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
+         stat = dec_DownlinkAdditionalTimeslots_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
+         break;
+      case 1: /* newParameters */
+         pvalue->u.newParameters = (DownlinkAdditionalTimeslots_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(DownlinkAdditionalTimeslots_parameters_newParameters));
+         if (pvalue->u.newParameters == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
+         asn1Init_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(pvalue->u.newParameters);
+         stat = dec_DownlinkAdditionalTimeslots_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* parameters */
+   stat = dec_DownlinkAdditionalTimeslots_parameters(ctx, &pvalue->parameters, cur);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots");
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DownlinkAdditionalTimeslots* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DownlinkAdditionalTimeslots));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DownlinkAdditionalTimeslots", (int32_t)i, 0);
+      elem = (DownlinkAdditionalTimeslots*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DownlinkAdditionalTimeslots(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DownlinkAdditionalTimeslots(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* consecutive */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.consecutive, 1, 13);
+         RT_CHECK_AT(ctx, cur, stat, 0, "consecutive", -1, 0);
+         break;
+      case 1: /* timeslotList */
+         pvalue->u.timeslotList = (DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList));
+         if (pvalue->u.timeslotList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
+         asn1Init_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
+         stat = dec_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* noMore */
+         break;
+      case 1: /* additionalTimeslots */
+         pvalue->u.additionalTimeslots = (DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots));
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
+         asn1Init_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
+         stat = dec_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_moreTimeslots, pvalue);
+}
+
+static int dec_DownlinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* firstIndividualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes");
+   /* dl-TS-ChannelisationCodesShort */
+   stat = dec_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes");
+   /* moreTimeslots */
+   stat = dec_DownlinkTimeslotsCodes_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes");
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes, pvalue);
+}
+
+static int dec_PDSCH_Info(rtxContext* RT_RESTRICT ctx, PDSCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-Info");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* commonTimeslotInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info");
+   }
+   /* pdsch-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, "PDSCH-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_Info(rtxContext* RT_RESTRICT ctx, PDSCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_SysInfo(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfo");
+   /* pdsch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo");
+   /* pdsch-Info */
+   stat = dec_PDSCH_Info(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo");
+   /* dsch-TFS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TransportFormatSet(ctx, &pvalue->dsch_TFS, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, "PDSCH-SysInfo");
+   }
+   /* dsch-TFCS */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TFCS(ctx, &pvalue->dsch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_SysInfo(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-SysInfo */
+   stat = dec_PDSCH_SysInfo(ctx, &pvalue->pdsch_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfoList_SFN_element, pvalue);
+}
+
+static int dec_PDSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PDSCH_SysInfoList_SFN_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfoList_SFN_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN");
+      elem = (PDSCH_SysInfoList_SFN_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PDSCH_SysInfoList_SFN_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PDSCH_SysInfoList_SFN_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfoList_SFN, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_TX_Power* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 6, 43);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PrimaryCCPCH-TX-Power");
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_TX_Power* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_TX_Power, pvalue);
+}
+
+RT_MERGED_BODY int dec_Alpha(rtxContext* RT_RESTRICT ctx, Alpha* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Alpha");
+   return 0;
+}
+
+int asn1PD_UMTS_Alpha(rtxContext* RT_RESTRICT ctx, Alpha* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Alpha, pvalue);
+}
+
+RT_MERGED_BODY int dec_ConstantValueTdd(rtxContext* RT_RESTRICT ctx, ConstantValueTdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -35, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ConstantValueTdd");
+   return 0;
+}
+
+int asn1PD_UMTS_ConstantValueTdd(rtxContext* RT_RESTRICT ctx, ConstantValueTdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ConstantValueTdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_OpenLoopPowerControl_TDD(rtxContext* RT_RESTRICT ctx, OpenLoopPowerControl_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "OpenLoopPowerControl-TDD");
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "OpenLoopPowerControl-TDD");
+   /* alpha */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->alpha, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "Alpha", "alpha", -1, "OpenLoopPowerControl-TDD");
+   }
+   /* prach-ConstantValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->prach_ConstantValue, -35, 10);
+   RT_CHECK_AT(ctx, cur, stat, "ConstantValueTdd", "prach-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpch_ConstantValue, -35, 10);
+   RT_CHECK_AT(ctx, cur, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   /* pusch-ConstantValue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK_AT(ctx, cur, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OpenLoopPowerControl_TDD(rtxContext* RT_RESTRICT ctx, OpenLoopPowerControl_TDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_OpenLoopPowerControl_TDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* openLoopPowerControl-TDD */
+   stat = dec_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD, cur);
+   RT_CHECK(ctx, stat, 0, "openLoopPowerControl-TDD", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SysInfoType5_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(SysInfoType5_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_SysInfoType5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (SysInfoType5_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_SysInfoType5_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_SysInfoType5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_fdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tx-DiversityIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tx_DiversityIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_fdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd_syncCase_syncCase1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd_syncCase_syncCase1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_tdd_syncCase_syncCase1, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotSync2(rtxContext* RT_RESTRICT ctx, TimeslotSync2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeslotSync2");
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotSync2(rtxContext* RT_RESTRICT ctx, TimeslotSync2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotSync2, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd_syncCase_syncCase2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotSync2 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotSync2, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd_syncCase_syncCase2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_tdd_syncCase_syncCase2, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_tdd_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd_syncCase* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* syncCase1 */
+         pvalue->u.syncCase1 = (PrimaryCCPCH_Info_tdd_syncCase_syncCase1*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_tdd_syncCase_syncCase1));
+         if (pvalue->u.syncCase1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "syncCase1", -1, 0);
+         stat = dec_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(ctx, pvalue->u.syncCase1, cur);
+         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
+         break;
+      case 1: /* syncCase2 */
+         pvalue->u.syncCase2 = (PrimaryCCPCH_Info_tdd_syncCase_syncCase2*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_tdd_syncCase_syncCase2));
+         if (pvalue->u.syncCase2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "syncCase2", -1, 0);
+         stat = dec_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(ctx, pvalue->u.syncCase2, cur);
+         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd_syncCase* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_tdd_syncCase, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellParametersID(rtxContext* RT_RESTRICT ctx, CellParametersID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellParametersID");
+   return 0;
+}
+
+int asn1PD_UMTS_CellParametersID(rtxContext* RT_RESTRICT ctx, CellParametersID* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellParametersID, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_tdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* syncCase */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PrimaryCCPCH_Info_tdd_syncCase(ctx, &pvalue->syncCase, cur);
+      RT_CHECK(ctx, stat, 0, "syncCase", -1, 0);
+   }
+   /* cellParametersID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParametersID, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, 0);
+   }
+   /* sctd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sctd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sctd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_tdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_tdd, pvalue);
+}
+
+static int dec_PrimaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PrimaryCCPCH-Info");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (PrimaryCCPCH_Info_fdd*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "PrimaryCCPCH-Info");
+         stat = dec_PrimaryCCPCH_Info_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PrimaryCCPCH-Info");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_tdd*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "PrimaryCCPCH-Info");
+         asn1Init_UMTS_PrimaryCCPCH_Info_tdd(pvalue->u.tdd);
+         stat = dec_PrimaryCCPCH_Info_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PrimaryCCPCH-Info");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PrimaryCCPCH-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_AvailableSignatures(rtxContext* RT_RESTRICT ctx, AvailableSignatures* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, pvalue, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AvailableSignatures");
+   return 0;
+}
+
+int asn1PD_UMTS_AvailableSignatures(rtxContext* RT_RESTRICT ctx, AvailableSignatures* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AvailableSignatures, pvalue);
+}
+
+RT_MERGED_BODY int dec_SF_PRACH(rtxContext* RT_RESTRICT ctx, SF_PRACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SF-PRACH");
+   return 0;
+}
+
+int asn1PD_UMTS_SF_PRACH(rtxContext* RT_RESTRICT ctx, SF_PRACH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SF_PRACH, pvalue);
+}
+
+RT_MERGED_BODY int dec_PreambleScramblingCodeWordNumber(rtxContext* RT_RESTRICT ctx, PreambleScramblingCodeWordNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PreambleScramblingCodeWordNumber");
+   return 0;
+}
+
+int asn1PD_UMTS_PreambleScramblingCodeWordNumber(rtxContext* RT_RESTRICT ctx, PreambleScramblingCodeWordNumber* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PreambleScramblingCodeWordNumber, pvalue);
+}
+
+RT_MERGED_BODY int dec_AvailableSubChannelNumbers(rtxContext* RT_RESTRICT ctx, AvailableSubChannelNumbers* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pd_BitString32At(ctx, cur, pvalue, 12, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AvailableSubChannelNumbers");
+   return 0;
+}
+
+int asn1PD_UMTS_AvailableSubChannelNumbers(rtxContext* RT_RESTRICT ctx, AvailableSubChannelNumbers* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AvailableSubChannelNumbers, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_RACH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* availableSignatures */
+   stat = dec_AvailableSignatures(ctx, &pvalue->availableSignatures, cur);
+   RT_CHECK(ctx, stat, 0, "availableSignatures", -1, 0);
+   /* availableSF */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->availableSF, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "SF-PRACH", "availableSF", -1, 0);
+   /* preambleScramblingCodeWordNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->preambleScramblingCodeWordNumber, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, 0);
+   /* puncturingLimit */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   /* availableSubChannelNumbers */
+   stat = dec_AvailableSubChannelNumbers(ctx, &pvalue->availableSubChannelNumbers, cur);
+   RT_CHECK(ctx, stat, 0, "availableSubChannelNumbers", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_RACH_Info_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD_PRACH_CCode8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD-PRACH-CCode8");
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_PRACH_CCode8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TDD_PRACH_CCode8, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD_PRACH_CCodeList_sf8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCodeList_sf8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "sf8");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 7);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TDD-PRACH-CCode8", "TDD-PRACH-CCode8", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_PRACH_CCodeList_sf8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCodeList_sf8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TDD_PRACH_CCodeList_sf8, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD-PRACH-CCode16");
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode16* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TDD_PRACH_CCode16, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCodeList_sf16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "sf16");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TDD-PRACH-CCode16", "TDD-PRACH-CCode16", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCodeList_sf16* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TDD_PRACH_CCodeList_sf16, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD-PRACH-CCodeList");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sf8 */
+         pvalue->u.sf8 = (TDD_PRACH_CCodeList_sf8*)rtxMemHeapAlloc(ctx, sizeof(TDD_PRACH_CCodeList_sf8));
+         if (pvalue->u.sf8 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sf8", -1, "TDD-PRACH-CCodeList");
+         asn1Init_UMTS_TDD_PRACH_CCodeList_sf8(pvalue->u.sf8);
+         stat = dec_TDD_PRACH_CCodeList_sf8(ctx, pvalue->u.sf8, cur);
+         RT_CHECK(ctx, stat, 0, "sf8", -1, "TDD-PRACH-CCodeList");
+         break;
+      case 1: /* sf16 */
+         pvalue->u.sf16 = (TDD_PRACH_CCodeList_sf16*)rtxMemHeapAlloc(ctx, sizeof(TDD_PRACH_CCodeList_sf16));
+         if (pvalue->u.sf16 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sf16", -1, "TDD-PRACH-CCodeList");
+         asn1Init_UMTS_TDD_PRACH_CCodeList_sf16(pvalue->u.sf16);
+         stat = dec_TDD_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16, cur);
+         RT_CHECK(ctx, stat, 0, "sf16", -1, "TDD-PRACH-CCodeList");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TDD-PRACH-CCodeList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCodeList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TDD_PRACH_CCodeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_Midamble(rtxContext* RT_RESTRICT ctx, PRACH_Midamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-Midamble");
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_Midamble(rtxContext* RT_RESTRICT ctx, PRACH_Midamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_Midamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_RACH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* channelisationCodeList */
+   stat = dec_TDD_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, 0);
+   /* prach-Midamble */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->prach_Midamble, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PRACH-Midamble", "prach-Midamble", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_RACH_Info_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_RACH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (PRACH_RACH_Info_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_RACH_Info_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_PRACH_RACH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PRACH_RACH_Info_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_RACH_Info_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_PRACH_RACH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_RACH_Info_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_RACH_Info(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_PRACH_RACH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PRACH-RACH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_RACH_Info(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_RACH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, TransportChannelIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransportChannelIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, TransportChannelIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TransportChannelIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_FDD_assignedSubChannelNumber(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD_assignedSubChannelNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32At(ctx, cur, pvalue, 4, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_FDD_assignedSubChannelNumber(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD_assignedSubChannelNumber* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_FDD_assignedSubChannelNumber, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_FDD(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* availableSignatureStartIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->availableSignatureStartIndex, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "availableSignatureStartIndex", -1, "AccessServiceClass-FDD");
+   /* availableSignatureEndIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->availableSignatureEndIndex, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "availableSignatureEndIndex", -1, "AccessServiceClass-FDD");
+   /* assignedSubChannelNumber */
+   stat = dec_AccessServiceClass_FDD_assignedSubChannelNumber(ctx, &pvalue->assignedSubChannelNumber, cur);
+   RT_CHECK(ctx, stat, 0, "assignedSubChannelNumber", -1, "AccessServiceClass-FDD");
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_FDD(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_FDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_ASCSetting_FDD(rtxContext* RT_RESTRICT ctx, ASCSetting_FDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ASCSetting-FDD");
+   /* accessServiceClass-FDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AccessServiceClass_FDD(ctx, &pvalue->accessServiceClass_FDD, cur);
+      RT_CHECK(ctx, stat, 0, "accessServiceClass-FDD", -1, "ASCSetting-FDD");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ASCSetting_FDD(rtxContext* RT_RESTRICT ctx, ASCSetting_FDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ASCSetting_FDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_Partitioning_fdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      ASCSetting_FDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_FDD));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ASCSetting-FDD", (int32_t)i, 0);
+      elem = (ASCSetting_FDD*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_ASCSetting_FDD(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_ASCSetting_FDD(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-FDD", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_Partitioning_fdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_Partitioning_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_channelisationCodeIndices* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_TDD_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_channelisationCodeIndices* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_channelisationCodeIndices, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2_subchannels* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_subchannelSize_size2_subchannels, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->subchannels, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_subchannelSize_size2, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32At(ctx, cur, pvalue, 4, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4_subchannels* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_subchannelSize_size4_subchannels, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AccessServiceClass_TDD_subchannelSize_size4_subchannels(ctx, &pvalue->subchannels, cur);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_subchannelSize_size4, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8_subchannels* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_subchannelSize_size8_subchannels, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AccessServiceClass_TDD_subchannelSize_size8_subchannels(ctx, &pvalue->subchannels, cur);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_subchannelSize_size8, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* size1 */
+         break;
+      case 1: /* size2 */
+         pvalue->u.size2 = (AccessServiceClass_TDD_subchannelSize_size2*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_subchannelSize_size2));
+         if (pvalue->u.size2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "size2", -1, 0);
+         asn1Init_UMTS_AccessServiceClass_TDD_subchannelSize_size2(pvalue->u.size2);
+         stat = dec_AccessServiceClass_TDD_subchannelSize_size2(ctx, pvalue->u.size2, cur);
+         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
+         break;
+      case 2: /* size4 */
+         pvalue->u.size4 = (AccessServiceClass_TDD_subchannelSize_size4*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_subchannelSize_size4));
+         if (pvalue->u.size4 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "size4", -1, 0);
+         asn1Init_UMTS_AccessServiceClass_TDD_subchannelSize_size4(pvalue->u.size4);
+         stat = dec_AccessServiceClass_TDD_subchannelSize_size4(ctx, pvalue->u.size4, cur);
+         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
+         break;
+      case 3: /* size8 */
+         pvalue->u.size8 = (AccessServiceClass_TDD_subchannelSize_size8*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_subchannelSize_size8));
+         if (pvalue->u.size8 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "size8", -1, 0);
+         asn1Init_UMTS_AccessServiceClass_TDD_subchannelSize_size8(pvalue->u.size8);
+         stat = dec_AccessServiceClass_TDD_subchannelSize_size8(ctx, pvalue->u.size8, cur);
+         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_subchannelSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AccessServiceClass-TDD");
+   /* channelisationCodeIndices */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AccessServiceClass_TDD_channelisationCodeIndices(ctx, &pvalue->channelisationCodeIndices, cur);
+      RT_CHECK(ctx, stat, 0, "channelisationCodeIndices", -1, "AccessServiceClass-TDD");
+   }
+   /* subchannelSize */
+   stat = dec_AccessServiceClass_TDD_subchannelSize(ctx, &pvalue->subchannelSize, cur);
+   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD");
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_TDD(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_ASCSetting_TDD(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ASCSetting-TDD");
+   /* accessServiceClass-TDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AccessServiceClass_TDD(ctx, &pvalue->accessServiceClass_TDD, cur);
+      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD", -1, "ASCSetting-TDD");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ASCSetting_TDD(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ASCSetting_TDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_Partitioning_tdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      ASCSetting_TDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_TDD));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ASCSetting-TDD", (int32_t)i, 0);
+      elem = (ASCSetting_TDD*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_ASCSetting_TDD(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_ASCSetting_TDD(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_Partitioning_tdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_Partitioning_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_Partitioning(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-Partitioning");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (PRACH_Partitioning_fdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_Partitioning_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "PRACH-Partitioning");
+         asn1Init_UMTS_PRACH_Partitioning_fdd(pvalue->u.fdd);
+         stat = dec_PRACH_Partitioning_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PRACH-Partitioning");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PRACH_Partitioning_tdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_Partitioning_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "PRACH-Partitioning");
+         asn1Init_UMTS_PRACH_Partitioning_tdd(pvalue->u.tdd);
+         stat = dec_PRACH_Partitioning_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PRACH-Partitioning");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PRACH-Partitioning");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_Partitioning(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_Partitioning, pvalue);
+}
+
+RT_MERGED_BODY int dec_PersistenceScalingFactor(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PersistenceScalingFactor");
+   return 0;
+}
+
+int asn1PD_UMTS_PersistenceScalingFactor(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactor* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PersistenceScalingFactor, pvalue);
+}
+
+RT_MERGED_BODY int dec_PersistenceScalingFactorList(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactorList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PersistenceScalingFactorList");
+      pvalue->n = n = raw + 1;
+      if (raw > 5) {
+         rtxErrAddStrParm(ctx, "PersistenceScalingFactorList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PersistenceScalingFactorList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 7);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "PersistenceScalingFactor", "PersistenceScalingFactor", (int32_t)i, "PersistenceScalingFactorList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PersistenceScalingFactorList(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactorList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PersistenceScalingFactorList, pvalue);
+}
+
+RT_MERGED_BODY int dec_AC_To_ASC_Mapping(rtxContext* RT_RESTRICT ctx, AC_To_ASC_Mapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AC-To-ASC-Mapping");
+   return 0;
+}
+
+int asn1PD_UMTS_AC_To_ASC_Mapping(rtxContext* RT_RESTRICT ctx, AC_To_ASC_Mapping* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AC_To_ASC_Mapping, pvalue);
+}
+
+RT_MERGED_BODY int dec_AC_To_ASC_MappingTable(rtxContext* RT_RESTRICT ctx, AC_To_ASC_MappingTable* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   pvalue->n = n = 7;
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 7);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "AC-To-ASC-Mapping", "AC-To-ASC-Mapping", (int32_t)i, "AC-To-ASC-MappingTable");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AC_To_ASC_MappingTable(rtxContext* RT_RESTRICT ctx, AC_To_ASC_MappingTable* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AC_To_ASC_MappingTable, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCPICH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_TX_Power* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -10, 50);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PrimaryCPICH-TX-Power");
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCPICH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_TX_Power* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCPICH_TX_Power, pvalue);
+}
+
+RT_MERGED_BODY int dec_ConstantValue(rtxContext* RT_RESTRICT ctx, ConstantValue* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -35, -10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ConstantValue");
+   return 0;
+}
+
+int asn1PD_UMTS_ConstantValue(rtxContext* RT_RESTRICT ctx, ConstantValue* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ConstantValue, pvalue);
+}
+
+RT_MERGED_BODY int dec_PowerRampStep(rtxContext* RT_RESTRICT ctx, PowerRampStep* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PowerRampStep");
+   return 0;
+}
+
+int asn1PD_UMTS_PowerRampStep(rtxContext* RT_RESTRICT ctx, PowerRampStep* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PowerRampStep, pvalue);
+}
+
+RT_MERGED_BODY int dec_PreambleRetransMax(rtxContext* RT_RESTRICT ctx, PreambleRetransMax* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PreambleRetransMax");
+   return 0;
+}
+
+int asn1PD_UMTS_PreambleRetransMax(rtxContext* RT_RESTRICT ctx, PreambleRetransMax* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PreambleRetransMax, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_PowerOffset(rtxContext* RT_RESTRICT ctx, PRACH_PowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* powerRampStep */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerRampStep, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "PowerRampStep", "powerRampStep", -1, "PRACH-PowerOffset");
+   /* preambleRetransMax */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->preambleRetransMax, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PreambleRetransMax", "preambleRetransMax", -1, "PRACH-PowerOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_PowerOffset(rtxContext* RT_RESTRICT ctx, PRACH_PowerOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_PowerOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_NB01(rtxContext* RT_RESTRICT ctx, NB01* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 50);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NB01");
+   return 0;
+}
+
+int asn1PD_UMTS_NB01(rtxContext* RT_RESTRICT ctx, NB01* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NB01, pvalue);
+}
+
+RT_MERGED_BODY int dec_RACH_TransmissionParameters(rtxContext* RT_RESTRICT ctx, RACH_TransmissionParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mmax */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mmax, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "mmax", -1, "RACH-TransmissionParameters");
+   /* nb01Min */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->nb01Min, 0, 50);
+   RT_CHECK_AT(ctx, cur, stat, "NB01", "nb01Min", -1, "RACH-TransmissionParameters");
+   /* nb01Max */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->nb01Max, 0, 50);
+   RT_CHECK_AT(ctx, cur, stat, "NB01", "nb01Max", -1, "RACH-TransmissionParameters");
+   return 0;
+}
+
+int asn1PD_UMTS_RACH_TransmissionParameters(rtxContext* RT_RESTRICT ctx, RACH_TransmissionParameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RACH_TransmissionParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_ChannelisationCode256(rtxContext* RT_RESTRICT ctx, ChannelisationCode256* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ChannelisationCode256");
+   return 0;
+}
+
+int asn1PD_UMTS_ChannelisationCode256(rtxContext* RT_RESTRICT ctx, ChannelisationCode256* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ChannelisationCode256, pvalue);
+}
+
+RT_MERGED_BODY int dec_AICH_TransmissionTiming(rtxContext* RT_RESTRICT ctx, AICH_TransmissionTiming* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AICH-TransmissionTiming");
+   return 0;
+}
+
+int asn1PD_UMTS_AICH_TransmissionTiming(rtxContext* RT_RESTRICT ctx, AICH_TransmissionTiming* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AICH_TransmissionTiming, pvalue);
+}
+
+RT_MERGED_BODY int dec_AICH_Info(rtxContext* RT_RESTRICT ctx, AICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* channelisationCode256 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->channelisationCode256, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ChannelisationCode256", "channelisationCode256", -1, "AICH-Info");
+   /* sttd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sttd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sttd-Indicator", -1, "AICH-Info");
+   /* aich-TransmissionTiming */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->aich_TransmissionTiming, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "AICH-TransmissionTiming", "aich-TransmissionTiming", -1, "AICH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_AICH_Info(rtxContext* RT_RESTRICT ctx, AICH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_SystemInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-TX-Power */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* constantValue */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->constantValue, -35, -10);
+      RT_CHECK_AT(ctx, cur, stat, "ConstantValue", "constantValue", -1, 0);
+   }
+   /* prach-PowerOffset */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset, cur);
+      RT_CHECK(ctx, stat, 0, "prach-PowerOffset", -1, 0);
+   }
+   /* rach-TransmissionParameters */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters, cur);
+      RT_CHECK(ctx, stat, 0, "rach-TransmissionParameters", -1, 0);
+   }
+   /* aich-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_AICH_Info(ctx, &pvalue->aich_Info, cur);
+      RT_CHECK(ctx, stat, 0, "aich-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_SystemInformation_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_SystemInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (PRACH_SystemInformation_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_SystemInformation_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_PRACH_SystemInformation_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_SystemInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_SystemInformation_modeSpecificInfo, pvalue);
+}
+
+static int dec_PRACH_SystemInformation(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformation");
+   /* prach-RACH-Info */
+   stat = dec_PRACH_RACH_Info(ctx, &pvalue->prach_RACH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info", -1, "PRACH-SystemInformation");
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "PRACH-SystemInformation");
+   /* rach-TransportFormatSet */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TransportFormatSet(ctx, &pvalue->rach_TransportFormatSet, cur);
+      RT_CHECK(ctx, stat, 0, "rach-TransportFormatSet", -1, "PRACH-SystemInformation");
+   }
+   /* rach-TFCS */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TFCS(ctx, &pvalue->rach_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "rach-TFCS", -1, "PRACH-SystemInformation");
+   }
+   /* prach-Partitioning */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_PRACH_Partitioning(ctx, &pvalue->prach_Partitioning, cur);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-SystemInformation");
+   }
+   /* persistenceScalingFactorList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList, cur);
+      RT_CHECK(ctx, stat, 0, "persistenceScalingFactorList", -1, "PRACH-SystemInformation");
+   }
+   /* ac-To-ASC-MappingTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable, cur);
+      RT_CHECK(ctx, stat, 0, "ac-To-ASC-MappingTable", -1, "PRACH-SystemInformation");
+   }
+   /* modeSpecificInfo */
+   stat = dec_PRACH_SystemInformation_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PRACH-SystemInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_SystemInformation(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_SystemInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_SystemInformationList(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PRACH_SystemInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_SystemInformation));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PRACH-SystemInformation", (int32_t)i, "PRACH-SystemInformationList");
+      elem = (PRACH_SystemInformation*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PRACH_SystemInformation(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PRACH_SystemInformation(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation", (int32_t)i, "PRACH-SystemInformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_SystemInformationList(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_SystemInformationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PCPICH_UsageForChannelEst(rtxContext* RT_RESTRICT ctx, PCPICH_UsageForChannelEst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PCPICH-UsageForChannelEst");
+   return 0;
+}
+
+int asn1PD_UMTS_PCPICH_UsageForChannelEst(rtxContext* RT_RESTRICT ctx, PCPICH_UsageForChannelEst* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PCPICH_UsageForChannelEst, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryScramblingCode(rtxContext* RT_RESTRICT ctx, SecondaryScramblingCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SecondaryScramblingCode");
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryScramblingCode(rtxContext* RT_RESTRICT ctx, SecondaryScramblingCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryScramblingCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCPICH_Info(rtxContext* RT_RESTRICT ctx, SecondaryCPICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SecondaryCPICH-Info");
+   /* secondaryDL-ScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->secondaryDL_ScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryDL-ScramblingCode", -1, "SecondaryCPICH-Info");
+   }
+   /* channelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->channelisationCode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ChannelisationCode256", "channelisationCode", -1, "SecondaryCPICH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCPICH_Info(rtxContext* RT_RESTRICT ctx, SecondaryCPICH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCPICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_SF256_AndCodeNumber(rtxContext* RT_RESTRICT ctx, SF256_AndCodeNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SF256-AndCodeNumber");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sf4 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf4, 0, 3);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf4", -1, "SF256-AndCodeNumber");
+         break;
+      case 1: /* sf8 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf8, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf8", -1, "SF256-AndCodeNumber");
+         break;
+      case 2: /* sf16 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf16, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf16", -1, "SF256-AndCodeNumber");
+         break;
+      case 3: /* sf32 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf32, 0, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf32", -1, "SF256-AndCodeNumber");
+         break;
+      case 4: /* sf64 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf64, 0, 63);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf64", -1, "SF256-AndCodeNumber");
+         break;
+      case 5: /* sf128 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf128, 0, 127);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf128", -1, "SF256-AndCodeNumber");
+         break;
+      case 6: /* sf256 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf256, 0, 255);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf256", -1, "SF256-AndCodeNumber");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SF256-AndCodeNumber");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SF256_AndCodeNumber(rtxContext* RT_RESTRICT ctx, SF256_AndCodeNumber* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SF256_AndCodeNumber, pvalue);
+}
+
+RT_MERGED_BODY int dec_PositionFixedOrFlexible(rtxContext* RT_RESTRICT ctx, PositionFixedOrFlexible* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PositionFixedOrFlexible");
+   return 0;
+}
+
+int asn1PD_UMTS_PositionFixedOrFlexible(rtxContext* RT_RESTRICT ctx, PositionFixedOrFlexible* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PositionFixedOrFlexible, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimingOffset(rtxContext* RT_RESTRICT ctx, TimingOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 149);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimingOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_TimingOffset(rtxContext* RT_RESTRICT ctx, TimingOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimingOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dummy1, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "dummy1", -1, 0);
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SecondaryCPICH_Info(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   /* secondaryScramblingCode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+   }
+   /* sttd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sttd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sttd-Indicator", -1, 0);
+   /* sf-AndCodeNumber */
+   stat = dec_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber, cur);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
+   /* pilotSymbolExistence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->pilotSymbolExistence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pilotSymbolExistence", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* positionFixedOrFlexible */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* timingOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->timingOffset, 0, 149);
+      RT_CHECK_AT(ctx, cur, stat, "TimingOffset", "timingOffset", -1, 0);
+   }
+   else {
+      pvalue->timingOffset = 0;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset_repetitionPeriod2(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* length */
+   /* offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->offset, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "offset", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod2(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RepetitionPeriodLengthAndOffset_repetitionPeriod2, pvalue);
+}
+
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset_repetitionPeriod4(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* length */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->length, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "length", -1, 0);
+   /* offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->offset, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "offset", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod4(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RepetitionPeriodLengthAndOffset_repetitionPeriod4, pvalue);
+}
+
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset_repetitionPeriod8(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* length */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->length, 1, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "length", -1, 0);
+   /* offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->offset, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "offset", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod8(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RepetitionPeriodLengthAndOffset_repetitionPeriod8, pvalue);
+}
+
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset_repetitionPeriod16(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* length */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->length, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "length", -1, 0);
+   /* offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->offset, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "offset", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod16(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod16* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RepetitionPeriodLengthAndOffset_repetitionPeriod16, pvalue);
+}
+
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset_repetitionPeriod32(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod32* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* length */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->length, 1, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "length", -1, 0);
+   /* offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->offset, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "offset", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod32(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod32* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RepetitionPeriodLengthAndOffset_repetitionPeriod32, pvalue);
+}
+
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset_repetitionPeriod64(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod64* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* length */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->length, 1, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "length", -1, 0);
+   /* offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->offset, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "offset", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod64(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod64* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RepetitionPeriodLengthAndOffset_repetitionPeriod64, pvalue);
+}
+
+RT_MERGED_BODY int dec_RepetitionPeriodLengthAndOffset(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RepetitionPeriodLengthAndOffset");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* repetitionPeriod1 */
+         break;
+      case 1: /* repetitionPeriod2 */
+         pvalue->u.repetitionPeriod2 = (RepetitionPeriodLengthAndOffset_repetitionPeriod2*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod2));
+         if (pvalue->u.repetitionPeriod2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "repetitionPeriod2", -1, "RepetitionPeriodLengthAndOffset");
+         stat = dec_RepetitionPeriodLengthAndOffset_repetitionPeriod2(ctx, pvalue->u.repetitionPeriod2, cur);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodLengthAndOffset");
+         break;
+      case 2: /* repetitionPeriod4 */
+         pvalue->u.repetitionPeriod4 = (RepetitionPeriodLengthAndOffset_repetitionPeriod4*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod4));
+         if (pvalue->u.repetitionPeriod4 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "repetitionPeriod4", -1, "RepetitionPeriodLengthAndOffset");
+         stat = dec_RepetitionPeriodLengthAndOffset_repetitionPeriod4(ctx, pvalue->u.repetitionPeriod4, cur);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodLengthAndOffset");
+         break;
+      case 3: /* repetitionPeriod8 */
+         pvalue->u.repetitionPeriod8 = (RepetitionPeriodLengthAndOffset_repetitionPeriod8*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod8));
+         if (pvalue->u.repetitionPeriod8 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "repetitionPeriod8", -1, "RepetitionPeriodLengthAndOffset");
+         stat = dec_RepetitionPeriodLengthAndOffset_repetitionPeriod8(ctx, pvalue->u.repetitionPeriod8, cur);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodLengthAndOffset");
+         break;
+      case 4: /* repetitionPeriod16 */
+         pvalue->u.repetitionPeriod16 = (RepetitionPeriodLengthAndOffset_repetitionPeriod16*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod16));
+         if (pvalue->u.repetitionPeriod16 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "repetitionPeriod16", -1, "RepetitionPeriodLengthAndOffset");
+         stat = dec_RepetitionPeriodLengthAndOffset_repetitionPeriod16(ctx, pvalue->u.repetitionPeriod16, cur);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodLengthAndOffset");
+         break;
+      case 5: /* repetitionPeriod32 */
+         pvalue->u.repetitionPeriod32 = (RepetitionPeriodLengthAndOffset_repetitionPeriod32*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod32));
+         if (pvalue->u.repetitionPeriod32 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "repetitionPeriod32", -1, "RepetitionPeriodLengthAndOffset");
+         stat = dec_RepetitionPeriodLengthAndOffset_repetitionPeriod32(ctx, pvalue->u.repetitionPeriod32, cur);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodLengthAndOffset");
+         break;
+      case 6: /* repetitionPeriod64 */
+         pvalue->u.repetitionPeriod64 = (RepetitionPeriodLengthAndOffset_repetitionPeriod64*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod64));
+         if (pvalue->u.repetitionPeriod64 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "repetitionPeriod64", -1, "RepetitionPeriodLengthAndOffset");
+         stat = dec_RepetitionPeriodLengthAndOffset_repetitionPeriod64(ctx, pvalue->u.repetitionPeriod64, cur);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod64", -1, "RepetitionPeriodLengthAndOffset");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodLengthAndOffset");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RepetitionPeriodLengthAndOffset(rtxContext* RT_RESTRICT ctx, RepetitionPeriodLengthAndOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RepetitionPeriodLengthAndOffset, pvalue);
+}
+
+static int dec_CommonTimeslotInfoSCCPCH(rtxContext* RT_RESTRICT ctx, CommonTimeslotInfoSCCPCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CommonTimeslotInfoSCCPCH");
+   /* secondInterleavingMode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->secondInterleavingMode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoSCCPCH");
+   /* tfci-Coding */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tfci_Coding, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoSCCPCH");
+   }
+   /* puncturingLimit */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoSCCPCH");
+   /* repetitionPeriodLengthAndOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_RepetitionPeriodLengthAndOffset(ctx, &pvalue->repetitionPeriodLengthAndOffset, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthAndOffset", -1, "CommonTimeslotInfoSCCPCH");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonTimeslotInfoSCCPCH(rtxContext* RT_RESTRICT ctx, CommonTimeslotInfoSCCPCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonTimeslotInfoSCCPCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SCCPCH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_ChannelisationCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SCCPCH-ChannelisationCodeList");
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "SCCPCH-ChannelisationCodeList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SCCPCH-ChannelisationCodeList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "SCCPCH-ChannelisationCode", "SCCPCH-ChannelisationCode", (int32_t)i, "SCCPCH-ChannelisationCodeList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCodeList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_ChannelisationCodeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* commonTimeslotInfo */
+   stat = dec_CommonTimeslotInfoSCCPCH(ctx, &pvalue->commonTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* channelisationCode */
+   stat = dec_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode, cur);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SecondaryCCPCH_Info_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_SecondaryCCPCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (SecondaryCCPCH_Info_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_SecondaryCCPCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_modeSpecificInfo, pvalue);
+}
+
+static int dec_SecondaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_SecondaryCCPCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_FACH_PCH_Information(rtxContext* RT_RESTRICT ctx, FACH_PCH_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* transportFormatSet */
+   stat = dec_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "FACH-PCH-Information");
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "FACH-PCH-Information");
+   /* ctch-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ctch_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ctch-Indicator", -1, "FACH-PCH-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_FACH_PCH_Information(rtxContext* RT_RESTRICT ctx, FACH_PCH_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FACH_PCH_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_FACH_PCH_InformationList(rtxContext* RT_RESTRICT ctx, FACH_PCH_InformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "FACH-PCH-InformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      FACH_PCH_Information* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FACH_PCH_Information));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "FACH-PCH-Information", (int32_t)i, "FACH-PCH-InformationList");
+      elem = (FACH_PCH_Information*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_FACH_PCH_Information(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_FACH_PCH_Information(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "FACH-PCH-Information", (int32_t)i, "FACH-PCH-InformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_FACH_PCH_InformationList(rtxContext* RT_RESTRICT ctx, FACH_PCH_InformationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FACH_PCH_InformationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PI_CountPerFrame(rtxContext* RT_RESTRICT ctx, PI_CountPerFrame* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PI-CountPerFrame");
+   return 0;
+}
+
+int asn1PD_UMTS_PI_CountPerFrame(rtxContext* RT_RESTRICT ctx, PI_CountPerFrame* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PI_CountPerFrame, pvalue);
+}
+
+RT_MERGED_BODY int dec_PICH_Info_fdd(rtxContext* RT_RESTRICT ctx, PICH_Info_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* channelisationCode256 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->channelisationCode256, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
+   /* pi-CountPerFrame */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pi_CountPerFrame, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "PI-CountPerFrame", "pi-CountPerFrame", -1, 0);
+   /* sttd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sttd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sttd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PICH_Info_fdd(rtxContext* RT_RESTRICT ctx, PICH_Info_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PICH_Info_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD_PICH_CCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD-PICH-CCode");
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD_PICH_CCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TDD_PICH_CCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_RepPerLengthOffset_PICH(rtxContext* RT_RESTRICT ctx, RepPerLengthOffset_PICH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RepPerLengthOffset-PICH");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rpp4-2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp4_2, 0, 3);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp4-2", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 1: /* rpp8-2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp8_2, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp8-2", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 2: /* rpp8-4 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp8_4, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp8-4", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 3: /* rpp16-2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp16_2, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp16-2", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 4: /* rpp16-4 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp16_4, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp16-4", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 5: /* rpp32-2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp32_2, 0, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp32-2", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 6: /* rpp32-4 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp32_4, 0, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp32-4", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 7: /* rpp64-2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp64_2, 0, 63);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp64-2", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 8: /* rpp64-4 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp64_4, 0, 63);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp64-4", -1, "RepPerLengthOffset-PICH");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RepPerLengthOffset-PICH");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RepPerLengthOffset_PICH(rtxContext* RT_RESTRICT ctx, RepPerLengthOffset_PICH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RepPerLengthOffset_PICH, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingIndicatorLength(rtxContext* RT_RESTRICT ctx, PagingIndicatorLength* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PagingIndicatorLength");
+   return 0;
+}
+
+int asn1PD_UMTS_PagingIndicatorLength(rtxContext* RT_RESTRICT ctx, PagingIndicatorLength* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingIndicatorLength, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_GAP(rtxContext* RT_RESTRICT ctx, N_GAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-GAP");
+   return 0;
+}
+
+int asn1PD_UMTS_N_GAP(rtxContext* RT_RESTRICT ctx, N_GAP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_N_GAP, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_PCH(rtxContext* RT_RESTRICT ctx, N_PCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-PCH");
+   return 0;
+}
+
+int asn1PD_UMTS_N_PCH(rtxContext* RT_RESTRICT ctx, N_PCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_N_PCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_PICH_Info_tdd(rtxContext* RT_RESTRICT ctx, PICH_Info_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* channelisationCode */
    if (present & ((uint32_t)1 << 5)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-      RT_CHECK(ctx, stat, "TDD-PICH-CCode", "channelisationCode", -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisationCode, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "TDD-PICH-CCode", "channelisationCode", -1, 0);
    }
    /* timeslot */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-      RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+      RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
    }
    /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
+   stat = dec_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType, cur);
    RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
    /* repetitionPeriodLengthOffset */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
+      stat = dec_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset, cur);
       RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
    }
    /* pagingIndicatorLength */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->pagingIndicatorLength, 0, 2);
-      RT_CHECK(ctx, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pagingIndicatorLength, 0, 2);
+      RT_CHECK_AT(ctx, cur, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, 0);
    }
    else {
       pvalue->pagingIndicatorLength = 0;
    }
    /* n-GAP */
    if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_GAP, 0, 2);
-      RT_CHECK(ctx, stat, "N-GAP", "n-GAP", -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_GAP, 0, 2);
+      RT_CHECK_AT(ctx, cur, stat, "N-GAP", "n-GAP", -1, 0);
    }
    else {
       pvalue->n_GAP = 1;
    }
    /* n-PCH */
    if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->n_PCH, 1, 8);
-      RT_CHECK(ctx, stat, "N-PCH", "n-PCH", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_PCH, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "N-PCH", "n-PCH", -1, 0);
    }
    else {
       pvalue->n_PCH = 2;
@@ -86,232 +2964,312 @@ int asn1PD_UMTS_PICH_Info_tdd(rtxContext* RT_RESTRICT ctx, PICH_Info_tdd* RT_RES
    return 0;
 }
 
-int asn1PD_UMTS_PICH_Info(rtxContext* RT_RESTRICT ctx, PICH_Info* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PICH_Info_tdd(rtxContext* RT_RESTRICT ctx, PICH_Info_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PICH_Info_tdd, pvalue);
+}
+
+static int dec_PICH_Info(rtxContext* RT_RESTRICT ctx, PICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-Info");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PICH-Info");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
          pvalue->u.fdd = (PICH_Info_fdd*)rtxMemHeapAllocZ(ctx, sizeof(PICH_Info_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "PICH-Info");
-         stat = asn1PD_UMTS_PICH_Info_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "PICH-Info");
+         stat = dec_PICH_Info_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, "PICH-Info");
          break;
       case 1: /* tdd */
          pvalue->u.tdd = (PICH_Info_tdd*)rtxMemHeapAlloc(ctx, sizeof(PICH_Info_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "PICH-Info");
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "PICH-Info");
          asn1Init_UMTS_PICH_Info_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PICH_Info_tdd(ctx, pvalue->u.tdd);
+         stat = dec_PICH_Info_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, "PICH-Info");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PICH-Info");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PICH-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PICH_Info(rtxContext* RT_RESTRICT ctx, PICH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformation");
+   /* secondaryCCPCH-Info */
+   stat = dec_SecondaryCCPCH_Info(ctx, &pvalue->secondaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-SystemInformation");
+   /* tfcs */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TFCS(ctx, &pvalue->tfcs, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-SystemInformation");
+   }
+   /* fach-PCH-InformationList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList, cur);
+      RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-SystemInformation");
+   }
+   /* pich-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_PICH_Info(ctx, &pvalue->pich_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SCCPCH_SystemInformation(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation");
-   /* secondaryCCPCH-Info */
-   stat = asn1PD_UMTS_SecondaryCCPCH_Info(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-SystemInformation");
-   /* tfcs */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->tfcs);
-      RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-SystemInformation");
-   }
-   /* fach-PCH-InformationList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-      RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-SystemInformation");
-   }
-   /* pich-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PICH_Info(ctx, &pvalue->pich_Info);
-      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation");
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_SystemInformation, pvalue);
+}
+
+static int dec_SCCPCH_SystemInformationList(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SCCPCH_SystemInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SCCPCH_SystemInformation));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SCCPCH-SystemInformation", (int32_t)i, "SCCPCH-SystemInformationList");
+      elem = (SCCPCH_SystemInformation*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SCCPCH_SystemInformation(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SCCPCH_SystemInformation(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation", (int32_t)i, "SCCPCH-SystemInformationList");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SCCPCH_SystemInformationList(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformationList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformationList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SCCPCH_SystemInformation* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SCCPCH_SystemInformation));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SCCPCH-SystemInformation", (int32_t)i, "SCCPCH-SystemInformationList");
-      elem = (SCCPCH_SystemInformation*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SCCPCH_SystemInformation(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SCCPCH_SystemInformation(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation", (int32_t)i, "SCCPCH-SystemInformationList");
-   }
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_SystemInformationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CBS_DRX_Level1Information(rtxContext* RT_RESTRICT ctx, CBS_DRX_Level1Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ctch-AllocationPeriod */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ctch_AllocationPeriod, 1, 256);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ctch-AllocationPeriod", -1, "CBS-DRX-Level1Information");
+   /* cbs-FrameOffset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cbs_FrameOffset, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cbs-FrameOffset", -1, "CBS-DRX-Level1Information");
    return 0;
 }
 
 int asn1PD_UMTS_CBS_DRX_Level1Information(rtxContext* RT_RESTRICT ctx, CBS_DRX_Level1Information* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* ctch-AllocationPeriod */
-   stat = pd_ConsUInt16(ctx, &pvalue->ctch_AllocationPeriod, 1, 256);
-   RT_CHECK(ctx, stat, 0, "ctch-AllocationPeriod", -1, "CBS-DRX-Level1Information");
-   /* cbs-FrameOffset */
-   stat = pd_ConsUInt8(ctx, &pvalue->cbs_FrameOffset, 0, 255);
-   RT_CHECK(ctx, stat, 0, "cbs-FrameOffset", -1, "CBS-DRX-Level1Information");
+   RT_DECODE_ENTRY(ctx, dec_CBS_DRX_Level1Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 23);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 23);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod, pvalue);
+}
+
+RT_MERGED_BODY int dec_PNBSCH_Allocation_r4(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* numberOfRepetitionsPerSFNPeriod */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->numberOfRepetitionsPerSFNPeriod, 0, 23);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numberOfRepetitionsPerSFNPeriod", -1, "PNBSCH-Allocation-r4");
    return 0;
 }
 
 int asn1PD_UMTS_PNBSCH_Allocation_r4(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* numberOfRepetitionsPerSFNPeriod */
-   stat = pd_ConsUnsigned(ctx, &pvalue->numberOfRepetitionsPerSFNPeriod, 0, 23);
-   RT_CHECK(ctx, stat, 0, "numberOfRepetitionsPerSFNPeriod", -1, "PNBSCH-Allocation-r4");
+   RT_DECODE_ENTRY(ctx, dec_PNBSCH_Allocation_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxPowerIncrease_r4(rtxContext* RT_RESTRICT ctx, MaxPowerIncrease_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxPowerIncrease-r4");
    return 0;
 }
 
 int asn1PD_UMTS_MaxPowerIncrease_r4(rtxContext* RT_RESTRICT ctx, MaxPowerIncrease_r4* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPowerIncrease-r4");
+   RT_DECODE_ENTRY(ctx, dec_MaxPowerIncrease_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_OpenLoopPowerControl_IPDL_TDD_r4(rtxContext* RT_RESTRICT ctx, OpenLoopPowerControl_IPDL_TDD_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ipdl-alpha */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ipdl_alpha, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, "Alpha", "ipdl-alpha", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
+   /* maxPowerIncrease */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxPowerIncrease, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPowerIncrease-r4", "maxPowerIncrease", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
    return 0;
 }
 
 int asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(rtxContext* RT_RESTRICT ctx, OpenLoopPowerControl_IPDL_TDD_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* ipdl-alpha */
-   stat = pd_ConsUInt8(ctx, &pvalue->ipdl_alpha, 0, 8);
-   RT_CHECK(ctx, stat, "Alpha", "ipdl-alpha", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
-   /* maxPowerIncrease */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPowerIncrease, 0, 3);
-   RT_CHECK(ctx, stat, "MaxPowerIncrease-r4", "maxPowerIncrease", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
+   RT_DECODE_ENTRY(ctx, dec_OpenLoopPowerControl_IPDL_TDD_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_Sync_UL_Codes_Bitmap(rtxContext* RT_RESTRICT ctx, Sync_UL_Codes_Bitmap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Sync-UL-Codes-Bitmap");
    return 0;
 }
 
 int asn1PD_UMTS_Sync_UL_Codes_Bitmap(rtxContext* RT_RESTRICT ctx, Sync_UL_Codes_Bitmap* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Sync_UL_Codes_Bitmap, pvalue);
+}
+
+RT_MERGED_BODY int dec_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Sync-UL-Codes-Bitmap");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SYNC_UL_Info_r4(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sync-UL-Codes-Bitmap */
+   stat = dec_Sync_UL_Codes_Bitmap(ctx, &pvalue->sync_UL_Codes_Bitmap, cur);
+   RT_CHECK(ctx, stat, 0, "sync-UL-Codes-Bitmap", -1, "SYNC-UL-Info-r4");
+   /* prxUpPCHdes */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->prxUpPCHdes, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, 0, "prxUpPCHdes", -1, "SYNC-UL-Info-r4");
+   /* powerRampStep */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerRampStep, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "powerRampStep", -1, "SYNC-UL-Info-r4");
+   /* max-SYNC-UL-Transmissions */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->max_SYNC_UL_Transmissions, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Info-r4");
+   /* mmax */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mmax, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "mmax", -1, "SYNC-UL-Info-r4");
    return 0;
 }
 
 int asn1PD_UMTS_SYNC_UL_Info_r4(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* sync-UL-Codes-Bitmap */
-   stat = asn1PD_UMTS_Sync_UL_Codes_Bitmap(ctx, &pvalue->sync_UL_Codes_Bitmap);
-   RT_CHECK(ctx, stat, 0, "sync-UL-Codes-Bitmap", -1, "SYNC-UL-Info-r4");
-   /* prxUpPCHdes */
-   stat = pd_ConsUInt8(ctx, &pvalue->prxUpPCHdes, 0, 62);
-   RT_CHECK(ctx, stat, 0, "prxUpPCHdes", -1, "SYNC-UL-Info-r4");
-   /* powerRampStep */
-   stat = pd_ConsUInt8(ctx, &pvalue->powerRampStep, 0, 3);
-   RT_CHECK(ctx, stat, 0, "powerRampStep", -1, "SYNC-UL-Info-r4");
-   /* max-SYNC-UL-Transmissions */
-   stat = pd_ConsUnsigned(ctx, &pvalue->max_SYNC_UL_Transmissions, 0, 3);
-   RT_CHECK(ctx, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Info-r4");
-   /* mmax */
-   stat = pd_ConsUInt8(ctx, &pvalue->mmax, 1, 32);
-   RT_CHECK(ctx, stat, 0, "mmax", -1, "SYNC-UL-Info-r4");
+   RT_DECODE_ENTRY(ctx, dec_SYNC_UL_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotNumber_PRACH_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_PRACH_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeslotNumber-PRACH-LCR-r4");
    return 0;
 }
 
 int asn1PD_UMTS_TimeslotNumber_PRACH_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_PRACH_LCR_r4* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TimeslotNumber_PRACH_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD_PRACH_CCode_LCR_r4(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotNumber-PRACH-LCR-r4");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 27);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD-PRACH-CCode-LCR-r4");
    return 0;
 }
 
 int asn1PD_UMTS_TDD_PRACH_CCode_LCR_r4(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode_LCR_r4* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TDD_PRACH_CCode_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_ChanCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_ChanCodes_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 27);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PRACH-CCode-LCR-r4");
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-ChanCodes-LCR-r4");
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "PRACH-ChanCodes-LCR-r4");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PRACH-ChanCodes-LCR-r4");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 27);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-LCR-r4");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_PRACH_ChanCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_ChanCodes_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-ChanCodes-LCR-r4");
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "PRACH-ChanCodes-LCR-r4");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PRACH-ChanCodes-LCR-r4");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 27);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-LCR-r4");
-      }
-   }
+   RT_DECODE_ENTRY(ctx, dec_PRACH_ChanCodes_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, 0, "midambleShift", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* defaultMidamble */
@@ -320,668 +3278,853 @@ int asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxConte
          break;
       case 2: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_LCR_r4(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "MidambleShiftAndBurstType-LCR-r4");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, "MidambleShiftAndBurstType-LCR-r4");
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "MidambleShiftAndBurstType-LCR-r4");
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "MidambleShiftAndBurstType-LCR-r4");
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotNumber_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeslotNumber-LCR-r4");
    return 0;
 }
 
 int asn1PD_UMTS_TimeslotNumber_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_LCR_r4* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TimeslotNumber_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD_FPACH_CCode16_r4(rtxContext* RT_RESTRICT ctx, TDD_FPACH_CCode16_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotNumber-LCR-r4");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD-FPACH-CCode16-r4");
    return 0;
 }
 
 int asn1PD_UMTS_TDD_FPACH_CCode16_r4(rtxContext* RT_RESTRICT ctx, TDD_FPACH_CCode16_r4* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TDD_FPACH_CCode16_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_Wi_LCR(rtxContext* RT_RESTRICT ctx, Wi_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-FPACH-CCode16-r4");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Wi-LCR");
    return 0;
 }
 
 int asn1PD_UMTS_Wi_LCR(rtxContext* RT_RESTRICT ctx, Wi_LCR* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Wi-LCR");
+   RT_DECODE_ENTRY(ctx, dec_Wi_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_FPACH_Info_r4(rtxContext* RT_RESTRICT ctx, FPACH_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, "FPACH-Info-r4");
+   /* channelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TDD-FPACH-CCode16-r4", "channelisationCode", -1, "FPACH-Info-r4");
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "FPACH-Info-r4");
+   /* wi */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->wi, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, "Wi-LCR", "wi", -1, "FPACH-Info-r4");
    return 0;
 }
 
 int asn1PD_UMTS_FPACH_Info_r4(rtxContext* RT_RESTRICT ctx, FPACH_Info_r4* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_FPACH_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_Definition_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_Definition_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, "FPACH-Info-r4");
-   /* channelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "TDD-FPACH-CCode16-r4", "channelisationCode", -1, "FPACH-Info-r4");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 1, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Definition-LCR-r4");
+   /* prach-ChanCodes-LCR */
+   stat = dec_PRACH_ChanCodes_LCR_r4(ctx, &pvalue->prach_ChanCodes_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "prach-ChanCodes-LCR", -1, "PRACH-Definition-LCR-r4");
    /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "FPACH-Info-r4");
-   /* wi */
-   stat = pd_ConsUInt8(ctx, &pvalue->wi, 1, 4);
-   RT_CHECK(ctx, stat, "Wi-LCR", "wi", -1, "FPACH-Info-r4");
+   stat = dec_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PRACH-Definition-LCR-r4");
+   /* fpach-Info */
+   stat = dec_FPACH_Info_r4(ctx, &pvalue->fpach_Info, cur);
+   RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "PRACH-Definition-LCR-r4");
    return 0;
 }
 
 int asn1PD_UMTS_PRACH_Definition_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_Definition_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 1, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Definition-LCR-r4");
-   /* prach-ChanCodes-LCR */
-   stat = asn1PD_UMTS_PRACH_ChanCodes_LCR_r4(ctx, &pvalue->prach_ChanCodes_LCR);
-   RT_CHECK(ctx, stat, 0, "prach-ChanCodes-LCR", -1, "PRACH-Definition-LCR-r4");
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PRACH-Definition-LCR-r4");
-   /* fpach-Info */
-   stat = asn1PD_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
-   RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "PRACH-Definition-LCR-r4");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PRACH_Definition_LCR_r4, pvalue);
 }
 
-int asn1PD_UMTS_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_r4_prach_DefinitionList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_r4_prach_DefinitionList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PRACH_Definition_LCR_r4* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_Definition_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PRACH-Definition-LCR-r4", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PRACH-Definition-LCR-r4", (int32_t)i, 0);
       elem = (PRACH_Definition_LCR_r4*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PRACH_Definition_LCR_r4(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PRACH_Definition_LCR_r4(ctx, elem);
+      stat = dec_PRACH_Definition_LCR_r4(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "PRACH-Definition-LCR-r4", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_RACH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_r4_prach_DefinitionList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_RACH_Info_LCR_r4_prach_DefinitionList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_RACH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* sync-UL-Info */
-   stat = asn1PD_UMTS_SYNC_UL_Info_r4(ctx, &pvalue->sync_UL_Info);
+   stat = dec_SYNC_UL_Info_r4(ctx, &pvalue->sync_UL_Info, cur);
    RT_CHECK(ctx, stat, 0, "sync-UL-Info", -1, "PRACH-RACH-Info-LCR-r4");
    /* prach-DefinitionList */
-   stat = asn1PD_UMTS_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(ctx, &pvalue->prach_DefinitionList);
+   stat = dec_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(ctx, &pvalue->prach_DefinitionList, cur);
    RT_CHECK(ctx, stat, 0, "prach-DefinitionList", -1, "PRACH-RACH-Info-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_RACH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_RACH_Info_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonTransChTFS_LCR_tti(rtxContext* RT_RESTRICT ctx, CommonTransChTFS_LCR_tti* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tti5 */
+         pvalue->u.tti5 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
+         if (pvalue->u.tti5 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti5", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti5);
+         stat = dec_CommonDynamicTF_InfoList(ctx, pvalue->u.tti5, cur);
+         RT_CHECK(ctx, stat, 0, "tti5", -1, 0);
+         break;
+      case 1: /* tti10 */
+         pvalue->u.tti10 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
+         if (pvalue->u.tti10 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti10", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti10);
+         stat = dec_CommonDynamicTF_InfoList(ctx, pvalue->u.tti10, cur);
+         RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
+         break;
+      case 2: /* tti20 */
+         pvalue->u.tti20 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
+         if (pvalue->u.tti20 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti20", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti20);
+         stat = dec_CommonDynamicTF_InfoList(ctx, pvalue->u.tti20, cur);
+         RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
+         break;
+      case 3: /* tti40 */
+         pvalue->u.tti40 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
+         if (pvalue->u.tti40 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti40", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti40);
+         stat = dec_CommonDynamicTF_InfoList(ctx, pvalue->u.tti40, cur);
+         RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
+         break;
+      case 4: /* tti80 */
+         pvalue->u.tti80 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
+         if (pvalue->u.tti80 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tti80", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti80);
+         stat = dec_CommonDynamicTF_InfoList(ctx, pvalue->u.tti80, cur);
+         RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
+         break;
+      case 5: /* dynamic */
+         pvalue->u.dynamic = (CommonDynamicTF_InfoList_DynamicTTI*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList_DynamicTTI));
+         if (pvalue->u.dynamic == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dynamic", -1, 0);
+         asn1Init_UMTS_CommonDynamicTF_InfoList_DynamicTTI(pvalue->u.dynamic);
+         stat = dec_CommonDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic, cur);
+         RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_CommonTransChTFS_LCR_tti(rtxContext* RT_RESTRICT ctx, CommonTransChTFS_LCR_tti* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tti5 */
-         pvalue->u.tti5 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti5", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti5);
-         stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti5);
-         RT_CHECK(ctx, stat, 0, "tti5", -1, 0);
-         break;
-      case 1: /* tti10 */
-         pvalue->u.tti10 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti10 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti10", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti10);
-         stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti10);
-         RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
-         break;
-      case 2: /* tti20 */
-         pvalue->u.tti20 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti20 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti20", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti20);
-         stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti20);
-         RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
-         break;
-      case 3: /* tti40 */
-         pvalue->u.tti40 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti40 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti40", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti40);
-         stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti40);
-         RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
-         break;
-      case 4: /* tti80 */
-         pvalue->u.tti80 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti80 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti80", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti80);
-         stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti80);
-         RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
-         break;
-      case 5: /* dynamic */
-         pvalue->u.dynamic = (CommonDynamicTF_InfoList_DynamicTTI*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList_DynamicTTI));
-         if (pvalue->u.dynamic == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dynamic", -1, 0);
-         asn1Init_UMTS_CommonDynamicTF_InfoList_DynamicTTI(pvalue->u.dynamic);
-         stat = asn1PD_UMTS_CommonDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic);
-         RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_CommonTransChTFS_LCR_tti, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonTransChTFS_LCR(rtxContext* RT_RESTRICT ctx, CommonTransChTFS_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tti */
+   stat = dec_CommonTransChTFS_LCR_tti(ctx, &pvalue->tti, cur);
+   RT_CHECK(ctx, stat, 0, "tti", -1, "CommonTransChTFS-LCR");
+   /* semistaticTF-Information */
+   stat = dec_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information, cur);
+   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "CommonTransChTFS-LCR");
    return 0;
 }
 
 int asn1PD_UMTS_CommonTransChTFS_LCR(rtxContext* RT_RESTRICT ctx, CommonTransChTFS_LCR* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* tti */
-   stat = asn1PD_UMTS_CommonTransChTFS_LCR_tti(ctx, &pvalue->tti);
-   RT_CHECK(ctx, stat, 0, "tti", -1, "CommonTransChTFS-LCR");
-   /* semistaticTF-Information */
-   stat = asn1PD_UMTS_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information);
-   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "CommonTransChTFS-LCR");
+   RT_DECODE_ENTRY(ctx, dec_CommonTransChTFS_LCR, pvalue);
+}
+
+static int dec_TransportFormatSet_LCR(rtxContext* RT_RESTRICT ctx, TransportFormatSet_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransportFormatSet-LCR");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dedicatedTransChTFS */
+         pvalue->u.dedicatedTransChTFS = (DedicatedTransChTFS*)rtxMemHeapAlloc(ctx, sizeof(DedicatedTransChTFS));
+         if (pvalue->u.dedicatedTransChTFS == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dedicatedTransChTFS", -1, "TransportFormatSet-LCR");
+         asn1Init_UMTS_DedicatedTransChTFS(pvalue->u.dedicatedTransChTFS);
+         stat = dec_DedicatedTransChTFS(ctx, pvalue->u.dedicatedTransChTFS, cur);
+         RT_CHECK(ctx, stat, 0, "dedicatedTransChTFS", -1, "TransportFormatSet-LCR");
+         break;
+      case 1: /* commonTransChTFS-LCR */
+         pvalue->u.commonTransChTFS_LCR = (CommonTransChTFS_LCR*)rtxMemHeapAlloc(ctx, sizeof(CommonTransChTFS_LCR));
+         if (pvalue->u.commonTransChTFS_LCR == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "commonTransChTFS-LCR", -1, "TransportFormatSet-LCR");
+         asn1Init_UMTS_CommonTransChTFS_LCR(pvalue->u.commonTransChTFS_LCR);
+         stat = dec_CommonTransChTFS_LCR(ctx, pvalue->u.commonTransChTFS_LCR, cur);
+         RT_CHECK(ctx, stat, 0, "commonTransChTFS-LCR", -1, "TransportFormatSet-LCR");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TransportFormatSet-LCR");
+   }
    return 0;
 }
 
 int asn1PD_UMTS_TransportFormatSet_LCR(rtxContext* RT_RESTRICT ctx, TransportFormatSet_LCR* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TransportFormatSet_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransportFormatSet-LCR");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dedicatedTransChTFS */
-         pvalue->u.dedicatedTransChTFS = (DedicatedTransChTFS*)rtxMemHeapAlloc(ctx, sizeof(DedicatedTransChTFS));
-         if (pvalue->u.dedicatedTransChTFS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dedicatedTransChTFS", -1, "TransportFormatSet-LCR");
-         asn1Init_UMTS_DedicatedTransChTFS(pvalue->u.dedicatedTransChTFS);
-         stat = asn1PD_UMTS_DedicatedTransChTFS(ctx, pvalue->u.dedicatedTransChTFS);
-         RT_CHECK(ctx, stat, 0, "dedicatedTransChTFS", -1, "TransportFormatSet-LCR");
-         break;
-      case 1: /* commonTransChTFS-LCR */
-         pvalue->u.commonTransChTFS_LCR = (CommonTransChTFS_LCR*)rtxMemHeapAlloc(ctx, sizeof(CommonTransChTFS_LCR));
-         if (pvalue->u.commonTransChTFS_LCR == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "commonTransChTFS-LCR", -1, "TransportFormatSet-LCR");
-         asn1Init_UMTS_CommonTransChTFS_LCR(pvalue->u.commonTransChTFS_LCR);
-         stat = asn1PD_UMTS_CommonTransChTFS_LCR(ctx, pvalue->u.commonTransChTFS_LCR);
-         RT_CHECK(ctx, stat, 0, "commonTransChTFS-LCR", -1, "TransportFormatSet-LCR");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransportFormatSet-LCR");
-   }
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->subchannels, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, 0, "subchannels", -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->subchannels, 0, 1);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32At(ctx, cur, pvalue, 4, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, pvalue, 4, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(ctx, &pvalue->subchannels, cur);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(ctx, &pvalue->subchannels);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels, pvalue);
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* subchannels */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(ctx, &pvalue->subchannels);
+      stat = dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(ctx, &pvalue->subchannels, cur);
       RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* size1 */
          break;
       case 1: /* size2 */
          pvalue->u.size2 = (AccessServiceClass_TDD_LCR_r4_subchannelSize_size2*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_LCR_r4_subchannelSize_size2));
-         if (pvalue->u.size2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size2", -1, 0);
+         if (pvalue->u.size2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "size2", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(pvalue->u.size2);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(ctx, pvalue->u.size2);
+         stat = dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(ctx, pvalue->u.size2, cur);
          RT_CHECK(ctx, stat, 0, "size2", -1, 0);
          break;
       case 2: /* size4 */
          pvalue->u.size4 = (AccessServiceClass_TDD_LCR_r4_subchannelSize_size4*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_LCR_r4_subchannelSize_size4));
-         if (pvalue->u.size4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size4", -1, 0);
+         if (pvalue->u.size4 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "size4", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(pvalue->u.size4);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(ctx, pvalue->u.size4);
+         stat = dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(ctx, pvalue->u.size4, cur);
          RT_CHECK(ctx, stat, 0, "size4", -1, 0);
          break;
       case 3: /* size8 */
          pvalue->u.size8 = (AccessServiceClass_TDD_LCR_r4_subchannelSize_size8*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_LCR_r4_subchannelSize_size8));
-         if (pvalue->u.size8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size8", -1, 0);
+         if (pvalue->u.size8 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "size8", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(pvalue->u.size8);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(ctx, pvalue->u.size8);
+         stat = dec_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(ctx, pvalue->u.size8, cur);
          RT_CHECK(ctx, stat, 0, "size8", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_LCR_r4_subchannelSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AccessServiceClass-TDD-LCR-r4");
+   /* availableSYNC-UlCodesIndics */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(ctx, &pvalue->availableSYNC_UlCodesIndics, cur);
+      RT_CHECK(ctx, stat, 0, "availableSYNC-UlCodesIndics", -1, "AccessServiceClass-TDD-LCR-r4");
+   }
+   /* subchannelSize */
+   stat = dec_AccessServiceClass_TDD_LCR_r4_subchannelSize(ctx, &pvalue->subchannelSize, cur);
+   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD-LCR-r4");
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AccessServiceClass-TDD-LCR-r4");
-   /* availableSYNC-UlCodesIndics */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(ctx, &pvalue->availableSYNC_UlCodesIndics);
-      RT_CHECK(ctx, stat, 0, "availableSYNC-UlCodesIndics", -1, "AccessServiceClass-TDD-LCR-r4");
-   }
-   /* subchannelSize */
-   stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(ctx, &pvalue->subchannelSize);
-   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD-LCR-r4");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_LCR_r4, pvalue);
 }
 
-int asn1PD_UMTS_ASCSetting_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD_LCR_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_ASCSetting_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-TDD-LCR-r4");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ASCSetting-TDD-LCR-r4");
    /* accessServiceClass-TDD-LCR */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4(ctx, &pvalue->accessServiceClass_TDD_LCR);
+      stat = dec_AccessServiceClass_TDD_LCR_r4(ctx, &pvalue->accessServiceClass_TDD_LCR, cur);
       RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD-LCR", -1, "ASCSetting-TDD-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ASCSetting_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ASCSetting_TDD_LCR_r4, pvalue);
+}
+
+static int dec_PRACH_Partitioning_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-Partitioning-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      ASCSetting_TDD_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_TDD_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ASCSetting-TDD-LCR-r4", (int32_t)i, "PRACH-Partitioning-LCR-r4");
+      elem = (ASCSetting_TDD_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_ASCSetting_TDD_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_ASCSetting_TDD_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD-LCR-r4", (int32_t)i, "PRACH-Partitioning-LCR-r4");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PRACH_Partitioning_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Partitioning-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ASCSetting_TDD_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_TDD_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ASCSetting-TDD-LCR-r4", (int32_t)i, "PRACH-Partitioning-LCR-r4");
-      elem = (ASCSetting_TDD_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_ASCSetting_TDD_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ASCSetting_TDD_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD-LCR-r4", (int32_t)i, "PRACH-Partitioning-LCR-r4");
+   RT_DECODE_ENTRY(ctx, dec_PRACH_Partitioning_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_SystemInformation_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformation-LCR-r4");
+   /* prach-RACH-Info-LCR */
+   stat = dec_PRACH_RACH_Info_LCR_r4(ctx, &pvalue->prach_RACH_Info_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info-LCR", -1, "PRACH-SystemInformation-LCR-r4");
+   /* rach-TransportFormatSet-LCR */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TransportFormatSet_LCR(ctx, &pvalue->rach_TransportFormatSet_LCR, cur);
+      RT_CHECK(ctx, stat, 0, "rach-TransportFormatSet-LCR", -1, "PRACH-SystemInformation-LCR-r4");
+   }
+   /* prach-Partitioning-LCR */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PRACH_Partitioning_LCR_r4(ctx, &pvalue->prach_Partitioning_LCR, cur);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning-LCR", -1, "PRACH-SystemInformation-LCR-r4");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PRACH_SystemInformation_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformation-LCR-r4");
-   /* prach-RACH-Info-LCR */
-   stat = asn1PD_UMTS_PRACH_RACH_Info_LCR_r4(ctx, &pvalue->prach_RACH_Info_LCR);
-   RT_CHECK(ctx, stat, 0, "prach-RACH-Info-LCR", -1, "PRACH-SystemInformation-LCR-r4");
-   /* rach-TransportFormatSet-LCR */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransportFormatSet_LCR(ctx, &pvalue->rach_TransportFormatSet_LCR);
-      RT_CHECK(ctx, stat, 0, "rach-TransportFormatSet-LCR", -1, "PRACH-SystemInformation-LCR-r4");
-   }
-   /* prach-Partitioning-LCR */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PRACH_Partitioning_LCR_r4(ctx, &pvalue->prach_Partitioning_LCR);
-      RT_CHECK(ctx, stat, 0, "prach-Partitioning-LCR", -1, "PRACH-SystemInformation-LCR-r4");
+   RT_DECODE_ENTRY(ctx, dec_PRACH_SystemInformation_LCR_r4, pvalue);
+}
+
+static int dec_PRACH_SystemInformationList_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformationList-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PRACH_SystemInformation_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_SystemInformation_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PRACH-SystemInformation-LCR-r4", (int32_t)i, "PRACH-SystemInformationList-LCR-r4");
+      elem = (PRACH_SystemInformation_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PRACH_SystemInformation_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PRACH_SystemInformation_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-LCR-r4", (int32_t)i, "PRACH-SystemInformationList-LCR-r4");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PRACH_SystemInformationList_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_LCR_r4* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PRACH_SystemInformationList_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_LCR_r4_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PRACH_SystemInformation_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_SystemInformation_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PRACH-SystemInformation-LCR-r4", (int32_t)i, "PRACH-SystemInformationList-LCR-r4");
-      elem = (PRACH_SystemInformation_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PRACH_SystemInformation_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PRACH_SystemInformation_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-LCR-r4", (int32_t)i, "PRACH-SystemInformationList-LCR-r4");
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_modulation* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_IndividualTimeslotInfo_LCR_r4_modulation, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols, pvalue);
 }
 
-int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IndividualTimeslotInfo-LCR-r4");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IndividualTimeslotInfo-LCR-r4");
    /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "IndividualTimeslotInfo-LCR-r4");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "IndividualTimeslotInfo-LCR-r4");
    /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-LCR-r4");
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-LCR-r4");
    /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
+   stat = dec_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
    RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-LCR-r4");
    /* modulation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->modulation, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4");
    /* ss-TPC-Symbols */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ss_TPC_Symbols, 0, 2);
-   RT_CHECK(ctx, stat, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ss_TPC_Symbols, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
    /* additionalSS-TPC-Symbols */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->additionalSS_TPC_Symbols, 1, 15);
-      RT_CHECK(ctx, stat, 0, "additionalSS-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->additionalSS_TPC_Symbols, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, 0, "additionalSS-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IndividualTimeslotInfo_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* numAdditionalTimeslots */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->numAdditionalTimeslots, 1, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numAdditionalTimeslots", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* numAdditionalTimeslots */
-   stat = pd_ConsUInt8(ctx, &pvalue->numAdditionalTimeslots, 1, 5);
-   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* ul-TS-ChannelisationCodeList */
+   stat = dec_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsLast */
+         pvalue->u.sameAsLast = (UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast));
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
+         stat = dec_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
+         break;
+      case 1: /* newParameters */
+         pvalue->u.newParameters = (UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters));
+         if (pvalue->u.newParameters == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
+         asn1Init_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(pvalue->u.newParameters);
+         stat = dec_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sameAsLast */
-         pvalue->u.sameAsLast = (UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
-         stat = asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
-         break;
-      case 1: /* newParameters */
-         pvalue->u.newParameters = (UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
-         asn1Init_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(pvalue->u.newParameters);
-         stat = asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_LCR_r4_parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* parameters */
+   stat = dec_UplinkAdditionalTimeslots_LCR_r4_parameters(ctx, &pvalue->parameters, cur);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-LCR-r4");
    return 0;
 }
 
 int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* parameters */
-   stat = asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-LCR-r4");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_LCR_r4, pvalue);
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 5);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       UplinkAdditionalTimeslots_LCR_r4* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UplinkAdditionalTimeslots_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UplinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UplinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
       elem = (UplinkAdditionalTimeslots_LCR_r4*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_UplinkAdditionalTimeslots_LCR_r4(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4(ctx, elem);
+      stat = dec_UplinkAdditionalTimeslots_LCR_r4(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* consecutive */
+         pvalue->u.consecutive = (UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive));
+         if (pvalue->u.consecutive == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
+         stat = dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive, cur);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 1: /* timeslotList */
+         pvalue->u.timeslotList = (UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList));
+         if (pvalue->u.timeslotList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
+         asn1Init_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
+         stat = dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* consecutive */
-         pvalue->u.consecutive = (UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive));
-         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
-         stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 1: /* timeslotList */
-         pvalue->u.timeslotList = (UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
-         asn1Init_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
-         stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots, pvalue);
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* noMore */
          break;
       case 1: /* additionalTimeslots */
          pvalue->u.additionalTimeslots = (UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
          asn1Init_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
-         stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
+         stat = dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
          RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots, pvalue);
+}
+
+static int dec_UplinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dynamicSFusage */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dynamicSFusage);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-LCR-r4");
+   /* firstIndividualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-LCR-r4");
+   /* ul-TS-ChannelisationCodeList */
+   stat = dec_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-LCR-r4");
+   /* moreTimeslots */
+   stat = dec_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-LCR-r4");
    return 0;
 }
 
 int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* dynamicSFusage */
-   stat = rtxDecBitInline(ctx, &pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-LCR-r4");
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-LCR-r4");
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-LCR-r4");
-   /* moreTimeslots */
-   stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-LCR-r4");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_LCR_r4, pvalue);
 }
 
-int asn1PD_UMTS_PUSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_Info_LCR_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PUSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_Info_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info-LCR-r4");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-Info-LCR-r4");
    /* tfcs-ID */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-LCR-r4");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-LCR-r4");
    }
    else {
       pvalue->tfcs_ID = 1;
@@ -989,245 +4132,305 @@ int asn1PD_UMTS_PUSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_Info_LCR_r4
    /* commonTimeslotInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
       RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info-LCR-r4");
    }
    /* pusch-TimeslotsCodes */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pusch_TimeslotsCodes);
+      stat = dec_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pusch_TimeslotsCodes, cur);
       RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, "PUSCH-Info-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_Info_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_Info_LCR_r4, pvalue);
+}
+
+static int dec_PUSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfo-LCR-r4");
+   /* pusch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-LCR-r4");
+   /* pusch-Info */
+   stat = dec_PUSCH_Info_LCR_r4(ctx, &pvalue->pusch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo-LCR-r4");
+   /* usch-TFS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TransportFormatSet(ctx, &pvalue->usch_TFS, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TFS", -1, "PUSCH-SysInfo-LCR-r4");
+   }
+   /* usch-TFCS */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TFCS(ctx, &pvalue->usch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-LCR-r4");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PUSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfo_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo-LCR-r4");
-   /* pusch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-LCR-r4");
-   /* pusch-Info */
-   stat = asn1PD_UMTS_PUSCH_Info_LCR_r4(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo-LCR-r4");
-   /* usch-TFS */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
-      RT_CHECK(ctx, stat, 0, "usch-TFS", -1, "PUSCH-SysInfo-LCR-r4");
-   }
-   /* usch-TFCS */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfo */
+   stat = dec_PUSCH_SysInfo_LCR_r4(ctx, &pvalue->pusch_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-LCR-r4");
+      pvalue->m |= 0x1u;
+      stat = dec_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfo */
-   stat = asn1PD_UMTS_PUSCH_SysInfo_LCR_r4(ctx, &pvalue->pusch_SysInfo);
-   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
-   /* sfn-TimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfoList_SFN_LCR_r4_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PUSCH_SysInfoList_SFN_LCR_r4_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfoList_SFN_LCR_r4_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-LCR-r4");
+      elem = (PUSCH_SysInfoList_SFN_LCR_r4_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PUSCH_SysInfoList_SFN_LCR_r4_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-LCR-r4");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PUSCH_SysInfoList_SFN_LCR_r4_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfoList_SFN_LCR_r4_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-LCR-r4");
-      elem = (PUSCH_SysInfoList_SFN_LCR_r4_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-LCR-r4");
-   }
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfoList_SFN_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* dl-TS-ChannelisationCodesShort */
+   stat = dec_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsLast */
+         pvalue->u.sameAsLast = (DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast));
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
+         stat = dec_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
+         break;
+      case 1: /* newParameters */
+         pvalue->u.newParameters = (DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters));
+         if (pvalue->u.newParameters == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
+         asn1Init_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(pvalue->u.newParameters);
+         stat = dec_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sameAsLast */
-         pvalue->u.sameAsLast = (DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
-         stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
-         break;
-      case 1: /* newParameters */
-         pvalue->u.newParameters = (DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
-         asn1Init_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(pvalue->u.newParameters);
-         stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_LCR_r4_parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* parameters */
+   stat = dec_DownlinkAdditionalTimeslots_LCR_r4_parameters(ctx, &pvalue->parameters, cur);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-LCR-r4");
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* parameters */
-   stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-LCR-r4");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_LCR_r4, pvalue);
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 5);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       DownlinkAdditionalTimeslots_LCR_r4* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DownlinkAdditionalTimeslots_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DownlinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DownlinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
       elem = (DownlinkAdditionalTimeslots_LCR_r4*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_DownlinkAdditionalTimeslots_LCR_r4(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4(ctx, elem);
+      stat = dec_DownlinkAdditionalTimeslots_LCR_r4(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* consecutive */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.consecutive, 1, 5);
+         RT_CHECK_AT(ctx, cur, stat, 0, "consecutive", -1, 0);
+         break;
+      case 1: /* timeslotList */
+         pvalue->u.timeslotList = (DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList));
+         if (pvalue->u.timeslotList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
+         asn1Init_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
+         stat = dec_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* consecutive */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.consecutive, 1, 5);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 1: /* timeslotList */
-         pvalue->u.timeslotList = (DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
-         asn1Init_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
-         stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots, pvalue);
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue)
+static int dec_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* noMore */
          break;
       case 1: /* additionalTimeslots */
          pvalue->u.additionalTimeslots = (DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
          asn1Init_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
-         stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
+         stat = dec_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
          RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots, pvalue);
+}
+
+static int dec_DownlinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* firstIndividualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-LCR-r4");
+   /* dl-TS-ChannelisationCodesShort */
+   stat = dec_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-LCR-r4");
+   /* moreTimeslots */
+   stat = dec_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-LCR-r4");
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-LCR-r4");
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-LCR-r4");
-   /* moreTimeslots */
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-LCR-r4");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_LCR_r4, pvalue);
 }
 
-int asn1PD_UMTS_PDSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_Info_LCR_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PDSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_Info_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info-LCR-r4");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-Info-LCR-r4");
    /* tfcs-ID */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-LCR-r4");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-LCR-r4");
    }
    else {
       pvalue->tfcs_ID = 1;
@@ -1235,211 +4438,261 @@ int asn1PD_UMTS_PDSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_Info_LCR_r4
    /* commonTimeslotInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
       RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info-LCR-r4");
    }
    /* pdsch-TimeslotsCodes */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes);
+      stat = dec_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
       RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, "PDSCH-Info-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_Info_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_Info_LCR_r4, pvalue);
+}
+
+static int dec_PDSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfo-LCR-r4");
+   /* pdsch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-LCR-r4");
+   /* pdsch-Info */
+   stat = dec_PDSCH_Info_LCR_r4(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-LCR-r4");
+   /* dsch-TFS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TransportFormatSet(ctx, &pvalue->dsch_TFS, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, "PDSCH-SysInfo-LCR-r4");
+   }
+   /* dsch-TFCS */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TFCS(ctx, &pvalue->dsch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-LCR-r4");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PDSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfo_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo-LCR-r4");
-   /* pdsch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-LCR-r4");
-   /* pdsch-Info */
-   stat = asn1PD_UMTS_PDSCH_Info_LCR_r4(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-LCR-r4");
-   /* dsch-TFS */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
-      RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, "PDSCH-SysInfo-LCR-r4");
-   }
-   /* dsch-TFCS */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-SysInfo */
+   stat = dec_PDSCH_SysInfo_LCR_r4(ctx, &pvalue->pdsch_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-LCR-r4");
+      pvalue->m |= 0x1u;
+      stat = dec_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-SysInfo */
-   stat = asn1PD_UMTS_PDSCH_SysInfo_LCR_r4(ctx, &pvalue->pdsch_SysInfo);
-   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
-   /* sfn-TimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfoList_SFN_LCR_r4_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PDSCH_SysInfoList_SFN_LCR_r4_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfoList_SFN_LCR_r4_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-LCR-r4");
+      elem = (PDSCH_SysInfoList_SFN_LCR_r4_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PDSCH_SysInfoList_SFN_LCR_r4_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-LCR-r4");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PDSCH_SysInfoList_SFN_LCR_r4_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfoList_SFN_LCR_r4_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-LCR-r4");
-      elem = (PDSCH_SysInfoList_SFN_LCR_r4_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-LCR-r4");
-   }
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfoList_SFN_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tstd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4-ext");
    return 0;
 }
 
 int asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* tstd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4-ext");
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_LCR_r4_ext_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ext_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_modulation* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_IndividualTimeslotInfo_LCR_r4_ext_modulation, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-LCR-r4-ext");
+   /* modulation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->modulation, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4-ext");
+   /* ss-TPC-Symbols */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ss_TPC_Symbols, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4-ext");
    return 0;
 }
 
 int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_IndividualTimeslotInfo_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-LCR-r4-ext");
-   /* modulation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4-ext");
-   /* ss-TPC-Symbols */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ss_TPC_Symbols, 0, 2);
-   RT_CHECK(ctx, stat, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4-ext");
+   /* individualTimeslotLCR-Ext */
+   stat = dec_IndividualTimeslotInfo_LCR_r4_ext(ctx, &pvalue->individualTimeslotLCR_Ext, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotLCR-Ext", -1, "SecondaryCCPCH-Info-LCR-r4-ext");
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* individualTimeslotLCR-Ext */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ext(ctx, &pvalue->individualTimeslotLCR_Ext);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotLCR-Ext", -1, "SecondaryCCPCH-Info-LCR-r4-ext");
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PichChannelisationCodeList_LCR_r4(rtxContext* RT_RESTRICT ctx, PichChannelisationCodeList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 1, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PichChannelisationCodeList-LCR-r4");
+      pvalue->n = n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "PichChannelisationCodeList-LCR-r4");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PichChannelisationCodeList-LCR-r4");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, "PichChannelisationCodeList-LCR-r4");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_PichChannelisationCodeList_LCR_r4(rtxContext* RT_RESTRICT ctx, PichChannelisationCodeList_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, "PichChannelisationCodeList-LCR-r4");
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddStrParm(ctx, "PichChannelisationCodeList-LCR-r4");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PichChannelisationCodeList-LCR-r4");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, "PichChannelisationCodeList-LCR-r4");
-      }
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PichChannelisationCodeList_LCR_r4, pvalue);
 }
 
-int asn1PD_UMTS_PICH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PICH_Info_LCR_r4* RT_RESTRICT pvalue)
+static int dec_PICH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PICH_Info_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-Info-LCR-r4");
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PICH-Info-LCR-r4");
    /* timeslot */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 6);
-      RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, "PICH-Info-LCR-r4");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, "PICH-Info-LCR-r4");
    }
    /* pichChannelisationCodeList-LCR-r4 */
-   stat = asn1PD_UMTS_PichChannelisationCodeList_LCR_r4(ctx, &pvalue->pichChannelisationCodeList_LCR_r4);
+   stat = dec_PichChannelisationCodeList_LCR_r4(ctx, &pvalue->pichChannelisationCodeList_LCR_r4, cur);
    RT_CHECK(ctx, stat, 0, "pichChannelisationCodeList-LCR-r4", -1, "PICH-Info-LCR-r4");
    /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
+   stat = dec_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
    RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PICH-Info-LCR-r4");
    /* repetitionPeriodLengthOffset */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
+      stat = dec_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset, cur);
       RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, "PICH-Info-LCR-r4");
    }
    /* pagingIndicatorLength */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->pagingIndicatorLength, 0, 2);
-      RT_CHECK(ctx, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-LCR-r4");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pagingIndicatorLength, 0, 2);
+      RT_CHECK_AT(ctx, cur, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-LCR-r4");
    }
    else {
       pvalue->pagingIndicatorLength = 0;
    }
    /* n-GAP */
    if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_GAP, 0, 2);
-      RT_CHECK(ctx, stat, "N-GAP", "n-GAP", -1, "PICH-Info-LCR-r4");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_GAP, 0, 2);
+      RT_CHECK_AT(ctx, cur, stat, "N-GAP", "n-GAP", -1, "PICH-Info-LCR-r4");
    }
    else {
       pvalue->n_GAP = 1;
    }
    /* n-PCH */
    if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->n_PCH, 1, 8);
-      RT_CHECK(ctx, stat, "N-PCH", "n-PCH", -1, "PICH-Info-LCR-r4");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_PCH, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "N-PCH", "n-PCH", -1, "PICH-Info-LCR-r4");
    }
    else {
       pvalue->n_PCH = 2;
@@ -1447,589 +4700,739 @@ int asn1PD_UMTS_PICH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PICH_Info_LCR_r4* 
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_LCR_r4_ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PICH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PICH_Info_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PICH_Info_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-LCR-r4-ext");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformation-LCR-r4-ext");
    /* secondaryCCPCH-LCR-Extensions */
-   stat = asn1PD_UMTS_SecondaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->secondaryCCPCH_LCR_Extensions);
+   stat = dec_SecondaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->secondaryCCPCH_LCR_Extensions, cur);
    RT_CHECK(ctx, stat, 0, "secondaryCCPCH-LCR-Extensions", -1, "SCCPCH-SystemInformation-LCR-r4-ext");
    /* pich-Info */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PICH_Info_LCR_r4(ctx, &pvalue->pich_Info);
+      stat = dec_PICH_Info_LCR_r4(ctx, &pvalue->pich_Info, cur);
       RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation-LCR-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_SystemInformation_LCR_r4_ext, pvalue);
+}
+
+static int dec_SCCPCH_SystemInformationList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformationList_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformationList-LCR-r4-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SCCPCH_SystemInformation_LCR_r4_ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SCCPCH_SystemInformation_LCR_r4_ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SCCPCH-SystemInformation-LCR-r4-ext", (int32_t)i, "SCCPCH-SystemInformationList-LCR-r4-ext");
+      elem = (SCCPCH_SystemInformation_LCR_r4_ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SCCPCH_SystemInformation_LCR_r4_ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation-LCR-r4-ext", (int32_t)i, "SCCPCH-SystemInformationList-LCR-r4-ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformationList_LCR_r4_ext* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformationList-LCR-r4-ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SCCPCH_SystemInformation_LCR_r4_ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SCCPCH_SystemInformation_LCR_r4_ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SCCPCH-SystemInformation-LCR-r4-ext", (int32_t)i, "SCCPCH-SystemInformationList-LCR-r4-ext");
-      elem = (SCCPCH_SystemInformation_LCR_r4_ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation-LCR-r4-ext", (int32_t)i, "SCCPCH-SystemInformationList-LCR-r4-ext");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_SystemInformationList_LCR_r4_ext, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* pusch-SysInfoList-SFN */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN);
+      stat = dec_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
       RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
    }
    /* pdsch-SysInfoList-SFN */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      stat = dec_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
       RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
    }
    /* pCCPCH-LCR-Extensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions);
+      stat = dec_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions, cur);
       RT_CHECK(ctx, stat, 0, "pCCPCH-LCR-Extensions", -1, 0);
    }
    /* sCCPCH-LCR-ExtensionsList */
-   stat = asn1PD_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList);
+   stat = dec_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList, cur);
    RT_CHECK(ctx, stat, 0, "sCCPCH-LCR-ExtensionsList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_RadioFrequencyBandFDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandFDD");
    return 0;
 }
 
 int asn1PD_UMTS_RadioFrequencyBandFDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandFDD");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_RadioFrequencyBandFDD, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoType5_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType5_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v4b0ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v4b0ext-IEs");
    /* pNBSCH-Allocation-r4 */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PNBSCH_Allocation_r4(ctx, &pvalue->pNBSCH_Allocation_r4);
+      stat = dec_PNBSCH_Allocation_r4(ctx, &pvalue->pNBSCH_Allocation_r4, cur);
       RT_CHECK(ctx, stat, 0, "pNBSCH-Allocation-r4", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* openLoopPowerControl-IPDL-TDD */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      stat = dec_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD, cur);
       RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* prach-SystemInformationList-LCR-r4 */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4);
+      stat = dec_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4, cur);
       RT_CHECK(ctx, stat, 0, "prach-SystemInformationList-LCR-r4", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* tdd128SpecificInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
+      stat = dec_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo, cur);
       RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* frequencyBandIndicator */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->frequencyBandIndicator, 0, 7);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType5-v4b0ext-IEs");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->frequencyBandIndicator, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType5-v4b0ext-IEs");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_USCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, USCH_TransportChannelsInfo_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* usch-TransportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->usch_TransportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "usch-TransportChannelIdentity", -1, 0);
+   /* usch-TFS */
+   stat = dec_TransportFormatSet(ctx, &pvalue->usch_TFS, cur);
+   RT_CHECK(ctx, stat, 0, "usch-TFS", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_USCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, USCH_TransportChannelsInfo_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* usch-TransportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->usch_TransportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "usch-TransportChannelIdentity", -1, 0);
-   /* usch-TFS */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
-   RT_CHECK(ctx, stat, 0, "usch-TFS", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_USCH_TransportChannelsInfo_element, pvalue);
 }
 
-int asn1PD_UMTS_USCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, USCH_TransportChannelsInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_USCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, USCH_TransportChannelsInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "USCH-TransportChannelsInfo");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "USCH-TransportChannelsInfo");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       USCH_TransportChannelsInfo_element* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(USCH_TransportChannelsInfo_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "USCH-TransportChannelsInfo");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "USCH-TransportChannelsInfo");
       elem = (USCH_TransportChannelsInfo_element*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_USCH_TransportChannelsInfo_element(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_USCH_TransportChannelsInfo_element(ctx, elem);
+      stat = dec_USCH_TransportChannelsInfo_element(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "USCH-TransportChannelsInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_USCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, USCH_TransportChannelsInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_USCH_TransportChannelsInfo, pvalue);
+}
+
+static int dec_PUSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfo-HCR-r5");
+   /* pusch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-HCR-r5");
+   /* pusch-Info */
+   stat = dec_PUSCH_Info(ctx, &pvalue->pusch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo-HCR-r5");
+   /* usch-TransportChannelsInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_USCH_TransportChannelsInfo(ctx, &pvalue->usch_TransportChannelsInfo, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TransportChannelsInfo", -1, "PUSCH-SysInfo-HCR-r5");
+   }
+   /* usch-TFCS */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TFCS(ctx, &pvalue->usch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-HCR-r5");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PUSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfo_HCR_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo-HCR-r5");
-   /* pusch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-HCR-r5");
-   /* pusch-Info */
-   stat = asn1PD_UMTS_PUSCH_Info(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo-HCR-r5");
-   /* usch-TransportChannelsInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_USCH_TransportChannelsInfo(ctx, &pvalue->usch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat, 0, "usch-TransportChannelsInfo", -1, "PUSCH-SysInfo-HCR-r5");
-   }
-   /* usch-TFCS */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfo */
+   stat = dec_PUSCH_SysInfo_HCR_r5(ctx, &pvalue->pusch_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-HCR-r5");
+      pvalue->m |= 0x1u;
+      stat = dec_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfo */
-   stat = asn1PD_UMTS_PUSCH_SysInfo_HCR_r5(ctx, &pvalue->pusch_SysInfo);
-   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
-   /* sfn-TimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfoList_SFN_HCR_r5_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-HCR-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PUSCH_SysInfoList_SFN_HCR_r5_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfoList_SFN_HCR_r5_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-HCR-r5");
+      elem = (PUSCH_SysInfoList_SFN_HCR_r5_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PUSCH_SysInfoList_SFN_HCR_r5_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-HCR-r5");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-HCR-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PUSCH_SysInfoList_SFN_HCR_r5_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfoList_SFN_HCR_r5_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-HCR-r5");
-      elem = (PUSCH_SysInfoList_SFN_HCR_r5_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-HCR-r5");
-   }
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfoList_SFN_HCR_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_DSCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, DSCH_TransportChannelsInfo_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dsch-transport-channel-identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dsch_transport_channel_identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dsch-transport-channel-identity", -1, 0);
+   /* dsch-TFS */
+   stat = dec_TransportFormatSet(ctx, &pvalue->dsch_TFS, cur);
+   RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_DSCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, DSCH_TransportChannelsInfo_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* dsch-transport-channel-identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->dsch_transport_channel_identity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch-transport-channel-identity", -1, 0);
-   /* dsch-TFS */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
-   RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DSCH_TransportChannelsInfo_element, pvalue);
 }
 
-int asn1PD_UMTS_DSCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, DSCH_TransportChannelsInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DSCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, DSCH_TransportChannelsInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DSCH-TransportChannelsInfo");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DSCH-TransportChannelsInfo");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       DSCH_TransportChannelsInfo_element* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DSCH_TransportChannelsInfo_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "DSCH-TransportChannelsInfo");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "DSCH-TransportChannelsInfo");
       elem = (DSCH_TransportChannelsInfo_element*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_DSCH_TransportChannelsInfo_element(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DSCH_TransportChannelsInfo_element(ctx, elem);
+      stat = dec_DSCH_TransportChannelsInfo_element(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DSCH-TransportChannelsInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DSCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, DSCH_TransportChannelsInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DSCH_TransportChannelsInfo, pvalue);
+}
+
+static int dec_PDSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfo-HCR-r5");
+   /* pdsch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-HCR-r5");
+   /* pdsch-Info */
+   stat = dec_PDSCH_Info(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-HCR-r5");
+   /* dsch-TransportChannelsInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TransportChannelsInfo", -1, "PDSCH-SysInfo-HCR-r5");
+   }
+   /* dsch-TFCS */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TFCS(ctx, &pvalue->dsch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-HCR-r5");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PDSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfo_HCR_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo-HCR-r5");
-   /* pdsch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-HCR-r5");
-   /* pdsch-Info */
-   stat = asn1PD_UMTS_PDSCH_Info(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-HCR-r5");
-   /* dsch-TransportChannelsInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat, 0, "dsch-TransportChannelsInfo", -1, "PDSCH-SysInfo-HCR-r5");
-   }
-   /* dsch-TFCS */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-SysInfo */
+   stat = dec_PDSCH_SysInfo_HCR_r5(ctx, &pvalue->pdsch_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-HCR-r5");
+      pvalue->m |= 0x1u;
+      stat = dec_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-SysInfo */
-   stat = asn1PD_UMTS_PDSCH_SysInfo_HCR_r5(ctx, &pvalue->pdsch_SysInfo);
-   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
-   /* sfn-TimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfoList_SFN_HCR_r5_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN-HCR-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PDSCH_SysInfoList_SFN_HCR_r5_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfoList_SFN_HCR_r5_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-HCR-r5");
+      elem = (PDSCH_SysInfoList_SFN_HCR_r5_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PDSCH_SysInfoList_SFN_HCR_r5_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-HCR-r5");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN-HCR-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PDSCH_SysInfoList_SFN_HCR_r5_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfoList_SFN_HCR_r5_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-HCR-r5");
-      elem = (PDSCH_SysInfoList_SFN_HCR_r5_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-HCR-r5");
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfoList_SFN_HCR_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
-   }
-   /* pdsch-SysInfoList-SFN */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v590ext-IEs");
+   /* hcr-r5-SpecificInfo */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType5-v590ext-IEs");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType5_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v590ext_IEs* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v590ext-IEs");
-   /* hcr-r5-SpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType5-v590ext-IEs");
-   }
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v590ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_RadioFrequencyBandFDD2(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandFDD2");
    return 0;
 }
 
 int asn1PD_UMTS_RadioFrequencyBandFDD2(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD2* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandFDD2");
+   RT_DECODE_ENTRY(ctx, dec_RadioFrequencyBandFDD2, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v650ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v650ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* frequencyBandIndicator2 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->frequencyBandIndicator2, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType5-v650ext-IEs");
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType5_v650ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v650ext_IEs* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* frequencyBandIndicator2 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequencyBandIndicator2, 0, 15);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType5-v650ext-IEs");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v650ext_IEs, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs_hsdpa_CellIndicator* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs_hsdpa_CellIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    {
       uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v680ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs_hsdpa_CellIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v680ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v680ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v680ext-IEs");
    /* hsdpa-CellIndicator */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "hsdpa-CellIndicator", -1, "SysInfoType5-v680ext-IEs");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsdpa-CellIndicator", -1, "SysInfoType5-v680ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "hsdpa-CellIndicator", -1, "SysInfoType5-v680ext-IEs");
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsdpa-CellIndicator", -1, "SysInfoType5-v680ext-IEs");
          pvalue->hsdpa_CellIndicator = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v690ext_IEs_edch_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_edch_CellIndicator* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType5_v680ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v680ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v690ext_IEs_edch_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_edch_CellIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    {
       uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_UM_RLC_LI_size(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_LI_size* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType5_v690ext_IEs_edch_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_edch_CellIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v690ext_IEs_edch_CellIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_UM_RLC_LI_size(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_LI_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-UM-RLC-LI-size");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-UM-RLC-LI-size");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_UM_RLC_LI_size(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_LI_size* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_UM_RLC_LI_size, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimerOSD_r6(rtxContext* RT_RESTRICT ctx, TimerOSD_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimerOSD-r6");
    return 0;
 }
 
 int asn1PD_UMTS_TimerOSD_r6(rtxContext* RT_RESTRICT ctx, TimerOSD_r6* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TimerOSD_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_WindowSizeOSD_r6(rtxContext* RT_RESTRICT ctx, WindowSizeOSD_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerOSD-r6");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "WindowSizeOSD-r6");
    return 0;
 }
 
 int asn1PD_UMTS_WindowSizeOSD_r6(rtxContext* RT_RESTRICT ctx, WindowSizeOSD_r6* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "WindowSizeOSD-r6");
+   RT_DECODE_ENTRY(ctx, dec_WindowSizeOSD_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_UM_RLC_OutOSeqDelivery_Info_r6(rtxContext* RT_RESTRICT ctx, UM_RLC_OutOSeqDelivery_Info_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UM-RLC-OutOSeqDelivery-Info-r6");
+   /* timer-OSD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timer_OSD, 0, 13);
+      RT_CHECK_AT(ctx, cur, stat, "TimerOSD-r6", "timer-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
+   }
+   /* windowSize-OSD */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->windowSize_OSD, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "WindowSizeOSD-r6", "windowSize-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
    return 0;
 }
 
 int asn1PD_UMTS_UM_RLC_OutOSeqDelivery_Info_r6(rtxContext* RT_RESTRICT ctx, UM_RLC_OutOSeqDelivery_Info_r6* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UM-RLC-OutOSeqDelivery-Info-r6");
-   /* timer-OSD */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->timer_OSD, 0, 13);
-      RT_CHECK(ctx, stat, "TimerOSD-r6", "timer-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
-   }
-   /* windowSize-OSD */
-   stat = pd_ConsUnsigned(ctx, &pvalue->windowSize_OSD, 0, 6);
-   RT_CHECK(ctx, stat, "WindowSizeOSD-r6", "windowSize-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UM_RLC_OutOSeqDelivery_Info_r6, pvalue);
 }
 
-int asn1PD_UMTS_RLC_Info_MCCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MCCH_r6* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_RLC_Info_MCCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MCCH_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-MCCH-r6");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-Info-MCCH-r6");
    /* dl-UM-RLC-LI-size */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MCCH-r6");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MCCH-r6");
    /* dl-UM-RLC-OutOSeqDelivery-Info */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UM_RLC_OutOSeqDelivery_Info_r6(ctx, &pvalue->dl_UM_RLC_OutOSeqDelivery_Info);
+      stat = dec_UM_RLC_OutOSeqDelivery_Info_r6(ctx, &pvalue->dl_UM_RLC_OutOSeqDelivery_Info, cur);
       RT_CHECK(ctx, stat, 0, "dl-UM-RLC-OutOSeqDelivery-Info", -1, "RLC-Info-MCCH-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_MCCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MCCH_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_Info_MCCH_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_TCTF_Presence(rtxContext* RT_RESTRICT ctx, MBMS_TCTF_Presence* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-TCTF-Presence");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-TCTF-Presence");
+      *pvalue = ui;
    }
    return 0;
 }
 
 int asn1PD_UMTS_MBMS_TCTF_Presence(rtxContext* RT_RESTRICT ctx, MBMS_TCTF_Presence* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TCTF-Presence");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TCTF-Presence");
-      *pvalue = ui;
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TCTF_Presence, pvalue);
 }
 
-int asn1PD_UMTS_MBMS_MCCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MCCH_ConfigurationInfo_r6* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MBMS_MCCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MCCH_ConfigurationInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MCCH-ConfigurationInfo-r6");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* accessInfoPeriodCoefficient */
-   stat = pd_ConsUInt8(ctx, &pvalue->accessInfoPeriodCoefficient, 0, 3);
-   RT_CHECK(ctx, stat, 0, "accessInfoPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->accessInfoPeriodCoefficient, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "accessInfoPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* repetitionPeriodCoefficient */
-   stat = pd_ConsUInt8(ctx, &pvalue->repetitionPeriodCoefficient, 0, 3);
-   RT_CHECK(ctx, stat, 0, "repetitionPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->repetitionPeriodCoefficient, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "repetitionPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* modificationPeriodCoefficient */
-   stat = pd_ConsUInt8(ctx, &pvalue->modificationPeriodCoefficient, 7, 10);
-   RT_CHECK(ctx, stat, 0, "modificationPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->modificationPeriodCoefficient, 7, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "modificationPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* rlc-Info */
-   stat = asn1PD_UMTS_RLC_Info_MCCH_r6(ctx, &pvalue->rlc_Info);
+   stat = dec_RLC_Info_MCCH_r6(ctx, &pvalue->rlc_Info, cur);
    RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* tctf-Presence */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MCCH-ConfigurationInfo-r6");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MCCH-ConfigurationInfo-r6");
          pvalue->tctf_Presence = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_MCCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MCCH_ConfigurationInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MCCH_ConfigurationInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* secondaryScramblingCode */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
    }
    /* sttd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sttd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sttd-Indicator", -1, 0);
    /* sf-AndCodeNumber */
-   stat = asn1PD_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
+   stat = dec_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber, cur);
    RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
    /* timingOffset */
    if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->timingOffset, 0, 149);
+      RT_CHECK_AT(ctx, cur, stat, "TimingOffset", "timingOffset", -1, 0);
    }
    else {
       pvalue->timingOffset = 0;
@@ -2037,197 +5440,247 @@ int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* RT_R
    return 0;
 }
 
-int asn1PD_UMTS_CommonTimeslotInfoMBMS(rtxContext* RT_RESTRICT ctx, CommonTimeslotInfoMBMS* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonTimeslotInfoMBMS(rtxContext* RT_RESTRICT ctx, CommonTimeslotInfoMBMS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CommonTimeslotInfoMBMS");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CommonTimeslotInfoMBMS");
    /* secondInterleavingMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->secondInterleavingMode, 0, 1);
-   RT_CHECK(ctx, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoMBMS");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->secondInterleavingMode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoMBMS");
    /* tfci-Coding */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tfci_Coding, 0, 3);
-      RT_CHECK(ctx, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoMBMS");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tfci_Coding, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoMBMS");
    }
    /* puncturingLimit */
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoMBMS");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoMBMS");
+   return 0;
+}
+
+int asn1PD_UMTS_CommonTimeslotInfoMBMS(rtxContext* RT_RESTRICT ctx, CommonTimeslotInfoMBMS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonTimeslotInfoMBMS, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* commonTimeslotInfoMBMS */
+   stat = dec_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = dec_DownlinkTimeslotsCodes(ctx, &pvalue->downlinkTimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    /* commonTimeslotInfoMBMS */
-   stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
+   stat = dec_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS, cur);
    RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
    /* downlinkTimeslotsCodes */
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->downlinkTimeslotsCodes);
+   stat = dec_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes, cur);
    RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* commonTimeslotInfoMBMS */
-   stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
-   /* downlinkTimeslotsCodes */
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd384 */
+         pvalue->u.tdd384 = (SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(pvalue->u.tdd384);
+         stat = dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(pvalue->u.tdd128);
+         stat = dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd384 */
-         pvalue->u.tdd384 = (SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo, pvalue);
+}
+
+static int dec_SecondaryCCPCHInfo_MBMS_r6(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCHInfo-MBMS-r6");
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCHInfo-MBMS-r6");
+   /* mcch-transportFormatSet */
+   stat = dec_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "mcch-transportFormatSet", -1, 0);
+   /* mcch-ConfigurationInfo */
+   stat = dec_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo, cur);
+   RT_CHECK(ctx, stat, 0, "mcch-ConfigurationInfo", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* mcch-transportFormatSet */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "mcch-transportFormatSet", -1, 0);
-   /* mcch-ConfigurationInfo */
-   stat = asn1PD_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo);
-   RT_CHECK(ctx, stat, 0, "mcch-ConfigurationInfo", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH, pvalue);
 }
 
-int asn1PD_UMTS_MBMS_FACHCarryingMTCH_List(rtxContext* RT_RESTRICT ctx, MBMS_FACHCarryingMTCH_List* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MBMS_FACHCarryingMTCH_List(rtxContext* RT_RESTRICT ctx, MBMS_FACHCarryingMTCH_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-FACHCarryingMTCH-List");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-FACHCarryingMTCH-List");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       TransportFormatSet* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TransportFormatSet));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TransportFormatSet", (int32_t)i, "MBMS-FACHCarryingMTCH-List");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TransportFormatSet", (int32_t)i, "MBMS-FACHCarryingMTCH-List");
       elem = (TransportFormatSet*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_TransportFormatSet(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TransportFormatSet(ctx, elem);
+      stat = dec_TransportFormatSet(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "TransportFormatSet", (int32_t)i, "MBMS-FACHCarryingMTCH-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_FACHCarryingMTCH_List(rtxContext* RT_RESTRICT ctx, MBMS_FACHCarryingMTCH_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_FACHCarryingMTCH_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MSCHSchedulingInfo(rtxContext* RT_RESTRICT ctx, MBMS_MSCHSchedulingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-MSCHSchedulingInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* schedulingPeriod-32-Offset */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.schedulingPeriod_32_Offset, 0, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "schedulingPeriod-32-Offset", -1, "MBMS-MSCHSchedulingInfo");
+         break;
+      case 1: /* schedulingPeriod-64-Offset */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.schedulingPeriod_64_Offset, 0, 63);
+         RT_CHECK_AT(ctx, cur, stat, 0, "schedulingPeriod-64-Offset", -1, "MBMS-MSCHSchedulingInfo");
+         break;
+      case 2: /* schedulingPeriod-128-Offset */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.schedulingPeriod_128_Offset, 0, 127);
+         RT_CHECK_AT(ctx, cur, stat, 0, "schedulingPeriod-128-Offset", -1, "MBMS-MSCHSchedulingInfo");
+         break;
+      case 3: /* schedulingPeriod-256-Offset */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.schedulingPeriod_256_Offset, 0, 255);
+         RT_CHECK_AT(ctx, cur, stat, 0, "schedulingPeriod-256-Offset", -1, "MBMS-MSCHSchedulingInfo");
+         break;
+      case 4: /* schedulingPeriod-512-Offset */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.schedulingPeriod_512_Offset, 0, 511);
+         RT_CHECK_AT(ctx, cur, stat, 0, "schedulingPeriod-512-Offset", -1, "MBMS-MSCHSchedulingInfo");
+         break;
+      case 5: /* schedulingPeriod-1024-Offset */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.schedulingPeriod_1024_Offset, 0, 1023);
+         RT_CHECK_AT(ctx, cur, stat, 0, "schedulingPeriod-1024-Offset", -1, "MBMS-MSCHSchedulingInfo");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MBMS-MSCHSchedulingInfo");
    }
    return 0;
 }
 
 int asn1PD_UMTS_MBMS_MSCHSchedulingInfo(rtxContext* RT_RESTRICT ctx, MBMS_MSCHSchedulingInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MSCHSchedulingInfo");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* schedulingPeriod-32-Offset */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.schedulingPeriod_32_Offset, 0, 31);
-         RT_CHECK(ctx, stat, 0, "schedulingPeriod-32-Offset", -1, "MBMS-MSCHSchedulingInfo");
-         break;
-      case 1: /* schedulingPeriod-64-Offset */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.schedulingPeriod_64_Offset, 0, 63);
-         RT_CHECK(ctx, stat, 0, "schedulingPeriod-64-Offset", -1, "MBMS-MSCHSchedulingInfo");
-         break;
-      case 2: /* schedulingPeriod-128-Offset */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.schedulingPeriod_128_Offset, 0, 127);
-         RT_CHECK(ctx, stat, 0, "schedulingPeriod-128-Offset", -1, "MBMS-MSCHSchedulingInfo");
-         break;
-      case 3: /* schedulingPeriod-256-Offset */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.schedulingPeriod_256_Offset, 0, 255);
-         RT_CHECK(ctx, stat, 0, "schedulingPeriod-256-Offset", -1, "MBMS-MSCHSchedulingInfo");
-         break;
-      case 4: /* schedulingPeriod-512-Offset */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.schedulingPeriod_512_Offset, 0, 511);
-         RT_CHECK(ctx, stat, 0, "schedulingPeriod-512-Offset", -1, "MBMS-MSCHSchedulingInfo");
-         break;
-      case 5: /* schedulingPeriod-1024-Offset */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.schedulingPeriod_1024_Offset, 0, 1023);
-         RT_CHECK(ctx, stat, 0, "schedulingPeriod-1024-Offset", -1, "MBMS-MSCHSchedulingInfo");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MBMS-MSCHSchedulingInfo");
-   }
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MSCHSchedulingInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_Info_MSCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MSCH_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-UM-RLC-LI-size */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MSCH-r6");
    return 0;
 }
 
 int asn1PD_UMTS_RLC_Info_MSCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MSCH_r6* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* dl-UM-RLC-LI-size */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MSCH-r6");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_RLC_Info_MSCH_r6, pvalue);
 }
 
-int asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MSCH_ConfigurationInfo_r6* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MSCH_ConfigurationInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MSCH-ConfigurationInfo-r6");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-MSCH-ConfigurationInfo-r6");
    /* mschShedulingInfo */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_MSCHSchedulingInfo(ctx, &pvalue->mschShedulingInfo);
+      stat = dec_MBMS_MSCHSchedulingInfo(ctx, &pvalue->mschShedulingInfo, cur);
       RT_CHECK(ctx, stat, 0, "mschShedulingInfo", -1, "MBMS-MSCH-ConfigurationInfo-r6");
    }
    /* rlc-Info */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RLC_Info_MSCH_r6(ctx, &pvalue->rlc_Info);
+      stat = dec_RLC_Info_MSCH_r6(ctx, &pvalue->rlc_Info, cur);
       RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-MSCH-ConfigurationInfo-r6");
    }
    /* tctf-Presence */
@@ -2235,449 +5688,579 @@ int asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS
       pvalue->m |= 0x4u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MSCH-ConfigurationInfo-r6");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MSCH-ConfigurationInfo-r6");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MSCH-ConfigurationInfo-r6");
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MSCH-ConfigurationInfo-r6");
          pvalue->tctf_Presence = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MSCH_ConfigurationInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MSCH_ConfigurationInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* msch-transportFormatSet */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet);
+   stat = dec_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet, cur);
    RT_CHECK(ctx, stat, 0, "msch-transportFormatSet", -1, 0);
    /* dummy */
-   stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->dummy);
+   stat = dec_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->dummy, cur);
    RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_MBMS_r6(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r6");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* secondaryCCPCHInfo-MBMS */
-   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
+   stat = dec_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS, cur);
    RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* transportFormatCombinationSet */
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
+   stat = dec_TFCS(ctx, &pvalue->transportFormatCombinationSet, cur);
    RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* fachCarryingMCCH */
-   stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH);
+   stat = dec_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH, cur);
    RT_CHECK(ctx, stat, 0, "fachCarryingMCCH", -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* fachCarryingMTCH-List */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List);
+      stat = dec_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List, cur);
       RT_CHECK(ctx, stat, 0, "fachCarryingMTCH-List", -1, "SCCPCH-SystemInformation-MBMS-r6");
    }
    /* fachCarryingMSCH */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH);
+      stat = dec_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH, cur);
       RT_CHECK(ctx, stat, 0, "fachCarryingMSCH", -1, "SCCPCH-SystemInformation-MBMS-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_SystemInformation_MBMS_r6, pvalue);
+}
+
+static int dec_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mcchOnSCCPCHusedForNonMBMS */
+         pvalue->u.mcchOnSCCPCHusedForNonMBMS = (MBMS_MCCH_ConfigurationInfo_r6*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MCCH_ConfigurationInfo_r6));
+         if (pvalue->u.mcchOnSCCPCHusedForNonMBMS == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "mcchOnSCCPCHusedForNonMBMS", -1, 0);
+         asn1Init_UMTS_MBMS_MCCH_ConfigurationInfo_r6(pvalue->u.mcchOnSCCPCHusedForNonMBMS);
+         stat = dec_MBMS_MCCH_ConfigurationInfo_r6(ctx, pvalue->u.mcchOnSCCPCHusedForNonMBMS, cur);
+         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedForNonMBMS", -1, 0);
+         break;
+      case 1: /* mcchOnSCCPCHusedOnlyForMBMS */
+         pvalue->u.mcchOnSCCPCHusedOnlyForMBMS = (SCCPCH_SystemInformation_MBMS_r6*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_SystemInformation_MBMS_r6));
+         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
+         asn1Init_UMTS_SCCPCH_SystemInformation_MBMS_r6(pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
+         stat = dec_SCCPCH_SystemInformation_MBMS_r6(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS, cur);
+         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* mcchOnSCCPCHusedForNonMBMS */
-         pvalue->u.mcchOnSCCPCHusedForNonMBMS = (MBMS_MCCH_ConfigurationInfo_r6*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MCCH_ConfigurationInfo_r6));
-         if (pvalue->u.mcchOnSCCPCHusedForNonMBMS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mcchOnSCCPCHusedForNonMBMS", -1, 0);
-         asn1Init_UMTS_MBMS_MCCH_ConfigurationInfo_r6(pvalue->u.mcchOnSCCPCHusedForNonMBMS);
-         stat = asn1PD_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, pvalue->u.mcchOnSCCPCHusedForNonMBMS);
-         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedForNonMBMS", -1, 0);
-         break;
-      case 1: /* mcchOnSCCPCHusedOnlyForMBMS */
-         pvalue->u.mcchOnSCCPCHusedOnlyForMBMS = (SCCPCH_SystemInformation_MBMS_r6*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_SystemInformation_MBMS_r6));
-         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
-         asn1Init_UMTS_SCCPCH_SystemInformation_MBMS_r6(pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
-         stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
-         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS, pvalue);
+}
+
+RT_MERGED_BODY int dec_DynamicTFInformationCCCH(rtxContext* RT_RESTRICT ctx, DynamicTFInformationCCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* octetModeRLC-SizeInfoType2 */
+   stat = dec_OctetModeRLC_SizeInfoType2(ctx, &pvalue->octetModeRLC_SizeInfoType2, cur);
+   RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType2", -1, "DynamicTFInformationCCCH");
    return 0;
 }
 
 int asn1PD_UMTS_DynamicTFInformationCCCH(rtxContext* RT_RESTRICT ctx, DynamicTFInformationCCCH* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_DynamicTFInformationCCCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* octetModeRLC-SizeInfoType2 */
-   stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType2(ctx, &pvalue->octetModeRLC_SizeInfoType2);
-   RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType2", -1, "DynamicTFInformationCCCH");
+   /* powerOffsetInformation */
+   stat = dec_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+   RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
+   /* dynamicTFInformationCCCH */
+   stat = dec_DynamicTFInformationCCCH(ctx, &pvalue->dynamicTFInformationCCCH, cur);
+   RT_CHECK(ctx, stat, 0, "dynamicTFInformationCCCH", -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
    return 0;
 }
 
 int asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH_IEs* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* powerOffsetInformation */
-   stat = asn1PD_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-   RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
-   /* dynamicTFInformationCCCH */
-   stat = asn1PD_UMTS_DynamicTFInformationCCCH(ctx, &pvalue->dynamicTFInformationCCCH);
-   RT_CHECK(ctx, stat, 0, "dynamicTFInformationCCCH", -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_AdditionalPRACH_TF_and_TFCS_CCCH_IEs, pvalue);
 }
 
-int asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_AdditionalPRACH_TF_and_TFCS_CCCH(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
    /* additionalPRACH-TF-and-TFCS-CCCH-IEs */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_IEs);
+      stat = dec_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_IEs, cur);
       RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-IEs", -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AdditionalPRACH_TF_and_TFCS_CCCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_AdditionalPRACH_TF_and_TFCS_CCCH_List(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      AdditionalPRACH_TF_and_TFCS_CCCH* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AdditionalPRACH_TF_and_TFCS_CCCH));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "AdditionalPRACH-TF-and-TFCS-CCCH", (int32_t)i, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
+      elem = (AdditionalPRACH_TF_and_TFCS_CCCH*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_AdditionalPRACH_TF_and_TFCS_CCCH(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "AdditionalPRACH-TF-and-TFCS-CCCH", (int32_t)i, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
    }
    return 0;
 }
 
 int asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH_List* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_AdditionalPRACH_TF_and_TFCS_CCCH_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_CBS_DRX_Level1Information_extension_r6(rtxContext* RT_RESTRICT ctx, CBS_DRX_Level1Information_extension_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      AdditionalPRACH_TF_and_TFCS_CCCH* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AdditionalPRACH_TF_and_TFCS_CCCH));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "AdditionalPRACH-TF-and-TFCS-CCCH", (int32_t)i, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
-      elem = (AdditionalPRACH_TF_and_TFCS_CCCH*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "AdditionalPRACH-TF-and-TFCS-CCCH", (int32_t)i, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CBS-DRX-Level1Information-extension-r6");
    return 0;
 }
 
 int asn1PD_UMTS_CBS_DRX_Level1Information_extension_r6(rtxContext* RT_RESTRICT ctx, CBS_DRX_Level1Information_extension_r6* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CBS-DRX-Level1Information-extension-r6");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CBS_DRX_Level1Information_extension_r6, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoType5_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType5_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v690ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v690ext-IEs");
    /* edch-CellIndicator */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "edch-CellIndicator", -1, "SysInfoType5-v690ext-IEs");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "edch-CellIndicator", -1, "SysInfoType5-v690ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "edch-CellIndicator", -1, "SysInfoType5-v690ext-IEs");
+         RT_CHECK_AT(ctx, cur, stat, 0, "edch-CellIndicator", -1, "SysInfoType5-v690ext-IEs");
          pvalue->edch_CellIndicator = ui;
       }
    }
    /* sccpch-SystemInformation-MBMS */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS);
+      stat = dec_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS, cur);
       RT_CHECK(ctx, stat, 0, "sccpch-SystemInformation-MBMS", -1, "SysInfoType5-v690ext-IEs");
    }
    /* additionalPRACH-TF-and-TFCS-CCCH-List */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List);
+      stat = dec_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List, cur);
       RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-List", -1, "SysInfoType5-v690ext-IEs");
    }
    /* cBS-DRX-Level1Information-extension */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->cBS_DRX_Level1Information_extension, 0, 5);
-      RT_CHECK(ctx, stat, "CBS-DRX-Level1Information-extension-r6", "cBS-DRX-Level1Information-extension", -1, "SysInfoType5-v690ext-IEs");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cBS_DRX_Level1Information_extension, 0, 5);
+      RT_CHECK_AT(ctx, cur, stat, "CBS-DRX-Level1Information-extension-r6", "cBS-DRX-Level1Information-extension", -1, "SysInfoType5-v690ext-IEs");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v690ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_LogicalChannelIdentity(rtxContext* RT_RESTRICT ctx, LogicalChannelIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "LogicalChannelIdentity");
    return 0;
 }
 
 int asn1PD_UMTS_LogicalChannelIdentity(rtxContext* RT_RESTRICT ctx, LogicalChannelIdentity* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_LogicalChannelIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_ehs_QueueId(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueId* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "LogicalChannelIdentity");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-ehs-QueueId");
    return 0;
 }
 
 int asn1PD_UMTS_MAC_ehs_QueueId(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueId* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-QueueId");
+   RT_DECODE_ENTRY(ctx, dec_MAC_ehs_QueueId, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonRBMappingInfo(rtxContext* RT_RESTRICT ctx, CommonRBMappingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* logicalChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->logicalChannelIdentity, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "CommonRBMappingInfo");
+   /* mac-ehs-QueueId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "CommonRBMappingInfo");
    return 0;
 }
 
 int asn1PD_UMTS_CommonRBMappingInfo(rtxContext* RT_RESTRICT ctx, CommonRBMappingInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* logicalChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-   RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "CommonRBMappingInfo");
-   /* mac-ehs-QueueId */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "CommonRBMappingInfo");
+   RT_DECODE_ENTRY(ctx, dec_CommonRBMappingInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_T1_ReleaseTimer(rtxContext* RT_RESTRICT ctx, T1_ReleaseTimer* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T1-ReleaseTimer");
    return 0;
 }
 
 int asn1PD_UMTS_T1_ReleaseTimer(rtxContext* RT_RESTRICT ctx, T1_ReleaseTimer* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T1_ReleaseTimer, pvalue);
+}
+
+RT_MERGED_BODY int dec_Treset_ResetTimer(rtxContext* RT_RESTRICT ctx, Treset_ResetTimer* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T1-ReleaseTimer");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Treset-ResetTimer");
    return 0;
 }
 
 int asn1PD_UMTS_Treset_ResetTimer(rtxContext* RT_RESTRICT ctx, Treset_ResetTimer* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Treset_ResetTimer, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_hs_WindowSize(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Treset-ResetTimer");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-hs-WindowSize");
    return 0;
 }
 
 int asn1PD_UMTS_MAC_hs_WindowSize(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-WindowSize");
+   RT_DECODE_ENTRY(ctx, dec_MAC_hs_WindowSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_Common_MAC_ehs_ReorderingQueue(rtxContext* RT_RESTRICT ctx, Common_MAC_ehs_ReorderingQueue* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Common-MAC-ehs-ReorderingQueue");
+   /* mac-ehs-QueueId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "Common-MAC-ehs-ReorderingQueue");
+   /* t1-ReleaseTimer */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t1_ReleaseTimer, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "T1-ReleaseTimer", "t1-ReleaseTimer", -1, "Common-MAC-ehs-ReorderingQueue");
+   /* reorderingResetTimer */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reorderingResetTimer, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "Common-MAC-ehs-ReorderingQueue");
+   }
+   /* mac-ehsWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mac_ehsWindowSize, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "Common-MAC-ehs-ReorderingQueue");
    return 0;
 }
 
 int asn1PD_UMTS_Common_MAC_ehs_ReorderingQueue(rtxContext* RT_RESTRICT ctx, Common_MAC_ehs_ReorderingQueue* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Common-MAC-ehs-ReorderingQueue");
-   /* mac-ehs-QueueId */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "Common-MAC-ehs-ReorderingQueue");
-   /* t1-ReleaseTimer */
-   stat = pd_ConsUnsigned(ctx, &pvalue->t1_ReleaseTimer, 0, 15);
-   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "t1-ReleaseTimer", -1, "Common-MAC-ehs-ReorderingQueue");
-   /* reorderingResetTimer */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->reorderingResetTimer, 0, 3);
-      RT_CHECK(ctx, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "Common-MAC-ehs-ReorderingQueue");
-   }
-   /* mac-ehsWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mac_ehsWindowSize, 0, 6);
-   RT_CHECK(ctx, stat, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "Common-MAC-ehs-ReorderingQueue");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_Common_MAC_ehs_ReorderingQueue, pvalue);
 }
 
-int asn1PD_UMTS_Common_MAC_ehs_ReorderingQueueList(rtxContext* RT_RESTRICT ctx, Common_MAC_ehs_ReorderingQueueList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_Common_MAC_ehs_ReorderingQueueList(rtxContext* RT_RESTRICT ctx, Common_MAC_ehs_ReorderingQueueList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Common-MAC-ehs-ReorderingQueueList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Common-MAC-ehs-ReorderingQueueList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       Common_MAC_ehs_ReorderingQueue* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_MAC_ehs_ReorderingQueue));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Common-MAC-ehs-ReorderingQueue", (int32_t)i, "Common-MAC-ehs-ReorderingQueueList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Common-MAC-ehs-ReorderingQueue", (int32_t)i, "Common-MAC-ehs-ReorderingQueueList");
       elem = (Common_MAC_ehs_ReorderingQueue*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_Common_MAC_ehs_ReorderingQueue(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Common_MAC_ehs_ReorderingQueue(ctx, elem);
+      stat = dec_Common_MAC_ehs_ReorderingQueue(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "Common-MAC-ehs-ReorderingQueue", (int32_t)i, "Common-MAC-ehs-ReorderingQueueList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HS_SCCH_Codes(rtxContext* RT_RESTRICT ctx, HS_SCCH_Codes* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Common_MAC_ehs_ReorderingQueueList(rtxContext* RT_RESTRICT ctx, Common_MAC_ehs_ReorderingQueueList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Common_MAC_ehs_ReorderingQueueList, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Codes(rtxContext* RT_RESTRICT ctx, HS_SCCH_Codes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-Codes");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-SCCH-Codes");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Codes(rtxContext* RT_RESTRICT ctx, HS_SCCH_Codes* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Codes, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 127);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo, pvalue);
 }
 
-int asn1PD_UMTS_HS_SCCH_SystemInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HS_SCCH_SystemInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-SystemInfo");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-SCCH-SystemInfo");
    /* dl-ScramblingCode */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "HS-SCCH-SystemInfo");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "HS-SCCH-SystemInfo");
    }
    /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PD_UMTS_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
+   stat = dec_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
    RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, "HS-SCCH-SystemInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_SystemInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_SystemInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_HARQMemorySize(rtxContext* RT_RESTRICT ctx, HARQMemorySize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 60);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HARQMemorySize");
    return 0;
 }
 
 int asn1PD_UMTS_HARQMemorySize(rtxContext* RT_RESTRICT ctx, HARQMemorySize* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_HARQMemorySize, pvalue);
+}
+
+RT_MERGED_BODY int dec_HARQ_Info_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, HARQ_Info_memoryPartitioning_explicit_* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 60);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HARQMemorySize");
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "explicit");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 60);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_HARQ_Info_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, HARQ_Info_memoryPartitioning_explicit_* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "explicit");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 60);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
-      }
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HARQ_Info_memoryPartitioning_explicit_, pvalue);
 }
 
-int asn1PD_UMTS_HARQ_Info_memoryPartitioning(rtxContext* RT_RESTRICT ctx, HARQ_Info_memoryPartitioning* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HARQ_Info_memoryPartitioning(rtxContext* RT_RESTRICT ctx, HARQ_Info_memoryPartitioning* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* implicit */
          break;
       case 1: /* explicit */
          pvalue->u.explicit_ = (HARQ_Info_memoryPartitioning_explicit_*)rtxMemHeapAlloc(ctx, sizeof(HARQ_Info_memoryPartitioning_explicit_));
-         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit", -1, 0);
+         if (pvalue->u.explicit_ == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit", -1, 0);
          asn1Init_UMTS_HARQ_Info_memoryPartitioning_explicit_(pvalue->u.explicit_);
-         stat = asn1PD_UMTS_HARQ_Info_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_);
+         stat = dec_HARQ_Info_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_, cur);
          RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_HARQ_Info_memoryPartitioning(rtxContext* RT_RESTRICT ctx, HARQ_Info_memoryPartitioning* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HARQ_Info_memoryPartitioning, pvalue);
+}
+
+RT_MERGED_BODY int dec_HARQ_Info(rtxContext* RT_RESTRICT ctx, HARQ_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* numberOfProcesses */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfProcesses, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numberOfProcesses", -1, "HARQ-Info");
+   /* memoryPartitioning */
+   stat = dec_HARQ_Info_memoryPartitioning(ctx, &pvalue->memoryPartitioning, cur);
+   RT_CHECK(ctx, stat, 0, "memoryPartitioning", -1, "HARQ-Info");
    return 0;
 }
 
 int asn1PD_UMTS_HARQ_Info(rtxContext* RT_RESTRICT ctx, HARQ_Info* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* numberOfProcesses */
-   stat = pd_ConsUInt8(ctx, &pvalue->numberOfProcesses, 1, 8);
-   RT_CHECK(ctx, stat, 0, "numberOfProcesses", -1, "HARQ-Info");
-   /* memoryPartitioning */
-   stat = asn1PD_UMTS_HARQ_Info_memoryPartitioning(ctx, &pvalue->memoryPartitioning);
-   RT_CHECK(ctx, stat, 0, "memoryPartitioning", -1, "HARQ-Info");
+   RT_DECODE_ENTRY(ctx, dec_HARQ_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_H_RNTI(rtxContext* RT_RESTRICT ctx, H_RNTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, pvalue, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "H-RNTI");
    return 0;
 }
 
 int asn1PD_UMTS_H_RNTI(rtxContext* RT_RESTRICT ctx, H_RNTI* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "H-RNTI");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_H_RNTI, pvalue);
 }
 
-int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_common_H_RNTI_information* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_common_H_RNTI_information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t i;
+   uint32_t i, n;
    {
       uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
       if (raw > 3) {
          rtxErrAddStrParm(ctx, "common-H-RNTI-information");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
       }
    }
-   for (i = 0; i < pvalue->n; i++) {
+   for (i = 0; i < n; i++) {
       asn1Init_UMTS_H_RNTI(&pvalue->elem[i]);
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->elem[i]);
+      stat = dec_H_RNTI(ctx, &pvalue->elem[i], cur);
       if (stat != 0) {
          pvalue->n = i + 1;
          RT_FAIL(ctx, stat, 0, "H-RNTI", (int32_t)i, 0);
@@ -2686,171 +6269,216 @@ int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxCon
    return 0;
 }
 
-int asn1PD_UMTS_HS_DSCH_CommonSystemInformation(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_common_H_RNTI_information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_CommonSystemInformation_common_H_RNTI_information, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_CommonSystemInformation(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-CommonSystemInformation");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-CommonSystemInformation");
    /* ccch-MappingInfo */
-   stat = asn1PD_UMTS_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo);
+   stat = dec_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo, cur);
    RT_CHECK(ctx, stat, 0, "ccch-MappingInfo", -1, "HS-DSCH-CommonSystemInformation");
    /* srb1-MappingInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo);
+      stat = dec_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo, cur);
       RT_CHECK(ctx, stat, 0, "srb1-MappingInfo", -1, "HS-DSCH-CommonSystemInformation");
    }
    /* common-MAC-ehs-ReorderingQueueList */
-   stat = asn1PD_UMTS_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList);
+   stat = dec_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList, cur);
    RT_CHECK(ctx, stat, 0, "common-MAC-ehs-ReorderingQueueList", -1, "HS-DSCH-CommonSystemInformation");
    /* hs-scch-SystemInfo */
-   stat = asn1PD_UMTS_HS_SCCH_SystemInfo(ctx, &pvalue->hs_scch_SystemInfo);
+   stat = dec_HS_SCCH_SystemInfo(ctx, &pvalue->hs_scch_SystemInfo, cur);
    RT_CHECK(ctx, stat, 0, "hs-scch-SystemInfo", -1, "HS-DSCH-CommonSystemInformation");
    /* harq-SystemInfo */
-   stat = asn1PD_UMTS_HARQ_Info(ctx, &pvalue->harq_SystemInfo);
+   stat = dec_HARQ_Info(ctx, &pvalue->harq_SystemInfo, cur);
    RT_CHECK(ctx, stat, 0, "harq-SystemInfo", -1, "HS-DSCH-CommonSystemInformation");
    /* common-H-RNTI-information */
-   stat = asn1PD_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information);
+   stat = dec_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information, cur);
    RT_CHECK(ctx, stat, 0, "common-H-RNTI-information", -1, "HS-DSCH-CommonSystemInformation");
    /* bcchSpecific-H-RNTI */
-   stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->bcchSpecific_H_RNTI);
+   stat = dec_H_RNTI(ctx, &pvalue->bcchSpecific_H_RNTI, cur);
    RT_CHECK(ctx, stat, 0, "bcchSpecific-H-RNTI", -1, "HS-DSCH-CommonSystemInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_CommonSystemInformation(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_CommonSystemInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_PICH_ForHSDPASupportedPaging(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* hsdpa-AssociatedPichInfo */
+   stat = dec_PICH_Info(ctx, &pvalue->hsdpa_AssociatedPichInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hsdpa-AssociatedPichInfo", -1, "PICH-ForHSDPASupportedPaging");
+   /* hs-pdschChannelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hs_pdschChannelisationCode, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "hs-pdschChannelisationCode", -1, "PICH-ForHSDPASupportedPaging");
    return 0;
 }
 
 int asn1PD_UMTS_PICH_ForHSDPASupportedPaging(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* hsdpa-AssociatedPichInfo */
-   stat = asn1PD_UMTS_PICH_Info(ctx, &pvalue->hsdpa_AssociatedPichInfo);
-   RT_CHECK(ctx, stat, 0, "hsdpa-AssociatedPichInfo", -1, "PICH-ForHSDPASupportedPaging");
-   /* hs-pdschChannelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->hs_pdschChannelisationCode, 1, 15);
-   RT_CHECK(ctx, stat, 0, "hs-pdschChannelisationCode", -1, "PICH-ForHSDPASupportedPaging");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PICH_ForHSDPASupportedPaging, pvalue);
 }
 
-int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PICH_ForHSDPASupportedPaging* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PICH_ForHSDPASupportedPaging));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PICH-ForHSDPASupportedPaging", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PICH-ForHSDPASupportedPaging", (int32_t)i, 0);
       elem = (PICH_ForHSDPASupportedPaging*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PICH_ForHSDPASupportedPaging(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PICH_ForHSDPASupportedPaging(ctx, elem);
+      stat = dec_PICH_ForHSDPASupportedPaging(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "PICH-ForHSDPASupportedPaging", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_TransportBlockSizeIndex(rtxContext* RT_RESTRICT ctx, TransportBlockSizeIndex* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList, pvalue);
+}
+
+RT_MERGED_BODY int dec_TransportBlockSizeIndex(rtxContext* RT_RESTRICT ctx, TransportBlockSizeIndex* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransportBlockSizeIndex");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransportBlockSizeIndex");
+   return 0;
+}
+
+int asn1PD_UMTS_TransportBlockSizeIndex(rtxContext* RT_RESTRICT ctx, TransportBlockSizeIndex* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TransportBlockSizeIndex, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_PagingSystemInformation_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_transportBlockSizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 1, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "transportBlockSizeList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 32);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_transportBlockSizeList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddStrParm(ctx, "transportBlockSizeList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_PagingSystemInformation_transportBlockSizeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_PagingSystemInformation(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-PagingSystemInformation");
+   /* dlScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dlScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "dlScramblingCode", -1, "HS-DSCH-PagingSystemInformation");
    }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
-      }
-   }
+   /* pich-ForHSDPASupportedPagingList */
+   stat = dec_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(ctx, &pvalue->pich_ForHSDPASupportedPagingList, cur);
+   RT_CHECK(ctx, stat, 0, "pich-ForHSDPASupportedPagingList", -1, "HS-DSCH-PagingSystemInformation");
+   /* numberOfPcchTransmissions */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfPcchTransmissions, 1, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numberOfPcchTransmissions", -1, "HS-DSCH-PagingSystemInformation");
+   /* transportBlockSizeList */
+   stat = dec_HS_DSCH_PagingSystemInformation_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList, cur);
+   RT_CHECK(ctx, stat, 0, "transportBlockSizeList", -1, "HS-DSCH-PagingSystemInformation");
    return 0;
 }
 
 int asn1PD_UMTS_HS_DSCH_PagingSystemInformation(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-PagingSystemInformation");
-   /* dlScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dlScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dlScramblingCode", -1, "HS-DSCH-PagingSystemInformation");
-   }
-   /* pich-ForHSDPASupportedPagingList */
-   stat = asn1PD_UMTS_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(ctx, &pvalue->pich_ForHSDPASupportedPagingList);
-   RT_CHECK(ctx, stat, 0, "pich-ForHSDPASupportedPagingList", -1, "HS-DSCH-PagingSystemInformation");
-   /* numberOfPcchTransmissions */
-   stat = pd_ConsUInt8(ctx, &pvalue->numberOfPcchTransmissions, 1, 5);
-   RT_CHECK(ctx, stat, 0, "numberOfPcchTransmissions", -1, "HS-DSCH-PagingSystemInformation");
-   /* transportBlockSizeList */
-   stat = asn1PD_UMTS_HS_DSCH_PagingSystemInformation_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList);
-   RT_CHECK(ctx, stat, 0, "transportBlockSizeList", -1, "HS-DSCH-PagingSystemInformation");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_PagingSystemInformation, pvalue);
 }
 
-int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+static int dec_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* hs-dsch-CommonSystemInformation */
-   stat = asn1PD_UMTS_HS_DSCH_CommonSystemInformation(ctx, &pvalue->hs_dsch_CommonSystemInformation);
+   stat = dec_HS_DSCH_CommonSystemInformation(ctx, &pvalue->hs_dsch_CommonSystemInformation, cur);
    RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSystemInformation", -1, 0);
    /* hs-dsch-PagingSystemInformation */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_DSCH_PagingSystemInformation(ctx, &pvalue->hs_dsch_PagingSystemInformation);
+      stat = dec_HS_DSCH_PagingSystemInformation(ctx, &pvalue->hs_dsch_PagingSystemInformation, cur);
       RT_CHECK(ctx, stat, 0, "hs-dsch-PagingSystemInformation", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* defaultMidamble */
@@ -2859,59 +6487,84 @@ int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocatio
          break;
       case 2: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType1and3 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleConfigurationBurstType1and3 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_VHCR_burstType_type1, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleConfigurationBurstType2_VHCR(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MidambleConfigurationBurstType2-VHCR");
    return 0;
 }
 
 int asn1PD_UMTS_MidambleConfigurationBurstType2_VHCR(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2_VHCR* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MidambleConfigurationBurstType2_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftShort_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftShort_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType2-VHCR");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MidambleShiftShort-VHCR");
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftShort_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftShort_VHCR* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleShiftShort-VHCR");
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftShort_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 7);
-   RT_CHECK(ctx, stat, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* defaultMidamble */
@@ -2920,335 +6573,430 @@ int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocatio
          break;
       case 2: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType2 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_VHCR_burstType_type2, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* midambleConfigurationBurstType2 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* defaultMidamble */
          break;
       case 1: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType_type3(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType1and3 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleConfigurationBurstType1and3 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_VHCR_burstType_type3, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* type1 */
          pvalue->u.type1 = (MidambleShiftAndBurstType_VHCR_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_VHCR_burstType_type1));
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         if (pvalue->u.type1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type1", -1, 0);
          asn1Init_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1(pvalue->u.type1);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1(ctx, pvalue->u.type1);
+         stat = dec_MidambleShiftAndBurstType_VHCR_burstType_type1(ctx, pvalue->u.type1, cur);
          RT_CHECK(ctx, stat, 0, "type1", -1, 0);
          break;
       case 1: /* type2 */
          pvalue->u.type2 = (MidambleShiftAndBurstType_VHCR_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_VHCR_burstType_type2));
-         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type2", -1, 0);
+         if (pvalue->u.type2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type2", -1, 0);
          asn1Init_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2(pvalue->u.type2);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2(ctx, pvalue->u.type2);
+         stat = dec_MidambleShiftAndBurstType_VHCR_burstType_type2(ctx, pvalue->u.type2, cur);
          RT_CHECK(ctx, stat, 0, "type2", -1, 0);
          break;
       case 2: /* type3 */
          pvalue->u.type3 = (MidambleShiftAndBurstType_VHCR_burstType_type3*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_VHCR_burstType_type3));
-         if (pvalue->u.type3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type3", -1, 0);
+         if (pvalue->u.type3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type3", -1, 0);
          asn1Init_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(pvalue->u.type3);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(ctx, pvalue->u.type3);
+         stat = dec_MidambleShiftAndBurstType_VHCR_burstType_type3(ctx, pvalue->u.type3, cur);
          RT_CHECK(ctx, stat, 0, "type3", -1, 0);
          break;
       case 3: /* mbsfnBurstType4 */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_VHCR_burstType, pvalue);
+}
+
+static int dec_MidambleShiftAndBurstType_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* burstType */
+   stat = dec_MidambleShiftAndBurstType_VHCR_burstType(ctx, &pvalue->burstType, cur);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-VHCR");
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_VHCR(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* burstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-VHCR");
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-VHCR");
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-VHCR");
+   /* midambleShiftAndBurstType-VHCR */
+   stat = dec_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType_VHCR, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType-VHCR", -1, "IndividualTimeslotInfo-VHCR");
    return 0;
 }
 
 int asn1PD_UMTS_IndividualTimeslotInfo_VHCR(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_VHCR* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-VHCR");
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-VHCR");
-   /* midambleShiftAndBurstType-VHCR */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType_VHCR);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType-VHCR", -1, "IndividualTimeslotInfo-VHCR");
+   RT_DECODE_ENTRY(ctx, dec_IndividualTimeslotInfo_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TS-ChannelisationCode-VHCR");
    return 0;
 }
 
 int asn1PD_UMTS_UL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode_VHCR* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_UL_TS_ChannelisationCode_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TS_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 62);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCode-VHCR");
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 1, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList-VHCR");
+      pvalue->n = n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "UL-TS-ChannelisationCodeList-VHCR");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UL-TS-ChannelisationCodeList-VHCR");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 62);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "UL-TS-ChannelisationCode-VHCR", "UL-TS-ChannelisationCode-VHCR", (int32_t)i, "UL-TS-ChannelisationCodeList-VHCR");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_UL_TS_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList-VHCR");
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddStrParm(ctx, "UL-TS-ChannelisationCodeList-VHCR");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-TS-ChannelisationCodeList-VHCR");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 62);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "UL-TS-ChannelisationCode-VHCR", "UL-TS-ChannelisationCode-VHCR", (int32_t)i, "UL-TS-ChannelisationCodeList-VHCR");
-      }
-   }
+   RT_DECODE_ENTRY(ctx, dec_UL_TS_ChannelisationCodeList_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* numAdditionalTimeslots */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->numAdditionalTimeslots, 1, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numAdditionalTimeslots", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* numAdditionalTimeslots */
-   stat = pd_ConsUInt8(ctx, &pvalue->numAdditionalTimeslots, 1, 13);
-   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* ul-TS-ChannelisationCodeList */
+   stat = dec_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_VHCR_parameters_newParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsLast */
+         pvalue->u.sameAsLast = (UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast));
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
+         stat = dec_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
+         break;
+      case 1: /* newParameters */
+         pvalue->u.newParameters = (UplinkAdditionalTimeslots_VHCR_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(UplinkAdditionalTimeslots_VHCR_parameters_newParameters));
+         if (pvalue->u.newParameters == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
+         asn1Init_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(pvalue->u.newParameters);
+         stat = dec_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sameAsLast */
-         pvalue->u.sameAsLast = (UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
-         stat = asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
-         break;
-      case 1: /* newParameters */
-         pvalue->u.newParameters = (UplinkAdditionalTimeslots_VHCR_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(UplinkAdditionalTimeslots_VHCR_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
-         asn1Init_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(pvalue->u.newParameters);
-         stat = asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_VHCR_parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* parameters */
+   stat = dec_UplinkAdditionalTimeslots_VHCR_parameters(ctx, &pvalue->parameters, cur);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-VHCR");
    return 0;
 }
 
 int asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* parameters */
-   stat = asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-VHCR");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_VHCR, pvalue);
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 13);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       UplinkAdditionalTimeslots_VHCR* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UplinkAdditionalTimeslots_VHCR));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UplinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UplinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
       elem = (UplinkAdditionalTimeslots_VHCR*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_UplinkAdditionalTimeslots_VHCR(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR(ctx, elem);
+      stat = dec_UplinkAdditionalTimeslots_VHCR(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* consecutive */
+         pvalue->u.consecutive = (UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive));
+         if (pvalue->u.consecutive == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
+         stat = dec_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive, cur);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 1: /* timeslotList */
+         pvalue->u.timeslotList = (UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList));
+         if (pvalue->u.timeslotList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
+         asn1Init_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
+         stat = dec_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* consecutive */
-         pvalue->u.consecutive = (UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive));
-         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
-         stat = asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 1: /* timeslotList */
-         pvalue->u.timeslotList = (UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
-         asn1Init_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
-         stat = asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots, pvalue);
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* noMore */
          break;
       case 1: /* additionalTimeslots */
          pvalue->u.additionalTimeslots = (UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
          asn1Init_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
-         stat = asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
+         stat = dec_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
          RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_VHCR_moreTimeslots, pvalue);
+}
+
+static int dec_UplinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dynamicSFusage */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dynamicSFusage);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-VHCR");
+   /* firstIndividualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-VHCR");
+   /* ul-TS-ChannelisationCodeList */
+   stat = dec_UL_TS_ChannelisationCodeList_VHCR(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-VHCR");
+   /* moreTimeslots */
+   stat = dec_UplinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-VHCR");
    return 0;
 }
 
 int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* dynamicSFusage */
-   stat = rtxDecBitInline(ctx, &pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-VHCR");
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-VHCR");
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList_VHCR(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-VHCR");
-   /* moreTimeslots */
-   stat = asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-VHCR");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_VHCR, pvalue);
 }
 
-int asn1PD_UMTS_PUSCH_Info_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_Info_VHCR* RT_RESTRICT pvalue)
+static int dec_PUSCH_Info_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_Info_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info-VHCR");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-Info-VHCR");
    /* tfcs-ID */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-VHCR");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-VHCR");
    }
    else {
       pvalue->tfcs_ID = 1;
@@ -3256,327 +7004,439 @@ int asn1PD_UMTS_PUSCH_Info_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_Info_VHCR* RT
    /* commonTimeslotInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
       RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info-VHCR");
    }
    /* pusch-TimeslotsCodes-VHCR */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UplinkTimeslotsCodes_VHCR(ctx, &pvalue->pusch_TimeslotsCodes_VHCR);
+      stat = dec_UplinkTimeslotsCodes_VHCR(ctx, &pvalue->pusch_TimeslotsCodes_VHCR, cur);
       RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes-VHCR", -1, "PUSCH-Info-VHCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_Info_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_Info_VHCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_Info_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_SysInfo_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfo-VHCR");
+   /* pusch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-VHCR");
+   /* pusch-Info-VHCR */
+   stat = dec_PUSCH_Info_VHCR(ctx, &pvalue->pusch_Info_VHCR, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info-VHCR", -1, "PUSCH-SysInfo-VHCR");
+   /* usch-TransportChannelsInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_USCH_TransportChannelsInfo(ctx, &pvalue->usch_TransportChannelsInfo, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TransportChannelsInfo", -1, "PUSCH-SysInfo-VHCR");
+   }
+   /* usch-TFCS */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TFCS(ctx, &pvalue->usch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-VHCR");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PUSCH_SysInfo_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo_VHCR* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfo_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_SFN_VHCR_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_VHCR_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo-VHCR");
-   /* pusch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-VHCR");
-   /* pusch-Info-VHCR */
-   stat = asn1PD_UMTS_PUSCH_Info_VHCR(ctx, &pvalue->pusch_Info_VHCR);
-   RT_CHECK(ctx, stat, 0, "pusch-Info-VHCR", -1, "PUSCH-SysInfo-VHCR");
-   /* usch-TransportChannelsInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_USCH_TransportChannelsInfo(ctx, &pvalue->usch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat, 0, "usch-TransportChannelsInfo", -1, "PUSCH-SysInfo-VHCR");
-   }
-   /* usch-TFCS */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfo-VHCR */
+   stat = dec_PUSCH_SysInfo_VHCR(ctx, &pvalue->pusch_SysInfo_VHCR, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo-VHCR", -1, 0);
+   /* sfn-TimeInfo */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-VHCR");
+      pvalue->m |= 0x1u;
+      stat = dec_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_VHCR_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfo-VHCR */
-   stat = asn1PD_UMTS_PUSCH_SysInfo_VHCR(ctx, &pvalue->pusch_SysInfo_VHCR);
-   RT_CHECK(ctx, stat, 0, "pusch-SysInfo-VHCR", -1, 0);
-   /* sfn-TimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfoList_SFN_VHCR_element, pvalue);
+}
+
+static int dec_PUSCH_SysInfoList_SFN_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-VHCR");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PUSCH_SysInfoList_SFN_VHCR_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfoList_SFN_VHCR_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-VHCR");
+      elem = (PUSCH_SysInfoList_SFN_VHCR_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PUSCH_SysInfoList_SFN_VHCR_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-VHCR");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_VHCR* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-VHCR");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PUSCH_SysInfoList_SFN_VHCR_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfoList_SFN_VHCR_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-VHCR");
-      elem = (PUSCH_SysInfoList_SFN_VHCR_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-VHCR");
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfoList_SFN_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_Info_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd384* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_Info_r7_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-TS-ChannelisationCode-VHCR");
    return 0;
 }
 
 int asn1PD_UMTS_DL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode_VHCR* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TS-ChannelisationCode-VHCR");
+   RT_DECODE_ENTRY(ctx, dec_DL_TS_ChannelisationCode_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* firstChannelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->firstChannelisationCode, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode-VHCR", "firstChannelisationCode", -1, 0);
+   /* lastChannelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->lastChannelisationCode, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode-VHCR", "lastChannelisationCode", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* firstChannelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 31);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "firstChannelisationCode", -1, 0);
-   /* lastChannelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->lastChannelisationCode, 0, 31);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "lastChannelisationCode", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, pvalue, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, pvalue, 32, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* consecutive */
+         pvalue->u.consecutive = (DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive));
+         if (pvalue->u.consecutive == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
+         stat = dec_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(ctx, pvalue->u.consecutive, cur);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 1: /* bitmap */
+         pvalue->u.bitmap = (DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap*)rtxMemHeapAlloc(ctx, sizeof(DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap));
+         if (pvalue->u.bitmap == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "bitmap", -1, 0);
+         asn1Init_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(pvalue->u.bitmap);
+         stat = dec_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(ctx, pvalue->u.bitmap, cur);
+         RT_CHECK(ctx, stat, 0, "bitmap", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* consecutive */
-         pvalue->u.consecutive = (DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive));
-         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
-         stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 1: /* bitmap */
-         pvalue->u.bitmap = (DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap*)rtxMemHeapAlloc(ctx, sizeof(DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap));
-         if (pvalue->u.bitmap == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "bitmap", -1, 0);
-         asn1Init_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(pvalue->u.bitmap);
-         stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(ctx, pvalue->u.bitmap);
-         RT_CHECK(ctx, stat, 0, "bitmap", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TS_ChannelisationCodesShort_VHCR(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* codesRepresentation */
+   stat = dec_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(ctx, &pvalue->codesRepresentation, cur);
+   RT_CHECK(ctx, stat, 0, "codesRepresentation", -1, "DL-TS-ChannelisationCodesShort-VHCR");
    return 0;
 }
 
 int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_DL_TS_ChannelisationCodesShort_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* codesRepresentation */
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(ctx, &pvalue->codesRepresentation);
-   RT_CHECK(ctx, stat, 0, "codesRepresentation", -1, "DL-TS-ChannelisationCodesShort-VHCR");
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* dl-TS-ChannelisationCodesShort */
+   stat = dec_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsLast */
+         pvalue->u.sameAsLast = (DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast));
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
+         stat = dec_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
+         break;
+      case 1: /* newParameters */
+         pvalue->u.newParameters = (DownlinkAdditionalTimeslots_VHCR_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(DownlinkAdditionalTimeslots_VHCR_parameters_newParameters));
+         if (pvalue->u.newParameters == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
+         asn1Init_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(pvalue->u.newParameters);
+         stat = dec_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sameAsLast */
-         pvalue->u.sameAsLast = (DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
-         stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
-         break;
-      case 1: /* newParameters */
-         pvalue->u.newParameters = (DownlinkAdditionalTimeslots_VHCR_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(DownlinkAdditionalTimeslots_VHCR_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
-         asn1Init_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(pvalue->u.newParameters);
-         stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_VHCR_parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* parameters */
+   stat = dec_DownlinkAdditionalTimeslots_VHCR_parameters(ctx, &pvalue->parameters, cur);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-VHCR");
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* parameters */
-   stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-VHCR");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_VHCR, pvalue);
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 13);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       DownlinkAdditionalTimeslots_VHCR* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DownlinkAdditionalTimeslots_VHCR));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DownlinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DownlinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
       elem = (DownlinkAdditionalTimeslots_VHCR*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_DownlinkAdditionalTimeslots_VHCR(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR(ctx, elem);
+      stat = dec_DownlinkAdditionalTimeslots_VHCR(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* consecutive */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.consecutive, 1, 13);
+         RT_CHECK_AT(ctx, cur, stat, 0, "consecutive", -1, 0);
+         break;
+      case 1: /* timeslotList */
+         pvalue->u.timeslotList = (DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList));
+         if (pvalue->u.timeslotList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
+         asn1Init_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
+         stat = dec_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* consecutive */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.consecutive, 1, 13);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 1: /* timeslotList */
-         pvalue->u.timeslotList = (DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
-         asn1Init_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
-         stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots, pvalue);
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* noMore */
          break;
       case 1: /* additionalTimeslots */
          pvalue->u.additionalTimeslots = (DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
          asn1Init_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
-         stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
+         stat = dec_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
          RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_VHCR_moreTimeslots, pvalue);
+}
+
+static int dec_DownlinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* firstIndividualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-VHCR");
+   /* dl-TS-ChannelisationCodesShort */
+   stat = dec_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-VHCR");
+   /* moreTimeslots */
+   stat = dec_DownlinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-VHCR");
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-VHCR");
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-VHCR");
-   /* moreTimeslots */
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-VHCR");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_VHCR, pvalue);
 }
 
-int asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd768* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PDSCH_Info_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* pdsch-TimeslotsCodes */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->pdsch_TimeslotsCodes);
+      stat = dec_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_Info_r7_tddOption_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_Info_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
       RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
    }
    return 0;
@@ -3584,68 +7444,61 @@ int asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, PDSC
 
 int asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_Info_r7_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_Info_r7_tddOption(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (PDSCH_Info_r7_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r7_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_PDSCH_Info_r7_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_PDSCH_Info_r7_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (PDSCH_Info_r7_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r7_tddOption_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_PDSCH_Info_r7_tddOption_tdd768(pvalue->u.tdd768);
+         stat = dec_PDSCH_Info_r7_tddOption_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (PDSCH_Info_r7_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r7_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_PDSCH_Info_r7_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_PDSCH_Info_r7_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_PDSCH_Info_r7_tddOption(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (PDSCH_Info_r7_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r7_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_PDSCH_Info_r7_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (PDSCH_Info_r7_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r7_tddOption_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_PDSCH_Info_r7_tddOption_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (PDSCH_Info_r7_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r7_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_PDSCH_Info_r7_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_Info_r7_tddOption, pvalue);
 }
 
-int asn1PD_UMTS_PDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7* RT_RESTRICT pvalue)
+static int dec_PDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info-r7");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-Info-r7");
    /* tfcs-ID */
    if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r7");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r7");
    }
    else {
       pvalue->tfcs_ID = 1;
@@ -3653,625 +7506,790 @@ int asn1PD_UMTS_PDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7* RT_RES
    /* commonTimeslotInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
       RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info-r7");
    }
    /* tddOption */
-   stat = asn1PD_UMTS_PDSCH_Info_r7_tddOption(ctx, &pvalue->tddOption);
+   stat = dec_PDSCH_Info_r7_tddOption(ctx, &pvalue->tddOption, cur);
    RT_CHECK(ctx, stat, 0, "tddOption", -1, "PDSCH-Info-r7");
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_SysInfo_VHCR_r7(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_VHCR_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_SysInfo_VHCR_r7(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo-VHCR-r7");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfo-VHCR-r7");
    /* pdsch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-VHCR-r7");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-VHCR-r7");
    /* pdsch-Info */
-   stat = asn1PD_UMTS_PDSCH_Info_r7(ctx, &pvalue->pdsch_Info);
+   stat = dec_PDSCH_Info_r7(ctx, &pvalue->pdsch_Info, cur);
    RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-VHCR-r7");
    /* dsch-TransportChannelsInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo);
+      stat = dec_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo, cur);
       RT_CHECK(ctx, stat, 0, "dsch-TransportChannelsInfo", -1, "PDSCH-SysInfo-VHCR-r7");
    }
    /* dsch-TFCS */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
+      stat = dec_TFCS(ctx, &pvalue->dsch_TFCS, cur);
       RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_SysInfo_VHCR_r7(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_VHCR_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfo_VHCR_r7, pvalue);
+}
+
+static int dec_PDSCH_SysInfoList_VHCR_r7(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList-VHCR-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PDSCH_SysInfo_VHCR_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfo_VHCR_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PDSCH-SysInfo-VHCR-r7", (int32_t)i, "PDSCH-SysInfoList-VHCR-r7");
+      elem = (PDSCH_SysInfo_VHCR_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PDSCH_SysInfo_VHCR_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PDSCH_SysInfo_VHCR_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-VHCR-r7", (int32_t)i, "PDSCH-SysInfoList-VHCR-r7");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PDSCH_SysInfoList_VHCR_r7(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_VHCR_r7* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfoList_VHCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD768_PRACH_CCode32(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode32* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-VHCR-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PDSCH_SysInfo_VHCR_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfo_VHCR_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PDSCH-SysInfo-VHCR-r7", (int32_t)i, "PDSCH-SysInfoList-VHCR-r7");
-      elem = (PDSCH_SysInfo_VHCR_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PDSCH_SysInfo_VHCR_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PDSCH_SysInfo_VHCR_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-VHCR-r7", (int32_t)i, "PDSCH-SysInfoList-VHCR-r7");
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD768-PRACH-CCode32");
    return 0;
 }
 
 int asn1PD_UMTS_TDD768_PRACH_CCode32(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode32* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TDD768_PRACH_CCode32, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD768_PRACH_CCodeList_sf32(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCodeList_sf32* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PRACH-CCode32");
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "sf32");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TDD768-PRACH-CCode32", "TDD768-PRACH-CCode32", (int32_t)i, 0);
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_TDD768_PRACH_CCodeList_sf32(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCodeList_sf32* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TDD768_PRACH_CCodeList_sf32, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD768_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "sf32");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TDD768-PRACH-CCode32", "TDD768-PRACH-CCode32", (int32_t)i, 0);
-      }
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD768-PRACH-CCode16");
    return 0;
 }
 
 int asn1PD_UMTS_TDD768_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode16* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TDD768_PRACH_CCode16, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD768_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCodeList_sf16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PRACH-CCode16");
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "sf16");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TDD768-PRACH-CCode16", "TDD768-PRACH-CCode16", (int32_t)i, 0);
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_TDD768_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCodeList_sf16* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TDD768_PRACH_CCodeList_sf16, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD768_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "sf16");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TDD768-PRACH-CCode16", "TDD768-PRACH-CCode16", (int32_t)i, 0);
-      }
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD768-PRACH-CCodeList");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sf32 */
+         pvalue->u.sf32 = (TDD768_PRACH_CCodeList_sf32*)rtxMemHeapAlloc(ctx, sizeof(TDD768_PRACH_CCodeList_sf32));
+         if (pvalue->u.sf32 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sf32", -1, "TDD768-PRACH-CCodeList");
+         asn1Init_UMTS_TDD768_PRACH_CCodeList_sf32(pvalue->u.sf32);
+         stat = dec_TDD768_PRACH_CCodeList_sf32(ctx, pvalue->u.sf32, cur);
+         RT_CHECK(ctx, stat, 0, "sf32", -1, "TDD768-PRACH-CCodeList");
+         break;
+      case 1: /* sf16 */
+         pvalue->u.sf16 = (TDD768_PRACH_CCodeList_sf16*)rtxMemHeapAlloc(ctx, sizeof(TDD768_PRACH_CCodeList_sf16));
+         if (pvalue->u.sf16 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sf16", -1, "TDD768-PRACH-CCodeList");
+         asn1Init_UMTS_TDD768_PRACH_CCodeList_sf16(pvalue->u.sf16);
+         stat = dec_TDD768_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16, cur);
+         RT_CHECK(ctx, stat, 0, "sf16", -1, "TDD768-PRACH-CCodeList");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TDD768-PRACH-CCodeList");
    }
    return 0;
 }
 
 int asn1PD_UMTS_TDD768_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCodeList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PRACH-CCodeList");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sf32 */
-         pvalue->u.sf32 = (TDD768_PRACH_CCodeList_sf32*)rtxMemHeapAlloc(ctx, sizeof(TDD768_PRACH_CCodeList_sf32));
-         if (pvalue->u.sf32 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sf32", -1, "TDD768-PRACH-CCodeList");
-         asn1Init_UMTS_TDD768_PRACH_CCodeList_sf32(pvalue->u.sf32);
-         stat = asn1PD_UMTS_TDD768_PRACH_CCodeList_sf32(ctx, pvalue->u.sf32);
-         RT_CHECK(ctx, stat, 0, "sf32", -1, "TDD768-PRACH-CCodeList");
-         break;
-      case 1: /* sf16 */
-         pvalue->u.sf16 = (TDD768_PRACH_CCodeList_sf16*)rtxMemHeapAlloc(ctx, sizeof(TDD768_PRACH_CCodeList_sf16));
-         if (pvalue->u.sf16 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sf16", -1, "TDD768-PRACH-CCodeList");
-         asn1Init_UMTS_TDD768_PRACH_CCodeList_sf16(pvalue->u.sf16);
-         stat = asn1PD_UMTS_TDD768_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16);
-         RT_CHECK(ctx, stat, 0, "sf16", -1, "TDD768-PRACH-CCodeList");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TDD768-PRACH-CCodeList");
-   }
+   RT_DECODE_ENTRY(ctx, dec_TDD768_PRACH_CCodeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_RACH_Info_VHCR_r7(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, "PRACH-RACH-Info-VHCR-r7");
+   /* channelisationCodeList */
+   stat = dec_TDD768_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, "PRACH-RACH-Info-VHCR-r7");
+   /* prach-Midamble */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->prach_Midamble, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PRACH-Midamble", "prach-Midamble", -1, "PRACH-RACH-Info-VHCR-r7");
    return 0;
 }
 
 int asn1PD_UMTS_PRACH_RACH_Info_VHCR_r7(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_VHCR_r7* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "PRACH-RACH-Info-VHCR-r7");
-   /* channelisationCodeList */
-   stat = asn1PD_UMTS_TDD768_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, "PRACH-RACH-Info-VHCR-r7");
-   /* prach-Midamble */
-   stat = pd_ConsUnsigned(ctx, &pvalue->prach_Midamble, 0, 1);
-   RT_CHECK(ctx, stat, "PRACH-Midamble", "prach-Midamble", -1, "PRACH-RACH-Info-VHCR-r7");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PRACH_RACH_Info_VHCR_r7, pvalue);
 }
 
-int asn1PD_UMTS_PRACH_Partitioning_r7_fdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7_fdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PRACH_Partitioning_r7_fdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       ASCSetting_FDD* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_FDD));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ASCSetting-FDD", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ASCSetting-FDD", (int32_t)i, 0);
       elem = (ASCSetting_FDD*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_ASCSetting_FDD(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ASCSetting_FDD(ctx, elem);
+      stat = dec_ASCSetting_FDD(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "ASCSetting-FDD", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_channelisationCodeIndices* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PRACH_Partitioning_r7_fdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_Partitioning_r7_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_channelisationCodeIndices* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_BitString32At(ctx, cur, pvalue, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_channelisationCodeIndices* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_r7_channelisationCodeIndices, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->subchannels, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, 0, "subchannels", -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size2* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->subchannels, 0, 1);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_r7_subchannelSize_size2, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32At(ctx, cur, pvalue, 4, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, pvalue, 4, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(ctx, &pvalue->subchannels, cur);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(ctx, &pvalue->subchannels);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_r7_subchannelSize_size4, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(ctx, &pvalue->subchannels, cur);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(ctx, &pvalue->subchannels);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_r7_subchannelSize_size8, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, pvalue, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels, pvalue);
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize_size16(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* subchannels */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(ctx, &pvalue->subchannels);
+      stat = dec_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(ctx, &pvalue->subchannels, cur);
       RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_r7_subchannelSize_size16, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* size1 */
          break;
       case 1: /* size2 */
          pvalue->u.size2 = (AccessServiceClass_TDD_r7_subchannelSize_size2*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_r7_subchannelSize_size2));
-         if (pvalue->u.size2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size2", -1, 0);
+         if (pvalue->u.size2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "size2", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(pvalue->u.size2);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(ctx, pvalue->u.size2);
+         stat = dec_AccessServiceClass_TDD_r7_subchannelSize_size2(ctx, pvalue->u.size2, cur);
          RT_CHECK(ctx, stat, 0, "size2", -1, 0);
          break;
       case 2: /* size4 */
          pvalue->u.size4 = (AccessServiceClass_TDD_r7_subchannelSize_size4*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_r7_subchannelSize_size4));
-         if (pvalue->u.size4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size4", -1, 0);
+         if (pvalue->u.size4 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "size4", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(pvalue->u.size4);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(ctx, pvalue->u.size4);
+         stat = dec_AccessServiceClass_TDD_r7_subchannelSize_size4(ctx, pvalue->u.size4, cur);
          RT_CHECK(ctx, stat, 0, "size4", -1, 0);
          break;
       case 3: /* size8 */
          pvalue->u.size8 = (AccessServiceClass_TDD_r7_subchannelSize_size8*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_r7_subchannelSize_size8));
-         if (pvalue->u.size8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size8", -1, 0);
+         if (pvalue->u.size8 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "size8", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(pvalue->u.size8);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(ctx, pvalue->u.size8);
+         stat = dec_AccessServiceClass_TDD_r7_subchannelSize_size8(ctx, pvalue->u.size8, cur);
          RT_CHECK(ctx, stat, 0, "size8", -1, 0);
          break;
       case 4: /* size16 */
          pvalue->u.size16 = (AccessServiceClass_TDD_r7_subchannelSize_size16*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_r7_subchannelSize_size16));
-         if (pvalue->u.size16 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size16", -1, 0);
+         if (pvalue->u.size16 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "size16", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(pvalue->u.size16);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(ctx, pvalue->u.size16);
+         stat = dec_AccessServiceClass_TDD_r7_subchannelSize_size16(ctx, pvalue->u.size16, cur);
          RT_CHECK(ctx, stat, 0, "size16", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_r7_subchannelSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessServiceClass_TDD_r7(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AccessServiceClass-TDD-r7");
+   /* channelisationCodeIndices */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AccessServiceClass_TDD_r7_channelisationCodeIndices(ctx, &pvalue->channelisationCodeIndices, cur);
+      RT_CHECK(ctx, stat, 0, "channelisationCodeIndices", -1, "AccessServiceClass-TDD-r7");
+   }
+   /* subchannelSize */
+   stat = dec_AccessServiceClass_TDD_r7_subchannelSize(ctx, &pvalue->subchannelSize, cur);
+   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD-r7");
    return 0;
 }
 
 int asn1PD_UMTS_AccessServiceClass_TDD_r7(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AccessServiceClass-TDD-r7");
-   /* channelisationCodeIndices */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(ctx, &pvalue->channelisationCodeIndices);
-      RT_CHECK(ctx, stat, 0, "channelisationCodeIndices", -1, "AccessServiceClass-TDD-r7");
-   }
-   /* subchannelSize */
-   stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize(ctx, &pvalue->subchannelSize);
-   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD-r7");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_AccessServiceClass_TDD_r7, pvalue);
 }
 
-int asn1PD_UMTS_ASCSetting_TDD_r7(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD_r7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_ASCSetting_TDD_r7(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-TDD-r7");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ASCSetting-TDD-r7");
    /* accessServiceClass-TDD */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_r7(ctx, &pvalue->accessServiceClass_TDD);
+      stat = dec_AccessServiceClass_TDD_r7(ctx, &pvalue->accessServiceClass_TDD, cur);
       RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD", -1, "ASCSetting-TDD-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ASCSetting_TDD_r7(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ASCSetting_TDD_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_Partitioning_r7_tdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      ASCSetting_TDD_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_TDD_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ASCSetting-TDD-r7", (int32_t)i, 0);
+      elem = (ASCSetting_TDD_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_ASCSetting_TDD_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_ASCSetting_TDD_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD-r7", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_PRACH_Partitioning_r7_tdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7_tdd* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PRACH_Partitioning_r7_tdd, pvalue);
+}
+
+static int dec_PRACH_Partitioning_r7(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ASCSetting_TDD_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_TDD_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ASCSetting-TDD-r7", (int32_t)i, 0);
-      elem = (ASCSetting_TDD_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_ASCSetting_TDD_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ASCSetting_TDD_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD-r7", (int32_t)i, 0);
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-Partitioning-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (PRACH_Partitioning_r7_fdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_Partitioning_r7_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "PRACH-Partitioning-r7");
+         asn1Init_UMTS_PRACH_Partitioning_r7_fdd(pvalue->u.fdd);
+         stat = dec_PRACH_Partitioning_r7_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PRACH-Partitioning-r7");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PRACH_Partitioning_r7_tdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_Partitioning_r7_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "PRACH-Partitioning-r7");
+         asn1Init_UMTS_PRACH_Partitioning_r7_tdd(pvalue->u.tdd);
+         stat = dec_PRACH_Partitioning_r7_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PRACH-Partitioning-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PRACH-Partitioning-r7");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PRACH_Partitioning_r7(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Partitioning-r7");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (PRACH_Partitioning_r7_fdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_Partitioning_r7_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "PRACH-Partitioning-r7");
-         asn1Init_UMTS_PRACH_Partitioning_r7_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PRACH_Partitioning_r7_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "PRACH-Partitioning-r7");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PRACH_Partitioning_r7_tdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_Partitioning_r7_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "PRACH-Partitioning-r7");
-         asn1Init_UMTS_PRACH_Partitioning_r7_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PRACH_Partitioning_r7_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "PRACH-Partitioning-r7");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PRACH-Partitioning-r7");
+   RT_DECODE_ENTRY(ctx, dec_PRACH_Partitioning_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_SystemInformation_VHCR_r7(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformation-VHCR-r7");
+   /* prach-RACH-Info */
+   stat = dec_PRACH_RACH_Info_VHCR_r7(ctx, &pvalue->prach_RACH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info", -1, "PRACH-SystemInformation-VHCR-r7");
+   /* prach-Partitioning */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning, cur);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-SystemInformation-VHCR-r7");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PRACH_SystemInformation_VHCR_r7(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_VHCR_r7* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformation-VHCR-r7");
-   /* prach-RACH-Info */
-   stat = asn1PD_UMTS_PRACH_RACH_Info_VHCR_r7(ctx, &pvalue->prach_RACH_Info);
-   RT_CHECK(ctx, stat, 0, "prach-RACH-Info", -1, "PRACH-SystemInformation-VHCR-r7");
-   /* prach-Partitioning */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning);
-      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-SystemInformation-VHCR-r7");
+   RT_DECODE_ENTRY(ctx, dec_PRACH_SystemInformation_VHCR_r7, pvalue);
+}
+
+static int dec_PRACH_SystemInformationList_VHCR_r7(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformationList-VHCR-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PRACH_SystemInformation_VHCR_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_SystemInformation_VHCR_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PRACH-SystemInformation-VHCR-r7", (int32_t)i, "PRACH-SystemInformationList-VHCR-r7");
+      elem = (PRACH_SystemInformation_VHCR_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PRACH_SystemInformation_VHCR_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PRACH_SystemInformation_VHCR_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-VHCR-r7", (int32_t)i, "PRACH-SystemInformationList-VHCR-r7");
    }
    return 0;
 }
 
 int asn1PD_UMTS_PRACH_SystemInformationList_VHCR_r7(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_VHCR_r7* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList-VHCR-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PRACH_SystemInformation_VHCR_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_SystemInformation_VHCR_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PRACH-SystemInformation-VHCR-r7", (int32_t)i, "PRACH-SystemInformationList-VHCR-r7");
-      elem = (PRACH_SystemInformation_VHCR_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PRACH_SystemInformation_VHCR_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PRACH_SystemInformation_VHCR_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-VHCR-r7", (int32_t)i, "PRACH-SystemInformationList-VHCR-r7");
+   RT_DECODE_ENTRY(ctx, dec_PRACH_SystemInformationList_VHCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* prach-SystemInformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_RACH_Info_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
-   }
-   /* prach-SystemInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
-   }
+   /* e-RUCCH-Sync-UL-Codes-Bitmap */
+   stat = dec_Sync_UL_Codes_Bitmap(ctx, &pvalue->e_RUCCH_Sync_UL_Codes_Bitmap, cur);
+   RT_CHECK(ctx, stat, 0, "e-RUCCH-Sync-UL-Codes-Bitmap", -1, "PRACH-RACH-Info-LCR-v770ext");
    return 0;
 }
 
 int asn1PD_UMTS_PRACH_RACH_Info_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_v770ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PRACH_RACH_Info_LCR_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_SystemInformation_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_LCR_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* e-RUCCH-Sync-UL-Codes-Bitmap */
-   stat = asn1PD_UMTS_Sync_UL_Codes_Bitmap(ctx, &pvalue->e_RUCCH_Sync_UL_Codes_Bitmap);
-   RT_CHECK(ctx, stat, 0, "e-RUCCH-Sync-UL-Codes-Bitmap", -1, "PRACH-RACH-Info-LCR-v770ext");
+   /* prach-RACH-Info-LCR */
+   stat = dec_PRACH_RACH_Info_LCR_v770ext(ctx, &pvalue->prach_RACH_Info_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info-LCR", -1, "PRACH-SystemInformation-LCR-v770ext");
    return 0;
 }
 
 int asn1PD_UMTS_PRACH_SystemInformation_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_LCR_v770ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* prach-RACH-Info-LCR */
-   stat = asn1PD_UMTS_PRACH_RACH_Info_LCR_v770ext(ctx, &pvalue->prach_RACH_Info_LCR);
-   RT_CHECK(ctx, stat, 0, "prach-RACH-Info-LCR", -1, "PRACH-SystemInformation-LCR-v770ext");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PRACH_SystemInformation_LCR_v770ext, pvalue);
 }
 
-int asn1PD_UMTS_PRACH_SystemInformationList_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_LCR_v770ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PRACH_SystemInformationList_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_LCR_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList-LCR-v770ext");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformationList-LCR-v770ext");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PRACH_SystemInformation_LCR_v770ext* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_SystemInformation_LCR_v770ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PRACH-SystemInformation-LCR-v770ext", (int32_t)i, "PRACH-SystemInformationList-LCR-v770ext");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PRACH-SystemInformation-LCR-v770ext", (int32_t)i, "PRACH-SystemInformationList-LCR-v770ext");
       elem = (PRACH_SystemInformation_LCR_v770ext*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PRACH_SystemInformation_LCR_v770ext(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PRACH_SystemInformation_LCR_v770ext(ctx, elem);
+      stat = dec_PRACH_SystemInformation_LCR_v770ext(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-LCR-v770ext", (int32_t)i, "PRACH-SystemInformationList-LCR-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_SystemInformationList_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_LCR_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_SystemInformationList_LCR_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* prach-SystemInformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PRACH_SystemInformationList_LCR_v770ext(ctx, &pvalue->prach_SystemInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* prach-SystemInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PRACH_SystemInformationList_LCR_v770ext(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v770ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(pvalue->u.tdd768);
+         stat = dec_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(pvalue->u.tdd128);
+         stat = dec_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v770ext_IEs_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* defaultMidamble */
@@ -4280,43 +8298,58 @@ int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationM
          break;
       case 2: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType1and3 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_r7_burstType_type1, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* midambleConfigurationBurstType1and3 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftShort", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* defaultMidamble */
@@ -4325,306 +8358,386 @@ int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationM
          break;
       case 2: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType2 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_r7_burstType_type2, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* midambleConfigurationBurstType2 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* defaultMidamble */
          break;
       case 1: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType_type3(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType1and3 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleConfigurationBurstType1and3 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_r7_burstType_type3, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_r7_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* type1 */
          pvalue->u.type1 = (MidambleShiftAndBurstType_r7_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_r7_burstType_type1));
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         if (pvalue->u.type1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type1", -1, 0);
          asn1Init_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(pvalue->u.type1);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(ctx, pvalue->u.type1);
+         stat = dec_MidambleShiftAndBurstType_r7_burstType_type1(ctx, pvalue->u.type1, cur);
          RT_CHECK(ctx, stat, 0, "type1", -1, 0);
          break;
       case 1: /* type2 */
          pvalue->u.type2 = (MidambleShiftAndBurstType_r7_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_r7_burstType_type2));
-         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type2", -1, 0);
+         if (pvalue->u.type2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type2", -1, 0);
          asn1Init_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(pvalue->u.type2);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(ctx, pvalue->u.type2);
+         stat = dec_MidambleShiftAndBurstType_r7_burstType_type2(ctx, pvalue->u.type2, cur);
          RT_CHECK(ctx, stat, 0, "type2", -1, 0);
          break;
       case 2: /* type3 */
          pvalue->u.type3 = (MidambleShiftAndBurstType_r7_burstType_type3*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_r7_burstType_type3));
-         if (pvalue->u.type3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type3", -1, 0);
+         if (pvalue->u.type3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type3", -1, 0);
          asn1Init_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(pvalue->u.type3);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(ctx, pvalue->u.type3);
+         stat = dec_MidambleShiftAndBurstType_r7_burstType_type3(ctx, pvalue->u.type3, cur);
          RT_CHECK(ctx, stat, 0, "type3", -1, 0);
          break;
       case 3: /* mbsfnBurstType4 */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_r7_burstType, pvalue);
+}
+
+static int dec_MidambleShiftAndBurstType_r7(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* burstType */
+   stat = dec_MidambleShiftAndBurstType_r7_burstType(ctx, &pvalue->burstType, cur);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-r7");
    return 0;
 }
 
 int asn1PD_UMTS_MidambleShiftAndBurstType_r7(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualTimeslotInfo_r7(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* burstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-r7");
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-r7");
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-r7");
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-r7");
    return 0;
 }
 
 int asn1PD_UMTS_IndividualTimeslotInfo_r7(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_r7* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_IndividualTimeslotInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-r7");
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-r7");
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-r7");
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* channelisationCode */
+   stat = dec_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode, cur);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* channelisationCode */
-   stat = asn1PD_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SCCPCH-ChannelisationCode-VHCR");
    return 0;
 }
 
 int asn1PD_UMTS_SCCPCH_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode_VHCR* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_ChannelisationCode_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCode-VHCR");
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SCCPCH-ChannelisationCodeList-VHCR");
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "SCCPCH-ChannelisationCodeList-VHCR");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SCCPCH-ChannelisationCodeList-VHCR");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "SCCPCH-ChannelisationCode-VHCR", "SCCPCH-ChannelisationCode-VHCR", (int32_t)i, "SCCPCH-ChannelisationCodeList-VHCR");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_SCCPCH_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCodeList-VHCR");
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "SCCPCH-ChannelisationCodeList-VHCR");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SCCPCH-ChannelisationCodeList-VHCR");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "SCCPCH-ChannelisationCode-VHCR", "SCCPCH-ChannelisationCode-VHCR", (int32_t)i, "SCCPCH-ChannelisationCodeList-VHCR");
-      }
-   }
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_ChannelisationCodeList_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* channelisationCode */
+   stat = dec_SCCPCH_ChannelisationCodeList_VHCR(ctx, &pvalue->channelisationCode, cur);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* channelisationCode */
-   stat = asn1PD_UMTS_SCCPCH_ChannelisationCodeList_VHCR(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(pvalue->u.tdd384);
+         stat = dec_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(pvalue->u.tdd768);
+         stat = dec_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info-HCR-VHCR-r7");
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info-HCR-VHCR-r7");
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_HCR_VHCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD768_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD768_PICH_CCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD768-PICH-CCode");
    return 0;
 }
 
 int asn1PD_UMTS_TDD768_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD768_PICH_CCode* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TDD768_PICH_CCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_PICH_Info_HCR_VHCR_r7_channelisationCode(rtxContext* RT_RESTRICT ctx, PICH_Info_HCR_VHCR_r7_channelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PICH-CCode");
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.tdd384, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, "TDD-PICH-CCode", "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.tdd768, 0, 31);
+         RT_CHECK_AT(ctx, cur, stat, "TDD768-PICH-CCode", "tdd768", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_PICH_Info_HCR_VHCR_r7_channelisationCode(rtxContext* RT_RESTRICT ctx, PICH_Info_HCR_VHCR_r7_channelisationCode* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.tdd384, 0, 15);
-         RT_CHECK(ctx, stat, "TDD-PICH-CCode", "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.tdd768, 0, 31);
-         RT_CHECK(ctx, stat, "TDD768-PICH-CCode", "tdd768", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PICH_Info_HCR_VHCR_r7_channelisationCode, pvalue);
 }
 
-int asn1PD_UMTS_PICH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, PICH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PICH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, PICH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-Info-HCR-VHCR-r7");
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PICH-Info-HCR-VHCR-r7");
    /* channelisationCode */
    if (present & ((uint32_t)1 << 5)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PICH_Info_HCR_VHCR_r7_channelisationCode(ctx, &pvalue->channelisationCode);
+      stat = dec_PICH_Info_HCR_VHCR_r7_channelisationCode(ctx, &pvalue->channelisationCode, cur);
       RT_CHECK(ctx, stat, 0, "channelisationCode", -1, "PICH-Info-HCR-VHCR-r7");
    }
    /* timeslot */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-      RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "PICH-Info-HCR-VHCR-r7");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+      RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, "PICH-Info-HCR-VHCR-r7");
    }
    /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
+   stat = dec_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType, cur);
    RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PICH-Info-HCR-VHCR-r7");
    /* repetitionPeriodLengthOffset */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
+      stat = dec_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset, cur);
       RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, "PICH-Info-HCR-VHCR-r7");
    }
    /* pagingIndicatorLength */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->pagingIndicatorLength, 0, 2);
-      RT_CHECK(ctx, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-HCR-VHCR-r7");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pagingIndicatorLength, 0, 2);
+      RT_CHECK_AT(ctx, cur, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-HCR-VHCR-r7");
    }
    else {
       pvalue->pagingIndicatorLength = 0;
    }
    /* n-GAP */
    if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_GAP, 0, 2);
-      RT_CHECK(ctx, stat, "N-GAP", "n-GAP", -1, "PICH-Info-HCR-VHCR-r7");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_GAP, 0, 2);
+      RT_CHECK_AT(ctx, cur, stat, "N-GAP", "n-GAP", -1, "PICH-Info-HCR-VHCR-r7");
    }
    else {
       pvalue->n_GAP = 1;
    }
    /* n-PCH */
    if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->n_PCH, 1, 8);
-      RT_CHECK(ctx, stat, "N-PCH", "n-PCH", -1, "PICH-Info-HCR-VHCR-r7");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_PCH, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "N-PCH", "n-PCH", -1, "PICH-Info-HCR-VHCR-r7");
    }
    else {
       pvalue->n_PCH = 2;
@@ -4632,105 +8745,125 @@ int asn1PD_UMTS_PICH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, PICH_Info_HCR
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_HCR_VHCR_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PICH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, PICH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PICH_Info_HCR_VHCR_r7, pvalue);
+}
+
+static int dec_SCCPCH_SystemInformation_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
    /* secondaryCCPCH-Info */
-   stat = asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7(ctx, &pvalue->secondaryCCPCH_Info);
+   stat = dec_SecondaryCCPCH_Info_HCR_VHCR_r7(ctx, &pvalue->secondaryCCPCH_Info, cur);
    RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
    /* tfcs */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->tfcs);
+      stat = dec_TFCS(ctx, &pvalue->tfcs, cur);
       RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
    }
    /* fach-PCH-InformationList */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
+      stat = dec_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList, cur);
       RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
    }
    /* pich-Info */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PICH_Info_HCR_VHCR_r7(ctx, &pvalue->pich_Info);
+      stat = dec_PICH_Info_HCR_VHCR_r7(ctx, &pvalue->pich_Info, cur);
       RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_HCR_VHCR_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_SystemInformation_HCR_VHCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_SystemInformationList_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformationList_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SCCPCH_SystemInformation_HCR_VHCR_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SCCPCH_SystemInformation_HCR_VHCR_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SCCPCH-SystemInformation-HCR-VHCR-r7", (int32_t)i, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
+      elem = (SCCPCH_SystemInformation_HCR_VHCR_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SCCPCH_SystemInformation_HCR_VHCR_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation-HCR-VHCR-r7", (int32_t)i, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformationList_HCR_VHCR_r7* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_SystemInformationList_HCR_VHCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SCCPCH_SystemInformation_HCR_VHCR_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SCCPCH_SystemInformation_HCR_VHCR_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SCCPCH-SystemInformation-HCR-VHCR-r7", (int32_t)i, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
-      elem = (SCCPCH_SystemInformation_HCR_VHCR_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation-HCR-VHCR-r7", (int32_t)i, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* modQPSK */
+         break;
+      case 1: /* mod16QAM */
+         stat = pd_ConsInt8At(ctx, cur, &pvalue->u.mod16QAM, -11, 4);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mod16QAM", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* modQPSK */
-         break;
-      case 1: /* mod16QAM */
-         stat = pd_ConsInt8(ctx, &pvalue->u.mod16QAM, -11, 4);
-         RT_CHECK(ctx, stat, 0, "mod16QAM", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation, pvalue);
 }
 
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* secondaryScramblingCode */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
    }
    /* sttd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sttd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sttd-Indicator", -1, 0);
    /* sf-AndCodeNumber */
-   stat = asn1PD_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
+   stat = dec_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber, cur);
    RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
    /* timingOffset */
    if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->timingOffset, 0, 149);
+      RT_CHECK_AT(ctx, cur, stat, "TimingOffset", "timingOffset", -1, 0);
    }
    else {
       pvalue->timingOffset = 0;
@@ -4738,4277 +8871,559 @@ int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* RT_R
    /* modulation */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(ctx, &pvalue->modulation);
+      stat = dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(ctx, &pvalue->modulation, cur);
       RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters_sameAsLast* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters_sameAsLast* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* dl-TS-ChannelisationCodesShort */
+   stat = dec_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters_newParameters* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_r7_parameters_newParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_r7_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsLast */
+         pvalue->u.sameAsLast = (DownlinkAdditionalTimeslots_r7_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkAdditionalTimeslots_r7_parameters_sameAsLast));
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
+         stat = dec_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
+         break;
+      case 1: /* newParameters */
+         pvalue->u.newParameters = (DownlinkAdditionalTimeslots_r7_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(DownlinkAdditionalTimeslots_r7_parameters_newParameters));
+         if (pvalue->u.newParameters == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
+         asn1Init_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(pvalue->u.newParameters);
+         stat = dec_DownlinkAdditionalTimeslots_r7_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sameAsLast */
-         pvalue->u.sameAsLast = (DownlinkAdditionalTimeslots_r7_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkAdditionalTimeslots_r7_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
-         stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
-         break;
-      case 1: /* newParameters */
-         pvalue->u.newParameters = (DownlinkAdditionalTimeslots_r7_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(DownlinkAdditionalTimeslots_r7_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
-         asn1Init_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(pvalue->u.newParameters);
-         stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_r7_parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkAdditionalTimeslots_r7(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* parameters */
+   stat = dec_DownlinkAdditionalTimeslots_r7_parameters(ctx, &pvalue->parameters, cur);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-r7");
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* parameters */
-   stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-r7");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DownlinkAdditionalTimeslots_r7, pvalue);
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 13);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       DownlinkAdditionalTimeslots_r7* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DownlinkAdditionalTimeslots_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DownlinkAdditionalTimeslots-r7", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DownlinkAdditionalTimeslots-r7", (int32_t)i, 0);
       elem = (DownlinkAdditionalTimeslots_r7*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_DownlinkAdditionalTimeslots_r7(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_r7(ctx, elem);
+      stat = dec_DownlinkAdditionalTimeslots_r7(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-r7", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* consecutive */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.consecutive, 1, 13);
+         RT_CHECK_AT(ctx, cur, stat, 0, "consecutive", -1, 0);
+         break;
+      case 1: /* timeslotList */
+         pvalue->u.timeslotList = (DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList));
+         if (pvalue->u.timeslotList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
+         asn1Init_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
+         stat = dec_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* consecutive */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.consecutive, 1, 13);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 1: /* timeslotList */
-         pvalue->u.timeslotList = (DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
-         asn1Init_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
-         stat = asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots, pvalue);
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DownlinkTimeslotsCodes_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* noMore */
          break;
       case 1: /* additionalTimeslots */
          pvalue->u.additionalTimeslots = (DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
          asn1Init_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
-         stat = asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
+         stat = dec_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
          RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_r7_moreTimeslots, pvalue);
+}
+
+static int dec_DownlinkTimeslotsCodes_r7(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* firstIndividualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_r7(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-r7");
+   /* dl-TS-ChannelisationCodesShort */
+   stat = dec_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-r7");
+   /* moreTimeslots */
+   stat = dec_DownlinkTimeslotsCodes_r7_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-r7");
    return 0;
 }
 
 int asn1PD_UMTS_DownlinkTimeslotsCodes_r7(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-r7");
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-r7");
-   /* moreTimeslots */
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-r7");
+   RT_DECODE_ENTRY(ctx, dec_DownlinkTimeslotsCodes_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* commonTimeslotInfoMBMS */
+   stat = dec_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = dec_DownlinkTimeslotsCodes_r7(ctx, &pvalue->downlinkTimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   /* modulation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->modulation, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "modulation", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* commonTimeslotInfoMBMS */
-   stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
-   /* downlinkTimeslotsCodes */
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_r7(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
-   /* modulation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* commonTimeslotInfoMBMS */
+   stat = dec_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = dec_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->downlinkTimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   /* modulation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->modulation, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "modulation", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* commonTimeslotInfoMBMS */
-   stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
-   /* downlinkTimeslotsCodes */
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
-   /* modulation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeSlotLCR_ext(rtxContext* RT_RESTRICT ctx, TimeSlotLCR_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeSlotLCR-ext");
    return 0;
 }
 
 int asn1PD_UMTS_TimeSlotLCR_ext(rtxContext* RT_RESTRICT ctx, TimeSlotLCR_ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TimeSlotLCR_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeSlotLCR-ext");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* commonTimeslotInfoMBMS */
+   stat = dec_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = dec_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   /* mbsfnSpecialTimeSlot */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mbsfnSpecialTimeSlot, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
+   }
+   /* modulation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->modulation, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "modulation", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* commonTimeslotInfoMBMS */
-   stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
-   /* downlinkTimeslotsCodes */
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
-   /* mbsfnSpecialTimeSlot */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->mbsfnSpecialTimeSlot, 0, 3);
-      RT_CHECK(ctx, stat, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128, pvalue);
+}
+
+static int dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd384 */
+         pvalue->u.tdd384 = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(pvalue->u.tdd384);
+         stat = dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2: /* tdd768 */
+         pvalue->u.tdd768 = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(pvalue->u.tdd768);
+         stat = dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3: /* tdd128 */
+         pvalue->u.tdd128 = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(pvalue->u.tdd128);
+         stat = dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
-   /* modulation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd384 */
-         pvalue->u.tdd384 = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2: /* tdd768 */
-         pvalue->u.tdd768 = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3: /* tdd128 */
-         pvalue->u.tdd128 = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfo_MBMS_r7(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCHInfo-MBMS-r7");
    return 0;
 }
 
 int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfo_MBMS_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCHInfo-MBMS-r7");
+   /* mcch-transportFormatSet */
+   stat = dec_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "mcch-transportFormatSet", -1, 0);
+   /* mcch-ConfigurationInfo */
+   stat = dec_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo, cur);
+   RT_CHECK(ctx, stat, 0, "mcch-ConfigurationInfo", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* mcch-transportFormatSet */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "mcch-transportFormatSet", -1, 0);
-   /* mcch-ConfigurationInfo */
-   stat = asn1PD_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo);
-   RT_CHECK(ctx, stat, 0, "mcch-ConfigurationInfo", -1, 0);
+   /* msch-transportFormatSet */
+   stat = dec_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "msch-transportFormatSet", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* msch-transportFormatSet */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "msch-transportFormatSet", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH, pvalue);
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SCCPCH_SystemInformation_MBMS_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r7");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r7");
    /* secondaryCCPCHInfo-MBMS */
-   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
+   stat = dec_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS, cur);
    RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "SCCPCH-SystemInformation-MBMS-r7");
    /* transportFormatCombinationSet */
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
+   stat = dec_TFCS(ctx, &pvalue->transportFormatCombinationSet, cur);
    RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "SCCPCH-SystemInformation-MBMS-r7");
    /* fachCarryingMCCH */
-   stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH);
+   stat = dec_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH, cur);
    RT_CHECK(ctx, stat, 0, "fachCarryingMCCH", -1, "SCCPCH-SystemInformation-MBMS-r7");
    /* fachCarryingMTCH-List */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List);
+      stat = dec_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List, cur);
       RT_CHECK(ctx, stat, 0, "fachCarryingMTCH-List", -1, "SCCPCH-SystemInformation-MBMS-r7");
    }
    /* fachCarryingMSCH */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH);
+      stat = dec_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH, cur);
       RT_CHECK(ctx, stat, 0, "fachCarryingMSCH", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_SystemInformation_MBMS_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mcchOnSCCPCHusedOnlyForMBMS */
+         pvalue->u.mcchOnSCCPCHusedOnlyForMBMS = (SCCPCH_SystemInformation_MBMS_r7*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_SystemInformation_MBMS_r7));
+         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
+         asn1Init_UMTS_SCCPCH_SystemInformation_MBMS_r7(pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
+         stat = dec_SCCPCH_SystemInformation_MBMS_r7(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS, cur);
+         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* mcchOnSCCPCHusedOnlyForMBMS */
-         pvalue->u.mcchOnSCCPCHusedOnlyForMBMS = (SCCPCH_SystemInformation_MBMS_r7*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_SystemInformation_MBMS_r7));
-         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
-         asn1Init_UMTS_SCCPCH_SystemInformation_MBMS_r7(pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
-         stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
-         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD_MBSFNTSlotInfo(rtxContext* RT_RESTRICT ctx, TDD_MBSFNTSlotInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeSlotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeSlotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeSlotNumber", -1, "TDD-MBSFNTSlotInfo");
+   /* cellParametersID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParametersID, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "TDD-MBSFNTSlotInfo");
    return 0;
 }
 
 int asn1PD_UMTS_TDD_MBSFNTSlotInfo(rtxContext* RT_RESTRICT ctx, TDD_MBSFNTSlotInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* timeSlotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeSlotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeSlotNumber", -1, "TDD-MBSFNTSlotInfo");
-   /* cellParametersID */
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "TDD-MBSFNTSlotInfo");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_TDD_MBSFNTSlotInfo, pvalue);
 }
 
-int asn1PD_UMTS_TDD_MBSFNInformation(rtxContext* RT_RESTRICT ctx, TDD_MBSFNInformation* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_TDD_MBSFNInformation(rtxContext* RT_RESTRICT ctx, TDD_MBSFNInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 14);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-MBSFNInformation");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD-MBSFNInformation");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       TDD_MBSFNTSlotInfo* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TDD_MBSFNTSlotInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TDD-MBSFNTSlotInfo", (int32_t)i, "TDD-MBSFNInformation");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TDD-MBSFNTSlotInfo", (int32_t)i, "TDD-MBSFNInformation");
       elem = (TDD_MBSFNTSlotInfo*)(node + 1);
       node->data = elem;
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TDD_MBSFNTSlotInfo(ctx, elem);
+      stat = dec_TDD_MBSFNTSlotInfo(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "TDD-MBSFNTSlotInfo", (int32_t)i, "TDD-MBSFNInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_MBSFNInformation(rtxContext* RT_RESTRICT ctx, TDD_MBSFNInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TDD_MBSFNInformation, pvalue);
+}
+
+static int dec_SysInfoType5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v770ext-IEs");
+   /* modeSpecificInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v770ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5-v770ext-IEs");
+   }
+   /* sccpch-SystemInformationList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformationList", -1, "SysInfoType5-v770ext-IEs");
+   }
+   /* sccpch-SystemInformation-MBMS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS, cur);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformation-MBMS", -1, "SysInfoType5-v770ext-IEs");
+   }
+   /* tDD-MBSFNInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_TDD_MBSFNInformation(ctx, &pvalue->tDD_MBSFNInformation, cur);
+      RT_CHECK(ctx, stat, 0, "tDD-MBSFNInformation", -1, "SysInfoType5-v770ext-IEs");
    }
    return 0;
 }
 
 int asn1PD_UMTS_SysInfoType5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v770ext-IEs");
-   /* modeSpecificInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5-v770ext-IEs");
-   }
-   /* sccpch-SystemInformationList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformationList", -1, "SysInfoType5-v770ext-IEs");
-   }
-   /* sccpch-SystemInformation-MBMS */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS);
-      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformation-MBMS", -1, "SysInfoType5-v770ext-IEs");
-   }
-   /* tDD-MBSFNInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TDD_MBSFNInformation(ctx, &pvalue->tDD_MBSFNInformation);
-      RT_CHECK(ctx, stat, 0, "tDD-MBSFNInformation", -1, "SysInfoType5-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v860ext_IEs_dummy(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_dummy* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_T_321(rtxContext* RT_RESTRICT ctx, T_321* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-321");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_DrxCycleFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCycleFach* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-DrxCycleFach");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_DrxBurstFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxBurstFach* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-DrxBurstFach");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_DrxCellfach_info(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCellfach_info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* t-321 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->t_321, 0, 3);
-   RT_CHECK(ctx, stat, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info");
-   /* hs-dsch-DrxCycleFach */
-   stat = pd_ConsUnsigned(ctx, &pvalue->hs_dsch_DrxCycleFach, 0, 3);
-   RT_CHECK(ctx, stat, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info");
-   /* hs-dsch-DrxBurstFach */
-   stat = pd_ConsUnsigned(ctx, &pvalue->hs_dsch_DrxBurstFach, 0, 7);
-   RT_CHECK(ctx, stat, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info");
-   /* drxInterruption-hs-dsch */
-   stat = rtxDecBitInline(ctx, &pvalue->drxInterruption_hs_dsch);
-   RT_CHECK(ctx, stat, 0, "drxInterruption-hs-dsch", -1, "HS-DSCH-DrxCellfach-info");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-dsch-DrxCellfach-info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_DSCH_DrxCellfach_info(ctx, &pvalue->hs_dsch_DrxCellfach_info);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-DrxCellfach-info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_ChannelisationCode_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCode_LCR* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-ChannelisationCode-LCR");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128-r6");
-   /* channelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128-r6");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD128-r6");
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD128_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-r6");
-   /* firstChannelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-r6");
-   /* secondChannelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-r6");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128-r6");
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-r6");
-   /* hs-sich-configuration */
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD128_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-      elem = (HS_SCCH_TDD128_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD128_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_tpc_step_size* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_Bler_Target(rtxContext* RT_RESTRICT ctx, Bler_Target* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -63, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Bler-Target");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-SystemInfo-TDD128");
-   /* hs-SCCH-SetConfiguration */
-   stat = asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(ctx, &pvalue->hs_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hs-SCCH-SetConfiguration", -1, "HS-SCCH-SystemInfo-TDD128");
-   /* power-level-HSSICH */
-   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, "HS-SCCH-SystemInfo-TDD128");
-   /* nack-ack-power-offset */
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, "HS-SCCH-SystemInfo-TDD128");
-   /* tpc-step-size */
-   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, "HS-SCCH-SystemInfo-TDD128");
-   /* bler-target */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-SystemInfo-TDD128");
-   /* power-control-gap */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->power_control_gap, 1, 255);
-      RT_CHECK(ctx, stat, 0, "power-control-gap", -1, "HS-SCCH-SystemInfo-TDD128");
-   }
-   /* pathloss-compensation-switch */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = rtxDecBitInline(ctx, &pvalue->pathloss_compensation_switch);
-      RT_CHECK(ctx, stat, 0, "pathloss-compensation-switch", -1, "HS-SCCH-SystemInfo-TDD128");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, HS_PDSCH_Midamble_Configuration_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "common-H-RNTI-information");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      asn1Init_UMTS_H_RNTI(&pvalue->elem[i]);
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->elem[i]);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, 0, "H-RNTI", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* ccch-MappingInfo */
-   stat = asn1PD_UMTS_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "ccch-MappingInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* srb1-MappingInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "srb1-MappingInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   }
-   /* common-MAC-ehs-ReorderingQueueList */
-   stat = asn1PD_UMTS_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList);
-   RT_CHECK(ctx, stat, 0, "common-MAC-ehs-ReorderingQueueList", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* hs-scch-SystemInfo-tdd128 */
-   stat = asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128(ctx, &pvalue->hs_scch_SystemInfo_tdd128);
-   RT_CHECK(ctx, stat, 0, "hs-scch-SystemInfo-tdd128", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* harq-SystemInfo */
-   stat = asn1PD_UMTS_HARQ_Info(ctx, &pvalue->harq_SystemInfo);
-   RT_CHECK(ctx, stat, 0, "harq-SystemInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* hs-pdsch-MidambleConfiguration */
-   stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration);
-   RT_CHECK(ctx, stat, 0, "hs-pdsch-MidambleConfiguration", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* common-H-RNTI-information */
-   stat = asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information);
-   RT_CHECK(ctx, stat, 0, "common-H-RNTI-information", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* bcchSpecific-H-RNTI */
-   stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->bcchSpecific_H_RNTI);
-   RT_CHECK(ctx, stat, 0, "bcchSpecific-H-RNTI", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_OccurrenceSequenceNumberOfPICH(rtxContext* RT_RESTRICT ctx, OccurrenceSequenceNumberOfPICH* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "OccurrenceSequenceNumberOfPICH");
-   return 0;
-}
-
-int asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging_TDD128_implicit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* occurrenceSequenceNumberOfPICH */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->occurrenceSequenceNumberOfPICH, 1, 16);
-      RT_CHECK(ctx, stat, "OccurrenceSequenceNumberOfPICH", "occurrenceSequenceNumberOfPICH", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging_TDD128* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-ForHSDPASupportedPaging-TDD128");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* implicit */
-         pvalue->u.implicit = (PICH_ForHSDPASupportedPaging_TDD128_implicit*)rtxMemHeapAlloc(ctx, sizeof(PICH_ForHSDPASupportedPaging_TDD128_implicit));
-         if (pvalue->u.implicit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "implicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
-         asn1Init_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(pvalue->u.implicit);
-         stat = asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(ctx, pvalue->u.implicit);
-         RT_CHECK(ctx, stat, 0, "implicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
-         break;
-      case 1: /* explicit */
-         pvalue->u.explicit_ = (PICH_Info_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(PICH_Info_LCR_r4));
-         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
-         asn1Init_UMTS_PICH_Info_LCR_r4(pvalue->u.explicit_);
-         stat = asn1PD_UMTS_PICH_Info_LCR_r4(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat, 0, "explicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PICH-ForHSDPASupportedPaging-TDD128");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PICH_ForHSDPASupportedPaging_TDD128* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PICH_ForHSDPASupportedPaging_TDD128));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PICH-ForHSDPASupportedPaging-TDD128", (int32_t)i, 0);
-      elem = (PICH_ForHSDPASupportedPaging_TDD128*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PICH_ForHSDPASupportedPaging_TDD128(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PICH-ForHSDPASupportedPaging-TDD128", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CodeResourceInformation_TDD128(rtxContext* RT_RESTRICT ctx, CodeResourceInformation_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* start-code */
-   stat = pd_ConsUnsigned(ctx, &pvalue->start_code, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "start-code", -1, "CodeResourceInformation-TDD128");
-   /* stop-code */
-   stat = pd_ConsUnsigned(ctx, &pvalue->stop_code, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "stop-code", -1, "CodeResourceInformation-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_paging_associatedHspdschInfo_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* hs-pdsch-MidambleConfiguration */
-   stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration);
-   RT_CHECK(ctx, stat, 0, "hs-pdsch-MidambleConfiguration", -1, 0);
-   /* timeslotResourceRelatedInfo */
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pd_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 6, 6);
-   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
-   /* codeResourceInformation */
-   stat = asn1PD_UMTS_CodeResourceInformation_TDD128(ctx, &pvalue->codeResourceInformation);
-   RT_CHECK(ctx, stat, 0, "codeResourceInformation", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_paging_associatedHspdschInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PCCH_InformationList_paging_associatedHspdschInfo_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PCCH_InformationList_paging_associatedHspdschInfo_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (PCCH_InformationList_paging_associatedHspdschInfo_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PCCH_InformationList_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_transportBlockSizeList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddStrParm(ctx, "transportBlockSizeList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PCCH_InformationList(rtxContext* RT_RESTRICT ctx, PCCH_InformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* paging-associatedHspdschInfo */
-   stat = asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(ctx, &pvalue->paging_associatedHspdschInfo);
-   RT_CHECK(ctx, stat, 0, "paging-associatedHspdschInfo", -1, "PCCH-InformationList");
-   /* paging-sub-Channel-size */
-   stat = pd_ConsUInt8(ctx, &pvalue->paging_sub_Channel_size, 1, 3);
-   RT_CHECK(ctx, stat, 0, "paging-sub-Channel-size", -1, "PCCH-InformationList");
-   /* transportBlockSizeList */
-   stat = asn1PD_UMTS_PCCH_InformationList_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList);
-   RT_CHECK(ctx, stat, 0, "transportBlockSizeList", -1, "PCCH-InformationList");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-PagingSystemInformation-TDD128");
-   /* pich-ForHsdschList */
-   stat = asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(ctx, &pvalue->pich_ForHsdschList);
-   RT_CHECK(ctx, stat, 0, "pich-ForHsdschList", -1, "HS-DSCH-PagingSystemInformation-TDD128");
-   /* dtch-DCCH-reception-window-size */
-   stat = pd_ConsUInt8(ctx, &pvalue->dtch_DCCH_reception_window_size, 1, 16);
-   RT_CHECK(ctx, stat, 0, "dtch-DCCH-reception-window-size", -1, "HS-DSCH-PagingSystemInformation-TDD128");
-   /* pcch-InformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PCCH_InformationList(ctx, &pvalue->pcch_InformationList);
-      RT_CHECK(ctx, stat, 0, "pcch-InformationList", -1, "HS-DSCH-PagingSystemInformation-TDD128");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-dsch-CommonSystemInformation */
-   stat = asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128(ctx, &pvalue->hs_dsch_CommonSystemInformation);
-   RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSystemInformation", -1, 0);
-   /* hs-dsch-PagingSystemInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128(ctx, &pvalue->hs_dsch_PagingSystemInformation);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-PagingSystemInformation", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_DrxCellfach_info_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCellfach_info_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* t-321 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->t_321, 0, 3);
-   RT_CHECK(ctx, stat, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info-TDD128");
-   /* hs-dsch-DrxCycleFach */
-   stat = pd_ConsUnsigned(ctx, &pvalue->hs_dsch_DrxCycleFach, 0, 3);
-   RT_CHECK(ctx, stat, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
-   /* hs-dsch-DrxBurstFach */
-   stat = pd_ConsUnsigned(ctx, &pvalue->hs_dsch_DrxBurstFach, 0, 7);
-   RT_CHECK(ctx, stat, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-dsch-CommonSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(ctx, &pvalue->hs_dsch_CommonSysInfo);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSysInfo", -1, 0);
-   }
-   /* hs-dsch-DrxCellfach-info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HS_DSCH_DrxCellfach_info_TDD128(ctx, &pvalue->hs_dsch_DrxCellfach_info);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-DrxCellfach-info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v860ext-IEs");
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType5-v860ext-IEs");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5-v860ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_UARFCN(rtxContext* RT_RESTRICT ctx, UARFCN* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 16383);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UARFCN");
-   return 0;
-}
-
-int asn1PD_UMTS_FrequencyInfoTDD(rtxContext* RT_RESTRICT ctx, FrequencyInfoTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* uarfcn-Nt */
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_Nt, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-Nt", -1, "FrequencyInfoTDD");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_MAC_d_FlowPowerOffset(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowPowerOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowPowerOffset");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_MAC_d_FlowMaxRetrans(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMaxRetrans* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowMaxRetrans");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_MAC_d_FlowMultiplexingList(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMultiplexingList* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowMultiplexingList");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_MAC_d_FlowRetransTimer(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowRetransTimer* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 29);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowRetransTimer");
-   return 0;
-}
-
-int asn1PD_UMTS_Common_E_DCH_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, Common_E_DCH_MAC_d_Flow* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Common-E-DCH-MAC-d-Flow");
-   /* mac-d-FlowIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowIdentity, 0, 7);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "Common-E-DCH-MAC-d-Flow");
-   /* mac-d-FlowPowerOffset */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowPowerOffset, 0, 6);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "Common-E-DCH-MAC-d-Flow");
-   /* mac-d-FlowMaxRetrans */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowMaxRetrans, 0, 15);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "Common-E-DCH-MAC-d-Flow");
-   /* mac-d-FlowMultiplexingList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, &pvalue->mac_d_FlowMultiplexingList);
-      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "Common-E-DCH-MAC-d-Flow");
-   }
-   /* e-dch-mac-d-flow-retransmission-timer */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_mac_d_flow_retransmission_timer, 0, 29);
-      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowRetransTimer", "e-dch-mac-d-flow-retransmission-timer", -1, "Common-E-DCH-MAC-d-Flow");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Common_E_DCH_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, Common_E_DCH_MAC_d_FlowList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Common-E-DCH-MAC-d-FlowList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Common_E_DCH_MAC_d_Flow* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_DCH_MAC_d_Flow));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Common-E-DCH-MAC-d-Flow", (int32_t)i, "Common-E-DCH-MAC-d-FlowList");
-      elem = (Common_E_DCH_MAC_d_Flow*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Common_E_DCH_MAC_d_Flow(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Common_E_DCH_MAC_d_Flow(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Common-E-DCH-MAC-d-Flow", (int32_t)i, "Common-E-DCH-MAC-d-FlowList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_PreambleForEnhancedUplink(rtxContext* RT_RESTRICT ctx, PRACH_PreambleForEnhancedUplink* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-PreambleForEnhancedUplink");
-   /* availableSignatures */
-   stat = asn1PD_UMTS_AvailableSignatures(ctx, &pvalue->availableSignatures);
-   RT_CHECK(ctx, stat, 0, "availableSignatures", -1, "PRACH-PreambleForEnhancedUplink");
-   /* e-ai-Indication */
-   stat = rtxDecBitInline(ctx, &pvalue->e_ai_Indication);
-   RT_CHECK(ctx, stat, 0, "e-ai-Indication", -1, "PRACH-PreambleForEnhancedUplink");
-   /* preambleScramblingCodeWordNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->preambleScramblingCodeWordNumber, 0, 15);
-   RT_CHECK(ctx, stat, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, "PRACH-PreambleForEnhancedUplink");
-   /* availableSubChannelNumbers */
-   stat = asn1PD_UMTS_AvailableSubChannelNumbers(ctx, &pvalue->availableSubChannelNumbers);
-   RT_CHECK(ctx, stat, 0, "availableSubChannelNumbers", -1, "PRACH-PreambleForEnhancedUplink");
-   /* prach-Partitioning */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning);
-      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* persistenceScalingFactorList */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList);
-      RT_CHECK(ctx, stat, 0, "persistenceScalingFactorList", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* ac-To-ASC-MappingTable */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable);
-      RT_CHECK(ctx, stat, 0, "ac-To-ASC-MappingTable", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* primaryCPICH-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* constantValue */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsInt8(ctx, &pvalue->constantValue, -35, -10);
-      RT_CHECK(ctx, stat, "ConstantValue", "constantValue", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* prach-PowerOffset */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset);
-      RT_CHECK(ctx, stat, 0, "prach-PowerOffset", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* rach-TransmissionParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters);
-      RT_CHECK(ctx, stat, 0, "rach-TransmissionParameters", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* aich-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_AICH_Info(ctx, &pvalue->aich_Info);
-      RT_CHECK(ctx, stat, 0, "aich-Info", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* powerOffsetPp-e */
-   stat = pd_ConsInt8(ctx, &pvalue->powerOffsetPp_e, -5, 10);
-   RT_CHECK(ctx, stat, 0, "powerOffsetPp-e", -1, "PRACH-PreambleForEnhancedUplink");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_TTI(rtxContext* RT_RESTRICT ctx, E_DCH_TTI* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-TTI");
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_AGCH_ChannelisationCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-ChannelisationCode");
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Information(rtxContext* RT_RESTRICT ctx, E_AGCH_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* e-AGCH-ChannelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_AGCH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, "E-AGCH-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_TPC_StepSizeFDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeFDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-StepSizeFDD");
-   return 0;
-}
-
-int asn1PD_UMTS_PowerControlAlgorithm(rtxContext* RT_RESTRICT ctx, PowerControlAlgorithm* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerControlAlgorithm");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* algorithm1 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.algorithm1, 0, 1);
-         RT_CHECK(ctx, stat, "TPC-StepSizeFDD", "algorithm1", -1, "PowerControlAlgorithm");
-         break;
-      case 1: /* algorithm2 */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PowerControlAlgorithm");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaACK(rtxContext* RT_RESTRICT ctx, DeltaACK* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaACK");
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaNACK(rtxContext* RT_RESTRICT ctx, DeltaNACK* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaNACK");
-   return 0;
-}
-
-int asn1PD_UMTS_ACK_NACK_repetitionFactor(rtxContext* RT_RESTRICT ctx, ACK_NACK_repetitionFactor* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ACK-NACK-repetitionFactor");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, UL_DPCHpowerControlInfoForCommonEDCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-   /* powerControlAlgorithm */
-   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-   /* deltaACK */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-   }
-   /* deltaNACK */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-   }
-   /* ack-NACK-repetition-factor */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ack_NACK_repetition_factor, 1, 4);
-      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPCCH_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, E_DPCCH_DPCCH_PowerOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPCCH-DPCCH-PowerOffset");
-   return 0;
-}
-
-int asn1PD_UMTS_HappyBit_DelayCondition(rtxContext* RT_RESTRICT ctx, HappyBit_DelayCondition* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HappyBit-DelayCondition");
-   return 0;
-}
-
-int asn1PD_UMTS_E_TFC_Boost_Info_r7(rtxContext* RT_RESTRICT ctx, E_TFC_Boost_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-TFC-Boost-Info-r7");
-   /* e-TFCI-Boost */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_TFCI_Boost, 0, 127);
-   RT_CHECK(ctx, stat, 0, "e-TFCI-Boost", -1, "E-TFC-Boost-Info-r7");
-   /* delta-T2TP */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->delta_T2TP, 0, 6);
-      RT_CHECK(ctx, stat, 0, "delta-T2TP", -1, "E-TFC-Boost-Info-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_PowerInterpolation(rtxContext* RT_RESTRICT ctx, E_DPDCH_PowerInterpolation* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = rtxDecBitInline(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-PowerInterpolation");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPCCH_Info_r7(rtxContext* RT_RESTRICT ctx, E_DPCCH_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPCCH-Info-r7");
-   /* e-DPCCH-DPCCH-PowerOffset */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-   RT_CHECK(ctx, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info-r7");
-   /* happyBit-DelayCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->happyBit_DelayCondition, 0, 7);
-   RT_CHECK(ctx, stat, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info-r7");
-   /* e-TFC-Boost-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "E-DPCCH-Info-r7");
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = rtxDecBitInline(ctx, &pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "E-DPCCH-Info-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_TFCI_TableIndex(rtxContext* RT_RESTRICT ctx, E_TFCI_TableIndex* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-TFCI-TableIndex");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_MinimumSet_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DCH_MinimumSet_E_TFCI* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MinimumSet-E-TFCI");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_Reference_E_TFCI_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCI_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* reference-E-TFCI */
-   stat = pd_ConsUInt8(ctx, &pvalue->reference_E_TFCI, 0, 127);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI-r7");
-   /* reference-E-TFCI-PO-r7 */
-   stat = pd_ConsUInt8(ctx, &pvalue->reference_E_TFCI_PO_r7, 0, 31);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCI-PO-r7", -1, "E-DPDCH-Reference-E-TFCI-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCIList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_DPDCH_Reference_E_TFCI_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DPDCH_Reference_E_TFCI_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-DPDCH-Reference-E-TFCI-r7", (int32_t)i, "E-DPDCH-Reference-E-TFCIList-r7");
-      elem = (E_DPDCH_Reference_E_TFCI_r7*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_DPDCH_Reference_E_TFCI_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-DPDCH-Reference-E-TFCI-r7", (int32_t)i, "E-DPDCH-Reference-E-TFCIList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MinReduced_E_DPDCH_GainFactor(rtxContext* RT_RESTRICT ctx, MinReduced_E_DPDCH_GainFactor* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MinReduced-E-DPDCH-GainFactor");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_MaxChannelisationCodes(rtxContext* RT_RESTRICT ctx, E_DPDCH_MaxChannelisationCodes* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-MaxChannelisationCodes");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_PL_NonMax(rtxContext* RT_RESTRICT ctx, E_DPDCH_PL_NonMax* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 11, 25);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-PL-NonMax");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_PeriodicyOfSchedInfo(rtxContext* RT_RESTRICT ctx, E_DPDCH_PeriodicyOfSchedInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-PeriodicyOfSchedInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_SchedulingInfoConfiguration(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingInfoConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-SchedulingInfoConfiguration");
-   /* periodicityOfSchedInfo-NoGrant */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->periodicityOfSchedInfo_NoGrant, 0, 8);
-      RT_CHECK(ctx, stat, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-NoGrant", -1, "E-DPDCH-SchedulingInfoConfiguration");
-   }
-   /* periodicityOfSchedInfo-Grant */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->periodicityOfSchedInfo_Grant, 0, 8);
-      RT_CHECK(ctx, stat, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-Grant", -1, "E-DPDCH-SchedulingInfoConfiguration");
-   }
-   /* powerOffsetForSchedInfo */
-   stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetForSchedInfo, 0, 6);
-   RT_CHECK(ctx, stat, 0, "powerOffsetForSchedInfo", -1, "E-DPDCH-SchedulingInfoConfiguration");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_Info_r8(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-Info-r8");
-   /* e-TFCI-TableIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_TFCI_TableIndex, 0, 1);
-   RT_CHECK(ctx, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r8");
-   /* e-DCH-MinimumSet-E-TFCI */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r8");
-   }
-   /* reference-E-TFCIs */
-   stat = asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info-r8");
-   /* minReduced-E-DPDCH-GainFactor */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
-      RT_CHECK(ctx, stat, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "E-DPDCH-Info-r8");
-   }
-   /* maxChannelisationCodes */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxChannelisationCodes, 0, 9);
-   RT_CHECK(ctx, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r8");
-   /* pl-NonMax */
-   stat = pd_ConsUInt8(ctx, &pvalue->pl_NonMax, 11, 25);
-   RT_CHECK(ctx, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r8");
-   /* schedulingInfoConfiguration */
-   stat = asn1PD_UMTS_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration);
-   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info-r8");
-   /* threeIndexStepThreshold */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r8");
-   }
-   /* twoIndexStepThreshold */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementPowerOffset(rtxContext* RT_RESTRICT ctx, MeasurementPowerOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -12, 26);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementPowerOffset");
-   return 0;
-}
-
-int asn1PD_UMTS_Feedback_cycle_r7(rtxContext* RT_RESTRICT ctx, Feedback_cycle_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Feedback-cycle-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_CQI_RepetitionFactor(rtxContext* RT_RESTRICT ctx, CQI_RepetitionFactor* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CQI-RepetitionFactor");
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaCQI(rtxContext* RT_RESTRICT ctx, DeltaCQI* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaCQI");
-   return 0;
-}
-
-int asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* measurementPowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
-   /* feedback-cycle */
-   stat = pd_ConsUnsigned(ctx, &pvalue->feedback_cycle, 0, 15);
-   RT_CHECK(ctx, stat, "Feedback-cycle-r7", "feedback-cycle", -1, 0);
-   /* cqi-RepetitionFactor */
-   stat = pd_ConsUInt8(ctx, &pvalue->cqi_RepetitionFactor, 1, 4);
-   RT_CHECK(ctx, stat, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
-   /* deltaCQI */
-   stat = pd_ConsUInt8(ctx, &pvalue->deltaCQI, 0, 8);
-   RT_CHECK(ctx, stat, "DeltaCQI", "deltaCQI", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (Measurement_Feedback_Info_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(Measurement_Feedback_Info_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Measurement_Feedback_Info_r7(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Measurement-Feedback-Info-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_RGCH_SignatureSequence(rtxContext* RT_RESTRICT ctx, E_HICH_RGCH_SignatureSequence* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 39);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-HICH-RGCH-SignatureSequence");
-   return 0;
-}
-
-int asn1PD_UMTS_E_RGCH_CombinationIndex(rtxContext* RT_RESTRICT ctx, E_RGCH_CombinationIndex* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-RGCH-CombinationIndex");
-   return 0;
-}
-
-int asn1PD_UMTS_E_RGCH_Information(rtxContext* RT_RESTRICT ctx, E_RGCH_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* signatureSequence */
-   stat = pd_ConsUInt8(ctx, &pvalue->signatureSequence, 0, 39);
-   RT_CHECK(ctx, stat, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-RGCH-Information");
-   /* rg-CombinationIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->rg_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "E-RGCH-CombinationIndex", "rg-CombinationIndex", -1, "E-RGCH-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_HICH_ChannelisationCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-HICH-ChannelisationCode");
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information(rtxContext* RT_RESTRICT ctx, E_HICH_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* channelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode, 0, 127);
-   RT_CHECK(ctx, stat, "E-HICH-ChannelisationCode", "channelisationCode", -1, "E-HICH-Information");
-   /* signatureSequence */
-   stat = pd_ConsUInt8(ctx, &pvalue->signatureSequence, 0, 39);
-   RT_CHECK(ctx, stat, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-HICH-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_ScramblingCodeType(rtxContext* RT_RESTRICT ctx, ScramblingCodeType* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ScramblingCodeType");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_ScramblingCode(rtxContext* RT_RESTRICT ctx, UL_ScramblingCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt32(ctx, pvalue, 0, 16777215);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-ScramblingCode");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_CodeInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, UL_DPCH_CodeInfoForCommonEDCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCCHscramblingCodeType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_DPCCHscramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "ul-DPCCHscramblingCodeType", -1, "UL-DPCH-CodeInfoForCommonEDCH");
-   /* ul-DPCCHscramblingCode */
-   stat = pd_ConsUInt32(ctx, &pvalue->ul_DPCCHscramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "ul-DPCCHscramblingCode", -1, "UL-DPCH-CodeInfoForCommonEDCH");
-   return 0;
-}
-
-int asn1PD_UMTS_Common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, Common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Common-E-DCH-ResourceInfoList");
-   /* s-offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->s_offset, 0, 9);
-   RT_CHECK(ctx, stat, 0, "s-offset", -1, "Common-E-DCH-ResourceInfoList");
-   /* f-dpch-ChannelisationCodeNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->f_dpch_ChannelisationCodeNumber, 0, 255);
-   RT_CHECK(ctx, stat, 0, "f-dpch-ChannelisationCodeNumber", -1, "Common-E-DCH-ResourceInfoList");
-   /* e-RGCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "Common-E-DCH-ResourceInfoList");
-   }
-   /* e-hich-Info */
-   stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_hich_Info);
-   RT_CHECK(ctx, stat, 0, "e-hich-Info", -1, "Common-E-DCH-ResourceInfoList");
-   /* ul-DPCH-CodeInfoForCommonEDCH */
-   stat = asn1PD_UMTS_UL_DPCH_CodeInfoForCommonEDCH(ctx, &pvalue->ul_DPCH_CodeInfoForCommonEDCH);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-CodeInfoForCommonEDCH", -1, "Common-E-DCH-ResourceInfoList");
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Common_E_DCH_ResourceInfoList* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_DCH_ResourceInfoList));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
-      elem = (Common_E_DCH_ResourceInfoList*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Common_E_DCH_ResourceInfoList(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Common_E_DCH_ResourceInfoList(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* prach-PreambleForEnhancedUplink */
-   stat = asn1PD_UMTS_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink);
-   RT_CHECK(ctx, stat, 0, "prach-PreambleForEnhancedUplink", -1, 0);
-   /* initialServingGrantValue */
-   stat = pd_ConsUInt8(ctx, &pvalue->initialServingGrantValue, 0, 37);
-   RT_CHECK(ctx, stat, 0, "initialServingGrantValue", -1, 0);
-   /* e-dch-TTI */
-   stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_TTI, 0, 1);
-   RT_CHECK(ctx, stat, "E-DCH-TTI", "e-dch-TTI", -1, 0);
-   /* e-agch-Information */
-   stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_agch_Information);
-   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, 0);
-   /* harq-Info */
-   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
-   /* ul-DPCHpowerControlInfoForCommonEDCH */
-   stat = asn1PD_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH);
-   RT_CHECK(ctx, stat, 0, "ul-DPCHpowerControlInfoForCommonEDCH", -1, 0);
-   /* e-dpcch-Info */
-   stat = asn1PD_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info);
-   RT_CHECK(ctx, stat, 0, "e-dpcch-Info", -1, 0);
-   /* e-dpdch-Info */
-   stat = asn1PD_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info);
-   RT_CHECK(ctx, stat, 0, "e-dpdch-Info", -1, 0);
-   /* dl-FDPCH-TPCcommandErrorRate */
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
-   RT_CHECK(ctx, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, 0);
-   /* additional-E-DCH-TransmitBackoff */
-   stat = pd_ConsUInt8(ctx, &pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
-   RT_CHECK(ctx, stat, 0, "additional-E-DCH-TransmitBackoff", -1, 0);
-   /* max-CCCH-ResourceAllocation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->max_CCCH_ResourceAllocation, 0, 7);
-   RT_CHECK(ctx, stat, 0, "max-CCCH-ResourceAllocation", -1, 0);
-   /* max-PeriodForCollisionResolution */
-   stat = pd_ConsUInt8(ctx, &pvalue->max_PeriodForCollisionResolution, 8, 24);
-   RT_CHECK(ctx, stat, 0, "max-PeriodForCollisionResolution", -1, 0);
-   /* e-dch-TransmitContinuationOffset */
-   stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_TransmitContinuationOffset, 0, 7);
-   RT_CHECK(ctx, stat, 0, "e-dch-TransmitContinuationOffset", -1, 0);
-   /* ack-nack-support-on-HS-DPCCH */
-   stat = rtxDecBitInline(ctx, &pvalue->ack_nack_support_on_HS_DPCCH);
-   RT_CHECK(ctx, stat, 0, "ack-nack-support-on-HS-DPCCH", -1, 0);
-   /* measurement-Feedback-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-Feedback-Info", -1, 0);
-   }
-   /* common-E-DCH-ResourceInfoList */
-   stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList);
-   RT_CHECK(ctx, stat, 0, "common-E-DCH-ResourceInfoList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_TDD128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_RUCCH* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_TDD128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_WAIT* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_TDD128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_SI* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_AccessServiceClass(rtxContext* RT_RESTRICT ctx, E_RUCCH_AccessServiceClass* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = asn1PD_UMTS_PRACH_Partitioning_LCR_r4(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-RUCCH-AccessServiceClass");
-   return 0;
-}
-
-int asn1PD_UMTS_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SYNC_UL_InfoForE_RUCCH(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SYNC-UL-InfoForE-RUCCH");
-   /* prxUpPCHdes */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->prxUpPCHdes, 0, 62);
-      RT_CHECK(ctx, stat, 0, "prxUpPCHdes", -1, "SYNC-UL-InfoForE-RUCCH");
-   }
-   /* powerRampStep */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->powerRampStep, 0, 3);
-      RT_CHECK(ctx, stat, 0, "powerRampStep", -1, "SYNC-UL-InfoForE-RUCCH");
-   }
-   /* max-SYNC-UL-Transmissions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->max_SYNC_UL_Transmissions, 0, 3);
-      RT_CHECK(ctx, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-InfoForE-RUCCH");
-   }
-   /* e-RUCCH-Sync-UL-Codes-Bitmap */
-   stat = asn1PD_UMTS_Sync_UL_Codes_Bitmap(ctx, &pvalue->e_RUCCH_Sync_UL_Codes_Bitmap);
-   RT_CHECK(ctx, stat, 0, "e-RUCCH-Sync-UL-Codes-Bitmap", -1, "SYNC-UL-InfoForE-RUCCH");
-   /* mmax */
-   stat = pd_ConsUInt8(ctx, &pvalue->mmax, 1, 32);
-   RT_CHECK(ctx, stat, 0, "mmax", -1, "SYNC-UL-InfoForE-RUCCH");
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_ChanCodes_List_LCR(rtxContext* RT_RESTRICT ctx, PRACH_ChanCodes_List_LCR* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-ChanCodes-List-LCR");
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddStrParm(ctx, "PRACH-ChanCodes-List-LCR");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PRACH-ChanCodes-List-LCR");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 27);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-List-LCR");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_Information_LCR(rtxContext* RT_RESTRICT ctx, PRACH_Information_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Information-LCR");
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 1, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Information-LCR");
-   /* prach-ChanCodes-list-LCR */
-   stat = asn1PD_UMTS_PRACH_ChanCodes_List_LCR(ctx, &pvalue->prach_ChanCodes_list_LCR);
-   RT_CHECK(ctx, stat, 0, "prach-ChanCodes-list-LCR", -1, "PRACH-Information-LCR");
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PRACH-Information-LCR");
-   /* fpach-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
-      RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "PRACH-Information-LCR");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, PRACH_Information_LCR_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Information-LCR-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PRACH_Information_LCR* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_Information_LCR));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PRACH-Information-LCR", (int32_t)i, "PRACH-Information-LCR-List");
-      elem = (PRACH_Information_LCR*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PRACH_Information_LCR(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PRACH_Information_LCR(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PRACH-Information-LCR", (int32_t)i, "PRACH-Information-LCR-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-RUCCH-Info-TDD128");
-   /* t-RUCCH */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_RUCCH, 0, 15);
-      RT_CHECK(ctx, stat, 0, "t-RUCCH", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* n-RUCCH */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->n_RUCCH, 0, 7);
-      RT_CHECK(ctx, stat, 0, "n-RUCCH", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* t-WAIT */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_WAIT, 0, 7);
-      RT_CHECK(ctx, stat, 0, "t-WAIT", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* t-SI */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_SI, 0, 6);
-      RT_CHECK(ctx, stat, 0, "t-SI", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* extendedEstimationWindow */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->extendedEstimationWindow, 2, 5);
-      RT_CHECK(ctx, stat, 0, "extendedEstimationWindow", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* e-RUCCH-AccessServiceClass */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-AccessServiceClass", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* e-RUCCH-PersistenceScalingFactor */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-PersistenceScalingFactor", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* sync-UL-InfoForE-RUCCH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH);
-      RT_CHECK(ctx, stat, 0, "sync-UL-InfoForE-RUCCH", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* prach-information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_PRACH_Information_LCR_List(ctx, &pvalue->prach_information);
-      RT_CHECK(ctx, stat, 0, "prach-information", -1, "E-RUCCH-Info-TDD128");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Reference_Beta_QPSK(rtxContext* RT_RESTRICT ctx, Reference_Beta_QPSK* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* reference-Code-Rate */
-   stat = pd_ConsUInt8(ctx, &pvalue->reference_Code_Rate, 0, 10);
-   RT_CHECK(ctx, stat, 0, "reference-Code-Rate", -1, "Reference-Beta-QPSK");
-   /* reference-Beta */
-   stat = pd_ConsInt8(ctx, &pvalue->reference_Beta, -15, 16);
-   RT_CHECK(ctx, stat, 0, "reference-Beta", -1, "Reference-Beta-QPSK");
-   return 0;
-}
-
-int asn1PD_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(rtxContext* RT_RESTRICT ctx, E_TFCS_Info_reference_Beta_QPSK_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Reference_Beta_QPSK* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Reference_Beta_QPSK));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Reference-Beta-QPSK", (int32_t)i, 0);
-      elem = (Reference_Beta_QPSK*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Reference_Beta_QPSK(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Reference-Beta-QPSK", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Reference_Beta_16QAM(rtxContext* RT_RESTRICT ctx, Reference_Beta_16QAM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* reference-Code-Rate */
-   stat = pd_ConsUInt8(ctx, &pvalue->reference_Code_Rate, 0, 10);
-   RT_CHECK(ctx, stat, 0, "reference-Code-Rate", -1, "Reference-Beta-16QAM");
-   /* reference-Beta */
-   stat = pd_ConsInt8(ctx, &pvalue->reference_Beta, -15, 16);
-   RT_CHECK(ctx, stat, 0, "reference-Beta", -1, "Reference-Beta-16QAM");
-   return 0;
-}
-
-int asn1PD_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(rtxContext* RT_RESTRICT ctx, E_TFCS_Info_reference_Beta_16QAM_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Reference_Beta_16QAM* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Reference_Beta_16QAM));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Reference-Beta-16QAM", (int32_t)i, 0);
-      elem = (Reference_Beta_16QAM*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Reference_Beta_16QAM(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Reference-Beta-16QAM", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_TFCS_Info(rtxContext* RT_RESTRICT ctx, E_TFCS_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* reference-Beta-QPSK-List */
-   stat = asn1PD_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(ctx, &pvalue->reference_Beta_QPSK_List);
-   RT_CHECK(ctx, stat, 0, "reference-Beta-QPSK-List", -1, "E-TFCS-Info");
-   /* reference-Beta-16QAM-List */
-   stat = asn1PD_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(ctx, &pvalue->reference_Beta_16QAM_List);
-   RT_CHECK(ctx, stat, 0, "reference-Beta-16QAM-List", -1, "E-TFCS-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_TDD128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_snpl_ReportType* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_TPC_StepSizeTDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeTDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-StepSizeTDD");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, UL_SynchronisationParameters_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* stepSize */
-   stat = pd_ConsUInt8(ctx, &pvalue->stepSize, 1, 8);
-   RT_CHECK(ctx, stat, 0, "stepSize", -1, "UL-SynchronisationParameters-r4");
-   /* frequency */
-   stat = pd_ConsUInt8(ctx, &pvalue->frequency, 1, 8);
-   RT_CHECK(ctx, stat, 0, "frequency", -1, "UL-SynchronisationParameters-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* ueSpecificMidamble */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_TS_Slots_LCR(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-PUCH-TS-Slots-LCR");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-PUCH-TS-Slots-LCR");
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "E-PUCH-TS-Slots-LCR");
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_PUCH_TS_Slots_LCR* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_PUCH_TS_Slots_LCR));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
-      elem = (E_PUCH_TS_Slots_LCR*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_PUCH_TS_Slots_LCR(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_PUCH_TS_Slots_LCR(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_TDD128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_retransTimerForSchedInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 29);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-PUCH-Info-TDD128");
-   /* e-TFCS-Info */
-   stat = asn1PD_UMTS_E_TFCS_Info(ctx, &pvalue->e_TFCS_Info);
-   RT_CHECK(ctx, stat, 0, "e-TFCS-Info", -1, "E-PUCH-Info-TDD128");
-   /* snpl-ReportType */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->snpl_ReportType, 0, 1);
-      RT_CHECK(ctx, stat, 0, "snpl-ReportType", -1, "E-PUCH-Info-TDD128");
-   }
-   /* prxBASEdes */
-   stat = pd_ConsInt8(ctx, &pvalue->prxBASEdes, -112, -50);
-   RT_CHECK(ctx, stat, 0, "prxBASEdes", -1, "E-PUCH-Info-TDD128");
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = rtxDecBitInline(ctx, &pvalue->beaconPLEst);
-      RT_CHECK(ctx, stat, 0, "beaconPLEst", -1, "E-PUCH-Info-TDD128");
-   }
-   /* tpc-StepSize */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-PUCH-Info-TDD128");
-   /* pebase-PowerControlGAP */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pebase_PowerControlGAP, 1, 255);
-      RT_CHECK(ctx, stat, 0, "pebase-PowerControlGAP", -1, "E-PUCH-Info-TDD128");
-   }
-   /* ul-SynchronisationParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, "E-PUCH-Info-TDD128");
-   }
-   /* e-PUCH-TS-ConfigurationList */
-   stat = asn1PD_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, "E-PUCH-Info-TDD128");
-   /* minimum-Allowed-Code-Rate */
-   stat = pd_ConsUInt8(ctx, &pvalue->minimum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat, 0, "minimum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
-   /* maximum-Allowed-Code-Rate */
-   stat = pd_ConsUInt8(ctx, &pvalue->maximum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat, 0, "maximum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
-   /* maximumNumOfRetransSchedInfo */
-   stat = pd_ConsUInt8(ctx, &pvalue->maximumNumOfRetransSchedInfo, 0, 15);
-   RT_CHECK(ctx, stat, 0, "maximumNumOfRetransSchedInfo", -1, "E-PUCH-Info-TDD128");
-   /* retransTimerForSchedInfo */
-   stat = pd_ConsUnsigned(ctx, &pvalue->retransTimerForSchedInfo, 0, 29);
-   RT_CHECK(ctx, stat, 0, "retransTimerForSchedInfo", -1, "E-PUCH-Info-TDD128");
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 0, 6);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "E-PUCH-Info-TDD128");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* ueSpecificMidamble */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_LCR(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ei */
-   stat = pd_ConsUInt8(ctx, &pvalue->ei, 0, 3);
-   RT_CHECK(ctx, stat, 0, "ei", -1, "E-HICH-Information-LCR");
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-HICH-Information-LCR");
-   /* channelisation-Code */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, "E-HICH-Information-LCR");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_E_HICH_Information_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-HICH-Information-LCR");
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "E-HICH-Information-LCR");
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-HICH-Information-LCR-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_HICH_Information_LCR* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_HICH_Information_LCR));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-HICH-Information-LCR", (int32_t)i, "E-HICH-Information-LCR-List");
-      elem = (E_HICH_Information_LCR*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_HICH_Information_LCR(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_HICH_Information_LCR(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-HICH-Information-LCR", (int32_t)i, "E-HICH-Information-LCR-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* n-E-HICH */
-   stat = pd_ConsUInt8(ctx, &pvalue->n_E_HICH, 4, 15);
-   RT_CHECK(ctx, stat, 0, "n-E-HICH", -1, "E-HICH-Information-TDD128");
-   /* e-HICH-InfoList */
-   stat = asn1PD_UMTS_E_HICH_Information_LCR_List(ctx, &pvalue->e_HICH_InfoList);
-   RT_CHECK(ctx, stat, 0, "e-HICH-InfoList", -1, "E-HICH-Information-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Individual_LCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-AGCH-Individual-LCR");
-   /* firstChannelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "E-AGCH-Individual-LCR");
-   /* secondChannelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "E-AGCH-Individual-LCR");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-AGCH-Individual-LCR");
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "E-AGCH-Individual-LCR");
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Set_Config_LCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config_LCR* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-Set-Config-LCR");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_AGCH_Individual_LCR* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_AGCH_Individual_LCR));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-AGCH-Individual-LCR", (int32_t)i, "E-AGCH-Set-Config-LCR");
-      elem = (E_AGCH_Individual_LCR*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_AGCH_Individual_LCR(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_AGCH_Individual_LCR(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual-LCR", (int32_t)i, "E-AGCH-Set-Config-LCR");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rdi-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->rdi_Indicator);
-   RT_CHECK(ctx, stat, 0, "rdi-Indicator", -1, "E-AGCH-Information-TDD128");
-   /* tpc-StepSize */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-AGCH-Information-TDD128");
-   /* e-AGCH-Set-Config */
-   stat = asn1PD_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, "E-AGCH-Information-TDD128");
-   /* e-AGCH-BLER-Target */
-   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, "E-AGCH-Information-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RNTI(rtxContext* RT_RESTRICT ctx, E_RNTI* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-RNTI");
-   return 0;
-}
-
-int asn1PD_UMTS_Common_E_RNTI_Info_element(rtxContext* RT_RESTRICT ctx, Common_E_RNTI_Info_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* starting-E-RNTI */
-   stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->starting_E_RNTI);
-   RT_CHECK(ctx, stat, 0, "starting-E-RNTI", -1, 0);
-   /* number-of-group */
-   stat = pd_ConsUInt8(ctx, &pvalue->number_of_group, 1, 32);
-   RT_CHECK(ctx, stat, 0, "number-of-group", -1, 0);
-   /* number-of-ENRTI-per-group */
-   stat = pd_ConsUInt8(ctx, &pvalue->number_of_ENRTI_per_group, 1, 2);
-   RT_CHECK(ctx, stat, 0, "number-of-ENRTI-per-group", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_Common_E_RNTI_Info(rtxContext* RT_RESTRICT ctx, Common_E_RNTI_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 256);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Common-E-RNTI-Info");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Common_E_RNTI_Info_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_RNTI_Info_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "Common-E-RNTI-Info");
-      elem = (Common_E_RNTI_Info_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Common_E_RNTI_Info_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Common_E_RNTI_Info_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "Common-E-RNTI-Info");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 22);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* common-e-rnti-Info */
-   stat = asn1PD_UMTS_Common_E_RNTI_Info(ctx, &pvalue->common_e_rnti_Info);
-   RT_CHECK(ctx, stat, 0, "common-e-rnti-Info", -1, 0);
-   /* harq-MaximumNumberOfRetransmissions */
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_MaximumNumberOfRetransmissions, 0, 7);
-   RT_CHECK(ctx, stat, 0, "harq-MaximumNumberOfRetransmissions", -1, 0);
-   /* harq-retransmission-timer */
-   stat = pd_ConsUnsigned(ctx, &pvalue->harq_retransmission_timer, 0, 22);
-   RT_CHECK(ctx, stat, 0, "harq-retransmission-timer", -1, 0);
-   /* harq-power-offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_power_offset, 0, 6);
-   RT_CHECK(ctx, stat, 0, "harq-power-offset", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* e-RUCCH-Info */
-   stat = asn1PD_UMTS_E_RUCCH_Info_TDD128(ctx, &pvalue->e_RUCCH_Info);
-   RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
-   /* e-PUCH-Info */
-   stat = asn1PD_UMTS_E_PUCH_Info_TDD128(ctx, &pvalue->e_PUCH_Info);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
-   /* e-hich-Information */
-   stat = asn1PD_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_hich_Information);
-   RT_CHECK(ctx, stat, 0, "e-hich-Information", -1, 0);
-   /* e-agch-Information */
-   stat = asn1PD_UMTS_E_AGCH_Information_TDD128(ctx, &pvalue->e_agch_Information);
-   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, 0);
-   /* harq-Info */
-   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
-   /* ccch-transmission-Info */
-   stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(ctx, &pvalue->ccch_transmission_Info);
-   RT_CHECK(ctx, stat, 0, "ccch-transmission-Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd768 */
-         break;
-      case 1: /* tdd384 */
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CommonEDCHSystemInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CommonEDCHSystemInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CommonEDCHSystemInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CommonEDCHSystemInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CommonEDCHSystemInfo");
-   /* ul-InterferenceForCommonEDCH */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->ul_InterferenceForCommonEDCH, -110, -70);
-      RT_CHECK(ctx, stat, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfo");
-   }
-   /* common-E-DCH-MAC-d-FlowList */
-   stat = asn1PD_UMTS_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList);
-   RT_CHECK(ctx, stat, 0, "common-E-DCH-MAC-d-FlowList", -1, "CommonEDCHSystemInfo");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CommonEDCHSystemInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v890ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v890ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v890ext-IEs");
-   /* secondFrequencyInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->secondFrequencyInfo);
-      RT_CHECK(ctx, stat, 0, "secondFrequencyInfo", -1, "SysInfoType5-v890ext-IEs");
-   }
-   /* commonEDCHSystemInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CommonEDCHSystemInfo(ctx, &pvalue->commonEDCHSystemInfo);
-      RT_CHECK(ctx, stat, 0, "commonEDCHSystemInfo", -1, "SysInfoType5-v890ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UpPCHposition_LCR(rtxContext* RT_RESTRICT ctx, UpPCHposition_LCR* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UpPCHposition-LCR");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v8b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v8b0ext-IEs");
-   /* tresetUsageIndicator */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "tresetUsageIndicator", -1, "SysInfoType5-v8b0ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "tresetUsageIndicator", -1, "SysInfoType5-v8b0ext-IEs");
-         pvalue->tresetUsageIndicator = ui;
-      }
-   }
-   /* upPCHpositionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->upPCHpositionInfo, 0, 127);
-      RT_CHECK(ctx, stat, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "SysInfoType5-v8b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfoFDD_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_harq_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Common_E_DCH_ResourceInfoList* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_DCH_ResourceInfoList));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
-      elem = (Common_E_DCH_ResourceInfoList*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Common_E_DCH_ResourceInfoList(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Common_E_DCH_ResourceInfoList(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfoFDD(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CommonEDCHSystemInfoFDD");
-   /* ul-InterferenceForCommonEDCH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->ul_InterferenceForCommonEDCH, -110, -70);
-      RT_CHECK(ctx, stat, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
-   }
-   /* common-E-DCH-MAC-d-FlowList */
-   stat = asn1PD_UMTS_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList);
-   RT_CHECK(ctx, stat, 0, "common-E-DCH-MAC-d-FlowList", -1, "CommonEDCHSystemInfoFDD");
-   /* prach-PreambleForEnhancedUplink */
-   stat = asn1PD_UMTS_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink);
-   RT_CHECK(ctx, stat, 0, "prach-PreambleForEnhancedUplink", -1, "CommonEDCHSystemInfoFDD");
-   /* initialServingGrantValue */
-   stat = pd_ConsUInt8(ctx, &pvalue->initialServingGrantValue, 0, 37);
-   RT_CHECK(ctx, stat, 0, "initialServingGrantValue", -1, "CommonEDCHSystemInfoFDD");
-   /* e-dch-TTI */
-   stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_TTI, 0, 1);
-   RT_CHECK(ctx, stat, "E-DCH-TTI", "e-dch-TTI", -1, "CommonEDCHSystemInfoFDD");
-   /* e-agch-Information */
-   stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_agch_Information);
-   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, "CommonEDCHSystemInfoFDD");
-   /* harq-Info */
-   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat, 0, "harq-Info", -1, "CommonEDCHSystemInfoFDD");
-   /* ul-DPCHpowerControlInfoForCommonEDCH */
-   stat = asn1PD_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH);
-   RT_CHECK(ctx, stat, 0, "ul-DPCHpowerControlInfoForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
-   /* e-dpcch-Info */
-   stat = asn1PD_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info);
-   RT_CHECK(ctx, stat, 0, "e-dpcch-Info", -1, "CommonEDCHSystemInfoFDD");
-   /* e-dpdch-Info */
-   stat = asn1PD_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info);
-   RT_CHECK(ctx, stat, 0, "e-dpdch-Info", -1, "CommonEDCHSystemInfoFDD");
-   /* dl-FDPCH-TPCcommandErrorRate */
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
-   RT_CHECK(ctx, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "CommonEDCHSystemInfoFDD");
-   /* additional-E-DCH-TransmitBackoff */
-   stat = pd_ConsUInt8(ctx, &pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
-   RT_CHECK(ctx, stat, 0, "additional-E-DCH-TransmitBackoff", -1, "CommonEDCHSystemInfoFDD");
-   /* max-CCCH-ResourceAllocation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->max_CCCH_ResourceAllocation, 0, 7);
-   RT_CHECK(ctx, stat, 0, "max-CCCH-ResourceAllocation", -1, "CommonEDCHSystemInfoFDD");
-   /* max-PeriodForCollisionResolution */
-   stat = pd_ConsUInt8(ctx, &pvalue->max_PeriodForCollisionResolution, 8, 24);
-   RT_CHECK(ctx, stat, 0, "max-PeriodForCollisionResolution", -1, "CommonEDCHSystemInfoFDD");
-   /* e-dch-TransmitContinuationOffset */
-   stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_TransmitContinuationOffset, 0, 7);
-   RT_CHECK(ctx, stat, 0, "e-dch-TransmitContinuationOffset", -1, "CommonEDCHSystemInfoFDD");
-   /* ack-nack-support-on-HS-DPCCH */
-   stat = rtxDecBitInline(ctx, &pvalue->ack_nack_support_on_HS_DPCCH);
-   RT_CHECK(ctx, stat, 0, "ack-nack-support-on-HS-DPCCH", -1, "CommonEDCHSystemInfoFDD");
-   /* measurement-Feedback-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-Feedback-Info", -1, "CommonEDCHSystemInfoFDD");
-   }
-   /* common-E-DCH-ResourceInfoList */
-   stat = asn1PD_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList);
-   RT_CHECK(ctx, stat, 0, "common-E-DCH-ResourceInfoList", -1, "CommonEDCHSystemInfoFDD");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v8d0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8d0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v8d0ext-IEs");
-   /* commonEDCHSystemInfoFDD */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonEDCHSystemInfoFDD(ctx, &pvalue->commonEDCHSystemInfoFDD);
-      RT_CHECK(ctx, stat, 0, "commonEDCHSystemInfoFDD", -1, "SysInfoType5-v8d0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v8d0ext */
-   stat = asn1PD_UMTS_SysInfoType5_v8d0ext_IEs(ctx, &pvalue->sysInfoType5_v8d0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType5-v8d0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v8b0ext */
-   stat = asn1PD_UMTS_SysInfoType5_v8b0ext_IEs(ctx, &pvalue->sysInfoType5_v8b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType5-v8b0ext", -1, 0);
-   /* v8d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(ctx, &pvalue->v8d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v8d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v890ext */
-   stat = asn1PD_UMTS_SysInfoType5_v890ext_IEs(ctx, &pvalue->sysInfoType5_v890ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType5-v890ext", -1, 0);
-   /* v8b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(ctx, &pvalue->v8b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v8b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v860ext */
-   stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs(ctx, &pvalue->sysInfoType5_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType5-v860ext", -1, 0);
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v770ext */
-   stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs(ctx, &pvalue->sysInfoType5_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType5-v770ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v690ext */
-   stat = asn1PD_UMTS_SysInfoType5_v690ext_IEs(ctx, &pvalue->sysInfoType5_v690ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType5-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v680ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v680ext_IEs(ctx, &pvalue->sysInfoType5_v680ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType5-v680ext", -1, 0);
-   }
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v650ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v650ext_IEs(ctx, &pvalue->sysInfoType5_v650ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType5-v650ext", -1, 0);
-   }
-   /* v680NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(ctx, &pvalue->v680NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v680NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v590ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v590ext_IEs(ctx, &pvalue->sysInfoType5_v590ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType5-v590ext", -1, 0);
-   }
-   /* v650NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(ctx, &pvalue->v650NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v650NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v4b0ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0ext_IEs(ctx, &pvalue->sysInfoType5_v4b0ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType5-v4b0ext", -1, 0);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5(rtxContext* RT_RESTRICT ctx, SysInfoType5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5");
-   /* sib6indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sib6indicator);
-   RT_CHECK(ctx, stat, 0, "sib6indicator", -1, "SysInfoType5");
-   /* pich-PowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->pich_PowerOffset, -10, 5);
-   RT_CHECK(ctx, stat, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType5");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_SysInfoType5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5");
-   /* primaryCCPCH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "SysInfoType5");
-   }
-   /* prach-SystemInformationList */
-   stat = asn1PD_UMTS_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList);
-   RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, "SysInfoType5");
-   /* sCCPCH-SystemInformationList */
-   stat = asn1PD_UMTS_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList);
-   RT_CHECK(ctx, stat, 0, "sCCPCH-SystemInformationList", -1, "SysInfoType5");
-   /* cbs-DRX-Level1Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information);
-      RT_CHECK(ctx, stat, 0, "cbs-DRX-Level1Information", -1, "SysInfoType5");
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAT_Type(rtxContext* RT_RESTRICT ctx, RAT_Type* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-Type");
-   return 0;
-}
-
-int asn1PD_UMTS_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 14) {
-         rtxErrAddStrParm(ctx, "inter-RAT-meas-ind");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 1);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "RAT-Type", "RAT-Type", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_FACH_MeasurementOccasionInfo(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FACH-MeasurementOccasionInfo");
-   /* fACH-meas-occasion-coeff */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->fACH_meas_occasion_coeff, 1, 12);
-      RT_CHECK(ctx, stat, 0, "fACH-meas-occasion-coeff", -1, "FACH-MeasurementOccasionInfo");
-   }
-   /* inter-freq-FDD-meas-ind */
-   stat = rtxDecBitInline(ctx, &pvalue->inter_freq_FDD_meas_ind);
-   RT_CHECK(ctx, stat, 0, "inter-freq-FDD-meas-ind", -1, "FACH-MeasurementOccasionInfo");
-   /* inter-freq-TDD-meas-ind */
-   stat = rtxDecBitInline(ctx, &pvalue->inter_freq_TDD_meas_ind);
-   RT_CHECK(ctx, stat, 0, "inter-freq-TDD-meas-ind", -1, "FACH-MeasurementOccasionInfo");
-   /* inter-RAT-meas-ind */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(ctx, &pvalue->inter_RAT_meas_ind);
-      RT_CHECK(ctx, stat, 0, "inter-RAT-meas-ind", -1, "FACH-MeasurementOccasionInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementIdentity(rtxContext* RT_RESTRICT ctx, MeasurementIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellID(rtxContext* RT_RESTRICT ctx, IntraFreqCellID* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellID");
-   return 0;
-}
-
-int asn1PD_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellList_removeSomeIntraFreqCells* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "removeSomeIntraFreqCells");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RemovedIntraFreqCellList(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RemovedIntraFreqCellList");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* removeAllIntraFreqCells */
-         break;
-      case 1: /* removeSomeIntraFreqCells */
-         pvalue->u.removeSomeIntraFreqCells = (RemovedIntraFreqCellList_removeSomeIntraFreqCells*)rtxMemHeapAlloc(ctx, sizeof(RemovedIntraFreqCellList_removeSomeIntraFreqCells));
-         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellList");
-         asn1Init_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(pvalue->u.removeSomeIntraFreqCells);
-         stat = asn1PD_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells);
-         RT_CHECK(ctx, stat, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellList");
-         break;
-      case 2: /* removeNoIntraFreqCells */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedIntraFreqCellList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellIndividualOffset(rtxContext* RT_RESTRICT ctx, CellIndividualOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -20, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellIndividualOffset");
-   return 0;
-}
-
-int asn1PD_UMTS_ReferenceTimeDifferenceToCell(rtxContext* RT_RESTRICT ctx, ReferenceTimeDifferenceToCell* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReferenceTimeDifferenceToCell");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* accuracy40 */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.accuracy40, 0, 960);
-         RT_CHECK(ctx, stat, 0, "accuracy40", -1, "ReferenceTimeDifferenceToCell");
-         break;
-      case 1: /* accuracy256 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.accuracy256, 0, 150);
-         RT_CHECK(ctx, stat, 0, "accuracy256", -1, "ReferenceTimeDifferenceToCell");
-         break;
-      case 2: /* accuracy2560 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.accuracy2560, 0, 15);
-         RT_CHECK(ctx, stat, 0, "accuracy2560", -1, "ReferenceTimeDifferenceToCell");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ReferenceTimeDifferenceToCell");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryScramblingCode(rtxContext* RT_RESTRICT ctx, PrimaryScramblingCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 511);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryScramblingCode");
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCPICH_Info(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryScramblingCode */
-   stat = pd_ConsUInt16(ctx, &pvalue->primaryScramblingCode, 0, 511);
-   RT_CHECK(ctx, stat, "PrimaryScramblingCode", "primaryScramblingCode", -1, "PrimaryCPICH-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   }
-   /* primaryCPICH-TX-Power */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   /* tx-DiversityIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_BurstType(rtxContext* RT_RESTRICT ctx, BurstType* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BurstType");
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotInfo(rtxContext* RT_RESTRICT ctx, TimeslotInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "TimeslotInfo");
-   /* burstType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->burstType, 0, 1);
-   RT_CHECK(ctx, stat, "BurstType", "burstType", -1, "TimeslotInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotInfoList(rtxContext* RT_RESTRICT ctx, TimeslotInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TimeslotInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TimeslotInfo", (int32_t)i, "TimeslotInfoList");
-      elem = (TimeslotInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TimeslotInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "TimeslotInfo", (int32_t)i, "TimeslotInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellInfoSI_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_RSCP_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellInfoSI_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_RSCP_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Q_OffsetS_N(rtxContext* RT_RESTRICT ctx, Q_OffsetS_N* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -50, 50);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-OffsetS-N");
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-QualMin */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
-   }
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 2: /* gsm */
-         pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-RSCP");
-   /* q-OffsetS-N */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsInt8(ctx, &pvalue->q_OffsetS_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
-   }
-   else {
-      pvalue->q_OffsetS_N = 0;
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_RSCP(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-RSCP");
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP");
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-RSCP");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-RSCP");
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-RSCP");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-RSCP");
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_RSCP(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-RSCP");
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_RSCP* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCellSI_RSCP* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_RSCP));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-RSCP");
-      elem = (NewIntraFreqCellSI_RSCP*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellSI_RSCP(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_RSCP(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-RSCP");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP");
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP");
-   }
-   /* newIntraFreqCellList */
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP");
-   return 0;
-}
-
-int asn1PD_UMTS_FilterCoefficient(rtxContext* RT_RESTRICT ctx, FilterCoefficient* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FilterCoefficient");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-FDD");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* intraFreqMeasQuantity-FDD */
-   stat = pd_ConsUnsigned(ctx, &pvalue->intraFreqMeasQuantity_FDD, 0, 3);
-   RT_CHECK(ctx, stat, "IntraFreqMeasQuantity-FDD", "intraFreqMeasQuantity-FDD", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDD");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity_TDDList(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDDList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDDList");
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "IntraFreqMeasQuantity-TDDList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqMeasQuantity-TDDList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 3);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "IntraFreqMeasQuantity-TDD", "IntraFreqMeasQuantity-TDD", (int32_t)i, "IntraFreqMeasQuantity-TDDList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* intraFreqMeasQuantity-TDDList */
-   stat = asn1PD_UMTS_IntraFreqMeasQuantity_TDDList(ctx, &pvalue->intraFreqMeasQuantity_TDDList);
-   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity-TDDList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (IntraFreqMeasQuantity_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(IntraFreqMeasQuantity_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (IntraFreqMeasQuantity_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasQuantity_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity");
-   /* filterCoefficient */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, "IntraFreqMeasQuantity");
-   }
-   else {
-      pvalue->filterCoefficient = 0;
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqMeasQuantity");
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_SFN_OTD_Type(rtxContext* RT_RESTRICT ctx, SFN_SFN_OTD_Type* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-SFN-OTD-Type");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_FDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-FDD");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* intraFreqRepQuantityRACH-FDD */
-   stat = pd_ConsUnsigned(ctx, &pvalue->intraFreqRepQuantityRACH_FDD, 0, 3);
-   RT_CHECK(ctx, stat, "IntraFreqRepQuantityRACH-FDD", "intraFreqRepQuantityRACH-FDD", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-TDD");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-TDDList");
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddStrParm(ctx, "IntraFreqRepQuantityRACH-TDDList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqRepQuantityRACH-TDDList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 2);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "IntraFreqRepQuantityRACH-TDD", "IntraFreqRepQuantityRACH-TDD", (int32_t)i, "IntraFreqRepQuantityRACH-TDDList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* intraFreqRepQuantityRACH-TDDList */
-   stat = asn1PD_UMTS_IntraFreqRepQuantityRACH_TDDList(ctx, &pvalue->intraFreqRepQuantityRACH_TDDList);
-   RT_CHECK(ctx, stat, 0, "intraFreqRepQuantityRACH-TDDList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingQuantityForRACH(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* sfn-SFN-OTD-Type */
-   stat = pd_ConsUnsigned(ctx, &pvalue->sfn_SFN_OTD_Type, 0, 2);
-   RT_CHECK(ctx, stat, "SFN-SFN-OTD-Type", "sfn-SFN-OTD-Type", -1, "IntraFreqReportingQuantityForRACH");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqReportingQuantityForRACH");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxReportedCellsOnRACH(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACH* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxReportedCellsOnRACH");
-   return 0;
-}
-
-int asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cpich-Ec-N0-reportingIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->cpich_Ec_N0_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "cpich-Ec-N0-reportingIndicator", -1, 0);
-   /* cpich-RSCP-reportingIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->cpich_RSCP_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "cpich-RSCP-reportingIndicator", -1, 0);
-   /* pathloss-reportingIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->pathloss_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "pathloss-reportingIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotISCP-reportingIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->timeslotISCP_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "timeslotISCP-reportingIndicator", -1, 0);
-   /* proposedTGSN-ReportingRequired */
-   stat = rtxDecBitInline(ctx, &pvalue->proposedTGSN_ReportingRequired);
-   RT_CHECK(ctx, stat, 0, "proposedTGSN-ReportingRequired", -1, 0);
-   /* primaryCCPCH-RSCP-reportingIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->primaryCCPCH_RSCP_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-RSCP-reportingIndicator", -1, 0);
-   /* pathloss-reportingIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->pathloss_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "pathloss-reportingIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellReportingQuantities_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(CellReportingQuantities_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellReportingQuantities_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(CellReportingQuantities_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellReportingQuantities(rtxContext* RT_RESTRICT ctx, CellReportingQuantities* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dummy */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 2);
-   RT_CHECK(ctx, stat, "SFN-SFN-OTD-Type", "dummy", -1, "CellReportingQuantities");
-   /* cellIdentity-reportingIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->cellIdentity_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "cellIdentity-reportingIndicator", -1, "CellReportingQuantities");
-   /* cellSynchronisationInfoReportingIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->cellSynchronisationInfoReportingIndicator);
-   RT_CHECK(ctx, stat, 0, "cellSynchronisationInfoReportingIndicator", -1, "CellReportingQuantities");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellReportingQuantities");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingQuantity");
-   /* activeSetReportingQuantities */
-   stat = asn1PD_UMTS_CellReportingQuantities(ctx, &pvalue->activeSetReportingQuantities);
-   RT_CHECK(ctx, stat, 0, "activeSetReportingQuantities", -1, "IntraFreqReportingQuantity");
-   /* monitoredSetReportingQuantities */
-   stat = asn1PD_UMTS_CellReportingQuantities(ctx, &pvalue->monitoredSetReportingQuantities);
-   RT_CHECK(ctx, stat, 0, "monitoredSetReportingQuantities", -1, "IntraFreqReportingQuantity");
-   /* detectedSetReportingQuantities */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellReportingQuantities(ctx, &pvalue->detectedSetReportingQuantities);
-      RT_CHECK(ctx, stat, 0, "detectedSetReportingQuantities", -1, "IntraFreqReportingQuantity");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TransferMode(rtxContext* RT_RESTRICT ctx, TransferMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransferMode");
-   return 0;
-}
-
-int asn1PD_UMTS_PeriodicalOrEventTrigger(rtxContext* RT_RESTRICT ctx, PeriodicalOrEventTrigger* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PeriodicalOrEventTrigger");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReportingMode(rtxContext* RT_RESTRICT ctx, MeasurementReportingMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* measurementReportTransferMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementReportTransferMode, 0, 1);
-   RT_CHECK(ctx, stat, "TransferMode", "measurementReportTransferMode", -1, "MeasurementReportingMode");
-   /* periodicalOrEventTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->periodicalOrEventTrigger, 0, 1);
-   RT_CHECK(ctx, stat, "PeriodicalOrEventTrigger", "periodicalOrEventTrigger", -1, "MeasurementReportingMode");
-   return 0;
-}
-
-int asn1PD_UMTS_TriggeringCondition2(rtxContext* RT_RESTRICT ctx, TriggeringCondition2* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TriggeringCondition2");
-   return 0;
-}
-
-int asn1PD_UMTS_ReportingRange(rtxContext* RT_RESTRICT ctx, ReportingRange* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 29);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingRange");
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCell(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ForbiddenAffectCell");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "ForbiddenAffectCell");
-         stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "ForbiddenAffectCell");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PrimaryCCPCH_Info*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "ForbiddenAffectCell");
-         asn1Init_UMTS_PrimaryCCPCH_Info(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ForbiddenAffectCell");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCellList(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ForbiddenAffectCellList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ForbiddenAffectCell* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCell));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ForbiddenAffectCell", (int32_t)i, "ForbiddenAffectCellList");
-      elem = (ForbiddenAffectCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_ForbiddenAffectCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ForbiddenAffectCell(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell", (int32_t)i, "ForbiddenAffectCellList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_W(rtxContext* RT_RESTRICT ctx, W* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "W");
-   return 0;
-}
-
-int asn1PD_UMTS_ReportDeactivationThreshold(rtxContext* RT_RESTRICT ctx, ReportDeactivationThreshold* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportDeactivationThreshold");
-   return 0;
-}
-
-int asn1PD_UMTS_ReportingAmount(rtxContext* RT_RESTRICT ctx, ReportingAmount* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingAmount");
-   return 0;
-}
-
-int asn1PD_UMTS_ReportingInterval(rtxContext* RT_RESTRICT ctx, ReportingInterval* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingInterval");
-   return 0;
-}
-
-int asn1PD_UMTS_Event1a(rtxContext* RT_RESTRICT ctx, Event1a* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a");
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a");
-   /* reportingRange */
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a");
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a");
-   }
-   /* w */
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a");
-   /* reportDeactivationThreshold */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a");
-   /* reportingAmount */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a");
-   /* reportingInterval */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a");
-   return 0;
-}
-
-int asn1PD_UMTS_TriggeringCondition1(rtxContext* RT_RESTRICT ctx, TriggeringCondition1* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TriggeringCondition1");
-   return 0;
-}
-
-int asn1PD_UMTS_Event1b(rtxContext* RT_RESTRICT ctx, Event1b* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b");
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b");
-   /* reportingRange */
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b");
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b");
-   }
-   /* w */
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b");
-   return 0;
-}
-
-int asn1PD_UMTS_ReplacementActivationThreshold(rtxContext* RT_RESTRICT ctx, ReplacementActivationThreshold* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReplacementActivationThreshold");
-   return 0;
-}
-
-int asn1PD_UMTS_Event1c(rtxContext* RT_RESTRICT ctx, Event1c* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* replacementActivationThreshold */
-   stat = pd_ConsUnsigned(ctx, &pvalue->replacementActivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1c");
-   /* reportingAmount */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1c");
-   /* reportingInterval */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1c");
-   return 0;
-}
-
-int asn1PD_UMTS_ThresholdUsedFrequency(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt16(ctx, pvalue, -115, 165);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdUsedFrequency");
-   return 0;
-}
-
-int asn1PD_UMTS_Event1e(rtxContext* RT_RESTRICT ctx, Event1e* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1e");
-   /* thresholdUsedFrequency */
-   stat = pd_ConsInt16(ctx, &pvalue->thresholdUsedFrequency, -115, 165);
-   RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1e");
-   return 0;
-}
-
-int asn1PD_UMTS_Event1f(rtxContext* RT_RESTRICT ctx, Event1f* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1f");
-   /* thresholdUsedFrequency */
-   stat = pd_ConsInt16(ctx, &pvalue->thresholdUsedFrequency, -115, 165);
-   RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1f");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v770ext_IEs, pvalue);
 }
 

@@ -6,814 +6,4462 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_IntraFreqEvent(rtxContext* RT_RESTRICT ctx, IntraFreqEvent* RT_RESTRICT pvalue)
+/* The bodies of this unit. */
+RT_MERGED_BODY int dec_SysInfoType5_v860ext_IEs_dummy(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_dummy* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_321(rtxContext* RT_RESTRICT ctx, T_321* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_DrxCycleFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCycleFach* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_DrxBurstFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxBurstFach* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_DrxCellfach_info(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCellfach_info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_ChannelisationCode_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCode_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128_r6(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_HS_SCCH_TDD128_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_SystemInfo_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Bler_Target(rtxContext* RT_RESTRICT ctx, Bler_Target* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_SystemInfo_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_PDSCH_Midamble_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, HS_PDSCH_Midamble_Configuration_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_HS_DSCH_CommonSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_OccurrenceSequenceNumberOfPICH(rtxContext* RT_RESTRICT ctx, OccurrenceSequenceNumberOfPICH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PICH_ForHSDPASupportedPaging_TDD128_implicit(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging_TDD128_implicit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PICH_ForHSDPASupportedPaging_TDD128(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CodeResourceInformation_TDD128(rtxContext* RT_RESTRICT ctx, CodeResourceInformation_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PCCH_InformationList_paging_associatedHspdschInfo_element(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_paging_associatedHspdschInfo_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PCCH_InformationList_paging_associatedHspdschInfo(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_paging_associatedHspdschInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PCCH_InformationList_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_transportBlockSizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PCCH_InformationList(rtxContext* RT_RESTRICT ctx, PCCH_InformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_PagingSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_DrxCellfach_info_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCellfach_info_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType5_v860ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UARFCN(rtxContext* RT_RESTRICT ctx, UARFCN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FrequencyInfoTDD(rtxContext* RT_RESTRICT ctx, FrequencyInfoTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_MAC_d_FlowPowerOffset(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowPowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_MAC_d_FlowMaxRetrans(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMaxRetrans* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_MAC_d_FlowMultiplexingList(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMultiplexingList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_MAC_d_FlowRetransTimer(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowRetransTimer* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Common_E_DCH_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, Common_E_DCH_MAC_d_Flow* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Common_E_DCH_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, Common_E_DCH_MAC_d_FlowList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PRACH_PreambleForEnhancedUplink(rtxContext* RT_RESTRICT ctx, PRACH_PreambleForEnhancedUplink* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_TTI(rtxContext* RT_RESTRICT ctx, E_DCH_TTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_AGCH_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information(rtxContext* RT_RESTRICT ctx, E_AGCH_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TPC_StepSizeFDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PowerControlAlgorithm(rtxContext* RT_RESTRICT ctx, PowerControlAlgorithm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeltaACK(rtxContext* RT_RESTRICT ctx, DeltaACK* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeltaNACK(rtxContext* RT_RESTRICT ctx, DeltaNACK* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ACK_NACK_repetitionFactor(rtxContext* RT_RESTRICT ctx, ACK_NACK_repetitionFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCHpowerControlInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, UL_DPCHpowerControlInfoForCommonEDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPCCH_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, E_DPCCH_DPCCH_PowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HappyBit_DelayCondition(rtxContext* RT_RESTRICT ctx, HappyBit_DelayCondition* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_TFC_Boost_Info_r7(rtxContext* RT_RESTRICT ctx, E_TFC_Boost_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_PowerInterpolation(rtxContext* RT_RESTRICT ctx, E_DPDCH_PowerInterpolation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPCCH_Info_r7(rtxContext* RT_RESTRICT ctx, E_DPCCH_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_TFCI_TableIndex(rtxContext* RT_RESTRICT ctx, E_TFCI_TableIndex* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_MinimumSet_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DCH_MinimumSet_E_TFCI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_Reference_E_TFCI_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCI_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_Reference_E_TFCIList_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCIList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MinReduced_E_DPDCH_GainFactor(rtxContext* RT_RESTRICT ctx, MinReduced_E_DPDCH_GainFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_MaxChannelisationCodes(rtxContext* RT_RESTRICT ctx, E_DPDCH_MaxChannelisationCodes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_PL_NonMax(rtxContext* RT_RESTRICT ctx, E_DPDCH_PL_NonMax* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_PeriodicyOfSchedInfo(rtxContext* RT_RESTRICT ctx, E_DPDCH_PeriodicyOfSchedInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_SchedulingInfoConfiguration(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingInfoConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_E_DPDCH_Info_r8(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementPowerOffset(rtxContext* RT_RESTRICT ctx, MeasurementPowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Feedback_cycle_r7(rtxContext* RT_RESTRICT ctx, Feedback_cycle_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CQI_RepetitionFactor(rtxContext* RT_RESTRICT ctx, CQI_RepetitionFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeltaCQI(rtxContext* RT_RESTRICT ctx, DeltaCQI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Measurement_Feedback_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Measurement_Feedback_Info_r7(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_RGCH_SignatureSequence(rtxContext* RT_RESTRICT ctx, E_HICH_RGCH_SignatureSequence* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RGCH_CombinationIndex(rtxContext* RT_RESTRICT ctx, E_RGCH_CombinationIndex* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RGCH_Information(rtxContext* RT_RESTRICT ctx, E_RGCH_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_HICH_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information(rtxContext* RT_RESTRICT ctx, E_HICH_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ScramblingCodeType(rtxContext* RT_RESTRICT ctx, ScramblingCodeType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_ScramblingCode(rtxContext* RT_RESTRICT ctx, UL_ScramblingCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_CodeInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, UL_DPCH_CodeInfoForCommonEDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, Common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_TDD128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_RUCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_TDD128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_WAIT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_TDD128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_SI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_AccessServiceClass(rtxContext* RT_RESTRICT ctx, E_RUCCH_AccessServiceClass* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SYNC_UL_InfoForE_RUCCH(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_ChanCodes_List_LCR(rtxContext* RT_RESTRICT ctx, PRACH_ChanCodes_List_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRACH_Information_LCR(rtxContext* RT_RESTRICT ctx, PRACH_Information_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PRACH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, PRACH_Information_LCR_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Reference_Beta_QPSK(rtxContext* RT_RESTRICT ctx, Reference_Beta_QPSK* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_TFCS_Info_reference_Beta_QPSK_List(rtxContext* RT_RESTRICT ctx, E_TFCS_Info_reference_Beta_QPSK_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Reference_Beta_16QAM(rtxContext* RT_RESTRICT ctx, Reference_Beta_16QAM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_TFCS_Info_reference_Beta_16QAM_List(rtxContext* RT_RESTRICT ctx, E_TFCS_Info_reference_Beta_16QAM_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_TFCS_Info(rtxContext* RT_RESTRICT ctx, E_TFCS_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_Info_TDD128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_snpl_ReportType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TPC_StepSizeTDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, UL_SynchronisationParameters_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots_LCR_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_TS_Slots_LCR(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_Info_TDD128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_retransTimerForSchedInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_LCR(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_LCR_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Individual_LCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Set_Config_LCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RNTI(rtxContext* RT_RESTRICT ctx, E_RNTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Common_E_RNTI_Info_element(rtxContext* RT_RESTRICT ctx, Common_E_RNTI_Info_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Common_E_RNTI_Info(rtxContext* RT_RESTRICT ctx, Common_E_RNTI_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v890ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v890ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UpPCHposition_LCR(rtxContext* RT_RESTRICT ctx, UpPCHposition_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v8b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfoFDD_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_harq_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CommonEDCHSystemInfoFDD(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v8d0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8d0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType5(rtxContext* RT_RESTRICT ctx, SysInfoType5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAT_Type(rtxContext* RT_RESTRICT ctx, RAT_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FACH_MeasurementOccasionInfo(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementIdentity(rtxContext* RT_RESTRICT ctx, MeasurementIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellID(rtxContext* RT_RESTRICT ctx, IntraFreqCellID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RemovedIntraFreqCellList_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellList_removeSomeIntraFreqCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RemovedIntraFreqCellList(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellIndividualOffset(rtxContext* RT_RESTRICT ctx, CellIndividualOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReferenceTimeDifferenceToCell(rtxContext* RT_RESTRICT ctx, ReferenceTimeDifferenceToCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryScramblingCode(rtxContext* RT_RESTRICT ctx, PrimaryScramblingCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCPICH_Info(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BurstType(rtxContext* RT_RESTRICT ctx, BurstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotInfo(rtxContext* RT_RESTRICT ctx, TimeslotInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotInfoList(rtxContext* RT_RESTRICT ctx, TimeslotInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfoSI_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Q_OffsetS_N(rtxContext* RT_RESTRICT ctx, Q_OffsetS_N* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellSelectReselectInfoSIB_11_12_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellInfoSI_RSCP(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FilterCoefficient(rtxContext* RT_RESTRICT ctx, FilterCoefficient* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_TDDList(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SFN_SFN_OTD_Type(rtxContext* RT_RESTRICT ctx, SFN_SFN_OTD_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_FDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportingQuantityForRACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportingQuantityForRACH(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxReportedCellsOnRACH(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellReportingQuantities_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellReportingQuantities_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellReportingQuantities_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellReportingQuantities(rtxContext* RT_RESTRICT ctx, CellReportingQuantities* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TransferMode(rtxContext* RT_RESTRICT ctx, TransferMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PeriodicalOrEventTrigger(rtxContext* RT_RESTRICT ctx, PeriodicalOrEventTrigger* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementReportingMode(rtxContext* RT_RESTRICT ctx, MeasurementReportingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TriggeringCondition2(rtxContext* RT_RESTRICT ctx, TriggeringCondition2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReportingRange(rtxContext* RT_RESTRICT ctx, ReportingRange* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ForbiddenAffectCell(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ForbiddenAffectCellList(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_W(rtxContext* RT_RESTRICT ctx, W* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReportDeactivationThreshold(rtxContext* RT_RESTRICT ctx, ReportDeactivationThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReportingAmount(rtxContext* RT_RESTRICT ctx, ReportingAmount* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReportingInterval(rtxContext* RT_RESTRICT ctx, ReportingInterval* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1a(rtxContext* RT_RESTRICT ctx, Event1a* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TriggeringCondition1(rtxContext* RT_RESTRICT ctx, TriggeringCondition1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1b(rtxContext* RT_RESTRICT ctx, Event1b* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReplacementActivationThreshold(rtxContext* RT_RESTRICT ctx, ReplacementActivationThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1c(rtxContext* RT_RESTRICT ctx, Event1c* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ThresholdUsedFrequency(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1e(rtxContext* RT_RESTRICT ctx, Event1e* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1f(rtxContext* RT_RESTRICT ctx, Event1f* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEvent(rtxContext* RT_RESTRICT ctx, IntraFreqEvent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Hysteresis(rtxContext* RT_RESTRICT ctx, Hysteresis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeToTrigger(rtxContext* RT_RESTRICT ctx, TimeToTrigger* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxNumberOfReportingCellsType1(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxNumberOfReportingCellsType3(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxNumberOfReportingCellsType2(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ReportingCellStatus(rtxContext* RT_RESTRICT ctx, ReportingCellStatus* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaList(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReportingIntervalLong(rtxContext* RT_RESTRICT ctx, ReportingIntervalLong* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PeriodicalReportingCriteria(rtxContext* RT_RESTRICT ctx, PeriodicalReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellDCH_ReportCriteria(rtxContext* RT_RESTRICT ctx, CellDCH_ReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ReportingInfoForCellDCH(rtxContext* RT_RESTRICT ctx, ReportingInfoForCellDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellID(rtxContext* RT_RESTRICT ctx, InterFreqCellID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RemovedInterFreqCellList_removeSomeInterFreqCells(rtxContext* RT_RESTRICT ctx, RemovedInterFreqCellList_removeSomeInterFreqCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RemovedInterFreqCellList(rtxContext* RT_RESTRICT ctx, RemovedInterFreqCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FrequencyInfoFDD(rtxContext* RT_RESTRICT ctx, FrequencyInfoFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FrequencyInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, FrequencyInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FrequencyInfo(rtxContext* RT_RESTRICT ctx, FrequencyInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_NewInterFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfoSI_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellSelectReselectInfoSIB_11_12_ECN0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellInfoSI_ECN0(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_NewInterFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATCellID(rtxContext* RT_RESTRICT ctx, InterRATCellID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RemovedInterRATCellList_removeSomeInterRATCells(rtxContext* RT_RESTRICT ctx, RemovedInterRATCellList_removeSomeInterRATCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RemovedInterRATCellList(rtxContext* RT_RESTRICT ctx, RemovedInterRATCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TemporaryOffset1(rtxContext* RT_RESTRICT ctx, TemporaryOffset1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PenaltyTime_RSCP(rtxContext* RT_RESTRICT ctx, PenaltyTime_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HCS_CellReselectInformation_RSCP(rtxContext* RT_RESTRICT ctx, HCS_CellReselectInformation_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HCS_NeighbouringCellInformation_RSCP(rtxContext* RT_RESTRICT ctx, HCS_NeighbouringCellInformation_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellSelectReselectInfoSIB_11_12(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATCellIndividualOffset(rtxContext* RT_RESTRICT ctx, InterRATCellIndividualOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NCC(rtxContext* RT_RESTRICT ctx, NCC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BCC(rtxContext* RT_RESTRICT ctx, BCC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BSIC(rtxContext* RT_RESTRICT ctx, BSIC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Frequency_Band(rtxContext* RT_RESTRICT ctx, Frequency_Band* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BCCH_ARFCN(rtxContext* RT_RESTRICT ctx, BCCH_ARFCN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IS_2000SpecificMeasInfo(rtxContext* RT_RESTRICT ctx, IS_2000SpecificMeasInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterRATCell_B_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo_is_2000* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterRATCell_B_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterRATCell_B(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterRATCellList_B(rtxContext* RT_RESTRICT ctx, NewInterRATCellList_B* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATCellInfoList_B(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_B* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasurementSysInfo_B(rtxContext* RT_RESTRICT ctx, InterRATMeasurementSysInfo_B* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfoSI_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellInfoSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_NewInterFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfoSI_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TemporaryOffset2(rtxContext* RT_RESTRICT ctx, TemporaryOffset2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TemporaryOffsetList(rtxContext* RT_RESTRICT ctx, TemporaryOffsetList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PenaltyTime_ECN0(rtxContext* RT_RESTRICT ctx, PenaltyTime_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HCS_CellReselectInformation_ECN0(rtxContext* RT_RESTRICT ctx, HCS_CellReselectInformation_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HCS_NeighbouringCellInformation_ECN0(rtxContext* RT_RESTRICT ctx, HCS_NeighbouringCellInformation_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellInfoSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_NewInterFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterRATCell_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo_is_2000* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterRATCell_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterRATCell(rtxContext* RT_RESTRICT ctx, NewInterRATCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_NewInterRATCellList(rtxContext* RT_RESTRICT ctx, NewInterRATCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellsForInterRATMeasList(rtxContext* RT_RESTRICT ctx, CellsForInterRATMeasList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterRATCellInfoList(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, InterRATMeasurementSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasurementControlSysInfo_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TrCH_Identity(rtxContext* RT_RESTRICT ctx, UL_TrCH_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TrafficVolumeMeasurementObjectList(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasurementObjectList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeInterval(rtxContext* RT_RESTRICT ctx, TimeInterval* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TrafficVolumeMeasQuantity(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TrafficVolumeReportingQuantity(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TrafficVolumeEventType(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TrafficVolumeThreshold(rtxContext* RT_RESTRICT ctx, TrafficVolumeThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PendingTimeAfterTrigger(rtxContext* RT_RESTRICT ctx, PendingTimeAfterTrigger* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TX_InterruptionAfterTrigger(rtxContext* RT_RESTRICT ctx, TX_InterruptionAfterTrigger* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TrafficVolumeEventParam(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventParam* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TransChCriteria_eventSpecificParameters(rtxContext* RT_RESTRICT ctx, TransChCriteria_eventSpecificParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TransChCriteria(rtxContext* RT_RESTRICT ctx, TransChCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TransChCriteriaList(rtxContext* RT_RESTRICT ctx, TransChCriteriaList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TrafficVolumeReportingCriteria(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementValidity_ue_State(rtxContext* RT_RESTRICT ctx, MeasurementValidity_ue_State* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementValidity(rtxContext* RT_RESTRICT ctx, MeasurementValidity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TrafficVolumeReportCriteriaSysInfo(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportCriteriaSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TrafficVolumeMeasSysInfo(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_MeasurementQuantity(rtxContext* RT_RESTRICT ctx, UE_MeasurementQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalMeasQuantity(rtxContext* RT_RESTRICT ctx, UE_InternalMeasQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurementSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasurementControlSysInfo(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+
+/* Bodies held by other units. */
+RT_DECODE_EXTERN(H_RNTI)
+RT_DECODE_EXTERN(CommonRBMappingInfo)
+RT_DECODE_EXTERN(Common_MAC_ehs_ReorderingQueueList)
+RT_DECODE_EXTERN(HARQ_Info)
+RT_DECODE_EXTERN(PICH_Info_LCR_r4)
+RT_DECODE_EXTERN(AvailableSignatures)
+RT_DECODE_EXTERN(AvailableSubChannelNumbers)
+RT_DECODE_EXTERN(PRACH_Partitioning_r7)
+RT_DECODE_EXTERN(PersistenceScalingFactorList)
+RT_DECODE_EXTERN(AC_To_ASC_MappingTable)
+RT_DECODE_EXTERN(PRACH_PowerOffset)
+RT_DECODE_EXTERN(RACH_TransmissionParameters)
+RT_DECODE_EXTERN(AICH_Info)
+RT_DECODE_EXTERN(PRACH_Partitioning_LCR_r4)
+RT_DECODE_EXTERN(Sync_UL_Codes_Bitmap)
+RT_DECODE_EXTERN(MidambleShiftAndBurstType_LCR_r4)
+RT_DECODE_EXTERN(FPACH_Info_r4)
+RT_DECODE_EXTERN(SysInfoType5_v770ext_IEs)
+RT_DECODE_EXTERN(SysInfoType5_v690ext_IEs)
+RT_DECODE_EXTERN(SysInfoType5_v680ext_IEs)
+RT_DECODE_EXTERN(SysInfoType5_v650ext_IEs)
+RT_DECODE_EXTERN(SysInfoType5_v590ext_IEs)
+RT_DECODE_EXTERN(SysInfoType5_v4b0ext_IEs)
+RT_DECODE_EXTERN(SysInfoType5_modeSpecificInfo)
+RT_DECODE_EXTERN(PrimaryCCPCH_Info)
+RT_DECODE_EXTERN(PRACH_SystemInformationList)
+RT_DECODE_EXTERN(SCCPCH_SystemInformationList)
+RT_DECODE_EXTERN(CBS_DRX_Level1Information)
+
+RT_MERGED_BODY int dec_SysInfoType5_v860ext_IEs_dummy(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_dummy* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEvent");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e1a */
-         pvalue->u.e1a = (Event1a*)rtxMemHeapAlloc(ctx, sizeof(Event1a));
-         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEvent");
-         asn1Init_UMTS_Event1a(pvalue->u.e1a);
-         stat = asn1PD_UMTS_Event1a(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent");
-         break;
-      case 1: /* e1b */
-         pvalue->u.e1b = (Event1b*)rtxMemHeapAlloc(ctx, sizeof(Event1b));
-         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEvent");
-         asn1Init_UMTS_Event1b(pvalue->u.e1b);
-         stat = asn1PD_UMTS_Event1b(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent");
-         break;
-      case 2: /* e1c */
-         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
-         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEvent");
-         stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent");
-         break;
-      case 3: /* e1d */
-         break;
-      case 4: /* e1e */
-         pvalue->u.e1e = (Event1e*)rtxMemHeapAllocZ(ctx, sizeof(Event1e));
-         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEvent");
-         stat = asn1PD_UMTS_Event1e(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent");
-         break;
-      case 5: /* e1f */
-         pvalue->u.e1f = (Event1f*)rtxMemHeapAllocZ(ctx, sizeof(Event1f));
-         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEvent");
-         stat = asn1PD_UMTS_Event1f(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent");
-         break;
-      case 6: /* e1g */
-         break;
-      case 7: /* e1h */
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1h, -115, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent");
-         break;
-      case 8: /* e1i */
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1i, -115, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent");
-   }
+   int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_Hysteresis(rtxContext* RT_RESTRICT ctx, Hysteresis* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType5_v860ext_IEs_dummy(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_dummy* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v860ext_IEs_dummy, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_321(rtxContext* RT_RESTRICT ctx, T_321* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Hysteresis");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-321");
    return 0;
 }
 
-int asn1PD_UMTS_TimeToTrigger(rtxContext* RT_RESTRICT ctx, TimeToTrigger* RT_RESTRICT pvalue)
+int asn1PD_UMTS_T_321(rtxContext* RT_RESTRICT ctx, T_321* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_T_321, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_DrxCycleFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCycleFach* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeToTrigger");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-DrxCycleFach");
    return 0;
 }
 
-int asn1PD_UMTS_MaxNumberOfReportingCellsType1(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType1* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_DSCH_DrxCycleFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCycleFach* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_DrxCycleFach, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_DrxBurstFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxBurstFach* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfReportingCellsType1");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-DrxBurstFach");
    return 0;
 }
 
-int asn1PD_UMTS_MaxNumberOfReportingCellsType3(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType3* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_DSCH_DrxBurstFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxBurstFach* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfReportingCellsType3");
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_DrxBurstFach, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_DrxCellfach_info(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCellfach_info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* t-321 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_321, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info");
+   /* hs-dsch-DrxCycleFach */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->hs_dsch_DrxCycleFach, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info");
+   /* hs-dsch-DrxBurstFach */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->hs_dsch_DrxBurstFach, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info");
+   /* drxInterruption-hs-dsch */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->drxInterruption_hs_dsch);
+   RT_CHECK_AT(ctx, cur, stat, 0, "drxInterruption-hs-dsch", -1, "HS-DSCH-DrxCellfach-info");
    return 0;
 }
 
-int asn1PD_UMTS_MaxNumberOfReportingCellsType2(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType2* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_DSCH_DrxCellfach_info(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCellfach_info* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfReportingCellsType2");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_DrxCellfach_info, pvalue);
 }
 
-int asn1PD_UMTS_ReportingCellStatus(rtxContext* RT_RESTRICT ctx, ReportingCellStatus* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingCellStatus");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* withinActiveSet */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.withinActiveSet, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinActiveSet", -1, "ReportingCellStatus");
-         break;
-      case 1: /* withinMonitoredSetUsedFreq */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.withinMonitoredSetUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredSetUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 2: /* withinActiveAndOrMonitoredUsedFreq */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.withinActiveAndOrMonitoredUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinActiveAndOrMonitoredUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 3: /* withinDetectedSetUsedFreq */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.withinDetectedSetUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinDetectedSetUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 4: /* withinMonitoredAndOrDetectedUsedFreq */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.withinMonitoredAndOrDetectedUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrDetectedUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 5: /* allActiveplusMonitoredSet */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.allActiveplusMonitoredSet, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allActiveplusMonitoredSet", -1, "ReportingCellStatus");
-         break;
-      case 6: /* allActivePlusDetectedSet */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.allActivePlusDetectedSet, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allActivePlusDetectedSet", -1, "ReportingCellStatus");
-         break;
-      case 7: /* allActivePlusMonitoredAndOrDetectedSet */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.allActivePlusMonitoredAndOrDetectedSet, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allActivePlusMonitoredAndOrDetectedSet", -1, "ReportingCellStatus");
-         break;
-      case 8: /* withinVirtualActSet */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.withinVirtualActSet, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinVirtualActSet", -1, "ReportingCellStatus");
-         break;
-      case 9: /* withinMonitoredSetNonUsedFreq */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.withinMonitoredSetNonUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 10: /* withinMonitoredAndOrVirtualActiveSetNonUsedFreq */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.withinMonitoredAndOrVirtualActiveSetNonUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrVirtualActiveSetNonUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 11: /* allVirtualActSetplusMonitoredSetNonUsedFreq */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.allVirtualActSetplusMonitoredSetNonUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allVirtualActSetplusMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 12: /* withinActSetOrVirtualActSet-InterRATcells */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.withinActSetOrVirtualActSet_InterRATcells, 0, 11);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType2", "withinActSetOrVirtualActSet-InterRATcells", -1, "ReportingCellStatus");
-         break;
-      case 13: /* withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq, 0, 11);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType2", "withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq", -1, "ReportingCellStatus");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ReportingCellStatus");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria");
-   /* event */
-   stat = asn1PD_UMTS_IntraFreqEvent(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria");
-   /* reportingCellStatus */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-dsch-DrxCellfach-info */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria");
+      stat = dec_HS_DSCH_DrxCellfach_info(ctx, &pvalue->hs_dsch_DrxCellfach_info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-DrxCellfach-info", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqEventCriteriaList(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_ChannelisationCode_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCode_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-ChannelisationCode-LCR");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_ChannelisationCode_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCode_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_ChannelisationCode_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD128_r6_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128_r6(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128-r6");
+   /* channelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128-r6");
+   /* midambleAllocationMode */
+   stat = dec_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD128-r6");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD128_r6, pvalue);
+}
+
+static int dec_HS_SCCH_TDD128_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-r6");
+   /* firstChannelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-r6");
+   /* secondChannelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-r6");
+   /* midambleAllocationMode */
+   stat = dec_HS_SCCH_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128-r6");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-r6");
+   /* hs-sich-configuration */
+   stat = dec_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hs_sich_configuration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD128_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD128_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD128_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD128_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_SCCH_TDD128_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_SystemInfo_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_tpc_step_size* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_SystemInfo_TDD128_tpc_step_size, pvalue);
+}
+
+RT_MERGED_BODY int dec_Bler_Target(rtxContext* RT_RESTRICT ctx, Bler_Target* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Bler-Target");
+   return 0;
+}
+
+int asn1PD_UMTS_Bler_Target(rtxContext* RT_RESTRICT ctx, Bler_Target* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Bler_Target, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_SystemInfo_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-SCCH-SystemInfo-TDD128");
+   /* hs-SCCH-SetConfiguration */
+   stat = dec_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(ctx, &pvalue->hs_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SCCH-SetConfiguration", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* power-level-HSSICH */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK_AT(ctx, cur, stat, 0, "power-level-HSSICH", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* tpc-step-size */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tpc_step_size, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tpc-step-size", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* bler-target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* power-control-gap */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->power_control_gap, 1, 255);
+      RT_CHECK_AT(ctx, cur, stat, 0, "power-control-gap", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   /* pathloss-compensation-switch */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->pathloss_compensation_switch);
+      RT_CHECK_AT(ctx, cur, stat, 0, "pathloss-compensation-switch", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_SystemInfo_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_PDSCH_Midamble_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, HS_PDSCH_Midamble_Configuration_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleAllocationMode */
+   stat = dec_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, HS_PDSCH_Midamble_Configuration_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_PDSCH_Midamble_Configuration_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "common-H-RNTI-information");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      asn1Init_UMTS_H_RNTI(&pvalue->elem[i]);
+      stat = dec_H_RNTI(ctx, &pvalue->elem[i], cur);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, 0, "H-RNTI", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information, pvalue);
+}
+
+static int dec_HS_DSCH_CommonSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* ccch-MappingInfo */
+   stat = dec_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ccch-MappingInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* srb1-MappingInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "srb1-MappingInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   }
+   /* common-MAC-ehs-ReorderingQueueList */
+   stat = dec_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList, cur);
+   RT_CHECK(ctx, stat, 0, "common-MAC-ehs-ReorderingQueueList", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* hs-scch-SystemInfo-tdd128 */
+   stat = dec_HS_SCCH_SystemInfo_TDD128(ctx, &pvalue->hs_scch_SystemInfo_tdd128, cur);
+   RT_CHECK(ctx, stat, 0, "hs-scch-SystemInfo-tdd128", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* harq-SystemInfo */
+   stat = dec_HARQ_Info(ctx, &pvalue->harq_SystemInfo, cur);
+   RT_CHECK(ctx, stat, 0, "harq-SystemInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* hs-pdsch-MidambleConfiguration */
+   stat = dec_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-pdsch-MidambleConfiguration", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* common-H-RNTI-information */
+   stat = dec_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information, cur);
+   RT_CHECK(ctx, stat, 0, "common-H-RNTI-information", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* bcchSpecific-H-RNTI */
+   stat = dec_H_RNTI(ctx, &pvalue->bcchSpecific_H_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "bcchSpecific-H-RNTI", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_CommonSystemInformation_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_OccurrenceSequenceNumberOfPICH(rtxContext* RT_RESTRICT ctx, OccurrenceSequenceNumberOfPICH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "OccurrenceSequenceNumberOfPICH");
+   return 0;
+}
+
+int asn1PD_UMTS_OccurrenceSequenceNumberOfPICH(rtxContext* RT_RESTRICT ctx, OccurrenceSequenceNumberOfPICH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_OccurrenceSequenceNumberOfPICH, pvalue);
+}
+
+RT_MERGED_BODY int dec_PICH_ForHSDPASupportedPaging_TDD128_implicit(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging_TDD128_implicit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* occurrenceSequenceNumberOfPICH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->occurrenceSequenceNumberOfPICH, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "OccurrenceSequenceNumberOfPICH", "occurrenceSequenceNumberOfPICH", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging_TDD128_implicit* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PICH_ForHSDPASupportedPaging_TDD128_implicit, pvalue);
+}
+
+RT_MERGED_BODY int dec_PICH_ForHSDPASupportedPaging_TDD128(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PICH-ForHSDPASupportedPaging-TDD128");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* implicit */
+         pvalue->u.implicit = (PICH_ForHSDPASupportedPaging_TDD128_implicit*)rtxMemHeapAlloc(ctx, sizeof(PICH_ForHSDPASupportedPaging_TDD128_implicit));
+         if (pvalue->u.implicit == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "implicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         asn1Init_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(pvalue->u.implicit);
+         stat = dec_PICH_ForHSDPASupportedPaging_TDD128_implicit(ctx, pvalue->u.implicit, cur);
+         RT_CHECK(ctx, stat, 0, "implicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         break;
+      case 1: /* explicit */
+         pvalue->u.explicit_ = (PICH_Info_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(PICH_Info_LCR_r4));
+         if (pvalue->u.explicit_ == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         asn1Init_UMTS_PICH_Info_LCR_r4(pvalue->u.explicit_);
+         stat = dec_PICH_Info_LCR_r4(ctx, pvalue->u.explicit_, cur);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PICH-ForHSDPASupportedPaging-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PICH_ForHSDPASupportedPaging_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PICH_ForHSDPASupportedPaging_TDD128* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PICH_ForHSDPASupportedPaging_TDD128));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PICH-ForHSDPASupportedPaging-TDD128", (int32_t)i, 0);
+      elem = (PICH_ForHSDPASupportedPaging_TDD128*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PICH_ForHSDPASupportedPaging_TDD128(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PICH_ForHSDPASupportedPaging_TDD128(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PICH-ForHSDPASupportedPaging-TDD128", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CodeResourceInformation_TDD128(rtxContext* RT_RESTRICT ctx, CodeResourceInformation_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* start-code */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->start_code, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "start-code", -1, "CodeResourceInformation-TDD128");
+   /* stop-code */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->stop_code, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "stop-code", -1, "CodeResourceInformation-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_CodeResourceInformation_TDD128(rtxContext* RT_RESTRICT ctx, CodeResourceInformation_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CodeResourceInformation_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_PCCH_InformationList_paging_associatedHspdschInfo_element(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_paging_associatedHspdschInfo_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* hs-pdsch-MidambleConfiguration */
+   stat = dec_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-pdsch-MidambleConfiguration", -1, 0);
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 6, 6);
+   stat = pd_BitString32At(ctx, cur, &pvalue->timeslotResourceRelatedInfo, 6, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* codeResourceInformation */
+   stat = dec_CodeResourceInformation_TDD128(ctx, &pvalue->codeResourceInformation, cur);
+   RT_CHECK(ctx, stat, 0, "codeResourceInformation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_paging_associatedHspdschInfo_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PCCH_InformationList_paging_associatedHspdschInfo_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_PCCH_InformationList_paging_associatedHspdschInfo(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_paging_associatedHspdschInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PCCH_InformationList_paging_associatedHspdschInfo_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PCCH_InformationList_paging_associatedHspdschInfo_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (PCCH_InformationList_paging_associatedHspdschInfo_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PCCH_InformationList_paging_associatedHspdschInfo_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_paging_associatedHspdschInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PCCH_InformationList_paging_associatedHspdschInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PCCH_InformationList_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_transportBlockSizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 1, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "transportBlockSizeList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 32);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PCCH_InformationList_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_transportBlockSizeList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PCCH_InformationList_transportBlockSizeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PCCH_InformationList(rtxContext* RT_RESTRICT ctx, PCCH_InformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* paging-associatedHspdschInfo */
+   stat = dec_PCCH_InformationList_paging_associatedHspdschInfo(ctx, &pvalue->paging_associatedHspdschInfo, cur);
+   RT_CHECK(ctx, stat, 0, "paging-associatedHspdschInfo", -1, "PCCH-InformationList");
+   /* paging-sub-Channel-size */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->paging_sub_Channel_size, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "paging-sub-Channel-size", -1, "PCCH-InformationList");
+   /* transportBlockSizeList */
+   stat = dec_PCCH_InformationList_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList, cur);
+   RT_CHECK(ctx, stat, 0, "transportBlockSizeList", -1, "PCCH-InformationList");
+   return 0;
+}
+
+int asn1PD_UMTS_PCCH_InformationList(rtxContext* RT_RESTRICT ctx, PCCH_InformationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PCCH_InformationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_PagingSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* pich-ForHsdschList */
+   stat = dec_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(ctx, &pvalue->pich_ForHsdschList, cur);
+   RT_CHECK(ctx, stat, 0, "pich-ForHsdschList", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* dtch-DCCH-reception-window-size */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dtch_DCCH_reception_window_size, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dtch-DCCH-reception-window-size", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* pcch-InformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PCCH_InformationList(ctx, &pvalue->pcch_InformationList, cur);
+      RT_CHECK(ctx, stat, 0, "pcch-InformationList", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_PagingSystemInformation_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-dsch-CommonSystemInformation */
+   stat = dec_HS_DSCH_CommonSystemInformation_TDD128(ctx, &pvalue->hs_dsch_CommonSystemInformation, cur);
+   RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSystemInformation", -1, 0);
+   /* hs-dsch-PagingSystemInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HS_DSCH_PagingSystemInformation_TDD128(ctx, &pvalue->hs_dsch_PagingSystemInformation, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-PagingSystemInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_DrxCellfach_info_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCellfach_info_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* t-321 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_321, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   /* hs-dsch-DrxCycleFach */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->hs_dsch_DrxCycleFach, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   /* hs-dsch-DrxBurstFach */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->hs_dsch_DrxBurstFach, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_DrxCellfach_info_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCellfach_info_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_DrxCellfach_info_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-dsch-CommonSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(ctx, &pvalue->hs_dsch_CommonSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSysInfo", -1, 0);
+   }
+   /* hs-dsch-DrxCellfach-info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_HS_DSCH_DrxCellfach_info_TDD128(ctx, &pvalue->hs_dsch_DrxCellfach_info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-DrxCellfach-info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128, pvalue);
+}
+
+static int dec_SysInfoType5_v860ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(pvalue->u.tdd128);
+         stat = dec_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v860ext_IEs_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v860ext-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v860ext_IEs_dummy(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType5-v860ext-IEs");
+   }
+   /* modeSpecificInfo */
+   stat = dec_SysInfoType5_v860ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5-v860ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_UARFCN(rtxContext* RT_RESTRICT ctx, UARFCN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UARFCN");
+   return 0;
+}
+
+int asn1PD_UMTS_UARFCN(rtxContext* RT_RESTRICT ctx, UARFCN* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UARFCN, pvalue);
+}
+
+RT_MERGED_BODY int dec_FrequencyInfoTDD(rtxContext* RT_RESTRICT ctx, FrequencyInfoTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* uarfcn-Nt */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->uarfcn_Nt, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, "UARFCN", "uarfcn-Nt", -1, "FrequencyInfoTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_FrequencyInfoTDD(rtxContext* RT_RESTRICT ctx, FrequencyInfoTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FrequencyInfoTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-MAC-d-FlowIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_MAC_d_FlowIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_MAC_d_FlowPowerOffset(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowPowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-MAC-d-FlowPowerOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_MAC_d_FlowPowerOffset(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowPowerOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_MAC_d_FlowPowerOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_MAC_d_FlowMaxRetrans(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMaxRetrans* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-MAC-d-FlowMaxRetrans");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_MAC_d_FlowMaxRetrans(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMaxRetrans* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_MAC_d_FlowMaxRetrans, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_MAC_d_FlowMultiplexingList(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMultiplexingList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-MAC-d-FlowMultiplexingList");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_MAC_d_FlowMultiplexingList(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMultiplexingList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_MAC_d_FlowMultiplexingList, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_MAC_d_FlowRetransTimer(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowRetransTimer* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-MAC-d-FlowRetransTimer");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_MAC_d_FlowRetransTimer(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowRetransTimer* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_MAC_d_FlowRetransTimer, pvalue);
+}
+
+RT_MERGED_BODY int dec_Common_E_DCH_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, Common_E_DCH_MAC_d_Flow* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_d_FlowIdentity, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowPowerOffset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_d_FlowPowerOffset, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowMaxRetrans */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_d_FlowMaxRetrans, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowMultiplexingList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_DCH_MAC_d_FlowMultiplexingList(ctx, &pvalue->mac_d_FlowMultiplexingList, cur);
+      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   /* e-dch-mac-d-flow-retransmission-timer */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->e_dch_mac_d_flow_retransmission_timer, 0, 29);
+      RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowRetransTimer", "e-dch-mac-d-flow-retransmission-timer", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Common_E_DCH_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, Common_E_DCH_MAC_d_Flow* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Common_E_DCH_MAC_d_Flow, pvalue);
+}
+
+RT_MERGED_BODY int dec_Common_E_DCH_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, Common_E_DCH_MAC_d_FlowList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Common-E-DCH-MAC-d-FlowList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      IntraFreqEventCriteria* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IntraFreqEventCriteria", (int32_t)i, "IntraFreqEventCriteriaList");
-      elem = (IntraFreqEventCriteria*)(node + 1);
+      Common_E_DCH_MAC_d_Flow* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_DCH_MAC_d_Flow));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Common-E-DCH-MAC-d-Flow", (int32_t)i, "Common-E-DCH-MAC-d-FlowList");
+      elem = (Common_E_DCH_MAC_d_Flow*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_IntraFreqEventCriteria(elem);
+      asn1Init_UMTS_Common_E_DCH_MAC_d_Flow(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IntraFreqEventCriteria(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria", (int32_t)i, "IntraFreqEventCriteriaList");
+      stat = dec_Common_E_DCH_MAC_d_Flow(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Common-E-DCH-MAC-d-Flow", (int32_t)i, "Common-E-DCH-MAC-d-FlowList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Common_E_DCH_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, Common_E_DCH_MAC_d_FlowList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Common_E_DCH_MAC_d_FlowList, pvalue);
+}
+
+static int dec_PRACH_PreambleForEnhancedUplink(rtxContext* RT_RESTRICT ctx, PRACH_PreambleForEnhancedUplink* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria");
-   /* eventCriteriaList */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 8, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-PreambleForEnhancedUplink");
+   /* availableSignatures */
+   stat = dec_AvailableSignatures(ctx, &pvalue->availableSignatures, cur);
+   RT_CHECK(ctx, stat, 0, "availableSignatures", -1, "PRACH-PreambleForEnhancedUplink");
+   /* e-ai-Indication */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->e_ai_Indication);
+   RT_CHECK_AT(ctx, cur, stat, 0, "e-ai-Indication", -1, "PRACH-PreambleForEnhancedUplink");
+   /* preambleScramblingCodeWordNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->preambleScramblingCodeWordNumber, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, "PRACH-PreambleForEnhancedUplink");
+   /* availableSubChannelNumbers */
+   stat = dec_AvailableSubChannelNumbers(ctx, &pvalue->availableSubChannelNumbers, cur);
+   RT_CHECK(ctx, stat, 0, "availableSubChannelNumbers", -1, "PRACH-PreambleForEnhancedUplink");
+   /* prach-Partitioning */
+   if (present & ((uint32_t)1 << 7)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaList(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria");
+      stat = dec_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning, cur);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-PreambleForEnhancedUplink");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_ReportingIntervalLong(rtxContext* RT_RESTRICT ctx, ReportingIntervalLong* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingIntervalLong");
-   return 0;
-}
-
-int asn1PD_UMTS_PeriodicalReportingCriteria(rtxContext* RT_RESTRICT ctx, PeriodicalReportingCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PeriodicalReportingCriteria");
-   /* reportingAmount */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-      RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "PeriodicalReportingCriteria");
-   }
-   else {
-      pvalue->reportingAmount = 7;
-   }
-   /* reportingInterval */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 15);
-   RT_CHECK(ctx, stat, "ReportingIntervalLong", "reportingInterval", -1, "PeriodicalReportingCriteria");
-   return 0;
-}
-
-int asn1PD_UMTS_CellDCH_ReportCriteria(rtxContext* RT_RESTRICT ctx, CellDCH_ReportCriteria* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellDCH-ReportCriteria");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria");
-         asn1Init_UMTS_IntraFreqReportingCriteria(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria");
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellDCH-ReportCriteria");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ReportingInfoForCellDCH(rtxContext* RT_RESTRICT ctx, ReportingInfoForCellDCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* intraFreqReportingQuantity */
-   stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "ReportingInfoForCellDCH");
-   /* measurementReportingMode */
-   stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "ReportingInfoForCellDCH");
-   /* reportCriteria */
-   stat = asn1PD_UMTS_CellDCH_ReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "ReportingInfoForCellDCH");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP");
-   /* intraFreqMeasurementID */
-   if (present & ((uint32_t)1 << 5)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP");
-   }
-   else {
-      pvalue->intraFreqMeasurementID = 1;
-   }
-   /* intraFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-RSCP");
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
+   /* persistenceScalingFactorList */
+   if (present & ((uint32_t)1 << 6)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-RSCP");
+      stat = dec_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList, cur);
+      RT_CHECK(ctx, stat, 0, "persistenceScalingFactorList", -1, "PRACH-PreambleForEnhancedUplink");
    }
-   /* intraFreqReportingQuantityForRACH */
-   if (present & ((uint32_t)1 << 2)) {
+   /* ac-To-ASC-MappingTable */
+   if (present & ((uint32_t)1 << 5)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
+      stat = dec_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable, cur);
+      RT_CHECK(ctx, stat, 0, "ac-To-ASC-MappingTable", -1, "PRACH-PreambleForEnhancedUplink");
    }
-   /* maxReportedCellsOnRACH */
-   if (present & ((uint32_t)1 << 1)) {
+   /* primaryCPICH-TX-Power */
+   if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, "PRACH-PreambleForEnhancedUplink");
    }
-   /* reportingInfoForCellDCH */
-   if (present & ((uint32_t)1 << 0)) {
+   /* constantValue */
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-RSCP");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->constantValue, -35, -10);
+      RT_CHECK_AT(ctx, cur, stat, "ConstantValue", "constantValue", -1, "PRACH-PreambleForEnhancedUplink");
    }
+   /* prach-PowerOffset */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
+      stat = dec_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset, cur);
+      RT_CHECK(ctx, stat, 0, "prach-PowerOffset", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* rach-TransmissionParameters */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
+      stat = dec_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters, cur);
+      RT_CHECK(ctx, stat, 0, "rach-TransmissionParameters", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* aich-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
+      stat = dec_AICH_Info(ctx, &pvalue->aich_Info, cur);
+      RT_CHECK(ctx, stat, 0, "aich-Info", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* powerOffsetPp-e */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->powerOffsetPp_e, -5, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "powerOffsetPp-e", -1, "PRACH-PreambleForEnhancedUplink");
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqCellID(rtxContext* RT_RESTRICT ctx, InterFreqCellID* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PRACH_PreambleForEnhancedUplink(rtxContext* RT_RESTRICT ctx, PRACH_PreambleForEnhancedUplink* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_PreambleForEnhancedUplink, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_TTI(rtxContext* RT_RESTRICT ctx, E_DCH_TTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellID");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-TTI");
    return 0;
 }
 
-int asn1PD_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(rtxContext* RT_RESTRICT ctx, RemovedInterFreqCellList_removeSomeInterFreqCells* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_TTI(rtxContext* RT_RESTRICT ctx, E_DCH_TTI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_TTI, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_AGCH_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "removeSomeInterFreqCells");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, 0);
-      }
-   }
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-AGCH-ChannelisationCode");
    return 0;
 }
 
-int asn1PD_UMTS_RemovedInterFreqCellList(rtxContext* RT_RESTRICT ctx, RemovedInterFreqCellList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_AGCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_AGCH_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_ChannelisationCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information(rtxContext* RT_RESTRICT ctx, E_AGCH_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* e-AGCH-ChannelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_AGCH_ChannelisationCode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, "E-AGCH-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information(rtxContext* RT_RESTRICT ctx, E_AGCH_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_TPC_StepSizeFDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TPC-StepSizeFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_TPC_StepSizeFDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TPC_StepSizeFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_PowerControlAlgorithm(rtxContext* RT_RESTRICT ctx, PowerControlAlgorithm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RemovedInterFreqCellList");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PowerControlAlgorithm");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* removeAllInterFreqCells */
+      case 0: /* algorithm1 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.algorithm1, 0, 1);
+         RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeFDD", "algorithm1", -1, "PowerControlAlgorithm");
          break;
-      case 1: /* removeSomeInterFreqCells */
-         pvalue->u.removeSomeInterFreqCells = (RemovedInterFreqCellList_removeSomeInterFreqCells*)rtxMemHeapAlloc(ctx, sizeof(RemovedInterFreqCellList_removeSomeInterFreqCells));
-         if (pvalue->u.removeSomeInterFreqCells == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "removeSomeInterFreqCells", -1, "RemovedInterFreqCellList");
-         asn1Init_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(pvalue->u.removeSomeInterFreqCells);
-         stat = asn1PD_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(ctx, pvalue->u.removeSomeInterFreqCells);
-         RT_CHECK(ctx, stat, 0, "removeSomeInterFreqCells", -1, "RemovedInterFreqCellList");
-         break;
-      case 2: /* removeNoInterFreqCells */
+      case 1: /* algorithm2 */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedInterFreqCellList");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PowerControlAlgorithm");
    }
    return 0;
 }
 
-int asn1PD_UMTS_FrequencyInfoFDD(rtxContext* RT_RESTRICT ctx, FrequencyInfoFDD* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PowerControlAlgorithm(rtxContext* RT_RESTRICT ctx, PowerControlAlgorithm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PowerControlAlgorithm, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeltaACK(rtxContext* RT_RESTRICT ctx, DeltaACK* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DeltaACK");
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaACK(rtxContext* RT_RESTRICT ctx, DeltaACK* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DeltaACK, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeltaNACK(rtxContext* RT_RESTRICT ctx, DeltaNACK* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DeltaNACK");
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaNACK(rtxContext* RT_RESTRICT ctx, DeltaNACK* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DeltaNACK, pvalue);
+}
+
+RT_MERGED_BODY int dec_ACK_NACK_repetitionFactor(rtxContext* RT_RESTRICT ctx, ACK_NACK_repetitionFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ACK-NACK-repetitionFactor");
+   return 0;
+}
+
+int asn1PD_UMTS_ACK_NACK_repetitionFactor(rtxContext* RT_RESTRICT ctx, ACK_NACK_repetitionFactor* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ACK_NACK_repetitionFactor, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCHpowerControlInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, UL_DPCHpowerControlInfoForCommonEDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FrequencyInfoFDD");
-   /* uarfcn-UL */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   /* powerControlAlgorithm */
+   stat = dec_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   /* deltaACK */
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_UL, 0, 16383);
-      RT_CHECK(ctx, stat, "UARFCN", "uarfcn-UL", -1, "FrequencyInfoFDD");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
    }
-   /* uarfcn-DL */
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_DL, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-DL", -1, "FrequencyInfoFDD");
+   /* deltaNACK */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   }
+   /* ack-NACK-repetition-factor */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK_AT(ctx, cur, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_FrequencyInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, FrequencyInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, UL_DPCHpowerControlInfoForCommonEDCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCHpowerControlInfoForCommonEDCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPCCH_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, E_DPCCH_DPCCH_PowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPCCH-DPCCH-PowerOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPCCH_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, E_DPCCH_DPCCH_PowerOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPCCH_DPCCH_PowerOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_HappyBit_DelayCondition(rtxContext* RT_RESTRICT ctx, HappyBit_DelayCondition* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HappyBit-DelayCondition");
+   return 0;
+}
+
+int asn1PD_UMTS_HappyBit_DelayCondition(rtxContext* RT_RESTRICT ctx, HappyBit_DelayCondition* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HappyBit_DelayCondition, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_TFC_Boost_Info_r7(rtxContext* RT_RESTRICT ctx, E_TFC_Boost_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-TFC-Boost-Info-r7");
+   /* e-TFCI-Boost */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_TFCI_Boost, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "e-TFCI-Boost", -1, "E-TFC-Boost-Info-r7");
+   /* delta-T2TP */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->delta_T2TP, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, 0, "delta-T2TP", -1, "E-TFC-Boost-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_TFC_Boost_Info_r7(rtxContext* RT_RESTRICT ctx, E_TFC_Boost_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_TFC_Boost_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_PowerInterpolation(rtxContext* RT_RESTRICT ctx, E_DPDCH_PowerInterpolation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = rtxDecBitAt(ctx, cur, pvalue);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-PowerInterpolation");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_PowerInterpolation(rtxContext* RT_RESTRICT ctx, E_DPDCH_PowerInterpolation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_PowerInterpolation, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPCCH_Info_r7(rtxContext* RT_RESTRICT ctx, E_DPCCH_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPCCH-Info-r7");
+   /* e-DPCCH-DPCCH-PowerOffset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info-r7");
+   /* happyBit-DelayCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->happyBit_DelayCondition, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info-r7");
+   /* e-TFC-Boost-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "E-DPCCH-Info-r7");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK_AT(ctx, cur, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "E-DPCCH-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPCCH_Info_r7(rtxContext* RT_RESTRICT ctx, E_DPCCH_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPCCH_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_TFCI_TableIndex(rtxContext* RT_RESTRICT ctx, E_TFCI_TableIndex* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-TFCI-TableIndex");
+   return 0;
+}
+
+int asn1PD_UMTS_E_TFCI_TableIndex(rtxContext* RT_RESTRICT ctx, E_TFCI_TableIndex* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_TFCI_TableIndex, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_MinimumSet_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DCH_MinimumSet_E_TFCI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-MinimumSet-E-TFCI");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_MinimumSet_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DCH_MinimumSet_E_TFCI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_MinimumSet_E_TFCI, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_Reference_E_TFCI_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCI_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* reference-E-TFCI */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reference_E_TFCI, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI-r7");
+   /* reference-E-TFCI-PO-r7 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reference_E_TFCI_PO_r7, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reference-E-TFCI-PO-r7", -1, "E-DPDCH-Reference-E-TFCI-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_Reference_E_TFCI_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCI_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_Reference_E_TFCI_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_Reference_E_TFCIList_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCIList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_DPDCH_Reference_E_TFCI_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DPDCH_Reference_E_TFCI_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-DPDCH-Reference-E-TFCI-r7", (int32_t)i, "E-DPDCH-Reference-E-TFCIList-r7");
+      elem = (E_DPDCH_Reference_E_TFCI_r7*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_DPDCH_Reference_E_TFCI_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-DPDCH-Reference-E-TFCI-r7", (int32_t)i, "E-DPDCH-Reference-E-TFCIList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCIList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_Reference_E_TFCIList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_MinReduced_E_DPDCH_GainFactor(rtxContext* RT_RESTRICT ctx, MinReduced_E_DPDCH_GainFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MinReduced-E-DPDCH-GainFactor");
+   return 0;
+}
+
+int asn1PD_UMTS_MinReduced_E_DPDCH_GainFactor(rtxContext* RT_RESTRICT ctx, MinReduced_E_DPDCH_GainFactor* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MinReduced_E_DPDCH_GainFactor, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_MaxChannelisationCodes(rtxContext* RT_RESTRICT ctx, E_DPDCH_MaxChannelisationCodes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-MaxChannelisationCodes");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_MaxChannelisationCodes(rtxContext* RT_RESTRICT ctx, E_DPDCH_MaxChannelisationCodes* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_MaxChannelisationCodes, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_PL_NonMax(rtxContext* RT_RESTRICT ctx, E_DPDCH_PL_NonMax* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 11, 25);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-PL-NonMax");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_PL_NonMax(rtxContext* RT_RESTRICT ctx, E_DPDCH_PL_NonMax* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_PL_NonMax, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_PeriodicyOfSchedInfo(rtxContext* RT_RESTRICT ctx, E_DPDCH_PeriodicyOfSchedInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-PeriodicyOfSchedInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_PeriodicyOfSchedInfo(rtxContext* RT_RESTRICT ctx, E_DPDCH_PeriodicyOfSchedInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_PeriodicyOfSchedInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_SchedulingInfoConfiguration(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingInfoConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-SchedulingInfoConfiguration");
+   /* periodicityOfSchedInfo-NoGrant */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->periodicityOfSchedInfo_NoGrant, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-NoGrant", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   }
+   /* periodicityOfSchedInfo-Grant */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->periodicityOfSchedInfo_Grant, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-Grant", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   }
+   /* powerOffsetForSchedInfo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerOffsetForSchedInfo, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, "powerOffsetForSchedInfo", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_SchedulingInfoConfiguration(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingInfoConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_SchedulingInfoConfiguration, pvalue);
+}
+
+static int dec_E_DPDCH_Info_r8(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-Info-r8");
+   /* e-TFCI-TableIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_TFCI_TableIndex, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r8");
+   /* e-DCH-MinimumSet-E-TFCI */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r8");
+   }
+   /* reference-E-TFCIs */
+   stat = dec_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs, cur);
+   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info-r8");
+   /* minReduced-E-DPDCH-GainFactor */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "E-DPDCH-Info-r8");
+   }
+   /* maxChannelisationCodes */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxChannelisationCodes, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r8");
+   /* pl-NonMax */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pl_NonMax, 11, 25);
+   RT_CHECK_AT(ctx, cur, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r8");
+   /* schedulingInfoConfiguration */
+   stat = dec_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info-r8");
+   /* threeIndexStepThreshold */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->threeIndexStepThreshold, 0, 37);
+      RT_CHECK_AT(ctx, cur, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r8");
+   }
+   /* twoIndexStepThreshold */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->twoIndexStepThreshold, 0, 37);
+      RT_CHECK_AT(ctx, cur, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_Info_r8(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_Info_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementPowerOffset(rtxContext* RT_RESTRICT ctx, MeasurementPowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -12, 26);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementPowerOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementPowerOffset(rtxContext* RT_RESTRICT ctx, MeasurementPowerOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementPowerOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_Feedback_cycle_r7(rtxContext* RT_RESTRICT ctx, Feedback_cycle_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Feedback-cycle-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_Feedback_cycle_r7(rtxContext* RT_RESTRICT ctx, Feedback_cycle_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Feedback_cycle_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_CQI_RepetitionFactor(rtxContext* RT_RESTRICT ctx, CQI_RepetitionFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CQI-RepetitionFactor");
+   return 0;
+}
+
+int asn1PD_UMTS_CQI_RepetitionFactor(rtxContext* RT_RESTRICT ctx, CQI_RepetitionFactor* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CQI_RepetitionFactor, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeltaCQI(rtxContext* RT_RESTRICT ctx, DeltaCQI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DeltaCQI");
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaCQI(rtxContext* RT_RESTRICT ctx, DeltaCQI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DeltaCQI, pvalue);
+}
+
+RT_MERGED_BODY int dec_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* measurementPowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->measurementPowerOffset, -12, 26);
+   RT_CHECK_AT(ctx, cur, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   /* feedback-cycle */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->feedback_cycle, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "Feedback-cycle-r7", "feedback-cycle", -1, 0);
+   /* cqi-RepetitionFactor */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cqi_RepetitionFactor, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
+   /* deltaCQI */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaCQI, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, "DeltaCQI", "deltaCQI", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_Measurement_Feedback_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (FrequencyInfoFDD*)rtxMemHeapAlloc(ctx, sizeof(FrequencyInfoFDD));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_FrequencyInfoFDD(pvalue->u.fdd);
-         stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (Measurement_Feedback_Info_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(Measurement_Feedback_Info_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (FrequencyInfoTDD*)rtxMemHeapAllocZ(ctx, sizeof(FrequencyInfoTDD));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_FrequencyInfo(rtxContext* RT_RESTRICT ctx, FrequencyInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Measurement_Feedback_Info_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_Measurement_Feedback_Info_r7(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_FrequencyInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "FrequencyInfo");
+   stat = dec_Measurement_Feedback_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Measurement-Feedback-Info-r7");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_RSCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Measurement_Feedback_Info_r7(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Measurement_Feedback_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_RGCH_SignatureSequence(rtxContext* RT_RESTRICT ctx, E_HICH_RGCH_SignatureSequence* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 39);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-HICH-RGCH-SignatureSequence");
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_RGCH_SignatureSequence(rtxContext* RT_RESTRICT ctx, E_HICH_RGCH_SignatureSequence* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_RGCH_SignatureSequence, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RGCH_CombinationIndex(rtxContext* RT_RESTRICT ctx, E_RGCH_CombinationIndex* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-RGCH-CombinationIndex");
+   return 0;
+}
+
+int asn1PD_UMTS_E_RGCH_CombinationIndex(rtxContext* RT_RESTRICT ctx, E_RGCH_CombinationIndex* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RGCH_CombinationIndex, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RGCH_Information(rtxContext* RT_RESTRICT ctx, E_RGCH_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* signatureSequence */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->signatureSequence, 0, 39);
+   RT_CHECK_AT(ctx, cur, stat, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-RGCH-Information");
+   /* rg-CombinationIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rg_CombinationIndex, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "E-RGCH-CombinationIndex", "rg-CombinationIndex", -1, "E-RGCH-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_E_RGCH_Information(rtxContext* RT_RESTRICT ctx, E_RGCH_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RGCH_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_HICH_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-HICH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_HICH_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_ChannelisationCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information(rtxContext* RT_RESTRICT ctx, E_HICH_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* channelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->channelisationCode, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "E-HICH-ChannelisationCode", "channelisationCode", -1, "E-HICH-Information");
+   /* signatureSequence */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->signatureSequence, 0, 39);
+   RT_CHECK_AT(ctx, cur, stat, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-HICH-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information(rtxContext* RT_RESTRICT ctx, E_HICH_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_ScramblingCodeType(rtxContext* RT_RESTRICT ctx, ScramblingCodeType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ScramblingCodeType");
+   return 0;
+}
+
+int asn1PD_UMTS_ScramblingCodeType(rtxContext* RT_RESTRICT ctx, ScramblingCodeType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ScramblingCodeType, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_ScramblingCode(rtxContext* RT_RESTRICT ctx, UL_ScramblingCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt32At(ctx, cur, pvalue, 0, 16777215);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-ScramblingCode");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_ScramblingCode(rtxContext* RT_RESTRICT ctx, UL_ScramblingCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_ScramblingCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_CodeInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, UL_DPCH_CodeInfoForCommonEDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-DPCCHscramblingCodeType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ul_DPCCHscramblingCodeType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ScramblingCodeType", "ul-DPCCHscramblingCodeType", -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   /* ul-DPCCHscramblingCode */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->ul_DPCCHscramblingCode, 0, 16777215);
+   RT_CHECK_AT(ctx, cur, stat, "UL-ScramblingCode", "ul-DPCCHscramblingCode", -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_CodeInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, UL_DPCH_CodeInfoForCommonEDCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_CodeInfoForCommonEDCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_Common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, Common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-RSCP");
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP");
-   }
-   /* frequencyInfo */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Common-E-DCH-ResourceInfoList");
+   /* s-offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->s_offset, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, "s-offset", -1, "Common-E-DCH-ResourceInfoList");
+   /* f-dpch-ChannelisationCodeNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->f_dpch_ChannelisationCodeNumber, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "f-dpch-ChannelisationCodeNumber", -1, "Common-E-DCH-ResourceInfoList");
+   /* e-RGCH-Information */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-RSCP");
+      pvalue->m |= 0x1u;
+      stat = dec_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "Common-E-DCH-ResourceInfoList");
    }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_RSCP(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-RSCP");
+   /* e-hich-Info */
+   stat = dec_E_HICH_Information(ctx, &pvalue->e_hich_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-hich-Info", -1, "Common-E-DCH-ResourceInfoList");
+   /* ul-DPCH-CodeInfoForCommonEDCH */
+   stat = dec_UL_DPCH_CodeInfoForCommonEDCH(ctx, &pvalue->ul_DPCH_CodeInfoForCommonEDCH, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-CodeInfoForCommonEDCH", -1, "Common-E-DCH-ResourceInfoList");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_RSCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, Common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Common_E_DCH_ResourceInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-RSCP");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      NewInterFreqCellSI_RSCP* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_RSCP));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-RSCP", (int32_t)i, "NewInterFreqCellSI-List-RSCP");
-      elem = (NewInterFreqCellSI_RSCP*)(node + 1);
+      Common_E_DCH_ResourceInfoList* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_DCH_ResourceInfoList));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
+      elem = (Common_E_DCH_ResourceInfoList*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_NewInterFreqCellSI_RSCP(elem);
+      asn1Init_UMTS_Common_E_DCH_ResourceInfoList(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCellSI_RSCP(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-RSCP", (int32_t)i, "NewInterFreqCellSI-List-RSCP");
+      stat = dec_Common_E_DCH_ResourceInfoList(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList, pvalue);
+}
+
+static int dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP");
-   /* removedInterFreqCellList */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* prach-PreambleForEnhancedUplink */
+   stat = dec_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink, cur);
+   RT_CHECK(ctx, stat, 0, "prach-PreambleForEnhancedUplink", -1, 0);
+   /* initialServingGrantValue */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->initialServingGrantValue, 0, 37);
+   RT_CHECK_AT(ctx, cur, stat, 0, "initialServingGrantValue", -1, 0);
+   /* e-dch-TTI */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->e_dch_TTI, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "E-DCH-TTI", "e-dch-TTI", -1, 0);
+   /* e-agch-Information */
+   stat = dec_E_AGCH_Information(ctx, &pvalue->e_agch_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, 0);
+   /* harq-Info */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->harq_Info, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "harq-Info", -1, 0);
+   /* ul-DPCHpowerControlInfoForCommonEDCH */
+   stat = dec_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCHpowerControlInfoForCommonEDCH", -1, 0);
+   /* e-dpcch-Info */
+   stat = dec_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-dpcch-Info", -1, 0);
+   /* e-dpdch-Info */
+   stat = dec_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-dpdch-Info", -1, 0);
+   /* dl-FDPCH-TPCcommandErrorRate */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, 0);
+   /* additional-E-DCH-TransmitBackoff */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "additional-E-DCH-TransmitBackoff", -1, 0);
+   /* max-CCCH-ResourceAllocation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->max_CCCH_ResourceAllocation, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "max-CCCH-ResourceAllocation", -1, 0);
+   /* max-PeriodForCollisionResolution */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->max_PeriodForCollisionResolution, 8, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "max-PeriodForCollisionResolution", -1, 0);
+   /* e-dch-TransmitContinuationOffset */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->e_dch_TransmitContinuationOffset, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "e-dch-TransmitContinuationOffset", -1, 0);
+   /* ack-nack-support-on-HS-DPCCH */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ack_nack_support_on_HS_DPCCH);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ack-nack-support-on-HS-DPCCH", -1, 0);
+   /* measurement-Feedback-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-Feedback-Info", -1, 0);
+   }
+   /* common-E-DCH-ResourceInfoList */
+   stat = dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-ResourceInfoList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_TDD128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_RUCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_TDD128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_RUCCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_TDD128_t_RUCCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_TDD128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_WAIT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_TDD128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_WAIT* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_TDD128_t_WAIT, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_TDD128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_SI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_TDD128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_SI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_TDD128_t_SI, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_AccessServiceClass(rtxContext* RT_RESTRICT ctx, E_RUCCH_AccessServiceClass* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = dec_PRACH_Partitioning_LCR_r4(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-RUCCH-AccessServiceClass");
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_AccessServiceClass(rtxContext* RT_RESTRICT ctx, E_RUCCH_AccessServiceClass* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_AccessServiceClass, pvalue);
+}
+
+RT_MERGED_BODY int dec_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SYNC_UL_InfoForE_RUCCH(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SYNC-UL-InfoForE-RUCCH");
+   /* prxUpPCHdes */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->prxUpPCHdes, 0, 62);
+      RT_CHECK_AT(ctx, cur, stat, 0, "prxUpPCHdes", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   /* powerRampStep */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerRampStep, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, 0, "powerRampStep", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   /* max-SYNC-UL-Transmissions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->max_SYNC_UL_Transmissions, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   /* e-RUCCH-Sync-UL-Codes-Bitmap */
+   stat = dec_Sync_UL_Codes_Bitmap(ctx, &pvalue->e_RUCCH_Sync_UL_Codes_Bitmap, cur);
+   RT_CHECK(ctx, stat, 0, "e-RUCCH-Sync-UL-Codes-Bitmap", -1, "SYNC-UL-InfoForE-RUCCH");
+   /* mmax */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mmax, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "mmax", -1, "SYNC-UL-InfoForE-RUCCH");
+   return 0;
+}
+
+int asn1PD_UMTS_SYNC_UL_InfoForE_RUCCH(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SYNC_UL_InfoForE_RUCCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_ChanCodes_List_LCR(rtxContext* RT_RESTRICT ctx, PRACH_ChanCodes_List_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 1, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-ChanCodes-List-LCR");
+      pvalue->n = n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "PRACH-ChanCodes-List-LCR");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PRACH-ChanCodes-List-LCR");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 27);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-List-LCR");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_ChanCodes_List_LCR(rtxContext* RT_RESTRICT ctx, PRACH_ChanCodes_List_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_ChanCodes_List_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRACH_Information_LCR(rtxContext* RT_RESTRICT ctx, PRACH_Information_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-Information-LCR");
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 1, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Information-LCR");
+   /* prach-ChanCodes-list-LCR */
+   stat = dec_PRACH_ChanCodes_List_LCR(ctx, &pvalue->prach_ChanCodes_list_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "prach-ChanCodes-list-LCR", -1, "PRACH-Information-LCR");
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PRACH-Information-LCR");
+   /* fpach-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_FPACH_Info_r4(ctx, &pvalue->fpach_Info, cur);
+      RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "PRACH-Information-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_Information_LCR(rtxContext* RT_RESTRICT ctx, PRACH_Information_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_Information_LCR, pvalue);
+}
+
+static int dec_PRACH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, PRACH_Information_LCR_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRACH-Information-LCR-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PRACH_Information_LCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_Information_LCR));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PRACH-Information-LCR", (int32_t)i, "PRACH-Information-LCR-List");
+      elem = (PRACH_Information_LCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PRACH_Information_LCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PRACH_Information_LCR(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PRACH-Information-LCR", (int32_t)i, "PRACH-Information-LCR-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, PRACH_Information_LCR_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRACH_Information_LCR_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 9, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-RUCCH-Info-TDD128");
+   /* t-RUCCH */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_RUCCH, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, 0, "t-RUCCH", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* n-RUCCH */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_RUCCH, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "n-RUCCH", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* t-WAIT */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_WAIT, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "t-WAIT", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* t-SI */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_SI, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, 0, "t-SI", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* extendedEstimationWindow */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->extendedEstimationWindow, 2, 5);
+      RT_CHECK_AT(ctx, cur, stat, 0, "extendedEstimationWindow", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* e-RUCCH-AccessServiceClass */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20u;
+      stat = dec_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-AccessServiceClass", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* e-RUCCH-PersistenceScalingFactor */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40u;
+      stat = dec_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-PersistenceScalingFactor", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* sync-UL-InfoForE-RUCCH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80u;
+      stat = dec_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH, cur);
+      RT_CHECK(ctx, stat, 0, "sync-UL-InfoForE-RUCCH", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* prach-information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100u;
+      stat = dec_PRACH_Information_LCR_List(ctx, &pvalue->prach_information, cur);
+      RT_CHECK(ctx, stat, 0, "prach-information", -1, "E-RUCCH-Info-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_Reference_Beta_QPSK(rtxContext* RT_RESTRICT ctx, Reference_Beta_QPSK* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* reference-Code-Rate */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reference_Code_Rate, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reference-Code-Rate", -1, "Reference-Beta-QPSK");
+   /* reference-Beta */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->reference_Beta, -15, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reference-Beta", -1, "Reference-Beta-QPSK");
+   return 0;
+}
+
+int asn1PD_UMTS_Reference_Beta_QPSK(rtxContext* RT_RESTRICT ctx, Reference_Beta_QPSK* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Reference_Beta_QPSK, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_TFCS_Info_reference_Beta_QPSK_List(rtxContext* RT_RESTRICT ctx, E_TFCS_Info_reference_Beta_QPSK_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Reference_Beta_QPSK* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Reference_Beta_QPSK));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Reference-Beta-QPSK", (int32_t)i, 0);
+      elem = (Reference_Beta_QPSK*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_Reference_Beta_QPSK(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Reference-Beta-QPSK", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(rtxContext* RT_RESTRICT ctx, E_TFCS_Info_reference_Beta_QPSK_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_TFCS_Info_reference_Beta_QPSK_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_Reference_Beta_16QAM(rtxContext* RT_RESTRICT ctx, Reference_Beta_16QAM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* reference-Code-Rate */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reference_Code_Rate, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reference-Code-Rate", -1, "Reference-Beta-16QAM");
+   /* reference-Beta */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->reference_Beta, -15, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reference-Beta", -1, "Reference-Beta-16QAM");
+   return 0;
+}
+
+int asn1PD_UMTS_Reference_Beta_16QAM(rtxContext* RT_RESTRICT ctx, Reference_Beta_16QAM* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Reference_Beta_16QAM, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_TFCS_Info_reference_Beta_16QAM_List(rtxContext* RT_RESTRICT ctx, E_TFCS_Info_reference_Beta_16QAM_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Reference_Beta_16QAM* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Reference_Beta_16QAM));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Reference-Beta-16QAM", (int32_t)i, 0);
+      elem = (Reference_Beta_16QAM*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_Reference_Beta_16QAM(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Reference-Beta-16QAM", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(rtxContext* RT_RESTRICT ctx, E_TFCS_Info_reference_Beta_16QAM_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_TFCS_Info_reference_Beta_16QAM_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_TFCS_Info(rtxContext* RT_RESTRICT ctx, E_TFCS_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* reference-Beta-QPSK-List */
+   stat = dec_E_TFCS_Info_reference_Beta_QPSK_List(ctx, &pvalue->reference_Beta_QPSK_List, cur);
+   RT_CHECK(ctx, stat, 0, "reference-Beta-QPSK-List", -1, "E-TFCS-Info");
+   /* reference-Beta-16QAM-List */
+   stat = dec_E_TFCS_Info_reference_Beta_16QAM_List(ctx, &pvalue->reference_Beta_16QAM_List, cur);
+   RT_CHECK(ctx, stat, 0, "reference-Beta-16QAM-List", -1, "E-TFCS-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_E_TFCS_Info(rtxContext* RT_RESTRICT ctx, E_TFCS_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_TFCS_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_Info_TDD128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_snpl_ReportType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_TDD128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_snpl_ReportType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_Info_TDD128_snpl_ReportType, pvalue);
+}
+
+RT_MERGED_BODY int dec_TPC_StepSizeTDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TPC-StepSizeTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_TPC_StepSizeTDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TPC_StepSizeTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, UL_SynchronisationParameters_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* stepSize */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->stepSize, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "stepSize", -1, "UL-SynchronisationParameters-r4");
+   /* frequency */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->frequency, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "frequency", -1, "UL-SynchronisationParameters-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, UL_SynchronisationParameters_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_SynchronisationParameters_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots_LCR_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_TS_Slots_LCR_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_TS_Slots_LCR(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-PUCH-TS-Slots-LCR");
+   /* midambleAllocationMode */
+   stat = dec_E_PUCH_TS_Slots_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-PUCH-TS-Slots-LCR");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, "E-PUCH-TS-Slots-LCR");
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_TS_Slots_LCR(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_TS_Slots_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 5);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_PUCH_TS_Slots_LCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_PUCH_TS_Slots_LCR));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
+      elem = (E_PUCH_TS_Slots_LCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_PUCH_TS_Slots_LCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_PUCH_TS_Slots_LCR(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_Info_TDD128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_retransTimerForSchedInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_TDD128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_retransTimerForSchedInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_Info_TDD128_retransTimerForSchedInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-PUCH-Info-TDD128");
+   /* e-TFCS-Info */
+   stat = dec_E_TFCS_Info(ctx, &pvalue->e_TFCS_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-TFCS-Info", -1, "E-PUCH-Info-TDD128");
+   /* snpl-ReportType */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->snpl_ReportType, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, 0, "snpl-ReportType", -1, "E-PUCH-Info-TDD128");
+   }
+   /* prxBASEdes */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->prxBASEdes, -112, -50);
+   RT_CHECK_AT(ctx, cur, stat, 0, "prxBASEdes", -1, "E-PUCH-Info-TDD128");
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->beaconPLEst);
+      RT_CHECK_AT(ctx, cur, stat, 0, "beaconPLEst", -1, "E-PUCH-Info-TDD128");
+   }
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-PUCH-Info-TDD128");
+   /* pebase-PowerControlGAP */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pebase_PowerControlGAP, 1, 255);
+      RT_CHECK_AT(ctx, cur, stat, 0, "pebase-PowerControlGAP", -1, "E-PUCH-Info-TDD128");
+   }
+   /* ul-SynchronisationParameters */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, "E-PUCH-Info-TDD128");
+   }
+   /* e-PUCH-TS-ConfigurationList */
+   stat = dec_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList, cur);
+   RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, "E-PUCH-Info-TDD128");
+   /* minimum-Allowed-Code-Rate */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->minimum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "minimum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
+   /* maximum-Allowed-Code-Rate */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maximum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "maximum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
+   /* maximumNumOfRetransSchedInfo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maximumNumOfRetransSchedInfo, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "maximumNumOfRetransSchedInfo", -1, "E-PUCH-Info-TDD128");
+   /* retransTimerForSchedInfo */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->retransTimerForSchedInfo, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, 0, "retransTimerForSchedInfo", -1, "E-PUCH-Info-TDD128");
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dummy, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, 0, "dummy", -1, "E-PUCH-Info-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_Info_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_LCR_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_LCR(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ei */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ei, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ei", -1, "E-HICH-Information-LCR");
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-HICH-Information-LCR");
+   /* channelisation-Code */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisation_Code, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, "E-HICH-Information-LCR");
+   /* midambleAllocationMode */
+   stat = dec_E_HICH_Information_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-HICH-Information-LCR");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, "E-HICH-Information-LCR");
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_LCR(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-HICH-Information-LCR-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_HICH_Information_LCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_HICH_Information_LCR));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-HICH-Information-LCR", (int32_t)i, "E-HICH-Information-LCR-List");
+      elem = (E_HICH_Information_LCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_HICH_Information_LCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_HICH_Information_LCR(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-HICH-Information-LCR", (int32_t)i, "E-HICH-Information-LCR-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_LCR_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* n-E-HICH */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_E_HICH, 4, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "n-E-HICH", -1, "E-HICH-Information-TDD128");
+   /* e-HICH-InfoList */
+   stat = dec_E_HICH_Information_LCR_List(ctx, &pvalue->e_HICH_InfoList, cur);
+   RT_CHECK(ctx, stat, 0, "e-HICH-InfoList", -1, "E-HICH-Information-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_LCR_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Individual_LCR_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Individual_LCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-AGCH-Individual-LCR");
+   /* firstChannelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "E-AGCH-Individual-LCR");
+   /* secondChannelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "E-AGCH-Individual-LCR");
+   /* midambleAllocationMode */
+   stat = dec_E_AGCH_Individual_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-AGCH-Individual-LCR");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, "E-AGCH-Individual-LCR");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Individual_LCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Individual_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Set_Config_LCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-AGCH-Set-Config-LCR");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_AGCH_Individual_LCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_AGCH_Individual_LCR));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-AGCH-Individual-LCR", (int32_t)i, "E-AGCH-Set-Config-LCR");
+      elem = (E_AGCH_Individual_LCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_AGCH_Individual_LCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_AGCH_Individual_LCR(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual-LCR", (int32_t)i, "E-AGCH-Set-Config-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Set_Config_LCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Set_Config_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rdi-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rdi_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rdi-Indicator", -1, "E-AGCH-Information-TDD128");
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-AGCH-Information-TDD128");
+   /* e-AGCH-Set-Config */
+   stat = dec_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, "E-AGCH-Information-TDD128");
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, "E-AGCH-Information-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RNTI(rtxContext* RT_RESTRICT ctx, E_RNTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, pvalue, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-RNTI");
+   return 0;
+}
+
+int asn1PD_UMTS_E_RNTI(rtxContext* RT_RESTRICT ctx, E_RNTI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RNTI, pvalue);
+}
+
+RT_MERGED_BODY int dec_Common_E_RNTI_Info_element(rtxContext* RT_RESTRICT ctx, Common_E_RNTI_Info_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* starting-E-RNTI */
+   stat = dec_E_RNTI(ctx, &pvalue->starting_E_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "starting-E-RNTI", -1, 0);
+   /* number-of-group */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->number_of_group, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "number-of-group", -1, 0);
+   /* number-of-ENRTI-per-group */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->number_of_ENRTI_per_group, 1, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "number-of-ENRTI-per-group", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Common_E_RNTI_Info_element(rtxContext* RT_RESTRICT ctx, Common_E_RNTI_Info_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Common_E_RNTI_Info_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_Common_E_RNTI_Info(rtxContext* RT_RESTRICT ctx, Common_E_RNTI_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 256);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Common-E-RNTI-Info");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Common_E_RNTI_Info_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_RNTI_Info_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "Common-E-RNTI-Info");
+      elem = (Common_E_RNTI_Info_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_Common_E_RNTI_Info_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_Common_E_RNTI_Info_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "Common-E-RNTI-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Common_E_RNTI_Info(rtxContext* RT_RESTRICT ctx, Common_E_RNTI_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Common_E_RNTI_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 22);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* common-e-rnti-Info */
+   stat = dec_Common_E_RNTI_Info(ctx, &pvalue->common_e_rnti_Info, cur);
+   RT_CHECK(ctx, stat, 0, "common-e-rnti-Info", -1, 0);
+   /* harq-MaximumNumberOfRetransmissions */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->harq_MaximumNumberOfRetransmissions, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "harq-MaximumNumberOfRetransmissions", -1, 0);
+   /* harq-retransmission-timer */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->harq_retransmission_timer, 0, 22);
+   RT_CHECK_AT(ctx, cur, stat, 0, "harq-retransmission-timer", -1, 0);
+   /* harq-power-offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->harq_power_offset, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, "harq-power-offset", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info, pvalue);
+}
+
+static int dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* e-RUCCH-Info */
+   stat = dec_E_RUCCH_Info_TDD128(ctx, &pvalue->e_RUCCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
+   /* e-PUCH-Info */
+   stat = dec_E_PUCH_Info_TDD128(ctx, &pvalue->e_PUCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
+   /* e-hich-Information */
+   stat = dec_E_HICH_Information_TDD128(ctx, &pvalue->e_hich_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-hich-Information", -1, 0);
+   /* e-agch-Information */
+   stat = dec_E_AGCH_Information_TDD128(ctx, &pvalue->e_agch_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, 0);
+   /* harq-Info */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->harq_Info, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "harq-Info", -1, 0);
+   /* ccch-transmission-Info */
+   stat = dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(ctx, &pvalue->ccch_transmission_Info, cur);
+   RT_CHECK(ctx, stat, 0, "ccch-transmission-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd768 */
+         break;
+      case 1: /* tdd384 */
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CommonEDCHSystemInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CommonEDCHSystemInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CommonEDCHSystemInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CommonEDCHSystemInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CommonEDCHSystemInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CommonEDCHSystemInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfo(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CommonEDCHSystemInfo");
+   /* ul-InterferenceForCommonEDCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->ul_InterferenceForCommonEDCH, -110, -70);
+      RT_CHECK_AT(ctx, cur, stat, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfo");
+   }
+   /* common-E-DCH-MAC-d-FlowList */
+   stat = dec_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList, cur);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-MAC-d-FlowList", -1, "CommonEDCHSystemInfo");
+   /* modeSpecificInfo */
+   stat = dec_CommonEDCHSystemInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CommonEDCHSystemInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v890ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v890ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v890ext-IEs");
+   /* secondFrequencyInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP");
+      stat = dec_FrequencyInfoTDD(ctx, &pvalue->secondFrequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "secondFrequencyInfo", -1, "SysInfoType5-v890ext-IEs");
    }
-   /* newInterFreqCellList */
+   /* commonEDCHSystemInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP");
+      stat = dec_CommonEDCHSystemInfo(ctx, &pvalue->commonEDCHSystemInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonEDCHSystemInfo", -1, "SysInfoType5-v890ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType5_v890ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v890ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_UpPCHposition_LCR(rtxContext* RT_RESTRICT ctx, UpPCHposition_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UpPCHposition-LCR");
+   return 0;
+}
+
+int asn1PD_UMTS_UpPCHposition_LCR(rtxContext* RT_RESTRICT ctx, UpPCHposition_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UpPCHposition_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v8b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP");
-   /* interFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-RSCP");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v8b0ext-IEs");
+   /* tresetUsageIndicator */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "tresetUsageIndicator", -1, "SysInfoType5-v8b0ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "tresetUsageIndicator", -1, "SysInfoType5-v8b0ext-IEs");
+         pvalue->tresetUsageIndicator = ui;
+      }
    }
-   /* interFreqMeasurementSysInfo */
+   /* upPCHpositionInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->upPCHpositionInfo, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "SysInfoType5-v8b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType5_v8b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v8b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfoFDD_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_harq_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfoFDD_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_harq_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfoFDD_harq_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Common_E_DCH_ResourceInfoList* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_DCH_ResourceInfoList));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
+      elem = (Common_E_DCH_ResourceInfoList*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_Common_E_DCH_ResourceInfoList(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_Common_E_DCH_ResourceInfoList(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList, pvalue);
+}
+
+static int dec_CommonEDCHSystemInfoFDD(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CommonEDCHSystemInfoFDD");
+   /* ul-InterferenceForCommonEDCH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->ul_InterferenceForCommonEDCH, -110, -70);
+      RT_CHECK_AT(ctx, cur, stat, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
+   }
+   /* common-E-DCH-MAC-d-FlowList */
+   stat = dec_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList, cur);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-MAC-d-FlowList", -1, "CommonEDCHSystemInfoFDD");
+   /* prach-PreambleForEnhancedUplink */
+   stat = dec_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink, cur);
+   RT_CHECK(ctx, stat, 0, "prach-PreambleForEnhancedUplink", -1, "CommonEDCHSystemInfoFDD");
+   /* initialServingGrantValue */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->initialServingGrantValue, 0, 37);
+   RT_CHECK_AT(ctx, cur, stat, 0, "initialServingGrantValue", -1, "CommonEDCHSystemInfoFDD");
+   /* e-dch-TTI */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->e_dch_TTI, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "E-DCH-TTI", "e-dch-TTI", -1, "CommonEDCHSystemInfoFDD");
+   /* e-agch-Information */
+   stat = dec_E_AGCH_Information(ctx, &pvalue->e_agch_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, "CommonEDCHSystemInfoFDD");
+   /* harq-Info */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->harq_Info, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "harq-Info", -1, "CommonEDCHSystemInfoFDD");
+   /* ul-DPCHpowerControlInfoForCommonEDCH */
+   stat = dec_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCHpowerControlInfoForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
+   /* e-dpcch-Info */
+   stat = dec_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-dpcch-Info", -1, "CommonEDCHSystemInfoFDD");
+   /* e-dpdch-Info */
+   stat = dec_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-dpdch-Info", -1, "CommonEDCHSystemInfoFDD");
+   /* dl-FDPCH-TPCcommandErrorRate */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "CommonEDCHSystemInfoFDD");
+   /* additional-E-DCH-TransmitBackoff */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "additional-E-DCH-TransmitBackoff", -1, "CommonEDCHSystemInfoFDD");
+   /* max-CCCH-ResourceAllocation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->max_CCCH_ResourceAllocation, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "max-CCCH-ResourceAllocation", -1, "CommonEDCHSystemInfoFDD");
+   /* max-PeriodForCollisionResolution */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->max_PeriodForCollisionResolution, 8, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "max-PeriodForCollisionResolution", -1, "CommonEDCHSystemInfoFDD");
+   /* e-dch-TransmitContinuationOffset */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->e_dch_TransmitContinuationOffset, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "e-dch-TransmitContinuationOffset", -1, "CommonEDCHSystemInfoFDD");
+   /* ack-nack-support-on-HS-DPCCH */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ack_nack_support_on_HS_DPCCH);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ack-nack-support-on-HS-DPCCH", -1, "CommonEDCHSystemInfoFDD");
+   /* measurement-Feedback-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-Feedback-Info", -1, "CommonEDCHSystemInfoFDD");
+   }
+   /* common-E-DCH-ResourceInfoList */
+   stat = dec_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-ResourceInfoList", -1, "CommonEDCHSystemInfoFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfoFDD(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CommonEDCHSystemInfoFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v8d0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8d0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v8d0ext-IEs");
+   /* commonEDCHSystemInfoFDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CommonEDCHSystemInfoFDD(ctx, &pvalue->commonEDCHSystemInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "commonEDCHSystemInfoFDD", -1, "SysInfoType5-v8d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v8d0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8d0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v8d0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v8d0ext */
+   stat = dec_SysInfoType5_v8d0ext_IEs(ctx, &pvalue->sysInfoType5_v8d0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v8d0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v8b0ext */
+   stat = dec_SysInfoType5_v8b0ext_IEs(ctx, &pvalue->sysInfoType5_v8b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v8b0ext", -1, 0);
+   /* v8d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(ctx, &pvalue->v8d0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v8d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v890ext */
+   stat = dec_SysInfoType5_v890ext_IEs(ctx, &pvalue->sysInfoType5_v890ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v890ext", -1, 0);
+   /* v8b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(ctx, &pvalue->v8b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v8b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions, pvalue);
+}
+
+static int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v860ext */
+   stat = dec_SysInfoType5_v860ext_IEs(ctx, &pvalue->sysInfoType5_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v860ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v770ext */
+   stat = dec_SysInfoType5_v770ext_IEs(ctx, &pvalue->sysInfoType5_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v690ext */
+   stat = dec_SysInfoType5_v690ext_IEs(ctx, &pvalue->sysInfoType5_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v680ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v680ext_IEs(ctx, &pvalue->sysInfoType5_v680ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v680ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v650ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v650ext_IEs(ctx, &pvalue->sysInfoType5_v650ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v650ext", -1, 0);
+   }
+   /* v680NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(ctx, &pvalue->v680NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v680NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions, pvalue);
+}
+
+static int dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v590ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v590ext_IEs(ctx, &pvalue->sysInfoType5_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v590ext", -1, 0);
+   }
+   /* v650NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(ctx, &pvalue->v650NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v650NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v4b0ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType5_v4b0ext_IEs(ctx, &pvalue->sysInfoType5_v4b0ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v4b0ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5_v4b0NonCriticalExtensions, pvalue);
+}
+
+static int dec_SysInfoType5(rtxContext* RT_RESTRICT ctx, SysInfoType5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType5");
+   /* sib6indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sib6indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sib6indicator", -1, "SysInfoType5");
+   /* pich-PowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->pich_PowerOffset, -10, 5);
+   RT_CHECK_AT(ctx, cur, stat, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType5");
+   /* modeSpecificInfo */
+   stat = dec_SysInfoType5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5");
+   /* primaryCCPCH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "SysInfoType5");
+   }
+   /* prach-SystemInformationList */
+   stat = dec_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList, cur);
+   RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, "SysInfoType5");
+   /* sCCPCH-SystemInformationList */
+   stat = dec_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList, cur);
+   RT_CHECK(ctx, stat, 0, "sCCPCH-SystemInformationList", -1, "SysInfoType5");
+   /* cbs-DRX-Level1Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information, cur);
+      RT_CHECK(ctx, stat, 0, "cbs-DRX-Level1Information", -1, "SysInfoType5");
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_SysInfoType5_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5(rtxContext* RT_RESTRICT ctx, SysInfoType5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAT_Type(rtxContext* RT_RESTRICT ctx, RAT_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAT-Type");
+   return 0;
+}
+
+int asn1PD_UMTS_RAT_Type(rtxContext* RT_RESTRICT ctx, RAT_Type* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAT_Type, pvalue);
+}
+
+RT_MERGED_BODY int dec_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 14) {
+         rtxErrAddStrParm(ctx, "inter-RAT-meas-ind");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 1);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "RAT-Type", "RAT-Type", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind, pvalue);
+}
+
+RT_MERGED_BODY int dec_FACH_MeasurementOccasionInfo(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "FACH-MeasurementOccasionInfo");
+   /* fACH-meas-occasion-coeff */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->fACH_meas_occasion_coeff, 1, 12);
+      RT_CHECK_AT(ctx, cur, stat, 0, "fACH-meas-occasion-coeff", -1, "FACH-MeasurementOccasionInfo");
+   }
+   /* inter-freq-FDD-meas-ind */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->inter_freq_FDD_meas_ind);
+   RT_CHECK_AT(ctx, cur, stat, 0, "inter-freq-FDD-meas-ind", -1, "FACH-MeasurementOccasionInfo");
+   /* inter-freq-TDD-meas-ind */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->inter_freq_TDD_meas_ind);
+   RT_CHECK_AT(ctx, cur, stat, 0, "inter-freq-TDD-meas-ind", -1, "FACH-MeasurementOccasionInfo");
+   /* inter-RAT-meas-ind */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(ctx, &pvalue->inter_RAT_meas_ind, cur);
+      RT_CHECK(ctx, stat, 0, "inter-RAT-meas-ind", -1, "FACH-MeasurementOccasionInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_FACH_MeasurementOccasionInfo(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FACH_MeasurementOccasionInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementIdentity(rtxContext* RT_RESTRICT ctx, MeasurementIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementIdentity(rtxContext* RT_RESTRICT ctx, MeasurementIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellID(rtxContext* RT_RESTRICT ctx, IntraFreqCellID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellID");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellID(rtxContext* RT_RESTRICT ctx, IntraFreqCellID* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellID, pvalue);
+}
+
+RT_MERGED_BODY int dec_RemovedIntraFreqCellList_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellList_removeSomeIntraFreqCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "removeSomeIntraFreqCells");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellList_removeSomeIntraFreqCells* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RemovedIntraFreqCellList_removeSomeIntraFreqCells, pvalue);
+}
+
+RT_MERGED_BODY int dec_RemovedIntraFreqCellList(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RemovedIntraFreqCellList");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* removeAllIntraFreqCells */
+         break;
+      case 1: /* removeSomeIntraFreqCells */
+         pvalue->u.removeSomeIntraFreqCells = (RemovedIntraFreqCellList_removeSomeIntraFreqCells*)rtxMemHeapAlloc(ctx, sizeof(RemovedIntraFreqCellList_removeSomeIntraFreqCells));
+         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellList");
+         asn1Init_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(pvalue->u.removeSomeIntraFreqCells);
+         stat = dec_RemovedIntraFreqCellList_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells, cur);
+         RT_CHECK(ctx, stat, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellList");
+         break;
+      case 2: /* removeNoIntraFreqCells */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RemovedIntraFreqCellList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RemovedIntraFreqCellList(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RemovedIntraFreqCellList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellIndividualOffset(rtxContext* RT_RESTRICT ctx, CellIndividualOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -20, 20);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellIndividualOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_CellIndividualOffset(rtxContext* RT_RESTRICT ctx, CellIndividualOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellIndividualOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReferenceTimeDifferenceToCell(rtxContext* RT_RESTRICT ctx, ReferenceTimeDifferenceToCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReferenceTimeDifferenceToCell");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* accuracy40 */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.accuracy40, 0, 960);
+         RT_CHECK_AT(ctx, cur, stat, 0, "accuracy40", -1, "ReferenceTimeDifferenceToCell");
+         break;
+      case 1: /* accuracy256 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.accuracy256, 0, 150);
+         RT_CHECK_AT(ctx, cur, stat, 0, "accuracy256", -1, "ReferenceTimeDifferenceToCell");
+         break;
+      case 2: /* accuracy2560 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.accuracy2560, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "accuracy2560", -1, "ReferenceTimeDifferenceToCell");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ReferenceTimeDifferenceToCell");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ReferenceTimeDifferenceToCell(rtxContext* RT_RESTRICT ctx, ReferenceTimeDifferenceToCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReferenceTimeDifferenceToCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryScramblingCode(rtxContext* RT_RESTRICT ctx, PrimaryScramblingCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 511);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PrimaryScramblingCode");
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryScramblingCode(rtxContext* RT_RESTRICT ctx, PrimaryScramblingCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryScramblingCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCPICH_Info(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryScramblingCode */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->primaryScramblingCode, 0, 511);
+   RT_CHECK_AT(ctx, cur, stat, "PrimaryScramblingCode", "primaryScramblingCode", -1, "PrimaryCPICH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCPICH_Info(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCPICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* primaryCPICH-Info */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
       RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    }
    /* primaryCPICH-TX-Power */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
    }
    /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
    /* tx-DiversityIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tx_DiversityIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_RSCP_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_BurstType(rtxContext* RT_RESTRICT ctx, BurstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BurstType");
+   return 0;
+}
+
+int asn1PD_UMTS_BurstType(rtxContext* RT_RESTRICT ctx, BurstType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_BurstType, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotInfo(rtxContext* RT_RESTRICT ctx, TimeslotInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "TimeslotInfo");
+   /* burstType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->burstType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "BurstType", "burstType", -1, "TimeslotInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotInfo(rtxContext* RT_RESTRICT ctx, TimeslotInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotInfoList(rtxContext* RT_RESTRICT ctx, TimeslotInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeslotInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TimeslotInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TimeslotInfo", (int32_t)i, "TimeslotInfoList");
+      elem = (TimeslotInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TimeslotInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "TimeslotInfo", (int32_t)i, "TimeslotInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotInfoList(rtxContext* RT_RESTRICT ctx, TimeslotInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfoSI_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
+   stat = dec_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
    RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
    /* primaryCCPCH-TX-Power */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    }
    /* timeslotInfoList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
+      stat = dec_TimeslotInfoList(ctx, &pvalue->timeslotInfoList, cur);
       RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
    }
    /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_RSCP_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (CellInfoSI_ECN0_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_ECN0_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (CellInfoSI_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_RSCP_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellInfoSI_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (CellInfoSI_ECN0_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_ECN0_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (CellInfoSI_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_RSCP_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellInfoSI_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_RSCP_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_Q_OffsetS_N(rtxContext* RT_RESTRICT ctx, Q_OffsetS_N* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -50, 50);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Q-OffsetS-N");
+   return 0;
+}
+
+int asn1PD_UMTS_Q_OffsetS_N(rtxContext* RT_RESTRICT ctx, Q_OffsetS_N* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Q_OffsetS_N, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-QualMin */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_QualMin, -24, 0);
+      RT_CHECK_AT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
    }
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       case 2: /* gsm */
-         pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
+         pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(pvalue->u.gsm);
+         stat = dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
          RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo, pvalue);
+}
+
+static int dec_CellSelectReselectInfoSIB_11_12_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-ECN0");
-   /* q-Offset1S-N */
-   if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsInt8(ctx, &pvalue->q_Offset1S_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
-   }
-   else {
-      pvalue->q_Offset1S_N = 0;
-   }
-   /* q-Offset2S-N */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-RSCP");
+   /* q-OffsetS-N */
    if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsInt8(ctx, &pvalue->q_Offset2S_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_OffsetS_N, -50, 50);
+      RT_CHECK_AT(ctx, cur, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    }
    else {
-      pvalue->q_Offset2S_N = 0;
+      pvalue->q_OffsetS_N = 0;
    }
    /* maxAllowedUL-TX-Power */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    }
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   stat = dec_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_ECN0(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_RSCP, pvalue);
+}
+
+static int dec_CellInfoSI_RSCP(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-ECN0");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-RSCP");
    /* cellIndividualOffset */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_AT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP");
    }
    else {
       pvalue->cellIndividualOffset = 0;
@@ -821,96 +4469,1278 @@ int asn1PD_UMTS_CellInfoSI_ECN0(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0* RT
    /* referenceTimeDifferenceToCell */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-ECN0");
+      stat = dec_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-RSCP");
    }
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-ECN0");
+   stat = dec_CellInfoSI_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-RSCP");
    /* cellSelectionReselectionInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-ECN0");
+      stat = dec_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-RSCP");
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellInfoSI_RSCP(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-ECN0");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-RSCP");
    /* intraFreqCellID */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP");
    }
    /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_ECN0(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-ECN0");
+   stat = dec_CellInfoSI_RSCP(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewIntraFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      NewIntraFreqCellSI_ECN0* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_ECN0));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-ECN0");
-      elem = (NewIntraFreqCellSI_ECN0*)(node + 1);
+      NewIntraFreqCellSI_RSCP* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_RSCP));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-RSCP");
+      elem = (NewIntraFreqCellSI_RSCP*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellSI_ECN0(elem);
+      asn1Init_UMTS_NewIntraFreqCellSI_RSCP(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_ECN0(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-ECN0");
+      stat = dec_NewIntraFreqCellSI_RSCP(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-RSCP");
    }
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_List_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP");
    /* removedIntraFreqCellList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0");
+      stat = dec_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP");
    }
    /* newIntraFreqCellList */
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0");
+   stat = dec_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoSI_List_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_FilterCoefficient(rtxContext* RT_RESTRICT ctx, FilterCoefficient* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "FilterCoefficient");
+   return 0;
+}
+
+int asn1PD_UMTS_FilterCoefficient(rtxContext* RT_RESTRICT ctx, FilterCoefficient* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FilterCoefficient, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasQuantity-FDD");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasQuantity_FDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqMeasQuantity-FDD */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->intraFreqMeasQuantity_FDD, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "IntraFreqMeasQuantity-FDD", "intraFreqMeasQuantity-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasQuantity_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDD");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasQuantity_TDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_TDDList(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDDList");
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "IntraFreqMeasQuantity-TDDList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqMeasQuantity-TDDList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 3);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "IntraFreqMeasQuantity-TDD", "IntraFreqMeasQuantity-TDD", (int32_t)i, "IntraFreqMeasQuantity-TDDList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity_TDDList(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDDList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasQuantity_TDDList, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqMeasQuantity-TDDList */
+   stat = dec_IntraFreqMeasQuantity_TDDList(ctx, &pvalue->intraFreqMeasQuantity_TDDList, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity-TDDList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasQuantity_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (IntraFreqMeasQuantity_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(IntraFreqMeasQuantity_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_IntraFreqMeasQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (IntraFreqMeasQuantity_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasQuantity_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_IntraFreqMeasQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasQuantity_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasQuantity");
+   /* filterCoefficient */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->filterCoefficient, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "FilterCoefficient", "filterCoefficient", -1, "IntraFreqMeasQuantity");
+   }
+   else {
+      pvalue->filterCoefficient = 0;
+   }
+   /* modeSpecificInfo */
+   stat = dec_IntraFreqMeasQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqMeasQuantity");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_SFN_SFN_OTD_Type(rtxContext* RT_RESTRICT ctx, SFN_SFN_OTD_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SFN-SFN-OTD-Type");
+   return 0;
+}
+
+int asn1PD_UMTS_SFN_SFN_OTD_Type(rtxContext* RT_RESTRICT ctx, SFN_SFN_OTD_Type* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SFN_SFN_OTD_Type, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_FDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-FDD");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_FDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqRepQuantityRACH_FDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqRepQuantityRACH-FDD */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->intraFreqRepQuantityRACH_FDD, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "IntraFreqRepQuantityRACH-FDD", "intraFreqRepQuantityRACH-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-TDD");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqRepQuantityRACH_TDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 1, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-TDDList");
+      pvalue->n = n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "IntraFreqRepQuantityRACH-TDDList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqRepQuantityRACH-TDDList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 2);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "IntraFreqRepQuantityRACH-TDD", "IntraFreqRepQuantityRACH-TDD", (int32_t)i, "IntraFreqRepQuantityRACH-TDDList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqRepQuantityRACH_TDDList, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqRepQuantityRACH-TDDList */
+   stat = dec_IntraFreqRepQuantityRACH_TDDList(ctx, &pvalue->intraFreqRepQuantityRACH_TDDList, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqRepQuantityRACH-TDDList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportingQuantityForRACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportingQuantityForRACH_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportingQuantityForRACH(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sfn-SFN-OTD-Type */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sfn_SFN_OTD_Type, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "SFN-SFN-OTD-Type", "sfn-SFN-OTD-Type", -1, "IntraFreqReportingQuantityForRACH");
+   /* modeSpecificInfo */
+   stat = dec_IntraFreqReportingQuantityForRACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqReportingQuantityForRACH");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingQuantityForRACH(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportingQuantityForRACH, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxReportedCellsOnRACH(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxReportedCellsOnRACH");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxReportedCellsOnRACH(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxReportedCellsOnRACH, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellReportingQuantities_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cpich-Ec-N0-reportingIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->cpich_Ec_N0_reportingIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cpich-Ec-N0-reportingIndicator", -1, 0);
+   /* cpich-RSCP-reportingIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->cpich_RSCP_reportingIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cpich-RSCP-reportingIndicator", -1, 0);
+   /* pathloss-reportingIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->pathloss_reportingIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pathloss-reportingIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellReportingQuantities_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellReportingQuantities_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotISCP-reportingIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->timeslotISCP_reportingIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "timeslotISCP-reportingIndicator", -1, 0);
+   /* proposedTGSN-ReportingRequired */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->proposedTGSN_ReportingRequired);
+   RT_CHECK_AT(ctx, cur, stat, 0, "proposedTGSN-ReportingRequired", -1, 0);
+   /* primaryCCPCH-RSCP-reportingIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->primaryCCPCH_RSCP_reportingIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "primaryCCPCH-RSCP-reportingIndicator", -1, 0);
+   /* pathloss-reportingIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->pathloss_reportingIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pathloss-reportingIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellReportingQuantities_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellReportingQuantities_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellReportingQuantities_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(CellReportingQuantities_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_CellReportingQuantities_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellReportingQuantities_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(CellReportingQuantities_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_CellReportingQuantities_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellReportingQuantities_modeSpecificInfo, pvalue);
+}
+
+static int dec_CellReportingQuantities(rtxContext* RT_RESTRICT ctx, CellReportingQuantities* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dummy */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dummy, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "SFN-SFN-OTD-Type", "dummy", -1, "CellReportingQuantities");
+   /* cellIdentity-reportingIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->cellIdentity_reportingIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cellIdentity-reportingIndicator", -1, "CellReportingQuantities");
+   /* cellSynchronisationInfoReportingIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->cellSynchronisationInfoReportingIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cellSynchronisationInfoReportingIndicator", -1, "CellReportingQuantities");
+   /* modeSpecificInfo */
+   stat = dec_CellReportingQuantities_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellReportingQuantities");
+   return 0;
+}
+
+int asn1PD_UMTS_CellReportingQuantities(rtxContext* RT_RESTRICT ctx, CellReportingQuantities* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellReportingQuantities, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingQuantity");
+   /* activeSetReportingQuantities */
+   stat = dec_CellReportingQuantities(ctx, &pvalue->activeSetReportingQuantities, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetReportingQuantities", -1, "IntraFreqReportingQuantity");
+   /* monitoredSetReportingQuantities */
+   stat = dec_CellReportingQuantities(ctx, &pvalue->monitoredSetReportingQuantities, cur);
+   RT_CHECK(ctx, stat, 0, "monitoredSetReportingQuantities", -1, "IntraFreqReportingQuantity");
+   /* detectedSetReportingQuantities */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellReportingQuantities(ctx, &pvalue->detectedSetReportingQuantities, cur);
+      RT_CHECK(ctx, stat, 0, "detectedSetReportingQuantities", -1, "IntraFreqReportingQuantity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportingQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_TransferMode(rtxContext* RT_RESTRICT ctx, TransferMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransferMode");
+   return 0;
+}
+
+int asn1PD_UMTS_TransferMode(rtxContext* RT_RESTRICT ctx, TransferMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TransferMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_PeriodicalOrEventTrigger(rtxContext* RT_RESTRICT ctx, PeriodicalOrEventTrigger* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PeriodicalOrEventTrigger");
+   return 0;
+}
+
+int asn1PD_UMTS_PeriodicalOrEventTrigger(rtxContext* RT_RESTRICT ctx, PeriodicalOrEventTrigger* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PeriodicalOrEventTrigger, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementReportingMode(rtxContext* RT_RESTRICT ctx, MeasurementReportingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* measurementReportTransferMode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->measurementReportTransferMode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "TransferMode", "measurementReportTransferMode", -1, "MeasurementReportingMode");
+   /* periodicalOrEventTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->periodicalOrEventTrigger, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PeriodicalOrEventTrigger", "periodicalOrEventTrigger", -1, "MeasurementReportingMode");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReportingMode(rtxContext* RT_RESTRICT ctx, MeasurementReportingMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementReportingMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_TriggeringCondition2(rtxContext* RT_RESTRICT ctx, TriggeringCondition2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TriggeringCondition2");
+   return 0;
+}
+
+int asn1PD_UMTS_TriggeringCondition2(rtxContext* RT_RESTRICT ctx, TriggeringCondition2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TriggeringCondition2, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReportingRange(rtxContext* RT_RESTRICT ctx, ReportingRange* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReportingRange");
+   return 0;
+}
+
+int asn1PD_UMTS_ReportingRange(rtxContext* RT_RESTRICT ctx, ReportingRange* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReportingRange, pvalue);
+}
+
+RT_MERGED_BODY int dec_ForbiddenAffectCell(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ForbiddenAffectCell");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "ForbiddenAffectCell");
+         stat = dec_PrimaryCPICH_Info(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "ForbiddenAffectCell");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "ForbiddenAffectCell");
+         asn1Init_UMTS_PrimaryCCPCH_Info(pvalue->u.tdd);
+         stat = dec_PrimaryCCPCH_Info(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ForbiddenAffectCell");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ForbiddenAffectCell(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ForbiddenAffectCell, pvalue);
+}
+
+static int dec_ForbiddenAffectCellList(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ForbiddenAffectCellList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      ForbiddenAffectCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCell));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ForbiddenAffectCell", (int32_t)i, "ForbiddenAffectCellList");
+      elem = (ForbiddenAffectCell*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_ForbiddenAffectCell(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_ForbiddenAffectCell(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell", (int32_t)i, "ForbiddenAffectCellList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ForbiddenAffectCellList(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ForbiddenAffectCellList, pvalue);
+}
+
+RT_MERGED_BODY int dec_W(rtxContext* RT_RESTRICT ctx, W* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "W");
+   return 0;
+}
+
+int asn1PD_UMTS_W(rtxContext* RT_RESTRICT ctx, W* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_W, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReportDeactivationThreshold(rtxContext* RT_RESTRICT ctx, ReportDeactivationThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReportDeactivationThreshold");
+   return 0;
+}
+
+int asn1PD_UMTS_ReportDeactivationThreshold(rtxContext* RT_RESTRICT ctx, ReportDeactivationThreshold* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReportDeactivationThreshold, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReportingAmount(rtxContext* RT_RESTRICT ctx, ReportingAmount* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReportingAmount");
+   return 0;
+}
+
+int asn1PD_UMTS_ReportingAmount(rtxContext* RT_RESTRICT ctx, ReportingAmount* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReportingAmount, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReportingInterval(rtxContext* RT_RESTRICT ctx, ReportingInterval* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReportingInterval");
+   return 0;
+}
+
+int asn1PD_UMTS_ReportingInterval(rtxContext* RT_RESTRICT ctx, ReportingInterval* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReportingInterval, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1a(rtxContext* RT_RESTRICT ctx, Event1a* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event1a");
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a");
+   /* reportingRange */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reportingRange, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1a");
+   /* forbiddenAffectCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a");
+   }
+   /* w */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->w, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "w", -1, "Event1a");
+   /* reportDeactivationThreshold */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a");
+   /* reportingAmount */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "Event1a");
+   /* reportingInterval */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingInterval, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "Event1a");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1a(rtxContext* RT_RESTRICT ctx, Event1a* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1a, pvalue);
+}
+
+RT_MERGED_BODY int dec_TriggeringCondition1(rtxContext* RT_RESTRICT ctx, TriggeringCondition1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TriggeringCondition1");
+   return 0;
+}
+
+int asn1PD_UMTS_TriggeringCondition1(rtxContext* RT_RESTRICT ctx, TriggeringCondition1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TriggeringCondition1, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1b(rtxContext* RT_RESTRICT ctx, Event1b* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event1b");
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b");
+   /* reportingRange */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reportingRange, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1b");
+   /* forbiddenAffectCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b");
+   }
+   /* w */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->w, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "w", -1, "Event1b");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1b(rtxContext* RT_RESTRICT ctx, Event1b* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1b, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReplacementActivationThreshold(rtxContext* RT_RESTRICT ctx, ReplacementActivationThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReplacementActivationThreshold");
+   return 0;
+}
+
+int asn1PD_UMTS_ReplacementActivationThreshold(rtxContext* RT_RESTRICT ctx, ReplacementActivationThreshold* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReplacementActivationThreshold, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1c(rtxContext* RT_RESTRICT ctx, Event1c* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* replacementActivationThreshold */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->replacementActivationThreshold, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1c");
+   /* reportingAmount */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "Event1c");
+   /* reportingInterval */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingInterval, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "Event1c");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1c(rtxContext* RT_RESTRICT ctx, Event1c* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1c, pvalue);
+}
+
+RT_MERGED_BODY int dec_ThresholdUsedFrequency(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt16At(ctx, cur, pvalue, -115, 165);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ThresholdUsedFrequency");
+   return 0;
+}
+
+int asn1PD_UMTS_ThresholdUsedFrequency(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ThresholdUsedFrequency, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1e(rtxContext* RT_RESTRICT ctx, Event1e* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1e");
+   /* thresholdUsedFrequency */
+   stat = pd_ConsInt16At(ctx, cur, &pvalue->thresholdUsedFrequency, -115, 165);
+   RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1e");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1e(rtxContext* RT_RESTRICT ctx, Event1e* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1e, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1f(rtxContext* RT_RESTRICT ctx, Event1f* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1f");
+   /* thresholdUsedFrequency */
+   stat = pd_ConsInt16At(ctx, cur, &pvalue->thresholdUsedFrequency, -115, 165);
+   RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1f");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1f(rtxContext* RT_RESTRICT ctx, Event1f* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1f, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEvent(rtxContext* RT_RESTRICT ctx, IntraFreqEvent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEvent");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e1a */
+         pvalue->u.e1a = (Event1a*)rtxMemHeapAlloc(ctx, sizeof(Event1a));
+         if (pvalue->u.e1a == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEvent");
+         asn1Init_UMTS_Event1a(pvalue->u.e1a);
+         stat = dec_Event1a(ctx, pvalue->u.e1a, cur);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent");
+         break;
+      case 1: /* e1b */
+         pvalue->u.e1b = (Event1b*)rtxMemHeapAlloc(ctx, sizeof(Event1b));
+         if (pvalue->u.e1b == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEvent");
+         asn1Init_UMTS_Event1b(pvalue->u.e1b);
+         stat = dec_Event1b(ctx, pvalue->u.e1b, cur);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent");
+         break;
+      case 2: /* e1c */
+         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
+         if (pvalue->u.e1c == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEvent");
+         stat = dec_Event1c(ctx, pvalue->u.e1c, cur);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent");
+         break;
+      case 3: /* e1d */
+         break;
+      case 4: /* e1e */
+         pvalue->u.e1e = (Event1e*)rtxMemHeapAllocZ(ctx, sizeof(Event1e));
+         if (pvalue->u.e1e == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEvent");
+         stat = dec_Event1e(ctx, pvalue->u.e1e, cur);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent");
+         break;
+      case 5: /* e1f */
+         pvalue->u.e1f = (Event1f*)rtxMemHeapAllocZ(ctx, sizeof(Event1f));
+         if (pvalue->u.e1f == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEvent");
+         stat = dec_Event1f(ctx, pvalue->u.e1f, cur);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent");
+         break;
+      case 6: /* e1g */
+         break;
+      case 7: /* e1h */
+         stat = pd_ConsInt16At(ctx, cur, &pvalue->u.e1h, -115, 165);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent");
+         break;
+      case 8: /* e1i */
+         stat = pd_ConsInt16At(ctx, cur, &pvalue->u.e1i, -115, 165);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEvent(rtxContext* RT_RESTRICT ctx, IntraFreqEvent* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEvent, pvalue);
+}
+
+RT_MERGED_BODY int dec_Hysteresis(rtxContext* RT_RESTRICT ctx, Hysteresis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Hysteresis");
+   return 0;
+}
+
+int asn1PD_UMTS_Hysteresis(rtxContext* RT_RESTRICT ctx, Hysteresis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Hysteresis, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeToTrigger(rtxContext* RT_RESTRICT ctx, TimeToTrigger* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeToTrigger");
+   return 0;
+}
+
+int asn1PD_UMTS_TimeToTrigger(rtxContext* RT_RESTRICT ctx, TimeToTrigger* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeToTrigger, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxNumberOfReportingCellsType1(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxNumberOfReportingCellsType1");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNumberOfReportingCellsType1(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxNumberOfReportingCellsType1, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxNumberOfReportingCellsType3(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxNumberOfReportingCellsType3");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNumberOfReportingCellsType3(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxNumberOfReportingCellsType3, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxNumberOfReportingCellsType2(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxNumberOfReportingCellsType2");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNumberOfReportingCellsType2(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxNumberOfReportingCellsType2, pvalue);
+}
+
+static int dec_ReportingCellStatus(rtxContext* RT_RESTRICT ctx, ReportingCellStatus* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReportingCellStatus");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* withinActiveSet */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.withinActiveSet, 0, 5);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinActiveSet", -1, "ReportingCellStatus");
+         break;
+      case 1: /* withinMonitoredSetUsedFreq */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.withinMonitoredSetUsedFreq, 0, 5);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredSetUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 2: /* withinActiveAndOrMonitoredUsedFreq */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.withinActiveAndOrMonitoredUsedFreq, 0, 5);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinActiveAndOrMonitoredUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 3: /* withinDetectedSetUsedFreq */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.withinDetectedSetUsedFreq, 0, 5);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinDetectedSetUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 4: /* withinMonitoredAndOrDetectedUsedFreq */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.withinMonitoredAndOrDetectedUsedFreq, 0, 5);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrDetectedUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 5: /* allActiveplusMonitoredSet */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.allActiveplusMonitoredSet, 0, 5);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType3", "allActiveplusMonitoredSet", -1, "ReportingCellStatus");
+         break;
+      case 6: /* allActivePlusDetectedSet */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.allActivePlusDetectedSet, 0, 5);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType3", "allActivePlusDetectedSet", -1, "ReportingCellStatus");
+         break;
+      case 7: /* allActivePlusMonitoredAndOrDetectedSet */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.allActivePlusMonitoredAndOrDetectedSet, 0, 5);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType3", "allActivePlusMonitoredAndOrDetectedSet", -1, "ReportingCellStatus");
+         break;
+      case 8: /* withinVirtualActSet */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.withinVirtualActSet, 0, 5);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinVirtualActSet", -1, "ReportingCellStatus");
+         break;
+      case 9: /* withinMonitoredSetNonUsedFreq */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.withinMonitoredSetNonUsedFreq, 0, 5);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 10: /* withinMonitoredAndOrVirtualActiveSetNonUsedFreq */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.withinMonitoredAndOrVirtualActiveSetNonUsedFreq, 0, 5);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrVirtualActiveSetNonUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 11: /* allVirtualActSetplusMonitoredSetNonUsedFreq */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.allVirtualActSetplusMonitoredSetNonUsedFreq, 0, 5);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType3", "allVirtualActSetplusMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 12: /* withinActSetOrVirtualActSet-InterRATcells */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.withinActSetOrVirtualActSet_InterRATcells, 0, 11);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType2", "withinActSetOrVirtualActSet-InterRATcells", -1, "ReportingCellStatus");
+         break;
+      case 13: /* withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq, 0, 11);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfReportingCellsType2", "withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq", -1, "ReportingCellStatus");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ReportingCellStatus");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ReportingCellStatus(rtxContext* RT_RESTRICT ctx, ReportingCellStatus* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReportingCellStatus, pvalue);
+}
+
+static int dec_IntraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteria");
+   /* event */
+   stat = dec_IntraFreqEvent(ctx, &pvalue->event, cur);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaList(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteriaList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IntraFreqEventCriteria* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "IntraFreqEventCriteria", (int32_t)i, "IntraFreqEventCriteriaList");
+      elem = (IntraFreqEventCriteria*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_IntraFreqEventCriteria(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_IntraFreqEventCriteria(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria", (int32_t)i, "IntraFreqEventCriteriaList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteriaList(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteriaList, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingCriteria");
+   /* eventCriteriaList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqEventCriteriaList(ctx, &pvalue->eventCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportingCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReportingIntervalLong(rtxContext* RT_RESTRICT ctx, ReportingIntervalLong* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReportingIntervalLong");
+   return 0;
+}
+
+int asn1PD_UMTS_ReportingIntervalLong(rtxContext* RT_RESTRICT ctx, ReportingIntervalLong* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReportingIntervalLong, pvalue);
+}
+
+RT_MERGED_BODY int dec_PeriodicalReportingCriteria(rtxContext* RT_RESTRICT ctx, PeriodicalReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PeriodicalReportingCriteria");
+   /* reportingAmount */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingAmount, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "PeriodicalReportingCriteria");
+   }
+   else {
+      pvalue->reportingAmount = 7;
+   }
+   /* reportingInterval */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingInterval, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingIntervalLong", "reportingInterval", -1, "PeriodicalReportingCriteria");
+   return 0;
+}
+
+int asn1PD_UMTS_PeriodicalReportingCriteria(rtxContext* RT_RESTRICT ctx, PeriodicalReportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PeriodicalReportingCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellDCH_ReportCriteria(rtxContext* RT_RESTRICT ctx, CellDCH_ReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellDCH-ReportCriteria");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria");
+         asn1Init_UMTS_IntraFreqReportingCriteria(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria");
+         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CellDCH-ReportCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellDCH_ReportCriteria(rtxContext* RT_RESTRICT ctx, CellDCH_ReportCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellDCH_ReportCriteria, pvalue);
+}
+
+static int dec_ReportingInfoForCellDCH(rtxContext* RT_RESTRICT ctx, ReportingInfoForCellDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqReportingQuantity */
+   stat = dec_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "ReportingInfoForCellDCH");
+   /* measurementReportingMode */
+   stat = dec_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode, cur);
+   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "ReportingInfoForCellDCH");
+   /* reportCriteria */
+   stat = dec_CellDCH_ReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "ReportingInfoForCellDCH");
+   return 0;
+}
+
+int asn1PD_UMTS_ReportingInfoForCellDCH(rtxContext* RT_RESTRICT ctx, ReportingInfoForCellDCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReportingInfoForCellDCH, pvalue);
+}
+
+static int dec_IntraFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP");
    /* intraFreqMeasurementID */
    if (present & ((uint32_t)1 << 5)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    else {
       pvalue->intraFreqMeasurementID = 1;
@@ -918,425 +5748,1222 @@ int asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, In
    /* intraFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-ECN0");
+      stat = dec_IntraFreqCellInfoSI_List_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* intraFreqMeasQuantity */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-ECN0");
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* intraFreqReportingQuantityForRACH */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
+      stat = dec_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* maxReportedCellsOnRACH */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* reportingInfoForCellDCH */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-ECN0");
+      stat = dec_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH, cur);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasurementSysInfo_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellID(rtxContext* RT_RESTRICT ctx, InterFreqCellID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellID");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqCellID(rtxContext* RT_RESTRICT ctx, InterFreqCellID* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellID, pvalue);
+}
+
+RT_MERGED_BODY int dec_RemovedInterFreqCellList_removeSomeInterFreqCells(rtxContext* RT_RESTRICT ctx, RemovedInterFreqCellList_removeSomeInterFreqCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "removeSomeInterFreqCells");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(rtxContext* RT_RESTRICT ctx, RemovedInterFreqCellList_removeSomeInterFreqCells* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RemovedInterFreqCellList_removeSomeInterFreqCells, pvalue);
+}
+
+RT_MERGED_BODY int dec_RemovedInterFreqCellList(rtxContext* RT_RESTRICT ctx, RemovedInterFreqCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RemovedInterFreqCellList");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* removeAllInterFreqCells */
+         break;
+      case 1: /* removeSomeInterFreqCells */
+         pvalue->u.removeSomeInterFreqCells = (RemovedInterFreqCellList_removeSomeInterFreqCells*)rtxMemHeapAlloc(ctx, sizeof(RemovedInterFreqCellList_removeSomeInterFreqCells));
+         if (pvalue->u.removeSomeInterFreqCells == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "removeSomeInterFreqCells", -1, "RemovedInterFreqCellList");
+         asn1Init_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(pvalue->u.removeSomeInterFreqCells);
+         stat = dec_RemovedInterFreqCellList_removeSomeInterFreqCells(ctx, pvalue->u.removeSomeInterFreqCells, cur);
+         RT_CHECK(ctx, stat, 0, "removeSomeInterFreqCells", -1, "RemovedInterFreqCellList");
+         break;
+      case 2: /* removeNoInterFreqCells */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RemovedInterFreqCellList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RemovedInterFreqCellList(rtxContext* RT_RESTRICT ctx, RemovedInterFreqCellList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RemovedInterFreqCellList, pvalue);
+}
+
+RT_MERGED_BODY int dec_FrequencyInfoFDD(rtxContext* RT_RESTRICT ctx, FrequencyInfoFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-ECN0");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "FrequencyInfoFDD");
+   /* uarfcn-UL */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->uarfcn_UL, 0, 16383);
+      RT_CHECK_AT(ctx, cur, stat, "UARFCN", "uarfcn-UL", -1, "FrequencyInfoFDD");
+   }
+   /* uarfcn-DL */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->uarfcn_DL, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, "UARFCN", "uarfcn-DL", -1, "FrequencyInfoFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_FrequencyInfoFDD(rtxContext* RT_RESTRICT ctx, FrequencyInfoFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FrequencyInfoFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_FrequencyInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, FrequencyInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (FrequencyInfoFDD*)rtxMemHeapAlloc(ctx, sizeof(FrequencyInfoFDD));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_FrequencyInfoFDD(pvalue->u.fdd);
+         stat = dec_FrequencyInfoFDD(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (FrequencyInfoTDD*)rtxMemHeapAllocZ(ctx, sizeof(FrequencyInfoTDD));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_FrequencyInfoTDD(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_FrequencyInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, FrequencyInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FrequencyInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_FrequencyInfo(rtxContext* RT_RESTRICT ctx, FrequencyInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_FrequencyInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "FrequencyInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_FrequencyInfo(rtxContext* RT_RESTRICT ctx, FrequencyInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FrequencyInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-RSCP");
    /* interFreqCellID */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP");
    }
    /* frequencyInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-ECN0");
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-RSCP");
    }
    /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_ECN0(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-ECN0");
+   stat = dec_CellInfoSI_RSCP(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_RSCP, pvalue);
+}
+
+static int dec_NewInterFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-ECN0");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-RSCP");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCellSI_RSCP* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_RSCP));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-RSCP", (int32_t)i, "NewInterFreqCellSI-List-RSCP");
+      elem = (NewInterFreqCellSI_RSCP*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCellSI_RSCP(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewInterFreqCellSI_RSCP(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-RSCP", (int32_t)i, "NewInterFreqCellSI-List-RSCP");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_List_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP");
+   /* removedInterFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellInfoSI_List_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP");
+   /* interFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqCellInfoSI_List_RSCP(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-RSCP");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasurementSysInfo_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqMeasurementSysInfo_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqMeasurementSysInfo_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   }
+   /* primaryCPICH-TX-Power */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tx_DiversityIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_ECN0_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfoSI_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = dec_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TimeslotInfoList(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_ECN0_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellInfoSI_ECN0_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_ECN0_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellInfoSI_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellInfoSI_ECN0_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_ECN0_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellInfoSI_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_ECN0_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-QualMin */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_QualMin, -24, 0);
+      RT_CHECK_AT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   }
+   /* q-RxlevMin */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2: /* gsm */
+         pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(pvalue->u.gsm);
+         stat = dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo, pvalue);
+}
+
+static int dec_CellSelectReselectInfoSIB_11_12_ECN0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   /* q-Offset1S-N */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_Offset1S_N, -50, 50);
+      RT_CHECK_AT(ctx, cur, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   }
+   else {
+      pvalue->q_Offset1S_N = 0;
+   }
+   /* q-Offset2S-N */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_Offset2S_N, -50, 50);
+      RT_CHECK_AT(ctx, cur, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   }
+   else {
+      pvalue->q_Offset2S_N = 0;
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   }
+   /* modeSpecificInfo */
+   stat = dec_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_ECN0, pvalue);
+}
+
+static int dec_CellInfoSI_ECN0(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-ECN0");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_AT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-ECN0");
+   }
+   /* modeSpecificInfo */
+   stat = dec_CellInfoSI_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-ECN0");
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-ECN0");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_ECN0(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-ECN0");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0");
+   }
+   /* cellInfo */
+   stat = dec_CellInfoSI_ECN0(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-ECN0");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCellSI_ECN0* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_ECN0));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-ECN0");
+      elem = (NewIntraFreqCellSI_ECN0*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCellSI_ECN0(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewIntraFreqCellSI_ECN0(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-ECN0");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_List_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0");
+   }
+   /* newIntraFreqCellList */
+   stat = dec_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoSI_List_ECN0, pvalue);
+}
+
+static int dec_IntraFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0");
+   /* intraFreqMeasurementID */
+   if (present & ((uint32_t)1 << 5)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0");
+   }
+   else {
+      pvalue->intraFreqMeasurementID = 1;
+   }
+   /* intraFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqCellInfoSI_List_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-ECN0");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-ECN0");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
+   }
+   /* maxReportedCellsOnRACH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
+   }
+   /* reportingInfoForCellDCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH, cur);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-ECN0");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasurementSysInfo_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-ECN0");
+   /* interFreqCellID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-ECN0");
+   }
+   /* cellInfo */
+   stat = dec_CellInfoSI_ECN0(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-ECN0");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_ECN0, pvalue);
+}
+
+static int dec_NewInterFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-ECN0");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewInterFreqCellSI_ECN0* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_ECN0));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-ECN0", (int32_t)i, "NewInterFreqCellSI-List-ECN0");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-ECN0", (int32_t)i, "NewInterFreqCellSI-List-ECN0");
       elem = (NewInterFreqCellSI_ECN0*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewInterFreqCellSI_ECN0(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCellSI_ECN0(ctx, elem);
+      stat = dec_NewInterFreqCellSI_ECN0(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-ECN0", (int32_t)i, "NewInterFreqCellSI-List-ECN0");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_List_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0");
+   /* removedInterFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0");
    }
    return 0;
 }
 
 int asn1PD_UMTS_InterFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellInfoSI_List_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0");
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0");
-   }
-   /* newInterFreqCellList */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0");
+   /* interFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0");
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqCellInfoSI_List_ECN0(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-ECN0");
    }
    return 0;
 }
 
 int asn1PD_UMTS_InterFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasurementSysInfo_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0");
-   /* interFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_ECN0(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-ECN0");
+      stat = dec_IntraFreqMeasurementSysInfo_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqMeasurementSysInfo_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATCellID(rtxContext* RT_RESTRICT ctx, InterRATCellID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cpich-RSCP */
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 1: /* cpich-Ec-N0 */
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATCellID");
    return 0;
 }
 
 int asn1PD_UMTS_InterRATCellID(rtxContext* RT_RESTRICT ctx, InterRATCellID* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_InterRATCellID, pvalue);
+}
+
+RT_MERGED_BODY int dec_RemovedInterRATCellList_removeSomeInterRATCells(rtxContext* RT_RESTRICT ctx, RemovedInterRATCellList_removeSomeInterRATCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellID");
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "removeSomeInterRATCells");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "InterRATCellID", "InterRATCellID", (int32_t)i, 0);
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(rtxContext* RT_RESTRICT ctx, RemovedInterRATCellList_removeSomeInterRATCells* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "removeSomeInterRATCells");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "InterRATCellID", "InterRATCellID", (int32_t)i, 0);
-      }
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_RemovedInterRATCellList_removeSomeInterRATCells, pvalue);
 }
 
-int asn1PD_UMTS_RemovedInterRATCellList(rtxContext* RT_RESTRICT ctx, RemovedInterRATCellList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_RemovedInterRATCellList(rtxContext* RT_RESTRICT ctx, RemovedInterRATCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RemovedInterRATCellList");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RemovedInterRATCellList");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* removeAllInterRATCells */
          break;
       case 1: /* removeSomeInterRATCells */
          pvalue->u.removeSomeInterRATCells = (RemovedInterRATCellList_removeSomeInterRATCells*)rtxMemHeapAlloc(ctx, sizeof(RemovedInterRATCellList_removeSomeInterRATCells));
-         if (pvalue->u.removeSomeInterRATCells == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "removeSomeInterRATCells", -1, "RemovedInterRATCellList");
+         if (pvalue->u.removeSomeInterRATCells == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "removeSomeInterRATCells", -1, "RemovedInterRATCellList");
          asn1Init_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(pvalue->u.removeSomeInterRATCells);
-         stat = asn1PD_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(ctx, pvalue->u.removeSomeInterRATCells);
+         stat = dec_RemovedInterRATCellList_removeSomeInterRATCells(ctx, pvalue->u.removeSomeInterRATCells, cur);
          RT_CHECK(ctx, stat, 0, "removeSomeInterRATCells", -1, "RemovedInterRATCellList");
          break;
       case 2: /* removeNoInterRATCells */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedInterRATCellList");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RemovedInterRATCellList");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_RemovedInterRATCellList(rtxContext* RT_RESTRICT ctx, RemovedInterRATCellList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RemovedInterRATCellList, pvalue);
+}
+
+RT_MERGED_BODY int dec_TemporaryOffset1(rtxContext* RT_RESTRICT ctx, TemporaryOffset1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TemporaryOffset1");
    return 0;
 }
 
 int asn1PD_UMTS_TemporaryOffset1(rtxContext* RT_RESTRICT ctx, TemporaryOffset1* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TemporaryOffset1");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_TemporaryOffset1, pvalue);
 }
 
-int asn1PD_UMTS_PenaltyTime_RSCP(rtxContext* RT_RESTRICT ctx, PenaltyTime_RSCP* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PenaltyTime_RSCP(rtxContext* RT_RESTRICT ctx, PenaltyTime_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PenaltyTime-RSCP");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PenaltyTime-RSCP");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* notUsed */
          break;
       case 1: /* pt10 */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.pt10, 0, 7);
-         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt10", -1, "PenaltyTime-RSCP");
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.pt10, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "TemporaryOffset1", "pt10", -1, "PenaltyTime-RSCP");
          break;
       case 2: /* pt20 */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.pt20, 0, 7);
-         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt20", -1, "PenaltyTime-RSCP");
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.pt20, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "TemporaryOffset1", "pt20", -1, "PenaltyTime-RSCP");
          break;
       case 3: /* pt30 */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.pt30, 0, 7);
-         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt30", -1, "PenaltyTime-RSCP");
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.pt30, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "TemporaryOffset1", "pt30", -1, "PenaltyTime-RSCP");
          break;
       case 4: /* pt40 */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.pt40, 0, 7);
-         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt40", -1, "PenaltyTime-RSCP");
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.pt40, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "TemporaryOffset1", "pt40", -1, "PenaltyTime-RSCP");
          break;
       case 5: /* pt50 */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.pt50, 0, 7);
-         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt50", -1, "PenaltyTime-RSCP");
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.pt50, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "TemporaryOffset1", "pt50", -1, "PenaltyTime-RSCP");
          break;
       case 6: /* pt60 */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.pt60, 0, 7);
-         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt60", -1, "PenaltyTime-RSCP");
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.pt60, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "TemporaryOffset1", "pt60", -1, "PenaltyTime-RSCP");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PenaltyTime-RSCP");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PenaltyTime-RSCP");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_PenaltyTime_RSCP(rtxContext* RT_RESTRICT ctx, PenaltyTime_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PenaltyTime_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_HCS_CellReselectInformation_RSCP(rtxContext* RT_RESTRICT ctx, HCS_CellReselectInformation_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* penaltyTime */
+   stat = dec_PenaltyTime_RSCP(ctx, &pvalue->penaltyTime, cur);
+   RT_CHECK(ctx, stat, 0, "penaltyTime", -1, "HCS-CellReselectInformation-RSCP");
    return 0;
 }
 
 int asn1PD_UMTS_HCS_CellReselectInformation_RSCP(rtxContext* RT_RESTRICT ctx, HCS_CellReselectInformation_RSCP* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* penaltyTime */
-   stat = asn1PD_UMTS_PenaltyTime_RSCP(ctx, &pvalue->penaltyTime);
-   RT_CHECK(ctx, stat, 0, "penaltyTime", -1, "HCS-CellReselectInformation-RSCP");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HCS_CellReselectInformation_RSCP, pvalue);
 }
 
-int asn1PD_UMTS_HCS_NeighbouringCellInformation_RSCP(rtxContext* RT_RESTRICT ctx, HCS_NeighbouringCellInformation_RSCP* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HCS_NeighbouringCellInformation_RSCP(rtxContext* RT_RESTRICT ctx, HCS_NeighbouringCellInformation_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-NeighbouringCellInformation-RSCP");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HCS-NeighbouringCellInformation-RSCP");
    /* hcs-PRIO */
    if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->hcs_PRIO, 0, 7);
-      RT_CHECK(ctx, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-RSCP");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->hcs_PRIO, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-RSCP");
    }
    else {
       pvalue->hcs_PRIO = 0;
    }
    /* q-HCS */
    if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->q_HCS, 0, 99);
-      RT_CHECK(ctx, stat, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-RSCP");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->q_HCS, 0, 99);
+      RT_CHECK_AT(ctx, cur, stat, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-RSCP");
    }
    else {
       pvalue->q_HCS = 0;
    }
    /* hcs-CellReselectInformation */
-   stat = asn1PD_UMTS_HCS_CellReselectInformation_RSCP(ctx, &pvalue->hcs_CellReselectInformation);
+   stat = dec_HCS_CellReselectInformation_RSCP(ctx, &pvalue->hcs_CellReselectInformation, cur);
    RT_CHECK(ctx, stat, 0, "hcs-CellReselectInformation", -1, "HCS-NeighbouringCellInformation-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HCS_NeighbouringCellInformation_RSCP(rtxContext* RT_RESTRICT ctx, HCS_NeighbouringCellInformation_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HCS_NeighbouringCellInformation_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-QualMin */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_QualMin, -24, 0);
+      RT_CHECK_AT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
    }
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2: /* gsm */
+         pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(pvalue->u.gsm);
+         stat = dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 2: /* gsm */
-         pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo, pvalue);
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12* RT_RESTRICT pvalue)
+static int dec_CellSelectReselectInfoSIB_11_12(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12");
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12");
    /* q-Offset1S-N */
    if (present & ((uint32_t)1 << 3)) {
-      stat = pd_ConsInt8(ctx, &pvalue->q_Offset1S_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_Offset1S_N, -50, 50);
+      RT_CHECK_AT(ctx, cur, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12");
    }
    else {
       pvalue->q_Offset1S_N = 0;
@@ -1344,105 +6971,140 @@ int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12(rtxContext* RT_RESTRICT ctx, Cel
    /* q-Offset2S-N */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_Offset2S_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_Offset2S_N, -50, 50);
+      RT_CHECK_AT(ctx, cur, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12");
    }
    /* maxAllowedUL-TX-Power */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12");
    }
    /* hcs-NeighbouringCellInformation-RSCP */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
+      stat = dec_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP, cur);
       RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoSIB-11-12");
    }
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = dec_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12");
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATCellIndividualOffset(rtxContext* RT_RESTRICT ctx, InterRATCellIndividualOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -50, 50);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATCellIndividualOffset");
    return 0;
 }
 
 int asn1PD_UMTS_InterRATCellIndividualOffset(rtxContext* RT_RESTRICT ctx, InterRATCellIndividualOffset* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_InterRATCellIndividualOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_NCC(rtxContext* RT_RESTRICT ctx, NCC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -50, 50);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellIndividualOffset");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NCC");
    return 0;
 }
 
 int asn1PD_UMTS_NCC(rtxContext* RT_RESTRICT ctx, NCC* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_NCC, pvalue);
+}
+
+RT_MERGED_BODY int dec_BCC(rtxContext* RT_RESTRICT ctx, BCC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NCC");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BCC");
    return 0;
 }
 
 int asn1PD_UMTS_BCC(rtxContext* RT_RESTRICT ctx, BCC* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BCC");
+   RT_DECODE_ENTRY(ctx, dec_BCC, pvalue);
+}
+
+RT_MERGED_BODY int dec_BSIC(rtxContext* RT_RESTRICT ctx, BSIC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ncc */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ncc, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "NCC", "ncc", -1, "BSIC");
+   /* bcc */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->bcc, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "BCC", "bcc", -1, "BSIC");
    return 0;
 }
 
 int asn1PD_UMTS_BSIC(rtxContext* RT_RESTRICT ctx, BSIC* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* ncc */
-   stat = pd_ConsUInt8(ctx, &pvalue->ncc, 0, 7);
-   RT_CHECK(ctx, stat, "NCC", "ncc", -1, "BSIC");
-   /* bcc */
-   stat = pd_ConsUInt8(ctx, &pvalue->bcc, 0, 7);
-   RT_CHECK(ctx, stat, "BCC", "bcc", -1, "BSIC");
+   RT_DECODE_ENTRY(ctx, dec_BSIC, pvalue);
+}
+
+RT_MERGED_BODY int dec_Frequency_Band(rtxContext* RT_RESTRICT ctx, Frequency_Band* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Frequency-Band");
    return 0;
 }
 
 int asn1PD_UMTS_Frequency_Band(rtxContext* RT_RESTRICT ctx, Frequency_Band* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Frequency_Band, pvalue);
+}
+
+RT_MERGED_BODY int dec_BCCH_ARFCN(rtxContext* RT_RESTRICT ctx, BCCH_ARFCN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Frequency-Band");
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BCCH-ARFCN");
    return 0;
 }
 
 int asn1PD_UMTS_BCCH_ARFCN(rtxContext* RT_RESTRICT ctx, BCCH_ARFCN* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 1023);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-ARFCN");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_BCCH_ARFCN, pvalue);
 }
 
-int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* cellSelectionReselectionInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo);
+      stat = dec_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo, cur);
       RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, 0);
    }
    /* interRATCellIndividualOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->interRATCellIndividualOffset, -50, 50);
-   RT_CHECK(ctx, stat, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->interRATCellIndividualOffset, -50, 50);
+   RT_CHECK_AT(ctx, cur, stat, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
    /* bsic */
-   stat = asn1PD_UMTS_BSIC(ctx, &pvalue->bsic);
+   stat = dec_BSIC(ctx, &pvalue->bsic, cur);
    RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
    /* frequency-band */
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->frequency_band, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "Frequency-Band", "frequency-band", -1, 0);
    /* bcch-ARFCN */
-   stat = pd_ConsUInt16(ctx, &pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
    /* dummy */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
@@ -1450,42 +7112,57 @@ int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* RT_REST
    return 0;
 }
 
-int asn1PD_UMTS_IS_2000SpecificMeasInfo(rtxContext* RT_RESTRICT ctx, IS_2000SpecificMeasInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterRATCell_B_technologySpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_IS_2000SpecificMeasInfo(rtxContext* RT_RESTRICT ctx, IS_2000SpecificMeasInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IS-2000SpecificMeasInfo");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IS-2000SpecificMeasInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_IS_2000SpecificMeasInfo(rtxContext* RT_RESTRICT ctx, IS_2000SpecificMeasInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IS_2000SpecificMeasInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterRATCell_B_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo_is_2000* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* is-2000SpecificMeasInfo */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->is_2000SpecificMeasInfo, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo_is_2000* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* is-2000SpecificMeasInfo */
-   stat = pd_ConsUnsigned(ctx, &pvalue->is_2000SpecificMeasInfo, 0, 4);
-   RT_CHECK(ctx, stat, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_NewInterRATCell_B_technologySpecificInfo_is_2000, pvalue);
 }
 
-int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_NewInterRATCell_B_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* gsm */
          pvalue->u.gsm = (NewInterRATCell_B_technologySpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(NewInterRATCell_B_technologySpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
          asn1Init_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
+         stat = dec_NewInterRATCell_B_technologySpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
          RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       case 1: /* is-2000 */
          pvalue->u.is_2000 = (NewInterRATCell_B_technologySpecificInfo_is_2000*)rtxMemHeapAllocZ(ctx, sizeof(NewInterRATCell_B_technologySpecificInfo_is_2000));
-         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "is-2000", -1, 0);
-         stat = asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000);
+         if (pvalue->u.is_2000 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "is-2000", -1, 0);
+         stat = dec_NewInterRATCell_B_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000, cur);
          RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
          break;
       case 2: /* absent */
@@ -1493,293 +7170,358 @@ int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo(rtxContext* RT_RESTRICT
       case 3: /* spare1 */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterRATCell_B_technologySpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterRATCell_B(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterRATCell-B");
+   /* interRATCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interRATCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell-B");
+   }
+   /* technologySpecificInfo */
+   stat = dec_NewInterRATCell_B_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "NewInterRATCell-B");
    return 0;
 }
 
 int asn1PD_UMTS_NewInterRATCell_B(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterRATCell-B");
-   /* interRATCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell-B");
-   }
-   /* technologySpecificInfo */
-   stat = asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
-   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "NewInterRATCell-B");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_NewInterRATCell_B, pvalue);
 }
 
-int asn1PD_UMTS_NewInterRATCellList_B(rtxContext* RT_RESTRICT ctx, NewInterRATCellList_B* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_NewInterRATCellList_B(rtxContext* RT_RESTRICT ctx, NewInterRATCellList_B* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterRATCellList-B");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterRATCellList-B");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewInterRATCell_B* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterRATCell_B));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterRATCell-B", (int32_t)i, "NewInterRATCellList-B");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterRATCell-B", (int32_t)i, "NewInterRATCellList-B");
       elem = (NewInterRATCell_B*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewInterRATCell_B(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterRATCell_B(ctx, elem);
+      stat = dec_NewInterRATCell_B(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "NewInterRATCell-B", (int32_t)i, "NewInterRATCellList-B");
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATCellInfoList_B(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_B* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterRATCellList_B(rtxContext* RT_RESTRICT ctx, NewInterRATCellList_B* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterRATCellList_B, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATCellInfoList_B(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_B* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* removedInterRATCellList */
-   stat = asn1PD_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
+   stat = dec_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList, cur);
    RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-B");
    /* newInterRATCellList */
-   stat = asn1PD_UMTS_NewInterRATCellList_B(ctx, &pvalue->newInterRATCellList);
+   stat = dec_NewInterRATCellList_B(ctx, &pvalue->newInterRATCellList, cur);
    RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-B");
    return 0;
 }
 
-int asn1PD_UMTS_InterRATMeasurementSysInfo_B(rtxContext* RT_RESTRICT ctx, InterRATMeasurementSysInfo_B* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterRATCellInfoList_B(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_B* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATCellInfoList_B, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasurementSysInfo_B(rtxContext* RT_RESTRICT ctx, InterRATMeasurementSysInfo_B* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurementSysInfo-B");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATMeasurementSysInfo-B");
    /* interRATCellInfoList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATCellInfoList_B(ctx, &pvalue->interRATCellInfoList);
+      stat = dec_InterRATCellInfoList_B(ctx, &pvalue->interRATCellInfoList, cur);
       RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurementSysInfo-B");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasurementSysInfo_B(rtxContext* RT_RESTRICT ctx, InterRATMeasurementSysInfo_B* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasurementSysInfo_B, pvalue);
+}
+
+static int dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* interRATMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterRATMeasurementSysInfo_B(ctx, &pvalue->interRATMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interRATMeasurementSysInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   /* interRATMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATMeasurementSysInfo_B(ctx, &pvalue->interRATMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interRATMeasurementSysInfo", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used, pvalue);
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* primaryCPICH-Info */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
       RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    }
    /* primaryCPICH-TX-Power */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
    }
    /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
    /* tx-DiversityIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tx_DiversityIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
+   stat = dec_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
    RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
    /* primaryCCPCH-TX-Power */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    }
    /* timeslotInfoList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
+      stat = dec_TimeslotInfoList(ctx, &pvalue->timeslotInfoList, cur);
       RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
    }
    /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfoSI_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_HCS_RSCP_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-QualMin */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_QualMin, -24, 0);
+      RT_CHECK_AT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   }
+   /* q-RxlevMin */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-QualMin */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
-   }
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2: /* gsm */
+         pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(pvalue->u.gsm);
+         stat = dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 2: /* gsm */
-         pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo, pvalue);
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP* RT_RESTRICT pvalue)
+static int dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
    /* q-OffsetS-N */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsInt8(ctx, &pvalue->q_OffsetS_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_OffsetS_N, -50, 50);
+      RT_CHECK_AT(ctx, cur, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
    }
    else {
       pvalue->q_OffsetS_N = 0;
@@ -1787,33 +7529,38 @@ int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* RT_RESTRICT
    /* maxAllowedUL-TX-Power */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
    }
    /* hcs-NeighbouringCellInformation-RSCP */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
+      stat = dec_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP, cur);
       RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
    }
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP, pvalue);
+}
+
+static int dec_CellInfoSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-RSCP");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-HCS-RSCP");
    /* cellIndividualOffset */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_AT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP");
    }
    else {
       pvalue->cellIndividualOffset = 0;
@@ -1821,96 +7568,116 @@ int asn1PD_UMTS_CellInfoSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_
    /* referenceTimeDifferenceToCell */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      stat = dec_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
       RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-RSCP");
    }
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = dec_CellInfoSI_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-HCS-RSCP");
    /* cellSelectionReselectionInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
+      stat = dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo, cur);
       RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-RSCP");
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellInfoSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP");
    /* intraFreqCellID */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP");
    }
    /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo);
+   stat = dec_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo, cur);
    RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewIntraFreqCellSI_HCS_RSCP* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_HCS_RSCP));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-HCS-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-HCS-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP");
       elem = (NewIntraFreqCellSI_HCS_RSCP*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewIntraFreqCellSI_HCS_RSCP(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP(ctx, elem);
+      stat = dec_NewIntraFreqCellSI_HCS_RSCP(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP");
    }
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_List_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
    /* removedIntraFreqCellList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      stat = dec_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
       RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
    }
    /* newIntraFreqCellList */
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList);
+   stat = dec_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList, cur);
    RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoSI_List_HCS_RSCP, pvalue);
+}
+
+static int dec_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    /* intraFreqMeasurementID */
    if (present & ((uint32_t)1 << 5)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    }
    else {
       pvalue->intraFreqMeasurementID = 1;
@@ -1918,456 +7685,546 @@ int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx
    /* intraFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List);
+      stat = dec_IntraFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
       RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    }
    /* intraFreqMeasQuantity */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
       RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    }
    /* intraFreqReportingQuantityForRACH */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      stat = dec_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
       RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    }
    /* maxReportedCellsOnRACH */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    }
    /* reportingInfoForCellDCH */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
+      stat = dec_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH, cur);
       RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasurementSysInfo_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP");
    /* interFreqCellID */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP");
    }
    /* frequencyInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
       RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-RSCP");
    }
    /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo);
+   stat = dec_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo, cur);
    RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_HCS_RSCP, pvalue);
+}
+
+static int dec_NewInterFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewInterFreqCellSI_HCS_RSCP* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_HCS_RSCP));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-HCS-RSCP", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-HCS-RSCP", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP");
       elem = (NewInterFreqCellSI_HCS_RSCP*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewInterFreqCellSI_HCS_RSCP(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP(ctx, elem);
+      stat = dec_NewInterFreqCellSI_HCS_RSCP(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-RSCP", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_List_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP");
+   /* removedInterFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP");
    }
    return 0;
 }
 
 int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellInfoSI_List_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP");
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP");
-   }
-   /* newInterFreqCellList */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
+   /* interFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP");
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
    }
    return 0;
 }
 
 int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasurementSysInfo_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
-   /* interFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
+      stat = dec_IntraFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* primaryCPICH-Info */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
       RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    }
    /* primaryCPICH-TX-Power */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
    }
    /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
    /* tx-DiversityIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tx_DiversityIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
+   stat = dec_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
    RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
    /* primaryCCPCH-TX-Power */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    }
    /* timeslotInfoList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
+      stat = dec_TimeslotInfoList(ctx, &pvalue->timeslotInfoList, cur);
       RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
    }
    /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfoSI_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_HCS_ECN0_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_TemporaryOffset2(rtxContext* RT_RESTRICT ctx, TemporaryOffset2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TemporaryOffset2");
    return 0;
 }
 
 int asn1PD_UMTS_TemporaryOffset2(rtxContext* RT_RESTRICT ctx, TemporaryOffset2* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TemporaryOffset2");
+   RT_DECODE_ENTRY(ctx, dec_TemporaryOffset2, pvalue);
+}
+
+RT_MERGED_BODY int dec_TemporaryOffsetList(rtxContext* RT_RESTRICT ctx, TemporaryOffsetList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* temporaryOffset1 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->temporaryOffset1, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "TemporaryOffset1", "temporaryOffset1", -1, "TemporaryOffsetList");
+   /* temporaryOffset2 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->temporaryOffset2, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "TemporaryOffset2", "temporaryOffset2", -1, "TemporaryOffsetList");
    return 0;
 }
 
 int asn1PD_UMTS_TemporaryOffsetList(rtxContext* RT_RESTRICT ctx, TemporaryOffsetList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* temporaryOffset1 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->temporaryOffset1, 0, 7);
-   RT_CHECK(ctx, stat, "TemporaryOffset1", "temporaryOffset1", -1, "TemporaryOffsetList");
-   /* temporaryOffset2 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->temporaryOffset2, 0, 7);
-   RT_CHECK(ctx, stat, "TemporaryOffset2", "temporaryOffset2", -1, "TemporaryOffsetList");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_TemporaryOffsetList, pvalue);
 }
 
-int asn1PD_UMTS_PenaltyTime_ECN0(rtxContext* RT_RESTRICT ctx, PenaltyTime_ECN0* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PenaltyTime_ECN0(rtxContext* RT_RESTRICT ctx, PenaltyTime_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PenaltyTime-ECN0");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PenaltyTime-ECN0");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* notUsed */
          break;
       case 1: /* pt10 */
          pvalue->u.pt10 = (TemporaryOffsetList*)rtxMemHeapAllocZ(ctx, sizeof(TemporaryOffsetList));
-         if (pvalue->u.pt10 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pt10", -1, "PenaltyTime-ECN0");
-         stat = asn1PD_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt10);
+         if (pvalue->u.pt10 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "pt10", -1, "PenaltyTime-ECN0");
+         stat = dec_TemporaryOffsetList(ctx, pvalue->u.pt10, cur);
          RT_CHECK(ctx, stat, 0, "pt10", -1, "PenaltyTime-ECN0");
          break;
       case 2: /* pt20 */
          pvalue->u.pt20 = (TemporaryOffsetList*)rtxMemHeapAllocZ(ctx, sizeof(TemporaryOffsetList));
-         if (pvalue->u.pt20 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pt20", -1, "PenaltyTime-ECN0");
-         stat = asn1PD_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt20);
+         if (pvalue->u.pt20 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "pt20", -1, "PenaltyTime-ECN0");
+         stat = dec_TemporaryOffsetList(ctx, pvalue->u.pt20, cur);
          RT_CHECK(ctx, stat, 0, "pt20", -1, "PenaltyTime-ECN0");
          break;
       case 3: /* pt30 */
          pvalue->u.pt30 = (TemporaryOffsetList*)rtxMemHeapAllocZ(ctx, sizeof(TemporaryOffsetList));
-         if (pvalue->u.pt30 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pt30", -1, "PenaltyTime-ECN0");
-         stat = asn1PD_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt30);
+         if (pvalue->u.pt30 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "pt30", -1, "PenaltyTime-ECN0");
+         stat = dec_TemporaryOffsetList(ctx, pvalue->u.pt30, cur);
          RT_CHECK(ctx, stat, 0, "pt30", -1, "PenaltyTime-ECN0");
          break;
       case 4: /* pt40 */
          pvalue->u.pt40 = (TemporaryOffsetList*)rtxMemHeapAllocZ(ctx, sizeof(TemporaryOffsetList));
-         if (pvalue->u.pt40 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pt40", -1, "PenaltyTime-ECN0");
-         stat = asn1PD_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt40);
+         if (pvalue->u.pt40 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "pt40", -1, "PenaltyTime-ECN0");
+         stat = dec_TemporaryOffsetList(ctx, pvalue->u.pt40, cur);
          RT_CHECK(ctx, stat, 0, "pt40", -1, "PenaltyTime-ECN0");
          break;
       case 5: /* pt50 */
          pvalue->u.pt50 = (TemporaryOffsetList*)rtxMemHeapAllocZ(ctx, sizeof(TemporaryOffsetList));
-         if (pvalue->u.pt50 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pt50", -1, "PenaltyTime-ECN0");
-         stat = asn1PD_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt50);
+         if (pvalue->u.pt50 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "pt50", -1, "PenaltyTime-ECN0");
+         stat = dec_TemporaryOffsetList(ctx, pvalue->u.pt50, cur);
          RT_CHECK(ctx, stat, 0, "pt50", -1, "PenaltyTime-ECN0");
          break;
       case 6: /* pt60 */
          pvalue->u.pt60 = (TemporaryOffsetList*)rtxMemHeapAllocZ(ctx, sizeof(TemporaryOffsetList));
-         if (pvalue->u.pt60 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pt60", -1, "PenaltyTime-ECN0");
-         stat = asn1PD_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt60);
+         if (pvalue->u.pt60 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "pt60", -1, "PenaltyTime-ECN0");
+         stat = dec_TemporaryOffsetList(ctx, pvalue->u.pt60, cur);
          RT_CHECK(ctx, stat, 0, "pt60", -1, "PenaltyTime-ECN0");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PenaltyTime-ECN0");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PenaltyTime-ECN0");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_PenaltyTime_ECN0(rtxContext* RT_RESTRICT ctx, PenaltyTime_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PenaltyTime_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_HCS_CellReselectInformation_ECN0(rtxContext* RT_RESTRICT ctx, HCS_CellReselectInformation_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* penaltyTime */
+   stat = dec_PenaltyTime_ECN0(ctx, &pvalue->penaltyTime, cur);
+   RT_CHECK(ctx, stat, 0, "penaltyTime", -1, "HCS-CellReselectInformation-ECN0");
    return 0;
 }
 
 int asn1PD_UMTS_HCS_CellReselectInformation_ECN0(rtxContext* RT_RESTRICT ctx, HCS_CellReselectInformation_ECN0* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* penaltyTime */
-   stat = asn1PD_UMTS_PenaltyTime_ECN0(ctx, &pvalue->penaltyTime);
-   RT_CHECK(ctx, stat, 0, "penaltyTime", -1, "HCS-CellReselectInformation-ECN0");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HCS_CellReselectInformation_ECN0, pvalue);
 }
 
-int asn1PD_UMTS_HCS_NeighbouringCellInformation_ECN0(rtxContext* RT_RESTRICT ctx, HCS_NeighbouringCellInformation_ECN0* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HCS_NeighbouringCellInformation_ECN0(rtxContext* RT_RESTRICT ctx, HCS_NeighbouringCellInformation_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-NeighbouringCellInformation-ECN0");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HCS-NeighbouringCellInformation-ECN0");
    /* hcs-PRIO */
    if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->hcs_PRIO, 0, 7);
-      RT_CHECK(ctx, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-ECN0");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->hcs_PRIO, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-ECN0");
    }
    else {
       pvalue->hcs_PRIO = 0;
    }
    /* q-HCS */
    if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->q_HCS, 0, 99);
-      RT_CHECK(ctx, stat, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-ECN0");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->q_HCS, 0, 99);
+      RT_CHECK_AT(ctx, cur, stat, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-ECN0");
    }
    else {
       pvalue->q_HCS = 0;
    }
    /* hcs-CellReselectInformation */
-   stat = asn1PD_UMTS_HCS_CellReselectInformation_ECN0(ctx, &pvalue->hcs_CellReselectInformation);
+   stat = dec_HCS_CellReselectInformation_ECN0(ctx, &pvalue->hcs_CellReselectInformation, cur);
    RT_CHECK(ctx, stat, 0, "hcs-CellReselectInformation", -1, "HCS-NeighbouringCellInformation-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HCS_NeighbouringCellInformation_ECN0(rtxContext* RT_RESTRICT ctx, HCS_NeighbouringCellInformation_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HCS_NeighbouringCellInformation_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-QualMin */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_QualMin, -24, 0);
+      RT_CHECK_AT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
    }
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2: /* gsm */
+         pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(pvalue->u.gsm);
+         stat = dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 2: /* gsm */
-         pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo, pvalue);
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0* RT_RESTRICT pvalue)
+static int dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    /* q-Offset1S-N */
    if (present & ((uint32_t)1 << 3)) {
-      stat = pd_ConsInt8(ctx, &pvalue->q_Offset1S_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_Offset1S_N, -50, 50);
+      RT_CHECK_AT(ctx, cur, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    }
    else {
       pvalue->q_Offset1S_N = 0;
    }
    /* q-Offset2S-N */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsInt8(ctx, &pvalue->q_Offset2S_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_Offset2S_N, -50, 50);
+      RT_CHECK_AT(ctx, cur, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    }
    else {
       pvalue->q_Offset2S_N = 0;
@@ -2375,33 +8232,38 @@ int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* RT_RESTRICT
    /* maxAllowedUL-TX-Power */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    }
    /* hcs-NeighbouringCellInformation-ECN0 */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HCS_NeighbouringCellInformation_ECN0(ctx, &pvalue->hcs_NeighbouringCellInformation_ECN0);
+      stat = dec_HCS_NeighbouringCellInformation_ECN0(ctx, &pvalue->hcs_NeighbouringCellInformation_ECN0, cur);
       RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-ECN0", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    }
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0, pvalue);
+}
+
+static int dec_CellInfoSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-ECN0");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-HCS-ECN0");
    /* cellIndividualOffset */
    if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_AT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0");
    }
    else {
       pvalue->cellIndividualOffset = 0;
@@ -2409,96 +8271,116 @@ int asn1PD_UMTS_CellInfoSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_
    /* referenceTimeDifferenceToCell */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      stat = dec_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
       RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-ECN0");
    }
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = dec_CellInfoSI_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-HCS-ECN0");
    /* cellSelectionReselectionInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
+      stat = dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo, cur);
       RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-ECN0");
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellInfoSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0");
    /* intraFreqCellID */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0");
    }
    /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo);
+   stat = dec_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo, cur);
    RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewIntraFreqCellSI_HCS_ECN0* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_HCS_ECN0));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-HCS-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-HCS-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0");
       elem = (NewIntraFreqCellSI_HCS_ECN0*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewIntraFreqCellSI_HCS_ECN0(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0(ctx, elem);
+      stat = dec_NewIntraFreqCellSI_HCS_ECN0(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0");
    }
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_List_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
    /* removedIntraFreqCellList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      stat = dec_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
       RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
    }
    /* newIntraFreqCellList */
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList);
+   stat = dec_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList, cur);
    RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoSI_List_HCS_ECN0, pvalue);
+}
+
+static int dec_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    /* intraFreqMeasurementID */
    if (present & ((uint32_t)1 << 5)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    }
    else {
       pvalue->intraFreqMeasurementID = 1;
@@ -2506,202 +8388,237 @@ int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx
    /* intraFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List);
+      stat = dec_IntraFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
       RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    }
    /* intraFreqMeasQuantity */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
       RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    }
    /* intraFreqReportingQuantityForRACH */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      stat = dec_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
       RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    }
    /* maxReportedCellsOnRACH */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    }
    /* reportingInfoForCellDCH */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
+      stat = dec_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH, cur);
       RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasurementSysInfo_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0");
    /* interFreqCellID */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0");
    }
    /* frequencyInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
       RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-ECN0");
    }
    /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo);
+   stat = dec_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo, cur);
    RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_HCS_ECN0, pvalue);
+}
+
+static int dec_NewInterFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewInterFreqCellSI_HCS_ECN0* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_HCS_ECN0));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-HCS-ECN0", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-HCS-ECN0", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0");
       elem = (NewInterFreqCellSI_HCS_ECN0*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewInterFreqCellSI_HCS_ECN0(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0(ctx, elem);
+      stat = dec_NewInterFreqCellSI_HCS_ECN0(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-ECN0", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_List_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0");
+   /* removedInterFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0");
    }
    return 0;
 }
 
 int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellInfoSI_List_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0");
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0");
-   }
-   /* newInterFreqCellList */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
+   /* interFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0");
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
    }
    return 0;
 }
 
 int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasurementSysInfo_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
-   /* interFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
+      stat = dec_IntraFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = dec_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = dec_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cpich-RSCP */
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 1: /* cpich-Ec-N0 */
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure, pvalue);
 }
 
-int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* cellSelectionReselectionInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo);
+      stat = dec_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo, cur);
       RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, 0);
    }
    /* interRATCellIndividualOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->interRATCellIndividualOffset, -50, 50);
-   RT_CHECK(ctx, stat, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->interRATCellIndividualOffset, -50, 50);
+   RT_CHECK_AT(ctx, cur, stat, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
    /* bsic */
-   stat = asn1PD_UMTS_BSIC(ctx, &pvalue->bsic);
+   stat = dec_BSIC(ctx, &pvalue->bsic, cur);
    RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
    /* frequency-band */
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->frequency_band, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "Frequency-Band", "frequency-band", -1, 0);
    /* bcch-ARFCN */
-   stat = pd_ConsUInt16(ctx, &pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
    /* dummy */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
@@ -2709,34 +8626,44 @@ int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* RT_RESTRI
    return 0;
 }
 
-int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo_is_2000* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterRATCell_technologySpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterRATCell_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo_is_2000* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* is-2000SpecificMeasInfo */
-   stat = pd_ConsUnsigned(ctx, &pvalue->is_2000SpecificMeasInfo, 0, 4);
-   RT_CHECK(ctx, stat, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->is_2000SpecificMeasInfo, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo_is_2000* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterRATCell_technologySpecificInfo_is_2000, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterRATCell_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* gsm */
          pvalue->u.gsm = (NewInterRATCell_technologySpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(NewInterRATCell_technologySpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
          asn1Init_UMTS_NewInterRATCell_technologySpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
+         stat = dec_NewInterRATCell_technologySpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
          RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       case 1: /* is-2000 */
          pvalue->u.is_2000 = (NewInterRATCell_technologySpecificInfo_is_2000*)rtxMemHeapAllocZ(ctx, sizeof(NewInterRATCell_technologySpecificInfo_is_2000));
-         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "is-2000", -1, 0);
-         stat = asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000);
+         if (pvalue->u.is_2000 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "is-2000", -1, 0);
+         stat = dec_NewInterRATCell_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000, cur);
          RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
          break;
       case 2: /* absent */
@@ -2744,472 +8671,597 @@ int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo(rtxContext* RT_RESTRICT c
       case 3: /* spare1 */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewInterRATCell(rtxContext* RT_RESTRICT ctx, NewInterRATCell* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterRATCell_technologySpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterRATCell(rtxContext* RT_RESTRICT ctx, NewInterRATCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterRATCell");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterRATCell");
    /* interRATCellID */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interRATCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell");
    }
    /* technologySpecificInfo */
-   stat = asn1PD_UMTS_NewInterRATCell_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
+   stat = dec_NewInterRATCell_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "NewInterRATCell");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterRATCellList(rtxContext* RT_RESTRICT ctx, NewInterRATCellList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterRATCell(rtxContext* RT_RESTRICT ctx, NewInterRATCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterRATCell, pvalue);
+}
+
+static int dec_NewInterRATCellList(rtxContext* RT_RESTRICT ctx, NewInterRATCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterRATCellList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterRATCellList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewInterRATCell* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterRATCell));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterRATCell", (int32_t)i, "NewInterRATCellList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterRATCell", (int32_t)i, "NewInterRATCellList");
       elem = (NewInterRATCell*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewInterRATCell(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterRATCell(ctx, elem);
+      stat = dec_NewInterRATCell(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "NewInterRATCell", (int32_t)i, "NewInterRATCellList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterRATCellList(rtxContext* RT_RESTRICT ctx, NewInterRATCellList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterRATCellList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellsForInterRATMeasList(rtxContext* RT_RESTRICT ctx, CellsForInterRATMeasList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellsForInterRATMeasList");
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "CellsForInterRATMeasList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CellsForInterRATMeasList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "InterRATCellID", "InterRATCellID", (int32_t)i, "CellsForInterRATMeasList");
+      }
    }
    return 0;
 }
 
 int asn1PD_UMTS_CellsForInterRATMeasList(rtxContext* RT_RESTRICT ctx, CellsForInterRATMeasList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CellsForInterRATMeasList");
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "CellsForInterRATMeasList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellsForInterRATMeasList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "InterRATCellID", "InterRATCellID", (int32_t)i, "CellsForInterRATMeasList");
-      }
+   RT_DECODE_ENTRY(ctx, dec_CellsForInterRATMeasList, pvalue);
+}
+
+static int dec_InterRATCellInfoList(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATCellInfoList");
+   /* removedInterRATCellList */
+   stat = dec_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList, cur);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList");
+   /* newInterRATCellList */
+   stat = dec_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList");
+   /* cellsForInterRATMeasList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList");
    }
    return 0;
 }
 
 int asn1PD_UMTS_InterRATCellInfoList(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_InterRATCellInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, InterRATMeasurementSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoList");
-   /* removedInterRATCellList */
-   stat = asn1PD_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList");
-   /* newInterRATCellList */
-   stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-   RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList");
-   /* cellsForInterRATMeasList */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATMeasurementSysInfo");
+   /* interRATCellInfoList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList");
+      stat = dec_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurementSysInfo");
    }
    return 0;
 }
 
 int asn1PD_UMTS_InterRATMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, InterRATMeasurementSysInfo* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasurementSysInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurementSysInfo");
-   /* interRATCellInfoList */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = dec_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* interRATMeasurementSysInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurementSysInfo");
+      stat = dec_InterRATMeasurementSysInfo(ctx, &pvalue->interRATMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interRATMeasurementSysInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   /* interRATMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATMeasurementSysInfo(ctx, &pvalue->interRATMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interRATMeasurementSysInfo", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_use_of_HCS_hcs_used, pvalue);
+}
+
+static int dec_MeasurementControlSysInfo_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* hcs-not-used */
+         pvalue->u.hcs_not_used = (MeasurementControlSysInfo_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_not_used));
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hcs-not-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
+         stat = dec_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 1: /* hcs-used */
+         pvalue->u.hcs_used = (MeasurementControlSysInfo_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_used));
+         if (pvalue->u.hcs_used == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hcs-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(pvalue->u.hcs_used);
+         stat = dec_MeasurementControlSysInfo_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_use_of_HCS, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TrCH_Identity(rtxContext* RT_RESTRICT ctx, UL_TrCH_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TrCH-Identity");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* hcs-not-used */
-         pvalue->u.hcs_not_used = (MeasurementControlSysInfo_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_not_used));
-         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-not-used", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+      case 0: /* dch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "UL-TrCH-Identity");
          break;
-      case 1: /* hcs-used */
-         pvalue->u.hcs_used = (MeasurementControlSysInfo_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_used));
-         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-used", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(pvalue->u.hcs_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+      case 1: /* rachorcpch */
+         break;
+      case 2: /* usch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.usch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "usch", -1, "UL-TrCH-Identity");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TrCH-Identity");
    }
    return 0;
 }
 
 int asn1PD_UMTS_UL_TrCH_Identity(rtxContext* RT_RESTRICT ctx, UL_TrCH_Identity* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_UL_TrCH_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_TrafficVolumeMeasurementObjectList(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasurementObjectList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TrCH-Identity");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "UL-TrCH-Identity");
-         break;
-      case 1: /* rachorcpch */
-         break;
-      case 2: /* usch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.usch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "usch", -1, "UL-TrCH-Identity");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TrCH-Identity");
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeMeasurementObjectList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_TrCH_Identity* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_TrCH_Identity));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-TrCH-Identity", (int32_t)i, "TrafficVolumeMeasurementObjectList");
+      elem = (UL_TrCH_Identity*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_TrCH_Identity(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UL_TrCH_Identity(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-TrCH-Identity", (int32_t)i, "TrafficVolumeMeasurementObjectList");
    }
    return 0;
 }
 
 int asn1PD_UMTS_TrafficVolumeMeasurementObjectList(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasurementObjectList* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeMeasurementObjectList, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeInterval(rtxContext* RT_RESTRICT ctx, TimeInterval* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasurementObjectList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_TrCH_Identity* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_TrCH_Identity));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-TrCH-Identity", (int32_t)i, "TrafficVolumeMeasurementObjectList");
-      elem = (UL_TrCH_Identity*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_TrCH_Identity(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_TrCH_Identity(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-TrCH-Identity", (int32_t)i, "TrafficVolumeMeasurementObjectList");
-   }
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeInterval");
    return 0;
 }
 
 int asn1PD_UMTS_TimeInterval(rtxContext* RT_RESTRICT ctx, TimeInterval* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeInterval");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_TimeInterval, pvalue);
 }
 
-int asn1PD_UMTS_TrafficVolumeMeasQuantity(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasQuantity* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_TrafficVolumeMeasQuantity(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasQuantity");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeMeasQuantity");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* rlc-BufferPayload */
          break;
       case 1: /* averageRLC-BufferPayload */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.averageRLC_BufferPayload, 1, 13);
-         RT_CHECK(ctx, stat, "TimeInterval", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.averageRLC_BufferPayload, 1, 13);
+         RT_CHECK_AT(ctx, cur, stat, "TimeInterval", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
          break;
       case 2: /* varianceOfRLC-BufferPayload */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.varianceOfRLC_BufferPayload, 1, 13);
-         RT_CHECK(ctx, stat, "TimeInterval", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.varianceOfRLC_BufferPayload, 1, 13);
+         RT_CHECK_AT(ctx, cur, stat, "TimeInterval", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeMeasQuantity");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeMeasQuantity");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeMeasQuantity(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeMeasQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_TrafficVolumeReportingQuantity(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rlc-RB-BufferPayload */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_RB_BufferPayload);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-RB-BufferPayload", -1, "TrafficVolumeReportingQuantity");
+   /* rlc-RB-BufferPayloadAverage */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_RB_BufferPayloadAverage);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-RB-BufferPayloadAverage", -1, "TrafficVolumeReportingQuantity");
+   /* rlc-RB-BufferPayloadVariance */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_RB_BufferPayloadVariance);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-RB-BufferPayloadVariance", -1, "TrafficVolumeReportingQuantity");
    return 0;
 }
 
 int asn1PD_UMTS_TrafficVolumeReportingQuantity(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportingQuantity* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* rlc-RB-BufferPayload */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_RB_BufferPayload);
-   RT_CHECK(ctx, stat, 0, "rlc-RB-BufferPayload", -1, "TrafficVolumeReportingQuantity");
-   /* rlc-RB-BufferPayloadAverage */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_RB_BufferPayloadAverage);
-   RT_CHECK(ctx, stat, 0, "rlc-RB-BufferPayloadAverage", -1, "TrafficVolumeReportingQuantity");
-   /* rlc-RB-BufferPayloadVariance */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_RB_BufferPayloadVariance);
-   RT_CHECK(ctx, stat, 0, "rlc-RB-BufferPayloadVariance", -1, "TrafficVolumeReportingQuantity");
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeReportingQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_TrafficVolumeEventType(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeEventType");
    return 0;
 }
 
 int asn1PD_UMTS_TrafficVolumeEventType(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventType* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeEventType, pvalue);
+}
+
+RT_MERGED_BODY int dec_TrafficVolumeThreshold(rtxContext* RT_RESTRICT ctx, TrafficVolumeThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeEventType");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 25);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeThreshold");
    return 0;
 }
 
 int asn1PD_UMTS_TrafficVolumeThreshold(rtxContext* RT_RESTRICT ctx, TrafficVolumeThreshold* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeThreshold, pvalue);
+}
+
+RT_MERGED_BODY int dec_PendingTimeAfterTrigger(rtxContext* RT_RESTRICT ctx, PendingTimeAfterTrigger* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 25);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeThreshold");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PendingTimeAfterTrigger");
    return 0;
 }
 
 int asn1PD_UMTS_PendingTimeAfterTrigger(rtxContext* RT_RESTRICT ctx, PendingTimeAfterTrigger* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PendingTimeAfterTrigger, pvalue);
+}
+
+RT_MERGED_BODY int dec_TX_InterruptionAfterTrigger(rtxContext* RT_RESTRICT ctx, TX_InterruptionAfterTrigger* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PendingTimeAfterTrigger");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TX-InterruptionAfterTrigger");
    return 0;
 }
 
 int asn1PD_UMTS_TX_InterruptionAfterTrigger(rtxContext* RT_RESTRICT ctx, TX_InterruptionAfterTrigger* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TX-InterruptionAfterTrigger");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_TX_InterruptionAfterTrigger, pvalue);
 }
 
-int asn1PD_UMTS_TrafficVolumeEventParam(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventParam* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_TrafficVolumeEventParam(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventParam* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeEventParam");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeEventParam");
    /* eventID */
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 1);
-   RT_CHECK(ctx, stat, "TrafficVolumeEventType", "eventID", -1, "TrafficVolumeEventParam");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->eventID, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "TrafficVolumeEventType", "eventID", -1, "TrafficVolumeEventParam");
    /* reportingThreshold */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingThreshold, 0, 25);
-   RT_CHECK(ctx, stat, "TrafficVolumeThreshold", "reportingThreshold", -1, "TrafficVolumeEventParam");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingThreshold, 0, 25);
+   RT_CHECK_AT(ctx, cur, stat, "TrafficVolumeThreshold", "reportingThreshold", -1, "TrafficVolumeEventParam");
    /* timeToTrigger */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-      RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "TrafficVolumeEventParam");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "TrafficVolumeEventParam");
    }
    /* pendingTimeAfterTrigger */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pendingTimeAfterTrigger, 0, 6);
-      RT_CHECK(ctx, stat, "PendingTimeAfterTrigger", "pendingTimeAfterTrigger", -1, "TrafficVolumeEventParam");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pendingTimeAfterTrigger, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, "PendingTimeAfterTrigger", "pendingTimeAfterTrigger", -1, "TrafficVolumeEventParam");
    }
    /* tx-InterruptionAfterTrigger */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_InterruptionAfterTrigger, 0, 6);
-      RT_CHECK(ctx, stat, "TX-InterruptionAfterTrigger", "tx-InterruptionAfterTrigger", -1, "TrafficVolumeEventParam");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tx_InterruptionAfterTrigger, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, "TX-InterruptionAfterTrigger", "tx-InterruptionAfterTrigger", -1, "TrafficVolumeEventParam");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeEventParam(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventParam* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeEventParam, pvalue);
+}
+
+RT_MERGED_BODY int dec_TransChCriteria_eventSpecificParameters(rtxContext* RT_RESTRICT ctx, TransChCriteria_eventSpecificParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TrafficVolumeEventParam* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TrafficVolumeEventParam));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TrafficVolumeEventParam", (int32_t)i, 0);
+      elem = (TrafficVolumeEventParam*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TrafficVolumeEventParam(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TrafficVolumeEventParam(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "TrafficVolumeEventParam", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_TransChCriteria_eventSpecificParameters(rtxContext* RT_RESTRICT ctx, TransChCriteria_eventSpecificParameters* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TrafficVolumeEventParam* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TrafficVolumeEventParam));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TrafficVolumeEventParam", (int32_t)i, 0);
-      elem = (TrafficVolumeEventParam*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TrafficVolumeEventParam(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TrafficVolumeEventParam(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "TrafficVolumeEventParam", (int32_t)i, 0);
+   RT_DECODE_ENTRY(ctx, dec_TransChCriteria_eventSpecificParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_TransChCriteria(rtxContext* RT_RESTRICT ctx, TransChCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransChCriteria");
+   /* ul-transportChannelID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelID, cur);
+      RT_CHECK(ctx, stat, 0, "ul-transportChannelID", -1, "TransChCriteria");
+   }
+   /* eventSpecificParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TransChCriteria_eventSpecificParameters(ctx, &pvalue->eventSpecificParameters, cur);
+      RT_CHECK(ctx, stat, 0, "eventSpecificParameters", -1, "TransChCriteria");
    }
    return 0;
 }
 
 int asn1PD_UMTS_TransChCriteria(rtxContext* RT_RESTRICT ctx, TransChCriteria* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransChCriteria");
-   /* ul-transportChannelID */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelID);
-      RT_CHECK(ctx, stat, 0, "ul-transportChannelID", -1, "TransChCriteria");
-   }
-   /* eventSpecificParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TransChCriteria_eventSpecificParameters(ctx, &pvalue->eventSpecificParameters);
-      RT_CHECK(ctx, stat, 0, "eventSpecificParameters", -1, "TransChCriteria");
+   RT_DECODE_ENTRY(ctx, dec_TransChCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_TransChCriteriaList(rtxContext* RT_RESTRICT ctx, TransChCriteriaList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransChCriteriaList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TransChCriteria* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TransChCriteria));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TransChCriteria", (int32_t)i, "TransChCriteriaList");
+      elem = (TransChCriteria*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TransChCriteria(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TransChCriteria(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "TransChCriteria", (int32_t)i, "TransChCriteriaList");
    }
    return 0;
 }
 
 int asn1PD_UMTS_TransChCriteriaList(rtxContext* RT_RESTRICT ctx, TransChCriteriaList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransChCriteriaList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TransChCriteria* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TransChCriteria));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TransChCriteria", (int32_t)i, "TransChCriteriaList");
-      elem = (TransChCriteria*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TransChCriteria(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TransChCriteria(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "TransChCriteria", (int32_t)i, "TransChCriteriaList");
+   RT_DECODE_ENTRY(ctx, dec_TransChCriteriaList, pvalue);
+}
+
+static int dec_TrafficVolumeReportingCriteria(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeReportingCriteria");
+   /* transChCriteriaList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TransChCriteriaList(ctx, &pvalue->transChCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "transChCriteriaList", -1, "TrafficVolumeReportingCriteria");
    }
    return 0;
 }
 
 int asn1PD_UMTS_TrafficVolumeReportingCriteria(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportingCriteria* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeReportingCriteria");
-   /* transChCriteriaList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransChCriteriaList(ctx, &pvalue->transChCriteriaList);
-      RT_CHECK(ctx, stat, 0, "transChCriteriaList", -1, "TrafficVolumeReportingCriteria");
-   }
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeReportingCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementValidity_ue_State(rtxContext* RT_RESTRICT ctx, MeasurementValidity_ue_State* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_MeasurementValidity_ue_State(rtxContext* RT_RESTRICT ctx, MeasurementValidity_ue_State* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_MeasurementValidity_ue_State, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementValidity(rtxContext* RT_RESTRICT ctx, MeasurementValidity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-State */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_State, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-State", -1, "MeasurementValidity");
    return 0;
 }
 
 int asn1PD_UMTS_MeasurementValidity(rtxContext* RT_RESTRICT ctx, MeasurementValidity* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* ue-State */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_State, 0, 2);
-   RT_CHECK(ctx, stat, 0, "ue-State", -1, "MeasurementValidity");
+   RT_DECODE_ENTRY(ctx, dec_MeasurementValidity, pvalue);
+}
+
+RT_MERGED_BODY int dec_TrafficVolumeReportCriteriaSysInfo(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportCriteriaSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeReportCriteriaSysInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* trafficVolumeReportingCriteria */
+         pvalue->u.trafficVolumeReportingCriteria = (TrafficVolumeReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeReportingCriteria));
+         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         asn1Init_UMTS_TrafficVolumeReportingCriteria(pvalue->u.trafficVolumeReportingCriteria);
+         stat = dec_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeReportCriteriaSysInfo");
+   }
    return 0;
 }
 
 int asn1PD_UMTS_TrafficVolumeReportCriteriaSysInfo(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportCriteriaSysInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeReportCriteriaSysInfo");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* trafficVolumeReportingCriteria */
-         pvalue->u.trafficVolumeReportingCriteria = (TrafficVolumeReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeReportingCriteria));
-         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
-         asn1Init_UMTS_TrafficVolumeReportingCriteria(pvalue->u.trafficVolumeReportingCriteria);
-         stat = asn1PD_UMTS_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeReportCriteriaSysInfo");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeReportCriteriaSysInfo, pvalue);
 }
 
-int asn1PD_UMTS_TrafficVolumeMeasSysInfo(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasSysInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_TrafficVolumeMeasSysInfo(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasSysInfo");
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeMeasSysInfo");
    /* trafficVolumeMeasurementID */
    if (present & ((uint32_t)1 << 5)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->trafficVolumeMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "trafficVolumeMeasurementID", -1, "TrafficVolumeMeasSysInfo");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->trafficVolumeMeasurementID, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MeasurementIdentity", "trafficVolumeMeasurementID", -1, "TrafficVolumeMeasSysInfo");
    }
    else {
       pvalue->trafficVolumeMeasurementID = 4;
@@ -3217,64 +9269,74 @@ int asn1PD_UMTS_TrafficVolumeMeasSysInfo(rtxContext* RT_RESTRICT ctx, TrafficVol
    /* trafficVolumeMeasurementObjectList */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList);
+      stat = dec_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList, cur);
       RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurementObjectList", -1, "TrafficVolumeMeasSysInfo");
    }
    /* trafficVolumeMeasQuantity */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity);
+      stat = dec_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity, cur);
       RT_CHECK(ctx, stat, 0, "trafficVolumeMeasQuantity", -1, "TrafficVolumeMeasSysInfo");
    }
    /* trafficVolumeReportingQuantity */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity);
+      stat = dec_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity, cur);
       RT_CHECK(ctx, stat, 0, "trafficVolumeReportingQuantity", -1, "TrafficVolumeMeasSysInfo");
    }
    /* dummy */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TrafficVolumeReportingCriteria(ctx, &pvalue->dummy);
+      stat = dec_TrafficVolumeReportingCriteria(ctx, &pvalue->dummy, cur);
       RT_CHECK(ctx, stat, 0, "dummy", -1, "TrafficVolumeMeasSysInfo");
    }
    /* measurementValidity */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
       RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "TrafficVolumeMeasSysInfo");
    }
    /* measurementReportingMode */
-   stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+   stat = dec_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode, cur);
    RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "TrafficVolumeMeasSysInfo");
    /* reportCriteriaSysInf */
-   stat = asn1PD_UMTS_TrafficVolumeReportCriteriaSysInfo(ctx, &pvalue->reportCriteriaSysInf);
+   stat = dec_TrafficVolumeReportCriteriaSysInfo(ctx, &pvalue->reportCriteriaSysInf, cur);
    RT_CHECK(ctx, stat, 0, "reportCriteriaSysInf", -1, "TrafficVolumeMeasSysInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeMeasSysInfo(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasSysInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeMeasSysInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_MeasurementQuantity(rtxContext* RT_RESTRICT ctx, UE_MeasurementQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-MeasurementQuantity");
    return 0;
 }
 
 int asn1PD_UMTS_UE_MeasurementQuantity(rtxContext* RT_RESTRICT ctx, UE_MeasurementQuantity* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-MeasurementQuantity");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UE_MeasurementQuantity, pvalue);
 }
 
-int asn1PD_UMTS_UE_InternalMeasQuantity(rtxContext* RT_RESTRICT ctx, UE_InternalMeasQuantity* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UE_InternalMeasQuantity(rtxContext* RT_RESTRICT ctx, UE_InternalMeasQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasQuantity");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-InternalMeasQuantity");
    /* measurementQuantity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementQuantity, 0, 2);
-   RT_CHECK(ctx, stat, "UE-MeasurementQuantity", "measurementQuantity", -1, "UE-InternalMeasQuantity");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->measurementQuantity, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "UE-MeasurementQuantity", "measurementQuantity", -1, "UE-InternalMeasQuantity");
    /* filterCoefficient */
    if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, "UE-InternalMeasQuantity");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->filterCoefficient, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "FilterCoefficient", "filterCoefficient", -1, "UE-InternalMeasQuantity");
    }
    else {
       pvalue->filterCoefficient = 0;
@@ -3282,5730 +9344,65 @@ int asn1PD_UMTS_UE_InternalMeasQuantity(rtxContext* RT_RESTRICT ctx, UE_Internal
    return 0;
 }
 
-int asn1PD_UMTS_UE_InternalMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurementSysInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_InternalMeasQuantity(rtxContext* RT_RESTRICT ctx, UE_InternalMeasQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurementSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasurementSysInfo");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-InternalMeasurementSysInfo");
    /* ue-InternalMeasurementID */
    if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_InternalMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "ue-InternalMeasurementID", -1, "UE-InternalMeasurementSysInfo");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_InternalMeasurementID, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MeasurementIdentity", "ue-InternalMeasurementID", -1, "UE-InternalMeasurementSysInfo");
    }
    else {
       pvalue->ue_InternalMeasurementID = 5;
    }
    /* ue-InternalMeasQuantity */
-   stat = asn1PD_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
+   stat = dec_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity, cur);
    RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurementSysInfo");
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControlSysInfo(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_InternalMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurementSysInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasurementSysInfo, pvalue);
+}
+
+static int dec_MeasurementControlSysInfo(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControlSysInfo");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementControlSysInfo");
    /* use-of-HCS */
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS(ctx, &pvalue->use_of_HCS);
+   stat = dec_MeasurementControlSysInfo_use_of_HCS(ctx, &pvalue->use_of_HCS, cur);
    RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfo");
    /* trafficVolumeMeasSysInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TrafficVolumeMeasSysInfo(ctx, &pvalue->trafficVolumeMeasSysInfo);
+      stat = dec_TrafficVolumeMeasSysInfo(ctx, &pvalue->trafficVolumeMeasSysInfo, cur);
       RT_CHECK(ctx, stat, 0, "trafficVolumeMeasSysInfo", -1, "MeasurementControlSysInfo");
    }
    /* dummy */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_InternalMeasurementSysInfo(ctx, &pvalue->dummy);
+      stat = dec_UE_InternalMeasurementSysInfo(ctx, &pvalue->dummy, cur);
       RT_CHECK(ctx, stat, 0, "dummy", -1, "MeasurementControlSysInfo");
    }
    return 0;
 }
 
-int asn1PD_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo_LCR_r4_ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MeasurementControlSysInfo(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* inter-freq-TDD128-meas-ind */
-   stat = rtxDecBitInline(ctx, &pvalue->inter_freq_TDD128_meas_ind);
-   RT_CHECK(ctx, stat, 0, "inter-freq-TDD128-meas-ind", -1, "FACH-MeasurementOccasionInfo-LCR-r4-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCCPCH-Info-LCR-r4");
-   /* tstd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4");
-   /* cellParametersID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-Info-LCR-r4");
-   }
-   /* sctd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfo_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "TimeslotInfo-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotInfoList-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TimeslotInfo_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TimeslotInfo-LCR-r4", (int32_t)i, "TimeslotInfoList-LCR-r4");
-      elem = (TimeslotInfo_LCR_r4*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TimeslotInfo_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "TimeslotInfo-LCR-r4", (int32_t)i, "TimeslotInfoList-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-RSCP-LCR-r4");
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 4)) {
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP-LCR-r4");
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-RSCP-LCR-r4");
-   }
-   /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-RSCP-LCR-r4");
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-RSCP-LCR-r4");
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-RSCP-LCR-r4");
-   }
-   /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-RSCP-LCR-r4");
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCellSI_RSCP_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_RSCP_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
-      elem = (NewIntraFreqCellSI_RSCP_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
-   }
-   /* newIntraFreqCellList */
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCell_LCR_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tdd */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->tdd);
-   RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCellList_LCR_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ForbiddenAffectCellList-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ForbiddenAffectCell_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCell_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ForbiddenAffectCell-LCR-r4", (int32_t)i, "ForbiddenAffectCellList-LCR-r4");
-      elem = (ForbiddenAffectCell_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_ForbiddenAffectCell_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ForbiddenAffectCell_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell-LCR-r4", (int32_t)i, "ForbiddenAffectCellList-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event1a_LCR_r4(rtxContext* RT_RESTRICT ctx, Event1a_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a-LCR-r4");
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-LCR-r4");
-   /* reportingRange */
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a-LCR-r4");
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a-LCR-r4");
-   }
-   /* w */
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a-LCR-r4");
-   /* reportDeactivationThreshold */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-LCR-r4");
-   /* reportingAmount */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-LCR-r4");
-   /* reportingInterval */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_Event1b_LCR_r4(rtxContext* RT_RESTRICT ctx, Event1b_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-LCR-r4");
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-LCR-r4");
-   /* reportingRange */
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-LCR-r4");
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-LCR-r4");
-   }
-   /* w */
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEvent_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEvent-LCR-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e1a */
-         pvalue->u.e1a = (Event1a_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_LCR_r4));
-         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEvent-LCR-r4");
-         asn1Init_UMTS_Event1a_LCR_r4(pvalue->u.e1a);
-         stat = asn1PD_UMTS_Event1a_LCR_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      case 1: /* e1b */
-         pvalue->u.e1b = (Event1b_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1b_LCR_r4));
-         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEvent-LCR-r4");
-         asn1Init_UMTS_Event1b_LCR_r4(pvalue->u.e1b);
-         stat = asn1PD_UMTS_Event1b_LCR_r4(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      case 2: /* e1c */
-         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
-         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEvent-LCR-r4");
-         stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      case 3: /* e1d */
-         break;
-      case 4: /* e1e */
-         pvalue->u.e1e = (Event1e*)rtxMemHeapAllocZ(ctx, sizeof(Event1e));
-         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEvent-LCR-r4");
-         stat = asn1PD_UMTS_Event1e(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      case 5: /* e1f */
-         pvalue->u.e1f = (Event1f*)rtxMemHeapAllocZ(ctx, sizeof(Event1f));
-         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEvent-LCR-r4");
-         stat = asn1PD_UMTS_Event1f(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      case 6: /* e1g */
-         break;
-      case 7: /* e1h */
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1h, -115, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      case 8: /* e1i */
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1i, -115, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-LCR-r4");
-   /* event */
-   stat = asn1PD_UMTS_IntraFreqEvent_LCR_r4(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-LCR-r4");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-LCR-r4");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-LCR-r4");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaList_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IntraFreqEventCriteria_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IntraFreqEventCriteria-LCR-r4", (int32_t)i, "IntraFreqEventCriteriaList-LCR-r4");
-      elem = (IntraFreqEventCriteria_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IntraFreqEventCriteria_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IntraFreqEventCriteria_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-LCR-r4", (int32_t)i, "IntraFreqEventCriteriaList-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-LCR-r4");
-   /* eventCriteriaList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaList_LCR_r4(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellDCH_ReportCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, CellDCH_ReportCriteria_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellDCH-ReportCriteria-LCR-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_LCR_r4));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
-         asn1Init_UMTS_IntraFreqReportingCriteria_LCR_r4(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_LCR_r4(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellDCH-ReportCriteria-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(rtxContext* RT_RESTRICT ctx, ReportingInfoForCellDCH_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* intraFreqReportingQuantity */
-   stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "ReportingInfoForCellDCH-LCR-r4");
-   /* measurementReportingMode */
-   stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "ReportingInfoForCellDCH-LCR-r4");
-   /* reportCriteria */
-   stat = asn1PD_UMTS_CellDCH_ReportCriteria_LCR_r4(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "ReportingInfoForCellDCH-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   /* intraFreqMeasurementID */
-   if (present & ((uint32_t)1 << 5)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   else {
-      pvalue->intraFreqMeasurementID = 1;
-   }
-   /* intraFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   /* maxReportedCellsOnRACH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   /* reportingInfoForCellDCH */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-RSCP-LCR-r4");
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-RSCP-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCellSI_RSCP_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_RSCP_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-RSCP-LCR-r4");
-      elem = (NewInterFreqCellSI_RSCP_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_RSCP_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP-LCR");
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP-LCR");
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP-LCR");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
-   /* interFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-ECN0-LCR-r4");
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 4)) {
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0-LCR-r4");
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-ECN0-LCR-r4");
-   }
-   /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-ECN0-LCR-r4");
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-ECN0-LCR-r4");
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-ECN0-LCR-r4");
-   }
-   /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-ECN0-LCR-r4");
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCellSI_ECN0_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_ECN0_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
-      elem = (NewIntraFreqCellSI_ECN0_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
-   }
-   /* newIntraFreqCellList */
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   /* intraFreqMeasurementID */
-   if (present & ((uint32_t)1 << 5)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   else {
-      pvalue->intraFreqMeasurementID = 1;
-   }
-   /* intraFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   /* maxReportedCellsOnRACH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   /* reportingInfoForCellDCH */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-ECN0-LCR-r4");
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-ECN0-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCellSI_ECN0_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_ECN0_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-ECN0-LCR-r4");
-      elem = (NewInterFreqCellSI_ECN0_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_ECN0_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0-LCR");
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0-LCR");
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0-LCR");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
-   /* interFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cpich-RSCP */
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 1: /* cpich-Ec-N0 */
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellSelectQualityMeasure */
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 4)) {
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   }
-   /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   }
-   /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCellSI_HCS_RSCP_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_HCS_RSCP_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
-      elem = (NewIntraFreqCellSI_HCS_RSCP_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
-   }
-   /* newIntraFreqCellList */
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   /* intraFreqMeasurementID */
-   if (present & ((uint32_t)1 << 5)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   else {
-      pvalue->intraFreqMeasurementID = 1;
-   }
-   /* intraFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   /* maxReportedCellsOnRACH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   /* reportingInfoForCellDCH */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCellSI_HCS_RSCP_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_HCS_RSCP_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
-      elem = (NewInterFreqCellSI_HCS_RSCP_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_RSCP_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   /* interFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 4)) {
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   }
-   /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   }
-   /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCellSI_HCS_ECN0_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_HCS_ECN0_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
-      elem = (NewIntraFreqCellSI_HCS_ECN0_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
-   }
-   /* newIntraFreqCellList */
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   /* intraFreqMeasurementID */
-   if (present & ((uint32_t)1 << 5)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   else {
-      pvalue->intraFreqMeasurementID = 1;
-   }
-   /* intraFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   /* maxReportedCellsOnRACH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   /* reportingInfoForCellDCH */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCellSI_HCS_ECN0_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_HCS_ECN0_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
-      elem = (NewInterFreqCellSI_HCS_ECN0_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_ECN0_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   /* interFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cpich-RSCP */
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 1: /* cpich-Ec-N0 */
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellSelectQualityMeasure */
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* hcs-not-used */
-         pvalue->u.hcs_not_used = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used));
-         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-not-used", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
-         break;
-      case 1: /* hcs-used */
-         pvalue->u.hcs_used = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used));
-         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-used", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(pvalue->u.hcs_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* use-of-HCS */
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfo-LCR-r4-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v4b0ext-IEs");
-   /* fach-MeasurementOccasionInfo-LCR-Ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext);
-      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo-LCR-Ext", -1, "SysInfoType11-v4b0ext-IEs");
-   }
-   /* measurementControlSysInfo-LCR */
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR);
-   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType11-v4b0ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, Intra_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "Intra-FreqEventCriteriaList-v590ext");
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "Intra-FreqEventCriteriaList-v590ext");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Intra-FreqEventCriteriaList-v590ext");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsInt8(ctx, &pvalue->elem[i], -5, -1);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "DeltaRSCP", "DeltaRSCP", (int32_t)i, "Intra-FreqEventCriteriaList-v590ext");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PeriodicReportingInfo_1b(rtxContext* RT_RESTRICT ctx, PeriodicReportingInfo_1b* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* reportingAmount */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "PeriodicReportingInfo-1b");
-   /* reportingInterval */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "PeriodicReportingInfo-1b");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_1b_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* periodicReportingInfo-1b */
-   stat = asn1PD_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
-   RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "IntraFreqReportingCriteria-1b-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEvent_1d_r5(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_1d_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEvent-1d-r5");
-   /* triggeringCondition */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-      RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "IntraFreqEvent-1d-r5");
-   }
-   /* useCIO */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = rtxDecBitInline(ctx, &pvalue->useCIO);
-      RT_CHECK(ctx, stat, 0, "useCIO", -1, "IntraFreqEvent-1d-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v590ext-IEs");
-   /* newIntraFrequencyCellInfoList-v590ext */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
-   }
-   /* newInterFrequencyCellInfoList-v590ext */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
-   }
-   /* newInterRATCellInfoList-v590ext */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
-   }
-   /* intraFreqEventCriteriaList-v590ext */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext);
-      RT_CHECK(ctx, stat, 0, "intraFreqEventCriteriaList-v590ext", -1, "SysInfoType11-v590ext-IEs");
-   }
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "SysInfoType11-v590ext-IEs");
-   }
-   /* intraFreqEvent-1d-r5 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
-      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "SysInfoType11-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_FDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqRepQuantityRACH-FDD");
-   return 0;
-}
-
-int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* interFreqRepQuantityRACH-FDD */
-   stat = pd_ConsUnsigned(ctx, &pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
-   RT_CHECK(ctx, stat, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqRepQuantityRACH-TDD");
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqRepQuantityRACH-TDDList");
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddStrParm(ctx, "InterFreqRepQuantityRACH-TDDList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InterFreqRepQuantityRACH-TDDList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 1);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "InterFreqRepQuantityRACH-TDD", "InterFreqRepQuantityRACH-TDD", (int32_t)i, "InterFreqRepQuantityRACH-TDDList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* interFreqRepQuantityRACH-TDDList */
-   stat = asn1PD_UMTS_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList);
-   RT_CHECK(ctx, stat, 0, "interFreqRepQuantityRACH-TDDList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_Threshold(rtxContext* RT_RESTRICT ctx, Threshold* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -115, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Threshold");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxReportedCellsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACHinterFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxReportedCellsOnRACHinterFreq");
-   return 0;
-}
-
-int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 2: /* interFreqRACHReportingThreshold */
-         stat = pd_ConsInt8(ctx, &pvalue->u.interFreqRACHReportingThreshold, -115, 0);
-         RT_CHECK(ctx, stat, "Threshold", "interFreqRACHReportingThreshold", -1, 0);
-         break;
-      case 3: /* maxReportedCellsOnRACHinterFreq */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.maxReportedCellsOnRACHinterFreq, 1, 8);
-         RT_CHECK(ctx, stat, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Dummy-InterFreqRACHReportingInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v690ext-IEs");
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType11-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* interFreqRepQuantityRACH-FDD */
-   stat = pd_ConsUnsigned(ctx, &pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
-   RT_CHECK(ctx, stat, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* interFreqRepQuantityRACH-TDDList */
-   stat = asn1PD_UMTS_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList);
-   RT_CHECK(ctx, stat, 0, "interFreqRepQuantityRACH-TDDList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (InterFreqRACHReportingInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqRACHReportingInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (InterFreqRACHReportingInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(InterFreqRACHReportingInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "InterFreqRACHReportingInfo");
-   /* interFreqRACHReportingThreshold */
-   stat = pd_ConsInt8(ctx, &pvalue->interFreqRACHReportingThreshold, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "interFreqRACHReportingThreshold", -1, "InterFreqRACHReportingInfo");
-   /* maxReportedCellsOnRACHinterFreq */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxReportedCellsOnRACHinterFreq, 1, 8);
-   RT_CHECK(ctx, stat, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, "InterFreqRACHReportingInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v6b0ext-IEs");
-   /* interFreqRACHReportingInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqRACHReportingInfo", -1, "SysInfoType11-v6b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNFrequency(rtxContext* RT_RESTRICT ctx, MBSFNFrequency* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNFrequency");
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "MBSFNFrequency");
-   /* cellParametersID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "MBSFNFrequency");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNFrequencyList(rtxContext* RT_RESTRICT ctx, MBSFNFrequencyList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 0, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNFrequencyList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFNFrequency* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNFrequency));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFNFrequency", (int32_t)i, "MBSFNFrequencyList");
-      elem = (MBSFNFrequency*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBSFNFrequency(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFNFrequency(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBSFNFrequency", (int32_t)i, "MBSFNFrequencyList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v770ext-IEs");
-   /* mbsfnFrequencyList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBSFNFrequencyList(ctx, &pvalue->mbsfnFrequencyList);
-      RT_CHECK(ctx, stat, 0, "mbsfnFrequencyList", -1, "SysInfoType11-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_v7b0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_v7b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* intraSecondaryFreqIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->intraSecondaryFreqIndicator);
-   RT_CHECK(ctx, stat, 0, "intraSecondaryFreqIndicator", -1, "NewInterFreqCell-v7b0ext");
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellList_v7b0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_v7b0ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellList-v7b0ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCell_v7b0ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_v7b0ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCell-v7b0ext", (int32_t)i, "NewInterFreqCellList-v7b0ext");
-      elem = (NewInterFreqCell_v7b0ext*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCell_v7b0ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-v7b0ext", (int32_t)i, "NewInterFreqCellList-v7b0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v7b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v7b0ext-IEs");
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType11-v7b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNFrequency_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext_imb_Indication* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNFrequency_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNFrequency-v860ext");
-   /* imb-Indication */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "imb-Indication", -1, "MBSFNFrequency-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "imb-Indication", -1, "MBSFNFrequency-v860ext");
-         pvalue->imb_Indication = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNFrequencyList_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNFrequencyList_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 0, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNFrequencyList-v860ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFNFrequency_v860ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNFrequency_v860ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFNFrequency-v860ext", (int32_t)i, "MBSFNFrequencyList-v860ext");
-      elem = (MBSFNFrequency_v860ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBSFNFrequency_v860ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFNFrequency_v860ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBSFNFrequency-v860ext", (int32_t)i, "MBSFNFrequencyList-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v860ext-IEs");
-   /* mbsfnFrequencyList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBSFNFrequencyList_v860ext(ctx, &pvalue->mbsfnFrequencyList);
-      RT_CHECK(ctx, stat, 0, "mbsfnFrequencyList", -1, "SysInfoType11-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v860ext */
-   stat = asn1PD_UMTS_SysInfoType11_v860ext_IEs(ctx, &pvalue->sysInfoType11_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v7b0ext */
-   stat = asn1PD_UMTS_SysInfoType11_v7b0ext_IEs(ctx, &pvalue->sysInfoType11_v7b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11-v7b0ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v770ext */
-   stat = asn1PD_UMTS_SysInfoType11_v770ext_IEs(ctx, &pvalue->sysInfoType11_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11-v770ext", -1, 0);
-   /* v7b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v6b0ext */
-   stat = asn1PD_UMTS_SysInfoType11_v6b0ext_IEs(ctx, &pvalue->sysInfoType11_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11-v6b0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v690ext */
-   stat = asn1PD_UMTS_SysInfoType11_v690ext_IEs(ctx, &pvalue->sysInfoType11_v690ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11-v690ext", -1, 0);
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v590ext */
-   stat = asn1PD_UMTS_SysInfoType11_v590ext_IEs(ctx, &pvalue->sysInfoType11_v590ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v4b0ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0ext_IEs(ctx, &pvalue->sysInfoType11_v4b0ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType11-v4b0ext", -1, 0);
-   }
-   /* v590NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11(rtxContext* RT_RESTRICT ctx, SysInfoType11* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11");
-   /* sib12indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sib12indicator);
-   RT_CHECK(ctx, stat, 0, "sib12indicator", -1, "SysInfoType11");
-   /* fach-MeasurementOccasionInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo);
-      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo", -1, "SysInfoType11");
-   }
-   /* measurementControlSysInfo */
-   stat = asn1PD_UMTS_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo);
-   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType11");
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType11");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cpich-RSCP */
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 1: /* cpich-Ec-N0 */
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   /* newInterRATCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cpich-RSCP */
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 1: /* cpich-Ec-N0 */
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   /* newInterRATCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* hcs-not-used */
-         pvalue->u.hcs_not_used = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used));
-         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-not-used", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
-         break;
-      case 1: /* hcs-used */
-         pvalue->u.hcs_used = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_used));
-         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-used", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(pvalue->u.hcs_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* use-of-HCS */
-   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfoExtension");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cpich-RSCP */
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 1: /* cpich-Ec-N0 */
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   /* newInterRATCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cpich-RSCP */
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 1: /* cpich-Ec-N0 */
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   /* newInterRATCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* hcs-not-used */
-         pvalue->u.hcs_not_used = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used));
-         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-not-used", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
-         break;
-      case 1: /* hcs-used */
-         pvalue->u.hcs_used = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used));
-         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-used", -1, 0);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(pvalue->u.hcs_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* use-of-HCS */
-   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfoExtension-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControlSysInfoExtensionAddon-r5");
-   /* newIntraFrequencyCellInfoListAddon-r5 */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(ctx, &pvalue->newIntraFrequencyCellInfoListAddon_r5);
-      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
-   }
-   /* newInterFrequencyCellInfoListAddon-r5 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(ctx, &pvalue->newInterFrequencyCellInfoListAddon_r5);
-      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
-   }
-   /* newInterRATCellInfoListAddon-r5 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(ctx, &pvalue->newInterRATCellInfoListAddon_r5);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11bis_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11bis-v7b0ext-IEs");
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType11bis-v7b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSG_DedicatedFrequencyInfoList(rtxContext* RT_RESTRICT ctx, CSG_DedicatedFrequencyInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSG-DedicatedFrequencyInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      FrequencyInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "FrequencyInfo", (int32_t)i, "CSG-DedicatedFrequencyInfoList");
-      elem = (FrequencyInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_FrequencyInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "FrequencyInfo", (int32_t)i, "CSG-DedicatedFrequencyInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11bis-v860ext-IEs");
-   /* csg-PSCSplitInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo);
-      RT_CHECK(ctx, stat, 0, "csg-PSCSplitInfo", -1, "SysInfoType11bis-v860ext-IEs");
-   }
-   /* csg-DedicatedFrequencyInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CSG_DedicatedFrequencyInfoList(ctx, &pvalue->csg_DedicatedFrequencyInfoList);
-      RT_CHECK(ctx, stat, 0, "csg-DedicatedFrequencyInfoList", -1, "SysInfoType11bis-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11bis-v860ext */
-   stat = asn1PD_UMTS_SysInfoType11bis_v860ext_IEs(ctx, &pvalue->sysInfoType11bis_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11bis-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11bis-v7b0ext */
-   stat = asn1PD_UMTS_SysInfoType11bis_v7b0ext_IEs(ctx, &pvalue->sysInfoType11bis_v7b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11bis-v7b0ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11bis(rtxContext* RT_RESTRICT ctx, SysInfoType11bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11bis");
-   /* measurementControlSysInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControlSysInfoExtension(ctx, &pvalue->measurementControlSysInfo);
-      RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType11bis");
-   }
-   /* measurementControlSysInfo-LCR */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4(ctx, &pvalue->measurementControlSysInfo_LCR);
-      RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType11bis");
-   }
-   /* measurementControlSysInfoExtensionAddon-r5 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5(ctx, &pvalue->measurementControlSysInfoExtensionAddon_r5);
-      RT_CHECK(ctx, stat, 0, "measurementControlSysInfoExtensionAddon-r5", -1, "SysInfoType11bis");
-   }
-   /* v7b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, "SysInfoType11bis");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v4b0ext-IEs");
-   /* fach-MeasurementOccasionInfo-LCR-Ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext);
-      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo-LCR-Ext", -1, "SysInfoType12-v4b0ext-IEs");
-   }
-   /* measurementControlSysInfo-LCR */
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR);
-   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType12-v4b0ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v590ext-IEs");
-   /* newIntraFrequencyCellInfoList-v590ext */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
-   }
-   /* newInterFrequencyCellInfoList-v590ext */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
-   }
-   /* newInterRATCellInfoList-v590ext */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
-   }
-   /* intraFreqEventCriteriaList-v590ext */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext);
-      RT_CHECK(ctx, stat, 0, "intraFreqEventCriteriaList-v590ext", -1, "SysInfoType12-v590ext-IEs");
-   }
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "SysInfoType12-v590ext-IEs");
-   }
-   /* intraFreqEvent-1d-r5 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
-      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "SysInfoType12-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v690ext-IEs");
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType12-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v6b0ext-IEs");
-   /* interFreqRACHReportingInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqRACHReportingInfo", -1, "SysInfoType12-v6b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v7b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v7b0ext-IEs");
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType12-v7b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType12-v7b0ext */
-   stat = asn1PD_UMTS_SysInfoType12_v7b0ext_IEs(ctx, &pvalue->sysInfoType12_v7b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType12-v7b0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType12-v6b0ext */
-   stat = asn1PD_UMTS_SysInfoType12_v6b0ext_IEs(ctx, &pvalue->sysInfoType12_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType12-v6b0ext", -1, 0);
-   /* v7b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType12-v690ext */
-   stat = asn1PD_UMTS_SysInfoType12_v690ext_IEs(ctx, &pvalue->sysInfoType12_v690ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType12-v690ext", -1, 0);
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType12-v590ext */
-   stat = asn1PD_UMTS_SysInfoType12_v590ext_IEs(ctx, &pvalue->sysInfoType12_v590ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType12-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType12-v4b0ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0ext_IEs(ctx, &pvalue->sysInfoType12_v4b0ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType12-v4b0ext", -1, 0);
-   }
-   /* v590NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12(rtxContext* RT_RESTRICT ctx, SysInfoType12* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12");
-   /* fach-MeasurementOccasionInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo);
-      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo", -1, "SysInfoType12");
-   }
-   /* measurementControlSysInfo */
-   stat = asn1PD_UMTS_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo);
-   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType12");
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType12");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Re_EstablishmentTimer(rtxContext* RT_RESTRICT ctx, Re_EstablishmentTimer* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Re-EstablishmentTimer");
-   return 0;
-}
-
-int asn1PD_UMTS_TimerMRW(rtxContext* RT_RESTRICT ctx, TimerMRW* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerMRW");
-   return 0;
-}
-
-int asn1PD_UMTS_TimerDiscard(rtxContext* RT_RESTRICT ctx, TimerDiscard* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerDiscard");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxMRW(rtxContext* RT_RESTRICT ctx, MaxMRW* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxMRW");
-   return 0;
-}
-
-int asn1PD_UMTS_ExplicitDiscard(rtxContext* RT_RESTRICT ctx, ExplicitDiscard* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timerMRW */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timerMRW, 0, 15);
-   RT_CHECK(ctx, stat, "TimerMRW", "timerMRW", -1, "ExplicitDiscard");
-   /* timerDiscard */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timerDiscard, 0, 15);
-   RT_CHECK(ctx, stat, "TimerDiscard", "timerDiscard", -1, "ExplicitDiscard");
-   /* maxMRW */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxMRW, 0, 7);
-   RT_CHECK(ctx, stat, "MaxMRW", "maxMRW", -1, "ExplicitDiscard");
-   return 0;
-}
-
-int asn1PD_UMTS_NoExplicitDiscard(rtxContext* RT_RESTRICT ctx, NoExplicitDiscard* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NoExplicitDiscard");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxDAT(rtxContext* RT_RESTRICT ctx, MaxDAT* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxDAT");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxDAT_Retransmissions(rtxContext* RT_RESTRICT ctx, MaxDAT_Retransmissions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxDAT */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxDAT, 0, 15);
-   RT_CHECK(ctx, stat, "MaxDAT", "maxDAT", -1, "MaxDAT-Retransmissions");
-   /* timerMRW */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timerMRW, 0, 15);
-   RT_CHECK(ctx, stat, "TimerMRW", "timerMRW", -1, "MaxDAT-Retransmissions");
-   /* maxMRW */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxMRW, 0, 7);
-   RT_CHECK(ctx, stat, "MaxMRW", "maxMRW", -1, "MaxDAT-Retransmissions");
-   return 0;
-}
-
-int asn1PD_UMTS_TransmissionRLC_Discard(rtxContext* RT_RESTRICT ctx, TransmissionRLC_Discard* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionRLC-Discard");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* timerBasedExplicit */
-         pvalue->u.timerBasedExplicit = (ExplicitDiscard*)rtxMemHeapAllocZ(ctx, sizeof(ExplicitDiscard));
-         if (pvalue->u.timerBasedExplicit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timerBasedExplicit", -1, "TransmissionRLC-Discard");
-         stat = asn1PD_UMTS_ExplicitDiscard(ctx, pvalue->u.timerBasedExplicit);
-         RT_CHECK(ctx, stat, 0, "timerBasedExplicit", -1, "TransmissionRLC-Discard");
-         break;
-      case 1: /* timerBasedNoExplicit */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.timerBasedNoExplicit, 0, 9);
-         RT_CHECK(ctx, stat, "NoExplicitDiscard", "timerBasedNoExplicit", -1, "TransmissionRLC-Discard");
-         break;
-      case 2: /* maxDAT-Retransmissions */
-         pvalue->u.maxDAT_Retransmissions = (MaxDAT_Retransmissions*)rtxMemHeapAllocZ(ctx, sizeof(MaxDAT_Retransmissions));
-         if (pvalue->u.maxDAT_Retransmissions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "maxDAT-Retransmissions", -1, "TransmissionRLC-Discard");
-         stat = asn1PD_UMTS_MaxDAT_Retransmissions(ctx, pvalue->u.maxDAT_Retransmissions);
-         RT_CHECK(ctx, stat, 0, "maxDAT-Retransmissions", -1, "TransmissionRLC-Discard");
-         break;
-      case 3: /* noDiscard */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.noDiscard, 0, 15);
-         RT_CHECK(ctx, stat, "MaxDAT", "noDiscard", -1, "TransmissionRLC-Discard");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransmissionRLC-Discard");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TransmissionWindowSize(rtxContext* RT_RESTRICT ctx, TransmissionWindowSize* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionWindowSize");
-   return 0;
-}
-
-int asn1PD_UMTS_TimerRST(rtxContext* RT_RESTRICT ctx, TimerRST* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerRST");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxRST(rtxContext* RT_RESTRICT ctx, MaxRST* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxRST");
-   return 0;
-}
-
-int asn1PD_UMTS_TimerPollProhibit(rtxContext* RT_RESTRICT ctx, TimerPollProhibit* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerPollProhibit");
-   return 0;
-}
-
-int asn1PD_UMTS_TimerPoll(rtxContext* RT_RESTRICT ctx, TimerPoll* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerPoll");
-   return 0;
-}
-
-int asn1PD_UMTS_Poll_PDU(rtxContext* RT_RESTRICT ctx, Poll_PDU* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Poll-PDU");
-   return 0;
-}
-
-int asn1PD_UMTS_Poll_SDU(rtxContext* RT_RESTRICT ctx, Poll_SDU* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Poll-SDU");
-   return 0;
-}
-
-int asn1PD_UMTS_PollWindow(rtxContext* RT_RESTRICT ctx, PollWindow* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PollWindow");
-   return 0;
-}
-
-int asn1PD_UMTS_TimerPollPeriodic(rtxContext* RT_RESTRICT ctx, TimerPollPeriodic* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerPollPeriodic");
-   return 0;
-}
-
-int asn1PD_UMTS_PollingInfo(rtxContext* RT_RESTRICT ctx, PollingInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PollingInfo");
-   /* timerPollProhibit */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->timerPollProhibit, 0, 63);
-      RT_CHECK(ctx, stat, "TimerPollProhibit", "timerPollProhibit", -1, "PollingInfo");
-   }
-   /* timerPoll */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->timerPoll, 0, 63);
-      RT_CHECK(ctx, stat, "TimerPoll", "timerPoll", -1, "PollingInfo");
-   }
-   /* poll-PDU */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->poll_PDU, 0, 7);
-      RT_CHECK(ctx, stat, "Poll-PDU", "poll-PDU", -1, "PollingInfo");
-   }
-   /* poll-SDU */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->poll_SDU, 0, 3);
-      RT_CHECK(ctx, stat, "Poll-SDU", "poll-SDU", -1, "PollingInfo");
-   }
-   /* lastTransmissionPDU-Poll */
-   stat = rtxDecBitInline(ctx, &pvalue->lastTransmissionPDU_Poll);
-   RT_CHECK(ctx, stat, 0, "lastTransmissionPDU-Poll", -1, "PollingInfo");
-   /* lastRetransmissionPDU-Poll */
-   stat = rtxDecBitInline(ctx, &pvalue->lastRetransmissionPDU_Poll);
-   RT_CHECK(ctx, stat, 0, "lastRetransmissionPDU-Poll", -1, "PollingInfo");
-   /* pollWindow */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pollWindow, 0, 7);
-      RT_CHECK(ctx, stat, "PollWindow", "pollWindow", -1, "PollingInfo");
-   }
-   /* timerPollPeriodic */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->timerPollPeriodic, 0, 7);
-      RT_CHECK(ctx, stat, "TimerPollPeriodic", "timerPollPeriodic", -1, "PollingInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_AM_RLC_Mode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AM-RLC-Mode");
-   /* transmissionRLC-Discard */
-   stat = asn1PD_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
-   RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-AM-RLC-Mode");
-   /* transmissionWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->transmissionWindowSize, 0, 15);
-   RT_CHECK(ctx, stat, "TransmissionWindowSize", "transmissionWindowSize", -1, "UL-AM-RLC-Mode");
-   /* timerRST */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timerRST, 0, 15);
-   RT_CHECK(ctx, stat, "TimerRST", "timerRST", -1, "UL-AM-RLC-Mode");
-   /* max-RST */
-   stat = pd_ConsUnsigned(ctx, &pvalue->max_RST, 0, 7);
-   RT_CHECK(ctx, stat, "MaxRST", "max-RST", -1, "UL-AM-RLC-Mode");
-   /* pollingInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PollingInfo(ctx, &pvalue->pollingInfo);
-      RT_CHECK(ctx, stat, 0, "pollingInfo", -1, "UL-AM-RLC-Mode");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_UM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_UM_RLC_Mode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-UM-RLC-Mode");
-   /* transmissionRLC-Discard */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
-      RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-UM-RLC-Mode");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_TM_RLC_Mode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TM-RLC-Mode");
-   /* transmissionRLC-Discard */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
-      RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-TM-RLC-Mode");
-   }
-   /* segmentationIndication */
-   stat = rtxDecBitInline(ctx, &pvalue->segmentationIndication);
-   RT_CHECK(ctx, stat, 0, "segmentationIndication", -1, "UL-TM-RLC-Mode");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_RLC_Mode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-RLC-Mode");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ul-AM-RLC-Mode */
-         pvalue->u.ul_AM_RLC_Mode = (UL_AM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(UL_AM_RLC_Mode));
-         if (pvalue->u.ul_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-AM-RLC-Mode", -1, "UL-RLC-Mode");
-         asn1Init_UMTS_UL_AM_RLC_Mode(pvalue->u.ul_AM_RLC_Mode);
-         stat = asn1PD_UMTS_UL_AM_RLC_Mode(ctx, pvalue->u.ul_AM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "ul-AM-RLC-Mode", -1, "UL-RLC-Mode");
-         break;
-      case 1: /* ul-UM-RLC-Mode */
-         pvalue->u.ul_UM_RLC_Mode = (UL_UM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(UL_UM_RLC_Mode));
-         if (pvalue->u.ul_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-UM-RLC-Mode", -1, "UL-RLC-Mode");
-         asn1Init_UMTS_UL_UM_RLC_Mode(pvalue->u.ul_UM_RLC_Mode);
-         stat = asn1PD_UMTS_UL_UM_RLC_Mode(ctx, pvalue->u.ul_UM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "ul-UM-RLC-Mode", -1, "UL-RLC-Mode");
-         break;
-      case 2: /* ul-TM-RLC-Mode */
-         pvalue->u.ul_TM_RLC_Mode = (UL_TM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(UL_TM_RLC_Mode));
-         if (pvalue->u.ul_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-TM-RLC-Mode", -1, "UL-RLC-Mode");
-         asn1Init_UMTS_UL_TM_RLC_Mode(pvalue->u.ul_TM_RLC_Mode);
-         stat = asn1PD_UMTS_UL_TM_RLC_Mode(ctx, pvalue->u.ul_TM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "ul-TM-RLC-Mode", -1, "UL-RLC-Mode");
-         break;
-      case 3: /* spare */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-RLC-Mode");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ReceivingWindowSize(rtxContext* RT_RESTRICT ctx, ReceivingWindowSize* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReceivingWindowSize");
-   return 0;
-}
-
-int asn1PD_UMTS_TimerStatusProhibit(rtxContext* RT_RESTRICT ctx, TimerStatusProhibit* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerStatusProhibit");
-   return 0;
-}
-
-int asn1PD_UMTS_TimerEPC(rtxContext* RT_RESTRICT ctx, TimerEPC* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerEPC");
-   return 0;
-}
-
-int asn1PD_UMTS_TimerStatusPeriodic(rtxContext* RT_RESTRICT ctx, TimerStatusPeriodic* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerStatusPeriodic");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_RLC_StatusInfo(rtxContext* RT_RESTRICT ctx, DL_RLC_StatusInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RLC-StatusInfo");
-   /* timerStatusProhibit */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->timerStatusProhibit, 0, 63);
-      RT_CHECK(ctx, stat, "TimerStatusProhibit", "timerStatusProhibit", -1, "DL-RLC-StatusInfo");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 15);
-      RT_CHECK(ctx, stat, "TimerEPC", "dummy", -1, "DL-RLC-StatusInfo");
-   }
-   /* missingPDU-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->missingPDU_Indicator);
-   RT_CHECK(ctx, stat, 0, "missingPDU-Indicator", -1, "DL-RLC-StatusInfo");
-   /* timerStatusPeriodic */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->timerStatusPeriodic, 0, 7);
-      RT_CHECK(ctx, stat, "TimerStatusPeriodic", "timerStatusPeriodic", -1, "DL-RLC-StatusInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* inSequenceDelivery */
-   stat = rtxDecBitInline(ctx, &pvalue->inSequenceDelivery);
-   RT_CHECK(ctx, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode");
-   /* receivingWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->receivingWindowSize, 0, 15);
-   RT_CHECK(ctx, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode");
-   /* dl-RLC-StatusInfo */
-   stat = asn1PD_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
-   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_TM_RLC_Mode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* segmentationIndication */
-   stat = rtxDecBitInline(ctx, &pvalue->segmentationIndication);
-   RT_CHECK(ctx, stat, 0, "segmentationIndication", -1, "DL-TM-RLC-Mode");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RLC-Mode");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-AM-RLC-Mode */
-         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode));
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode");
-         asn1Init_UMTS_DL_AM_RLC_Mode(pvalue->u.dl_AM_RLC_Mode);
-         stat = asn1PD_UMTS_DL_AM_RLC_Mode(ctx, pvalue->u.dl_AM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode");
-         break;
-      case 1: /* dl-UM-RLC-Mode */
-         break;
-      case 2: /* dl-TM-RLC-Mode */
-         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode");
-         stat = asn1PD_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Info(rtxContext* RT_RESTRICT ctx, RLC_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info");
-   /* ul-RLC-Mode */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info");
-   }
-   /* dl-RLC-Mode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_RLC_Mode(ctx, &pvalue->dl_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_InfoChoice(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-InfoChoice");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* rlc-Info */
-         pvalue->u.rlc_Info = (RLC_Info*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info));
-         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rlc-Info", -1, "RLC-InfoChoice");
-         asn1Init_UMTS_RLC_Info(pvalue->u.rlc_Info);
-         stat = asn1PD_UMTS_RLC_Info(ctx, pvalue->u.rlc_Info);
-         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice");
-         break;
-      case 1: /* same-as-RB */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.same_as_RB, 1, 32);
-         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TransportChannelType(rtxContext* RT_RESTRICT ctx, UL_TransportChannelType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TransportChannelType");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "UL-TransportChannelType");
-         break;
-      case 1: /* rach */
-         break;
-      case 2: /* dummy */
-         break;
-      case 3: /* usch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.usch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "usch", -1, "UL-TransportChannelType");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TransportChannelType");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_SizeInfo(rtxContext* RT_RESTRICT ctx, RLC_SizeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rlc-SizeIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->rlc_SizeIndex, 1, 32);
-   RT_CHECK(ctx, stat, 0, "rlc-SizeIndex", -1, "RLC-SizeInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_SizeExplicitList(rtxContext* RT_RESTRICT ctx, RLC_SizeExplicitList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-SizeExplicitList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RLC_SizeInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RLC_SizeInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RLC-SizeInfo", (int32_t)i, "RLC-SizeExplicitList");
-      elem = (RLC_SizeInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RLC_SizeInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RLC-SizeInfo", (int32_t)i, "RLC-SizeExplicitList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_rlc_SizeList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* allSizes */
-         break;
-      case 1: /* configured */
-         break;
-      case 2: /* explicitList */
-         pvalue->u.explicitList = (RLC_SizeExplicitList*)rtxMemHeapAlloc(ctx, sizeof(RLC_SizeExplicitList));
-         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicitList", -1, 0);
-         asn1Init_UMTS_RLC_SizeExplicitList(pvalue->u.explicitList);
-         stat = asn1PD_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
-         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_LogicalChannelPriority(rtxContext* RT_RESTRICT ctx, MAC_LogicalChannelPriority* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-LogicalChannelPriority");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-LogicalChannelMapping");
-   /* ul-TransportChannelType */
-   stat = asn1PD_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, "UL-LogicalChannelMapping");
-   /* logicalChannelIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "UL-LogicalChannelMapping");
-   }
-   /* rlc-SizeList */
-   stat = asn1PD_UMTS_UL_LogicalChannelMapping_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
-   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, "UL-LogicalChannelMapping");
-   /* mac-LogicalChannelPriority */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_LogicalChannelPriority, 1, 8);
-   RT_CHECK(ctx, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_LogicalChannelMapping* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_LogicalChannelMapping));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-LogicalChannelMapping", (int32_t)i, 0);
-      elem = (UL_LogicalChannelMapping*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_LogicalChannelMapping(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_LogicalChannelMapping(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rlc-LogicalChannelMappingIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_LogicalChannelMappingIndicator);
-   RT_CHECK(ctx, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList");
-   /* ul-LogicalChannelMapping */
-   stat = asn1PD_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
-   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMappings(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-LogicalChannelMappings");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* oneLogicalChannel */
-         pvalue->u.oneLogicalChannel = (UL_LogicalChannelMapping*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping));
-         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings");
-         asn1Init_UMTS_UL_LogicalChannelMapping(pvalue->u.oneLogicalChannel);
-         stat = asn1PD_UMTS_UL_LogicalChannelMapping(ctx, pvalue->u.oneLogicalChannel);
-         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings");
-         break;
-      case 1: /* twoLogicalChannels */
-         pvalue->u.twoLogicalChannels = (UL_LogicalChannelMappingList*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMappingList));
-         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings");
-         asn1Init_UMTS_UL_LogicalChannelMappingList(pvalue->u.twoLogicalChannels);
-         stat = asn1PD_UMTS_UL_LogicalChannelMappingList(ctx, pvalue->u.twoLogicalChannels);
-         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(rtxContext* RT_RESTRICT ctx, TransportChannelIdentityDCHandDSCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dch-transport-ch-id */
-   stat = pd_ConsUInt8(ctx, &pvalue->dch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
-   /* dsch-transport-ch-id */
-   stat = pd_ConsUInt8(ctx, &pvalue->dsch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransportChannelType(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TransportChannelType");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType");
-         break;
-      case 1: /* fach */
-         break;
-      case 2: /* dsch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType");
-         break;
-      case 3: /* dch-and-dsch */
-         pvalue->u.dch_and_dsch = (TransportChannelIdentityDCHandDSCH*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelIdentityDCHandDSCH));
-         if (pvalue->u.dch_and_dsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-and-dsch", -1, "DL-TransportChannelType");
-         stat = asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
-         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMapping");
-   /* dl-TransportChannelType */
-   stat = asn1PD_UMTS_DL_TransportChannelType(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping");
-   /* logicalChannelIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMappingList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_LogicalChannelMapping* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_LogicalChannelMapping));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-LogicalChannelMapping", (int32_t)i, "DL-LogicalChannelMappingList");
-      elem = (DL_LogicalChannelMapping*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_LogicalChannelMapping(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_LogicalChannelMapping(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping", (int32_t)i, "DL-LogicalChannelMappingList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingOption(rtxContext* RT_RESTRICT ctx, RB_MappingOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption");
-   /* ul-LogicalChannelMappings */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption");
-   }
-   /* dl-LogicalChannelMappingList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_LogicalChannelMappingList(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingInfo(rtxContext* RT_RESTRICT ctx, RB_MappingInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingInfo");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_MappingOption* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-MappingOption", (int32_t)i, "RB-MappingInfo");
-      elem = (RB_MappingOption*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_MappingOption(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_MappingOption(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-MappingOption", (int32_t)i, "RB-MappingInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetup(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup");
-   /* rb-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PD_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup");
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetupList(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SRB_InformationSetup* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList");
-      elem = (SRB_InformationSetup*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SRB_InformationSetup(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SRB_InformationSetup(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPDCP_SN_WindowSize(rtxContext* RT_RESTRICT ctx, MaxPDCP_SN_WindowSize* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPDCP-SN-WindowSize");
-   return 0;
-}
-
-int asn1PD_UMTS_LosslessSRNS_RelocSupport(rtxContext* RT_RESTRICT ctx, LosslessSRNS_RelocSupport* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "LosslessSRNS-RelocSupport");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* supported */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 1);
-         RT_CHECK(ctx, stat, "MaxPDCP-SN-WindowSize", "supported", -1, "LosslessSRNS-RelocSupport");
-         break;
-      case 1: /* notSupported */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "LosslessSRNS-RelocSupport");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_PDU_Header(rtxContext* RT_RESTRICT ctx, PDCP_PDU_Header* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-PDU-Header");
-   return 0;
-}
-
-int asn1PD_UMTS_ExpectReordering(rtxContext* RT_RESTRICT ctx, ExpectReordering* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ExpectReordering");
-   return 0;
-}
-
-int asn1PD_UMTS_RFC2507_Info(rtxContext* RT_RESTRICT ctx, RFC2507_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RFC2507-Info");
-   /* f-MAX-PERIOD */
-   if (present & ((uint32_t)1 << 4)) {
-      stat = pd_ConsUInt16(ctx, &pvalue->f_MAX_PERIOD, 1, 65535);
-      RT_CHECK(ctx, stat, 0, "f-MAX-PERIOD", -1, "RFC2507-Info");
-   }
-   else {
-      pvalue->f_MAX_PERIOD = 256;
-   }
-   /* f-MAX-TIME */
-   if (present & ((uint32_t)1 << 3)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->f_MAX_TIME, 1, 255);
-      RT_CHECK(ctx, stat, 0, "f-MAX-TIME", -1, "RFC2507-Info");
-   }
-   else {
-      pvalue->f_MAX_TIME = 5;
-   }
-   /* max-HEADER */
-   if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUInt16(ctx, &pvalue->max_HEADER, 60, 65535);
-      RT_CHECK(ctx, stat, 0, "max-HEADER", -1, "RFC2507-Info");
-   }
-   else {
-      pvalue->max_HEADER = 168;
-   }
-   /* tcp-SPACE */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tcp_SPACE, 3, 255);
-      RT_CHECK(ctx, stat, 0, "tcp-SPACE", -1, "RFC2507-Info");
-   }
-   else {
-      pvalue->tcp_SPACE = 15;
-   }
-   /* non-TCP-SPACE */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt16(ctx, &pvalue->non_TCP_SPACE, 3, 65535);
-      RT_CHECK(ctx, stat, 0, "non-TCP-SPACE", -1, "RFC2507-Info");
-   }
-   else {
-      pvalue->non_TCP_SPACE = 15;
-   }
-   /* expectReordering */
-   stat = pd_ConsUnsigned(ctx, &pvalue->expectReordering, 0, 1);
-   RT_CHECK(ctx, stat, "ExpectReordering", "expectReordering", -1, "RFC2507-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_AlgorithmSpecificInfo(rtxContext* RT_RESTRICT ctx, AlgorithmSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AlgorithmSpecificInfo");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* rfc2507-Info */
-         pvalue->u.rfc2507_Info = (RFC2507_Info*)rtxMemHeapAlloc(ctx, sizeof(RFC2507_Info));
-         if (pvalue->u.rfc2507_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo");
-         asn1Init_UMTS_RFC2507_Info(pvalue->u.rfc2507_Info);
-         stat = asn1PD_UMTS_RFC2507_Info(ctx, pvalue->u.rfc2507_Info);
-         RT_CHECK(ctx, stat, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "AlgorithmSpecificInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HeaderCompressionInfo(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* algorithmSpecificInfo */
-   stat = asn1PD_UMTS_AlgorithmSpecificInfo(ctx, &pvalue->algorithmSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "algorithmSpecificInfo", -1, "HeaderCompressionInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_HeaderCompressionInfoList(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HeaderCompressionInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HeaderCompressionInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HeaderCompressionInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HeaderCompressionInfo", (int32_t)i, "HeaderCompressionInfoList");
-      elem = (HeaderCompressionInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HeaderCompressionInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HeaderCompressionInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HeaderCompressionInfo", (int32_t)i, "HeaderCompressionInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Info(rtxContext* RT_RESTRICT ctx, PDCP_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Info");
-   /* losslessSRNS-RelocSupport */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport);
-      RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocSupport", -1, "PDCP-Info");
-   }
-   /* pdcp-PDU-Header */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_PDU_Header, 0, 1);
-   RT_CHECK(ctx, stat, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info");
-   /* headerCompressionInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HeaderCompressionInfoList(ctx, &pvalue->headerCompressionInfoList);
-      RT_CHECK(ctx, stat, 0, "headerCompressionInfoList", -1, "PDCP-Info");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetup(rtxContext* RT_RESTRICT ctx, RB_InformationSetup* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup");
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_Info(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PD_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetupList(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetupList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationSetup* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationSetup", (int32_t)i, "RB-InformationSetupList");
-      elem = (RB_InformationSetup*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationSetup(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationSetup(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationSetup", (int32_t)i, "RB-InformationSetupList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedRB_Configuration(rtxContext* RT_RESTRICT ctx, PredefinedRB_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* re-EstablishmentTimer */
-   stat = pd_ConsUnsigned(ctx, &pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "PredefinedRB-Configuration");
-   /* srb-InformationList */
-   stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationList);
-   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "PredefinedRB-Configuration");
-   /* rb-InformationList */
-   stat = asn1PD_UMTS_RB_InformationSetupList(ctx, &pvalue->rb_InformationList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationList", -1, "PredefinedRB-Configuration");
-   return 0;
-}
-
-int asn1PD_UMTS_TFC_Value(rtxContext* RT_RESTRICT ctx, TFC_Value* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 1023);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFC-Value");
-   return 0;
-}
-
-int asn1PD_UMTS_AllowedTFC_List(rtxContext* RT_RESTRICT ctx, AllowedTFC_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 10);
-      RT_CHECK(ctx, stat, 0, 0, -1, "AllowedTFC-List");
-      pvalue->n = raw + 1;
-      if (raw > 1023) {
-         rtxErrAddStrParm(ctx, "AllowedTFC-List");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AllowedTFC-List");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 1023);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TFC-Value", "TFC-Value", (int32_t)i, "AllowedTFC-List");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Non_allowedTFC_List(rtxContext* RT_RESTRICT ctx, Non_allowedTFC_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 10);
-      RT_CHECK(ctx, stat, 0, 0, -1, "Non-allowedTFC-List");
-      pvalue->n = raw + 1;
-      if (raw > 1023) {
-         rtxErrAddStrParm(ctx, "Non-allowedTFC-List");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Non-allowedTFC-List");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 1023);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TFC-Value", "TFC-Value", (int32_t)i, "Non-allowedTFC-List");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_TrCH_Type* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TrCH-Type");
-   return 0;
-}
-
-int asn1PD_UMTS_AllowedTFI_List_element(rtxContext* RT_RESTRICT ctx, AllowedTFI_List_element* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_AllowedTFI_List(rtxContext* RT_RESTRICT ctx, AllowedTFI_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, "AllowedTFI-List");
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "AllowedTFI-List");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AllowedTFI-List");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, 0, "element", (int32_t)i, "AllowedTFI-List");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RestrictedTrChInfo(rtxContext* RT_RESTRICT ctx, RestrictedTrChInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RestrictedTrChInfo");
-   /* ul-TransportChannelType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "RestrictedTrChInfo");
-   /* restrictedTrChIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->restrictedTrChIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "restrictedTrChIdentity", -1, "RestrictedTrChInfo");
-   /* allowedTFI-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AllowedTFI_List(ctx, &pvalue->allowedTFI_List);
-      RT_CHECK(ctx, stat, 0, "allowedTFI-List", -1, "RestrictedTrChInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RestrictedTrChInfoList(rtxContext* RT_RESTRICT ctx, RestrictedTrChInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RestrictedTrChInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RestrictedTrChInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RestrictedTrChInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RestrictedTrChInfo", (int32_t)i, "RestrictedTrChInfoList");
-      elem = (RestrictedTrChInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RestrictedTrChInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RestrictedTrChInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RestrictedTrChInfo", (int32_t)i, "RestrictedTrChInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TFC_Subset(rtxContext* RT_RESTRICT ctx, TFC_Subset* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFC-Subset");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* minimumAllowedTFC-Number */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.minimumAllowedTFC_Number, 0, 1023);
-         RT_CHECK(ctx, stat, "TFC-Value", "minimumAllowedTFC-Number", -1, "TFC-Subset");
-         break;
-      case 1: /* allowedTFC-List */
-         pvalue->u.allowedTFC_List = (AllowedTFC_List*)rtxMemHeapAlloc(ctx, sizeof(AllowedTFC_List));
-         if (pvalue->u.allowedTFC_List == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "allowedTFC-List", -1, "TFC-Subset");
-         asn1Init_UMTS_AllowedTFC_List(pvalue->u.allowedTFC_List);
-         stat = asn1PD_UMTS_AllowedTFC_List(ctx, pvalue->u.allowedTFC_List);
-         RT_CHECK(ctx, stat, 0, "allowedTFC-List", -1, "TFC-Subset");
-         break;
-      case 2: /* non-allowedTFC-List */
-         pvalue->u.non_allowedTFC_List = (Non_allowedTFC_List*)rtxMemHeapAlloc(ctx, sizeof(Non_allowedTFC_List));
-         if (pvalue->u.non_allowedTFC_List == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "non-allowedTFC-List", -1, "TFC-Subset");
-         asn1Init_UMTS_Non_allowedTFC_List(pvalue->u.non_allowedTFC_List);
-         stat = asn1PD_UMTS_Non_allowedTFC_List(ctx, pvalue->u.non_allowedTFC_List);
-         RT_CHECK(ctx, stat, 0, "non-allowedTFC-List", -1, "TFC-Subset");
-         break;
-      case 3: /* restrictedTrChInfoList */
-         pvalue->u.restrictedTrChInfoList = (RestrictedTrChInfoList*)rtxMemHeapAlloc(ctx, sizeof(RestrictedTrChInfoList));
-         if (pvalue->u.restrictedTrChInfoList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "restrictedTrChInfoList", -1, "TFC-Subset");
-         asn1Init_UMTS_RestrictedTrChInfoList(pvalue->u.restrictedTrChInfoList);
-         stat = asn1PD_UMTS_RestrictedTrChInfoList(ctx, pvalue->u.restrictedTrChInfoList);
-         RT_CHECK(ctx, stat, 0, "restrictedTrChInfoList", -1, "TFC-Subset");
-         break;
-      case 4: /* fullTFCS */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFC-Subset");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TFCS */
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
-   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_TFCS_Identity(rtxContext* RT_RESTRICT ctx, TFCS_Identity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFCS-Identity");
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "TFCS-Identity");
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* sharedChannelIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sharedChannelIndicator);
-   RT_CHECK(ctx, stat, 0, "sharedChannelIndicator", -1, "TFCS-Identity");
-   return 0;
-}
-
-int asn1PD_UMTS_IndividualUL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, IndividualUL_CCTrCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TFCS-Identity */
-   stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->ul_TFCS_Identity);
-   RT_CHECK(ctx, stat, 0, "ul-TFCS-Identity", -1, "IndividualUL-CCTrCH-Info");
-   /* ul-TFCS */
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
-   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, "IndividualUL-CCTrCH-Info");
-   /* tfc-Subset */
-   stat = asn1PD_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
-   RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "IndividualUL-CCTrCH-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_IndividualUL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, IndividualUL_CCTrCH_InfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IndividualUL-CCTrCH-InfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IndividualUL_CCTrCH_Info* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IndividualUL_CCTrCH_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IndividualUL-CCTrCH-Info", (int32_t)i, "IndividualUL-CCTrCH-InfoList");
-      elem = (IndividualUL_CCTrCH_Info*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IndividualUL_CCTrCH_Info(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IndividualUL_CCTrCH_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "IndividualUL-CCTrCH-Info", (int32_t)i, "IndividualUL-CCTrCH-InfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* individualUL-CCTrCH-InfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList);
-      RT_CHECK(ctx, stat, 0, "individualUL-CCTrCH-InfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_CommonTransChInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_CommonTransChInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CommonTransChInfo");
-   /* tfc-Subset */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
-      RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "UL-CommonTransChInfo");
-   }
-   /* prach-TFCS */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->prach_TFCS);
-      RT_CHECK(ctx, stat, 0, "prach-TFCS", -1, "UL-CommonTransChInfo");
-   }
-   /* modeSpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-CommonTransChInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TransportChannelType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-AddReconfTransChInformation");
-   /* transportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "UL-AddReconfTransChInformation");
-   /* transportFormatSet */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "UL-AddReconfTransChInformation");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_AddReconfTransChInformation* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-AddReconfTransChInformation", (int32_t)i, "UL-AddReconfTransChInfoList");
-      elem = (UL_AddReconfTransChInformation*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_AddReconfTransChInformation(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_AddReconfTransChInformation(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation", (int32_t)i, "UL-AddReconfTransChInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-DCH-TFCS */
-         pvalue->u.dl_DCH_TFCS = (TFCS*)rtxMemHeapAlloc(ctx, sizeof(TFCS));
-         if (pvalue->u.dl_DCH_TFCS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DCH-TFCS", -1, 0);
-         asn1Init_UMTS_TFCS(pvalue->u.dl_DCH_TFCS);
-         stat = asn1PD_UMTS_TFCS(ctx, pvalue->u.dl_DCH_TFCS);
-         RT_CHECK(ctx, stat, 0, "dl-DCH-TFCS", -1, 0);
-         break;
-      case 1: /* sameAsUL */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-Parameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters);
-      RT_CHECK(ctx, stat, 0, "dl-Parameters", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_Info_tfcs_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* explicit-config */
-         pvalue->u.explicit_config = (TFCS*)rtxMemHeapAlloc(ctx, sizeof(TFCS));
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
-         asn1Init_UMTS_TFCS(pvalue->u.explicit_config);
-         stat = asn1PD_UMTS_TFCS(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 1: /* sameAsUL */
-         pvalue->u.sameAsUL = (TFCS_Identity*)rtxMemHeapAlloc(ctx, sizeof(TFCS_Identity));
-         if (pvalue->u.sameAsUL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsUL", -1, 0);
-         asn1Init_UMTS_TFCS_Identity(pvalue->u.sameAsUL);
-         stat = asn1PD_UMTS_TFCS_Identity(ctx, pvalue->u.sameAsUL);
-         RT_CHECK(ctx, stat, 0, "sameAsUL", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IndividualDL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dl-TFCS-Identity */
-   stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->dl_TFCS_Identity);
-   RT_CHECK(ctx, stat, 0, "dl-TFCS-Identity", -1, "IndividualDL-CCTrCH-Info");
-   /* tfcs-SignallingMode */
-   stat = asn1PD_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(ctx, &pvalue->tfcs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfcs-SignallingMode", -1, "IndividualDL-CCTrCH-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_IndividualDL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_InfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IndividualDL-CCTrCH-InfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IndividualDL_CCTrCH_Info* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IndividualDL_CCTrCH_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IndividualDL-CCTrCH-Info", (int32_t)i, "IndividualDL-CCTrCH-InfoList");
-      elem = (IndividualDL_CCTrCH_Info*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IndividualDL_CCTrCH_Info(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IndividualDL_CCTrCH_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "IndividualDL-CCTrCH-Info", (int32_t)i, "IndividualDL-CCTrCH-InfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* individualDL-CCTrCH-InfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList);
-      RT_CHECK(ctx, stat, 0, "individualDL-CCTrCH-InfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_CommonTransChInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_CommonTransChInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonTransChInfo");
-   /* sccpch-TFCS */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->sccpch_TFCS);
-      RT_CHECK(ctx, stat, 0, "sccpch-TFCS", -1, "DL-CommonTransChInfo");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonTransChInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TrCH_Type(rtxContext* RT_RESTRICT ctx, DL_TrCH_Type* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TrCH-Type");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TransportChannelType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-TransportChannelIdentity");
-   /* ul-TransportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->ul_TransportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, "UL-TransportChannelIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_tfs_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* explicit-config */
-         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
-         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
-         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 1: /* sameAsULTrCH */
-         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
-         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
-         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_BLER_QualityValue(rtxContext* RT_RESTRICT ctx, BLER_QualityValue* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -63, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BLER-QualityValue");
-   return 0;
-}
-
-int asn1PD_UMTS_QualityTarget(rtxContext* RT_RESTRICT ctx, QualityTarget* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* bler-QualityValue */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_QualityValue, -63, 0);
-   RT_CHECK(ctx, stat, "BLER-QualityValue", "bler-QualityValue", -1, "QualityTarget");
-   return 0;
-}
-
-int asn1PD_UMTS_MessType(rtxContext* RT_RESTRICT ctx, MessType* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "MessType");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "MessType");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_ControlledTrChList(rtxContext* RT_RESTRICT ctx, UL_ControlledTrChList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, "UL-ControlledTrChList");
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "UL-ControlledTrChList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-ControlledTrChList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "UL-ControlledTrChList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo_tm_SignallingMode_mode2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-controlledTrChList */
-   stat = asn1PD_UMTS_UL_ControlledTrChList(ctx, &pvalue->ul_controlledTrChList);
-   RT_CHECK(ctx, stat, 0, "ul-controlledTrChList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo_tm_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* mode1 */
-         break;
-      case 1: /* mode2 */
-         pvalue->u.mode2 = (TM_SignallingInfo_tm_SignallingMode_mode2*)rtxMemHeapAlloc(ctx, sizeof(TM_SignallingInfo_tm_SignallingMode_mode2));
-         if (pvalue->u.mode2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mode2", -1, 0);
-         asn1Init_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(pvalue->u.mode2);
-         stat = asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(ctx, pvalue->u.mode2);
-         RT_CHECK(ctx, stat, 0, "mode2", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TM_SignallingInfo(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* messType */
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, "MessType", "messType", -1, "TM-SignallingInfo");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, "MessType", "messType", -1, "TM-SignallingInfo");
-      pvalue->messType = ui;
-   }
-   /* tm-SignallingMode */
-   stat = asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode(ctx, &pvalue->tm_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tm-SignallingMode", -1, "TM-SignallingInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation");
-   /* dl-TransportChannelType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation");
-   /* dl-transportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation");
-   /* tfs-SignallingMode */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation");
-   /* dch-QualityTarget */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
-      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TM_SignallingInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-AddReconfTransChInformation");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_AddReconfTransChInformation* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation", (int32_t)i, "DL-AddReconfTransChInfoList");
-      elem = (DL_AddReconfTransChInformation*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_AddReconfTransChInformation(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_AddReconfTransChInformation(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation", (int32_t)i, "DL-AddReconfTransChInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PreDefTransChConfiguration(rtxContext* RT_RESTRICT ctx, PreDefTransChConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-CommonTransChInfo */
-   stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "PreDefTransChConfiguration");
-   /* ul-AddReconfTrChInfoList */
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTrChInfoList);
-   RT_CHECK(ctx, stat, 0, "ul-AddReconfTrChInfoList", -1, "PreDefTransChConfiguration");
-   /* dl-CommonTransChInfo */
-   stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "PreDefTransChConfiguration");
-   /* dl-TrChInfoList */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_TrChInfoList);
-   RT_CHECK(ctx, stat, 0, "dl-TrChInfoList", -1, "PreDefTransChConfiguration");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* powerControlAlgorithm */
-   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dpch-ConstantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-PowerControlInfoPredef");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_PowerControlInfoPredef_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfoPredef_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfoPredef");
-         asn1Init_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfoPredef");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_DPCH_PowerControlInfoPredef_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_PowerControlInfoPredef_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfoPredef");
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfoPredef");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfoPredef");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* puncturingLimit */
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* commonTimeslotInfo */
-   stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_InfoPredef_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_InfoPredef_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_DPCH_InfoPredef_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_InfoPredef_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPredef");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-InfoPredef");
-   return 0;
-}
-
-int asn1PD_UMTS_PilotBits128(rtxContext* RT_RESTRICT ctx, PilotBits128* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PilotBits128");
-   return 0;
-}
-
-int asn1PD_UMTS_PilotBits256(rtxContext* RT_RESTRICT ctx, PilotBits256* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PilotBits256");
-   return 0;
-}
-
-int asn1PD_UMTS_SF512_AndPilot(rtxContext* RT_RESTRICT ctx, SF512_AndPilot* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF512-AndPilot");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sfd4 */
-         break;
-      case 1: /* sfd8 */
-         break;
-      case 2: /* sfd16 */
-         break;
-      case 3: /* sfd32 */
-         break;
-      case 4: /* sfd64 */
-         break;
-      case 5: /* sfd128 */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.sfd128, 0, 1);
-         RT_CHECK(ctx, stat, "PilotBits128", "sfd128", -1, "SF512-AndPilot");
-         break;
-      case 6: /* sfd256 */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.sfd256, 0, 2);
-         RT_CHECK(ctx, stat, "PilotBits256", "sfd256", -1, "SF512-AndPilot");
-         break;
-      case 7: /* sfd512 */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SF512-AndPilot");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* spreadingFactorAndPilot */
-   stat = asn1PD_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
-   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
-   /* positionFixedOrFlexible */
-   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* commonTimeslotInfo */
-   stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommonPredef(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommonPredef");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformationPredef(rtxContext* RT_RESTRICT ctx, DL_CommonInformationPredef* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformationPredef");
-   /* dl-DPCH-InfoCommon */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_InfoCommonPredef(ctx, &pvalue->dl_DPCH_InfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformationPredef");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PreDefPhyChConfiguration(rtxContext* RT_RESTRICT ctx, PreDefPhyChConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PreDefPhyChConfiguration");
-   /* ul-DPCH-InfoPredef */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPredef(ctx, &pvalue->ul_DPCH_InfoPredef);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-InfoPredef", -1, "PreDefPhyChConfiguration");
-   /* dl-CommonInformationPredef */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CommonInformationPredef(ctx, &pvalue->dl_CommonInformationPredef);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformationPredef", -1, "PreDefPhyChConfiguration");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PreDefRadioConfiguration(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* predefinedRB-Configuration */
-   stat = asn1PD_UMTS_PredefinedRB_Configuration(ctx, &pvalue->predefinedRB_Configuration);
-   RT_CHECK(ctx, stat, 0, "predefinedRB-Configuration", -1, "PreDefRadioConfiguration");
-   /* preDefTransChConfiguration */
-   stat = asn1PD_UMTS_PreDefTransChConfiguration(ctx, &pvalue->preDefTransChConfiguration);
-   RT_CHECK(ctx, stat, 0, "preDefTransChConfiguration", -1, "PreDefRadioConfiguration");
-   /* preDefPhyChConfiguration */
-   stat = asn1PD_UMTS_PreDefPhyChConfiguration(ctx, &pvalue->preDefPhyChConfiguration);
-   RT_CHECK(ctx, stat, 0, "preDefPhyChConfiguration", -1, "PreDefRadioConfiguration");
-   return 0;
-}
-
-int asn1PD_UMTS_NumberOfTPC_Bits(rtxContext* RT_RESTRICT ctx, NumberOfTPC_Bits* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "NumberOfTPC-Bits");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "NumberOfTPC-Bits");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* numberOfTPC-Bits */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
-         pvalue->numberOfTPC_Bits = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-InfoPredef-v770ext");
-   return 0;
-}
-
-int asn1PD_UMTS_PreDefPhyChConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, PreDefPhyChConfiguration_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-InfoPredef */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext(ctx, &pvalue->ul_DPCH_InfoPredef);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-InfoPredef", -1, "PreDefPhyChConfiguration-v770ext");
-   return 0;
-}
-
-int asn1PD_UMTS_PreDefRadioConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* preDefPhyChConfiguration */
-   stat = asn1PD_UMTS_PreDefPhyChConfiguration_v770ext(ctx, &pvalue->preDefPhyChConfiguration);
-   RT_CHECK(ctx, stat, 0, "preDefPhyChConfiguration", -1, "PreDefRadioConfiguration-v770ext");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType16_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* preDefinedRadioConfiguration */
-   stat = asn1PD_UMTS_PreDefRadioConfiguration_v770ext(ctx, &pvalue->preDefinedRadioConfiguration);
-   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16-v770ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_hs_WindowSize_r9(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-WindowSize-r9");
-   return 0;
-}
-
-int asn1PD_UMTS_PreDefRadioConfiguration_v920ext(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mac-ehsWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mac_ehsWindowSize, 0, 8);
-   RT_CHECK(ctx, stat, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "PreDefRadioConfiguration-v920ext");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType16_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType16_v920ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* preDefinedRadioConfiguration */
-   stat = asn1PD_UMTS_PreDefRadioConfiguration_v920ext(ctx, &pvalue->preDefinedRadioConfiguration);
-   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16-v920ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType16-v920ext */
-   stat = asn1PD_UMTS_SysInfoType16_v920ext_IEs(ctx, &pvalue->sysInfoType16_v920ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType16-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType16-v770ext */
-   stat = asn1PD_UMTS_SysInfoType16_v770ext_IEs(ctx, &pvalue->sysInfoType16_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType16-v770ext", -1, 0);
-   /* v920NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType16(rtxContext* RT_RESTRICT ctx, SysInfoType16* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType16");
-   /* preDefinedRadioConfiguration */
-   stat = asn1PD_UMTS_PreDefRadioConfiguration(ctx, &pvalue->preDefinedRadioConfiguration);
-   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16");
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "SysInfoType16");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Ansi_41_IDNNS(rtxContext* RT_RESTRICT ctx, Ansi_41_IDNNS* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, pvalue, 14, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Ansi-41-IDNNS");
-   return 0;
-}
-
-int asn1PD_UMTS_CN_DomainInformation(rtxContext* RT_RESTRICT ctx, CN_DomainInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformation");
-   /* cn-DomainSpecificNAS-Info */
-   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info);
-   RT_CHECK(ctx, stat, 0, "cn-DomainSpecificNAS-Info", -1, "CN-DomainInformation");
-   return 0;
-}
-
-int asn1PD_UMTS_CN_DomainInformationFull(rtxContext* RT_RESTRICT ctx, CN_DomainInformationFull* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformationFull");
-   /* cn-DomainSpecificNAS-Info */
-   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info);
-   RT_CHECK(ctx, stat, 0, "cn-DomainSpecificNAS-Info", -1, "CN-DomainInformationFull");
-   /* cn-DRX-CycleLengthCoeff */
-   stat = pd_ConsUInt8(ctx, &pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
-   RT_CHECK(ctx, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainInformationFull");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo, pvalue);
 }
 

@@ -6,327 +6,7960 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_CN_DomainInformationList(rtxContext* RT_RESTRICT ctx, CN_DomainInformationList* RT_RESTRICT pvalue)
+/* The bodies of this unit. */
+RT_MERGED_BODY int dec_FACH_MeasurementOccasionInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfo_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellInfoSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ForbiddenAffectCell_LCR_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ForbiddenAffectCellList_LCR_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1a_LCR_r4(rtxContext* RT_RESTRICT ctx, Event1a_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1b_LCR_r4(rtxContext* RT_RESTRICT ctx, Event1b_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqEvent_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaList_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportingCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellDCH_ReportCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, CellDCH_ReportCriteria_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ReportingInfoForCellDCH_LCR_r4(rtxContext* RT_RESTRICT ctx, ReportingInfoForCellDCH_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_NewInterFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_RSCP_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_RSCP_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellInfoSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_NewInterFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_ECN0_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_ECN0_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellInfoSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_HCS_RSCP_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_RSCP_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellInfoSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_HCS_ECN0_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_ECN0_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Intra_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, Intra_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PeriodicReportingInfo_1b(rtxContext* RT_RESTRICT ctx, PeriodicReportingInfo_1b* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportingCriteria_1b_r5(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_1b_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEvent_1d_r5(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_1d_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_FDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Threshold(rtxContext* RT_RESTRICT ctx, Threshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxReportedCellsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACHinterFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Dummy_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFNFrequency(rtxContext* RT_RESTRICT ctx, MBSFNFrequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFNFrequencyList(rtxContext* RT_RESTRICT ctx, MBSFNFrequencyList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCell_v7b0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_v7b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellList_v7b0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_v7b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v7b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFNFrequency_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext_imb_Indication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFNFrequency_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFNFrequencyList_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNFrequencyList_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11(rtxContext* RT_RESTRICT ctx, SysInfoType11* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasurementControlSysInfoExtension_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtensionAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11bis_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSG_DedicatedFrequencyInfoList(rtxContext* RT_RESTRICT ctx, CSG_DedicatedFrequencyInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType11bis_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType11bis(rtxContext* RT_RESTRICT ctx, SysInfoType11bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v7b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType12(rtxContext* RT_RESTRICT ctx, SysInfoType12* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Re_EstablishmentTimer(rtxContext* RT_RESTRICT ctx, Re_EstablishmentTimer* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimerMRW(rtxContext* RT_RESTRICT ctx, TimerMRW* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimerDiscard(rtxContext* RT_RESTRICT ctx, TimerDiscard* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxMRW(rtxContext* RT_RESTRICT ctx, MaxMRW* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ExplicitDiscard(rtxContext* RT_RESTRICT ctx, ExplicitDiscard* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NoExplicitDiscard(rtxContext* RT_RESTRICT ctx, NoExplicitDiscard* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxDAT(rtxContext* RT_RESTRICT ctx, MaxDAT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxDAT_Retransmissions(rtxContext* RT_RESTRICT ctx, MaxDAT_Retransmissions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TransmissionRLC_Discard(rtxContext* RT_RESTRICT ctx, TransmissionRLC_Discard* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TransmissionWindowSize(rtxContext* RT_RESTRICT ctx, TransmissionWindowSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimerRST(rtxContext* RT_RESTRICT ctx, TimerRST* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxRST(rtxContext* RT_RESTRICT ctx, MaxRST* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimerPollProhibit(rtxContext* RT_RESTRICT ctx, TimerPollProhibit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimerPoll(rtxContext* RT_RESTRICT ctx, TimerPoll* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Poll_PDU(rtxContext* RT_RESTRICT ctx, Poll_PDU* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Poll_SDU(rtxContext* RT_RESTRICT ctx, Poll_SDU* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PollWindow(rtxContext* RT_RESTRICT ctx, PollWindow* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimerPollPeriodic(rtxContext* RT_RESTRICT ctx, TimerPollPeriodic* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PollingInfo(rtxContext* RT_RESTRICT ctx, PollingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_AM_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_UM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_UM_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_TM_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReceivingWindowSize(rtxContext* RT_RESTRICT ctx, ReceivingWindowSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimerStatusProhibit(rtxContext* RT_RESTRICT ctx, TimerStatusProhibit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimerEPC(rtxContext* RT_RESTRICT ctx, TimerEPC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimerStatusPeriodic(rtxContext* RT_RESTRICT ctx, TimerStatusPeriodic* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_RLC_StatusInfo(rtxContext* RT_RESTRICT ctx, DL_RLC_StatusInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_TM_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RLC_Info(rtxContext* RT_RESTRICT ctx, RLC_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_InfoChoice(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TransportChannelType(rtxContext* RT_RESTRICT ctx, UL_TransportChannelType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_SizeInfo(rtxContext* RT_RESTRICT ctx, RLC_SizeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_SizeExplicitList(rtxContext* RT_RESTRICT ctx, RLC_SizeExplicitList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_rlc_SizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_LogicalChannelPriority(rtxContext* RT_RESTRICT ctx, MAC_LogicalChannelPriority* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_ul_LogicalChannelMapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_LogicalChannelMappings(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TransportChannelIdentityDCHandDSCH(rtxContext* RT_RESTRICT ctx, TransportChannelIdentityDCHandDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TransportChannelType(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_MappingOption(rtxContext* RT_RESTRICT ctx, RB_MappingOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RB_MappingInfo(rtxContext* RT_RESTRICT ctx, RB_MappingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SRB_InformationSetup(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SRB_InformationSetupList(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxPDCP_SN_WindowSize(rtxContext* RT_RESTRICT ctx, MaxPDCP_SN_WindowSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_LosslessSRNS_RelocSupport(rtxContext* RT_RESTRICT ctx, LosslessSRNS_RelocSupport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_PDU_Header(rtxContext* RT_RESTRICT ctx, PDCP_PDU_Header* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ExpectReordering(rtxContext* RT_RESTRICT ctx, ExpectReordering* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RFC2507_Info(rtxContext* RT_RESTRICT ctx, RFC2507_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AlgorithmSpecificInfo(rtxContext* RT_RESTRICT ctx, AlgorithmSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HeaderCompressionInfo(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HeaderCompressionInfoList(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PDCP_Info(rtxContext* RT_RESTRICT ctx, PDCP_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationSetup(rtxContext* RT_RESTRICT ctx, RB_InformationSetup* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RB_InformationSetupList(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PredefinedRB_Configuration(rtxContext* RT_RESTRICT ctx, PredefinedRB_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFC_Value(rtxContext* RT_RESTRICT ctx, TFC_Value* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AllowedTFC_List(rtxContext* RT_RESTRICT ctx, AllowedTFC_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_allowedTFC_List(rtxContext* RT_RESTRICT ctx, Non_allowedTFC_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_TrCH_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AllowedTFI_List_element(rtxContext* RT_RESTRICT ctx, AllowedTFI_List_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AllowedTFI_List(rtxContext* RT_RESTRICT ctx, AllowedTFI_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RestrictedTrChInfo(rtxContext* RT_RESTRICT ctx, RestrictedTrChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RestrictedTrChInfoList(rtxContext* RT_RESTRICT ctx, RestrictedTrChInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TFC_Subset(rtxContext* RT_RESTRICT ctx, TFC_Subset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFCS_Identity(rtxContext* RT_RESTRICT ctx, TFCS_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualUL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, IndividualUL_CCTrCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualUL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, IndividualUL_CCTrCH_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_Info_tfcs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualDL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IndividualDL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TrCH_Type(rtxContext* RT_RESTRICT ctx, DL_TrCH_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_tfs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BLER_QualityValue(rtxContext* RT_RESTRICT ctx, BLER_QualityValue* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_QualityTarget(rtxContext* RT_RESTRICT ctx, QualityTarget* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MessType(rtxContext* RT_RESTRICT ctx, MessType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_ControlledTrChList(rtxContext* RT_RESTRICT ctx, UL_ControlledTrChList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TM_SignallingInfo_tm_SignallingMode_mode2(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo_tm_SignallingMode_mode2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TM_SignallingInfo_tm_SignallingMode(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo_tm_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TM_SignallingInfo(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PreDefTransChConfiguration(rtxContext* RT_RESTRICT ctx, PreDefTransChConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfoPredef_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfoPredef_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfoPredef(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PilotBits128(rtxContext* RT_RESTRICT ctx, PilotBits128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PilotBits256(rtxContext* RT_RESTRICT ctx, PilotBits256* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SF512_AndPilot(rtxContext* RT_RESTRICT ctx, SF512_AndPilot* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommonPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommonPredef(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformationPredef(rtxContext* RT_RESTRICT ctx, DL_CommonInformationPredef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PreDefPhyChConfiguration(rtxContext* RT_RESTRICT ctx, PreDefPhyChConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PreDefRadioConfiguration(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NumberOfTPC_Bits(rtxContext* RT_RESTRICT ctx, NumberOfTPC_Bits* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef_v770ext(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PreDefPhyChConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, PreDefPhyChConfiguration_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PreDefRadioConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType16_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_hs_WindowSize_r9(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PreDefRadioConfiguration_v920ext(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType16_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType16_v920ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType16_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType16(rtxContext* RT_RESTRICT ctx, SysInfoType16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Ansi_41_IDNNS(rtxContext* RT_RESTRICT ctx, Ansi_41_IDNNS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CN_DomainInformation(rtxContext* RT_RESTRICT ctx, CN_DomainInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CN_DomainInformationFull(rtxContext* RT_RESTRICT ctx, CN_DomainInformationFull* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CN_DomainInformationList(rtxContext* RT_RESTRICT ctx, CN_DomainInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CN_DomainInformationListFull(rtxContext* RT_RESTRICT ctx, CN_DomainInformationListFull* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CN_InformationInfo(rtxContext* RT_RESTRICT ctx, CN_InformationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CN_InformationInfo_r6(rtxContext* RT_RESTRICT ctx, CN_InformationInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CN_InformationInfoFull(rtxContext* RT_RESTRICT ctx, CN_InformationInfoFull* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RoutingParameter(rtxContext* RT_RESTRICT ctx, RoutingParameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_localPTMSI(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_localPTMSI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_iMEI(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_iMEI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_spare2(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_spare2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_spare1(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_spare1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Gsm_map_IDNNS(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IMEI_Digit(rtxContext* RT_RESTRICT ctx, IMEI_Digit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IMEI(rtxContext* RT_RESTRICT ctx, IMEI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, IMSI_GSM_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraDomainNasNodeSelector_version_release99_cn_Type(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version_release99_cn_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraDomainNasNodeSelector_version_release99(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version_release99* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraDomainNasNodeSelector_version_later(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version_later* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraDomainNasNodeSelector_version(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraDomainNasNodeSelector(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_LAI(rtxContext* RT_RESTRICT ctx, LAI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NAS_Message(rtxContext* RT_RESTRICT ctx, NAS_Message* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NAS_Synchronisation_Indicator(rtxContext* RT_RESTRICT ctx, NAS_Synchronisation_Indicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_P_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_GSM_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingRecordTypeID(rtxContext* RT_RESTRICT ctx, PagingRecordTypeID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_Identity(rtxContext* RT_RESTRICT ctx, RAB_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RoutingAreaCode(rtxContext* RT_RESTRICT ctx, RoutingAreaCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAI(rtxContext* RT_RESTRICT ctx, RAI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_GSM_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellIdentity_PerRL_List(rtxContext* RT_RESTRICT ctx, CellIdentity_PerRL_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_322(rtxContext* RT_RESTRICT ctx, T_322* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_utraFDD_element(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraFDD_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_utraFDD(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_utraTDD_element(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraTDD_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_utraTDD(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EARFCN(rtxContext* RT_RESTRICT ctx, EARFCN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_eutra_element(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_eutra_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_eutra(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_eutra* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_CellGroup_bandIndicator(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_bandIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_explicitListOfARFCNs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_equallySpacedARFCNs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_CellGroup_followingARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_GSM_CellGroup(rtxContext* RT_RESTRICT ctx, GSM_CellGroup* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_gsm(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PriorityLevel(rtxContext* RT_RESTRICT ctx, PriorityLevel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PriorityLevelList(rtxContext* RT_RESTRICT ctx, PriorityLevelList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DedicatedPriorityInformation_action_configureDedicatedPriorities(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation_action_configureDedicatedPriorities* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DedicatedPriorityInformation_action(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation_action* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DedicatedPriorityInformation(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Q_Hyst_S_Fine(rtxContext* RT_RESTRICT ctx, Q_Hyst_S_Fine* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_Reselection_S_Fine(rtxContext* RT_RESTRICT ctx, T_Reselection_S_Fine* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AccessStratumReleaseIndicator(rtxContext* RT_RESTRICT ctx, AccessStratumReleaseIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActivationTime(rtxContext* RT_RESTRICT ctx, ActivationTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_AP_RetransMax(rtxContext* RT_RESTRICT ctx, N_AP_RetransMax* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_AccessFails(rtxContext* RT_RESTRICT ctx, N_AccessFails* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NF_BO_NoAICH(rtxContext* RT_RESTRICT ctx, NF_BO_NoAICH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NS_BO_Busy(rtxContext* RT_RESTRICT ctx, NS_BO_Busy* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NF_BO_AllBusy(rtxContext* RT_RESTRICT ctx, NF_BO_AllBusy* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NF_BO_Mismatch(rtxContext* RT_RESTRICT ctx, NF_BO_Mismatch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_CPCH(rtxContext* RT_RESTRICT ctx, T_CPCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BackoffControlParams(rtxContext* RT_RESTRICT ctx, BackoffControlParams* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BandComb(rtxContext* RT_RESTRICT ctx, BandComb* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_C_RNTI(rtxContext* RT_RESTRICT ctx, C_RNTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReq(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReqList(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_r4_ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_r4(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReq_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReqList_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_r5(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_v770ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_r7(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReq_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReqList_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_v860ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_r8(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateCause(rtxContext* RT_RESTRICT ctx, CellUpdateCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateCause_ext(rtxContext* RT_RESTRICT ctx, CellUpdateCause_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ChipRateCapability(rtxContext* RT_RESTRICT ctx, ChipRateCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CipheringAlgorithm(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CipheringAlgorithm_r7(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CipheringModeCommand(rtxContext* RT_RESTRICT ctx, CipheringModeCommand* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CipheringModeCommand_r7(rtxContext* RT_RESTRICT ctx, CipheringModeCommand_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_SequenceNumber(rtxContext* RT_RESTRICT ctx, RLC_SequenceNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+
+/* Bodies held by other units. */
+RT_DECODE_EXTERN(ReferenceTimeDifferenceToCell)
+RT_DECODE_EXTERN(CellSelectReselectInfoSIB_11_12_RSCP)
+RT_DECODE_EXTERN(RemovedIntraFreqCellList)
+RT_DECODE_EXTERN(Event1c)
+RT_DECODE_EXTERN(Event1e)
+RT_DECODE_EXTERN(Event1f)
+RT_DECODE_EXTERN(ReportingCellStatus)
+RT_DECODE_EXTERN(PeriodicalReportingCriteria)
+RT_DECODE_EXTERN(IntraFreqReportingQuantity)
+RT_DECODE_EXTERN(MeasurementReportingMode)
+RT_DECODE_EXTERN(IntraFreqMeasQuantity)
+RT_DECODE_EXTERN(IntraFreqReportingQuantityForRACH)
+RT_DECODE_EXTERN(FrequencyInfo)
+RT_DECODE_EXTERN(RemovedInterFreqCellList)
+RT_DECODE_EXTERN(CellSelectReselectInfoSIB_11_12_ECN0)
+RT_DECODE_EXTERN(CellSelectReselectInfoSIB_11_12_HCS_RSCP)
+RT_DECODE_EXTERN(CellSelectReselectInfoSIB_11_12_HCS_ECN0)
+RT_DECODE_EXTERN(CellSelectReselectInfo_v590ext)
+RT_DECODE_EXTERN(FACH_MeasurementOccasionInfo)
+RT_DECODE_EXTERN(MeasurementControlSysInfo)
+RT_DECODE_EXTERN(NewIntraFreqCellSI_List_RSCP)
+RT_DECODE_EXTERN(NewInterFreqCellSI_List_RSCP)
+RT_DECODE_EXTERN(NewIntraFreqCellSI_List_ECN0)
+RT_DECODE_EXTERN(NewInterFreqCellSI_List_ECN0)
+RT_DECODE_EXTERN(NewInterRATCellList)
+RT_DECODE_EXTERN(NewIntraFreqCellSI_List_HCS_RSCP)
+RT_DECODE_EXTERN(NewInterFreqCellSI_List_HCS_RSCP)
+RT_DECODE_EXTERN(NewIntraFreqCellSI_List_HCS_ECN0)
+RT_DECODE_EXTERN(NewInterFreqCellSI_List_HCS_ECN0)
+RT_DECODE_EXTERN(CSG_PSCSplitInfo)
+RT_DECODE_EXTERN(TFCS)
+RT_DECODE_EXTERN(TransportFormatSet)
+RT_DECODE_EXTERN(PowerControlAlgorithm)
+RT_DECODE_EXTERN(CommonTimeslotInfo)
+RT_DECODE_EXTERN(NAS_SystemInformationGSM_MAP)
+RT_DECODE_EXTERN(PLMN_Identity)
+RT_DECODE_EXTERN(CellIdentity)
+
+RT_MERGED_BODY int dec_FACH_MeasurementOccasionInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* inter-freq-TDD128-meas-ind */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->inter_freq_TDD128_meas_ind);
+   RT_CHECK_AT(ctx, cur, stat, 0, "inter-freq-TDD128-meas-ind", -1, "FACH-MeasurementOccasionInfo-LCR-r4-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FACH_MeasurementOccasionInfo_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PrimaryCCPCH-Info-LCR-r4");
+   /* tstd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tstd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4");
+   /* cellParametersID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParametersID, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-Info-LCR-r4");
+   }
+   /* sctd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sctd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfo_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "TimeslotInfo-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfo_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotInfo_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeslotInfoList-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TimeslotInfo_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TimeslotInfo-LCR-r4", (int32_t)i, "TimeslotInfoList-LCR-r4");
+      elem = (TimeslotInfo_LCR_r4*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TimeslotInfo_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "TimeslotInfo-LCR-r4", (int32_t)i, "TimeslotInfoList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotInfoList_LCR_r4, pvalue);
+}
+
+static int dec_CellInfoSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-RSCP-LCR-r4");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 4)) {
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_AT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = dec_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-RSCP-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-RSCP-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = dec_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCellSI_RSCP_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_RSCP_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+      elem = (NewIntraFreqCellSI_RSCP_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewIntraFreqCellSI_RSCP_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_List_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = dec_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoSI_List_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_ForbiddenAffectCell_LCR_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tdd */
+   stat = dec_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->tdd, cur);
+   RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_ForbiddenAffectCell_LCR_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ForbiddenAffectCell_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_ForbiddenAffectCellList_LCR_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ForbiddenAffectCellList-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      ForbiddenAffectCell_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCell_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ForbiddenAffectCell-LCR-r4", (int32_t)i, "ForbiddenAffectCellList-LCR-r4");
+      elem = (ForbiddenAffectCell_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_ForbiddenAffectCell_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_ForbiddenAffectCell_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell-LCR-r4", (int32_t)i, "ForbiddenAffectCellList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ForbiddenAffectCellList_LCR_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ForbiddenAffectCellList_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1a_LCR_r4(rtxContext* RT_RESTRICT ctx, Event1a_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event1a-LCR-r4");
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-LCR-r4");
+   /* reportingRange */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reportingRange, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1a-LCR-r4");
+   /* forbiddenAffectCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a-LCR-r4");
+   }
+   /* w */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->w, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "w", -1, "Event1a-LCR-r4");
+   /* reportDeactivationThreshold */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-LCR-r4");
+   /* reportingAmount */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-LCR-r4");
+   /* reportingInterval */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingInterval, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1a_LCR_r4(rtxContext* RT_RESTRICT ctx, Event1a_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1a_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1b_LCR_r4(rtxContext* RT_RESTRICT ctx, Event1b_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event1b-LCR-r4");
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-LCR-r4");
+   /* reportingRange */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reportingRange, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1b-LCR-r4");
+   /* forbiddenAffectCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-LCR-r4");
+   }
+   /* w */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->w, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "w", -1, "Event1b-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1b_LCR_r4(rtxContext* RT_RESTRICT ctx, Event1b_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1b_LCR_r4, pvalue);
+}
+
+static int dec_IntraFreqEvent_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEvent-LCR-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e1a */
+         pvalue->u.e1a = (Event1a_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_LCR_r4));
+         if (pvalue->u.e1a == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEvent-LCR-r4");
+         asn1Init_UMTS_Event1a_LCR_r4(pvalue->u.e1a);
+         stat = dec_Event1a_LCR_r4(ctx, pvalue->u.e1a, cur);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 1: /* e1b */
+         pvalue->u.e1b = (Event1b_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1b_LCR_r4));
+         if (pvalue->u.e1b == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEvent-LCR-r4");
+         asn1Init_UMTS_Event1b_LCR_r4(pvalue->u.e1b);
+         stat = dec_Event1b_LCR_r4(ctx, pvalue->u.e1b, cur);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 2: /* e1c */
+         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
+         if (pvalue->u.e1c == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEvent-LCR-r4");
+         stat = dec_Event1c(ctx, pvalue->u.e1c, cur);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 3: /* e1d */
+         break;
+      case 4: /* e1e */
+         pvalue->u.e1e = (Event1e*)rtxMemHeapAllocZ(ctx, sizeof(Event1e));
+         if (pvalue->u.e1e == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEvent-LCR-r4");
+         stat = dec_Event1e(ctx, pvalue->u.e1e, cur);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 5: /* e1f */
+         pvalue->u.e1f = (Event1f*)rtxMemHeapAllocZ(ctx, sizeof(Event1f));
+         if (pvalue->u.e1f == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEvent-LCR-r4");
+         stat = dec_Event1f(ctx, pvalue->u.e1f, cur);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 6: /* e1g */
+         break;
+      case 7: /* e1h */
+         stat = pd_ConsInt16At(ctx, cur, &pvalue->u.e1h, -115, 165);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 8: /* e1i */
+         stat = pd_ConsInt16At(ctx, cur, &pvalue->u.e1i, -115, 165);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEvent_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEvent_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteria-LCR-r4");
+   /* event */
+   stat = dec_IntraFreqEvent_LCR_r4(ctx, &pvalue->event, cur);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-LCR-r4");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-LCR-r4");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-LCR-r4");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteria_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaList_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteriaList-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IntraFreqEventCriteria_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "IntraFreqEventCriteria-LCR-r4", (int32_t)i, "IntraFreqEventCriteriaList-LCR-r4");
+      elem = (IntraFreqEventCriteria_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_IntraFreqEventCriteria_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_IntraFreqEventCriteria_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-LCR-r4", (int32_t)i, "IntraFreqEventCriteriaList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteriaList_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteriaList_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportingCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingCriteria-LCR-r4");
+   /* eventCriteriaList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqEventCriteriaList_LCR_r4(ctx, &pvalue->eventCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportingCriteria_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellDCH_ReportCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, CellDCH_ReportCriteria_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellDCH-ReportCriteria-LCR-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_LCR_r4));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         asn1Init_UMTS_IntraFreqReportingCriteria_LCR_r4(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_IntraFreqReportingCriteria_LCR_r4(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CellDCH-ReportCriteria-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellDCH_ReportCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, CellDCH_ReportCriteria_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellDCH_ReportCriteria_LCR_r4, pvalue);
+}
+
+static int dec_ReportingInfoForCellDCH_LCR_r4(rtxContext* RT_RESTRICT ctx, ReportingInfoForCellDCH_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqReportingQuantity */
+   stat = dec_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "ReportingInfoForCellDCH-LCR-r4");
+   /* measurementReportingMode */
+   stat = dec_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode, cur);
+   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "ReportingInfoForCellDCH-LCR-r4");
+   /* reportCriteria */
+   stat = dec_CellDCH_ReportCriteria_LCR_r4(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "ReportingInfoForCellDCH-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(rtxContext* RT_RESTRICT ctx, ReportingInfoForCellDCH_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReportingInfoForCellDCH_LCR_r4, pvalue);
+}
+
+static int dec_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (present & ((uint32_t)1 << 5)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   else {
+      pvalue->intraFreqMeasurementID = 1;
+   }
+   /* intraFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqCellInfoSI_List_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH, cur);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasurementSysInfo_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   /* interFreqCellID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = dec_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_RSCP_LCR_r4, pvalue);
+}
+
+static int dec_NewInterFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCellSI_RSCP_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_RSCP_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+      elem = (NewInterFreqCellSI_RSCP_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewInterFreqCellSI_RSCP_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_List_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_RSCP_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_RSCP_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   /* removedInterFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_RSCP_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellInfoSI_List_RSCP_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqCellInfoSI_List_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasurementSysInfo_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+static int dec_CellInfoSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-ECN0-LCR-r4");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 4)) {
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_AT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = dec_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-ECN0-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-ECN0-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = dec_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCellSI_ECN0_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_ECN0_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+      elem = (NewIntraFreqCellSI_ECN0_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewIntraFreqCellSI_ECN0_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_List_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = dec_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoSI_List_ECN0_LCR_r4, pvalue);
+}
+
+static int dec_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (present & ((uint32_t)1 << 5)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   else {
+      pvalue->intraFreqMeasurementID = 1;
+   }
+   /* intraFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqCellInfoSI_List_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH, cur);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasurementSysInfo_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   /* interFreqCellID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = dec_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_ECN0_LCR_r4, pvalue);
+}
+
+static int dec_NewInterFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCellSI_ECN0_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_ECN0_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+      elem = (NewInterFreqCellSI_ECN0_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewInterFreqCellSI_ECN0_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_List_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_ECN0_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_ECN0_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   /* removedInterFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_ECN0_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellInfoSI_List_ECN0_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqCellInfoSI_List_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasurementSysInfo_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellSelectQualityMeasure */
+   stat = dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used, pvalue);
+}
+
+static int dec_CellInfoSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 4)) {
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_AT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = dec_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_HCS_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = dec_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_HCS_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCellSI_HCS_RSCP_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_HCS_RSCP_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+      elem = (NewIntraFreqCellSI_HCS_RSCP_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = dec_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4, pvalue);
+}
+
+static int dec_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (present & ((uint32_t)1 << 5)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   else {
+      pvalue->intraFreqMeasurementID = 1;
+   }
+   /* intraFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH, cur);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   /* interFreqCellID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = dec_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_HCS_RSCP_LCR_r4, pvalue);
+}
+
+static int dec_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCellSI_HCS_RSCP_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_HCS_RSCP_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+      elem = (NewInterFreqCellSI_HCS_RSCP_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewInterFreqCellSI_HCS_RSCP_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_HCS_RSCP_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_RSCP_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   /* removedInterFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_RSCP_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellInfoSI_List_HCS_RSCP_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqCellInfoSI_List_HCS_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+static int dec_CellInfoSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 4)) {
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_AT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = dec_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfoSI_HCS_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = dec_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_HCS_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCellSI_HCS_ECN0_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_HCS_ECN0_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+      elem = (NewIntraFreqCellSI_HCS_ECN0_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = dec_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4, pvalue);
+}
+
+static int dec_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (present & ((uint32_t)1 << 5)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   else {
+      pvalue->intraFreqMeasurementID = 1;
+   }
+   /* intraFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH, cur);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   /* interFreqCellID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = dec_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_HCS_ECN0_LCR_r4, pvalue);
+}
+
+static int dec_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCellSI_HCS_ECN0_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_HCS_ECN0_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+      elem = (NewInterFreqCellSI_HCS_ECN0_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewInterFreqCellSI_HCS_ECN0_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellInfoSI_List_HCS_ECN0_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_ECN0_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   /* removedInterFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_ECN0_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellInfoSI_List_HCS_ECN0_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqCellInfoSI_List_HCS_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellSelectQualityMeasure */
+   stat = dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used, pvalue);
+}
+
+static int dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* hcs-not-used */
+         pvalue->u.hcs_not_used = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used));
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hcs-not-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
+         stat = dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 1: /* hcs-used */
+         pvalue->u.hcs_used = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used));
+         if (pvalue->u.hcs_used == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hcs-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(pvalue->u.hcs_used);
+         stat = dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* use-of-HCS */
+   stat = dec_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(ctx, &pvalue->use_of_HCS, cur);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfo-LCR-r4-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfo_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v4b0ext-IEs");
+   /* fach-MeasurementOccasionInfo-LCR-Ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext, cur);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo-LCR-Ext", -1, "SysInfoType11-v4b0ext-IEs");
+   }
+   /* measurementControlSysInfo-LCR */
+   stat = dec_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType11-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellSelectReselectInfo_v590ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellSelectReselectInfo_v590ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellSelectReselectInfo_v590ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_Intra_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, Intra_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Intra-FreqEventCriteriaList-v590ext");
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "Intra-FreqEventCriteriaList-v590ext");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Intra-FreqEventCriteriaList-v590ext");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->elem[i], -5, -1);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "DeltaRSCP", "DeltaRSCP", (int32_t)i, "Intra-FreqEventCriteriaList-v590ext");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, Intra_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Intra_FreqEventCriteriaList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PeriodicReportingInfo_1b(rtxContext* RT_RESTRICT ctx, PeriodicReportingInfo_1b* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* reportingAmount */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "PeriodicReportingInfo-1b");
+   /* reportingInterval */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingInterval, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "PeriodicReportingInfo-1b");
+   return 0;
+}
+
+int asn1PD_UMTS_PeriodicReportingInfo_1b(rtxContext* RT_RESTRICT ctx, PeriodicReportingInfo_1b* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PeriodicReportingInfo_1b, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportingCriteria_1b_r5(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_1b_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* periodicReportingInfo-1b */
+   stat = dec_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b, cur);
+   RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "IntraFreqReportingCriteria-1b-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_1b_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportingCriteria_1b_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEvent_1d_r5(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_1d_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEvent-1d-r5");
+   /* triggeringCondition */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 4);
+      RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "IntraFreqEvent-1d-r5");
+   }
+   /* useCIO */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->useCIO);
+      RT_CHECK_AT(ctx, cur, stat, 0, "useCIO", -1, "IntraFreqEvent-1d-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEvent_1d_r5(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_1d_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEvent_1d_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v590ext-IEs");
+   /* newIntraFrequencyCellInfoList-v590ext */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* newInterFrequencyCellInfoList-v590ext */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* newInterRATCellInfoList-v590ext */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = dec_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* intraFreqEventCriteriaList-v590ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = dec_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqEventCriteriaList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = dec_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* intraFreqEvent-1d-r5 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = dec_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "SysInfoType11-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v590ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_FDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqRepQuantityRACH-FDD");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_FDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqRepQuantityRACH_FDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* interFreqRepQuantityRACH-FDD */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqRepQuantityRACH-TDD");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqRepQuantityRACH_TDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 1, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqRepQuantityRACH-TDDList");
+      pvalue->n = n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "InterFreqRepQuantityRACH-TDDList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "InterFreqRepQuantityRACH-TDDList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 1);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "InterFreqRepQuantityRACH-TDD", "InterFreqRepQuantityRACH-TDD", (int32_t)i, "InterFreqRepQuantityRACH-TDDList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqRepQuantityRACH_TDDList, pvalue);
+}
+
+RT_MERGED_BODY int dec_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* interFreqRepQuantityRACH-TDDList */
+   stat = dec_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqRepQuantityRACH-TDDList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_Threshold(rtxContext* RT_RESTRICT ctx, Threshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -115, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Threshold");
+   return 0;
+}
+
+int asn1PD_UMTS_Threshold(rtxContext* RT_RESTRICT ctx, Threshold* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Threshold, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxReportedCellsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACHinterFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxReportedCellsOnRACHinterFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxReportedCellsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACHinterFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxReportedCellsOnRACHinterFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2: /* interFreqRACHReportingThreshold */
+         stat = pd_ConsInt8At(ctx, cur, &pvalue->u.interFreqRACHReportingThreshold, -115, 0);
+         RT_CHECK_AT(ctx, cur, stat, "Threshold", "interFreqRACHReportingThreshold", -1, 0);
+         break;
+      case 3: /* maxReportedCellsOnRACHinterFreq */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.maxReportedCellsOnRACHinterFreq, 1, 8);
+         RT_CHECK_AT(ctx, cur, stat, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_Dummy_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Dummy-InterFreqRACHReportingInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Dummy_InterFreqRACHReportingInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v690ext-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType11-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v690ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* interFreqRepQuantityRACH-FDD */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqRACHReportingInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* interFreqRepQuantityRACH-TDDList */
+   stat = dec_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqRepQuantityRACH-TDDList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqRACHReportingInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (InterFreqRACHReportingInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqRACHReportingInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (InterFreqRACHReportingInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(InterFreqRACHReportingInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqRACHReportingInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "InterFreqRACHReportingInfo");
+   /* interFreqRACHReportingThreshold */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->interFreqRACHReportingThreshold, -115, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold", "interFreqRACHReportingThreshold", -1, "InterFreqRACHReportingInfo");
+   /* maxReportedCellsOnRACHinterFreq */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxReportedCellsOnRACHinterFreq, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, "InterFreqRACHReportingInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqRACHReportingInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v6b0ext-IEs");
+   /* interFreqRACHReportingInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqRACHReportingInfo", -1, "SysInfoType11-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v6b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFNFrequency(rtxContext* RT_RESTRICT ctx, MBSFNFrequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFNFrequency");
+   /* frequencyInfo */
+   stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "MBSFNFrequency");
+   /* cellParametersID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParametersID, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "MBSFNFrequency");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNFrequency(rtxContext* RT_RESTRICT ctx, MBSFNFrequency* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFNFrequency, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFNFrequencyList(rtxContext* RT_RESTRICT ctx, MBSFNFrequencyList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 0, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFNFrequencyList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFNFrequency* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNFrequency));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBSFNFrequency", (int32_t)i, "MBSFNFrequencyList");
+      elem = (MBSFNFrequency*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBSFNFrequency(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBSFNFrequency(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBSFNFrequency", (int32_t)i, "MBSFNFrequencyList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNFrequencyList(rtxContext* RT_RESTRICT ctx, MBSFNFrequencyList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFNFrequencyList, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v770ext-IEs");
+   /* mbsfnFrequencyList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MBSFNFrequencyList(ctx, &pvalue->mbsfnFrequencyList, cur);
+      RT_CHECK(ctx, stat, 0, "mbsfnFrequencyList", -1, "SysInfoType11-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCell_v7b0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_v7b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraSecondaryFreqIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->intraSecondaryFreqIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "intraSecondaryFreqIndicator", -1, "NewInterFreqCell-v7b0ext");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCell_v7b0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_v7b0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCell_v7b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCellList_v7b0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_v7b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellList-v7b0ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCell_v7b0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_v7b0ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCell-v7b0ext", (int32_t)i, "NewInterFreqCellList-v7b0ext");
+      elem = (NewInterFreqCell_v7b0ext*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewInterFreqCell_v7b0ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-v7b0ext", (int32_t)i, "NewInterFreqCellList-v7b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellList_v7b0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_v7b0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellList_v7b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v7b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType11-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v7b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFNFrequency_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext_imb_Indication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNFrequency_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext_imb_Indication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFNFrequency_v860ext_imb_Indication, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFNFrequency_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFNFrequency-v860ext");
+   /* imb-Indication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "imb-Indication", -1, "MBSFNFrequency-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "imb-Indication", -1, "MBSFNFrequency-v860ext");
+         pvalue->imb_Indication = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNFrequency_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFNFrequency_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFNFrequencyList_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNFrequencyList_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 0, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFNFrequencyList-v860ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFNFrequency_v860ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNFrequency_v860ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBSFNFrequency-v860ext", (int32_t)i, "MBSFNFrequencyList-v860ext");
+      elem = (MBSFNFrequency_v860ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBSFNFrequency_v860ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBSFNFrequency_v860ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBSFNFrequency-v860ext", (int32_t)i, "MBSFNFrequencyList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNFrequencyList_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNFrequencyList_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFNFrequencyList_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v860ext-IEs");
+   /* mbsfnFrequencyList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MBSFNFrequencyList_v860ext(ctx, &pvalue->mbsfnFrequencyList, cur);
+      RT_CHECK(ctx, stat, 0, "mbsfnFrequencyList", -1, "SysInfoType11-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v860ext */
+   stat = dec_SysInfoType11_v860ext_IEs(ctx, &pvalue->sysInfoType11_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v7b0ext */
+   stat = dec_SysInfoType11_v7b0ext_IEs(ctx, &pvalue->sysInfoType11_v7b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v7b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v770ext */
+   stat = dec_SysInfoType11_v770ext_IEs(ctx, &pvalue->sysInfoType11_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v770ext", -1, 0);
+   /* v7b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions, pvalue);
+}
+
+static int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v6b0ext */
+   stat = dec_SysInfoType11_v6b0ext_IEs(ctx, &pvalue->sysInfoType11_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v690ext */
+   stat = dec_SysInfoType11_v690ext_IEs(ctx, &pvalue->sysInfoType11_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions, pvalue);
+}
+
+static int dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v590ext */
+   stat = dec_SysInfoType11_v590ext_IEs(ctx, &pvalue->sysInfoType11_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v4b0ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType11_v4b0ext_IEs(ctx, &pvalue->sysInfoType11_v4b0ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType11-v4b0ext", -1, 0);
+   }
+   /* v590NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11_v4b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11(rtxContext* RT_RESTRICT ctx, SysInfoType11* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType11");
+   /* sib12indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sib12indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sib12indicator", -1, "SysInfoType11");
+   /* fach-MeasurementOccasionInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo", -1, "SysInfoType11");
+   }
+   /* measurementControlSysInfo */
+   stat = dec_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType11");
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType11_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType11");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11(rtxContext* RT_RESTRICT ctx, SysInfoType11* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used, pvalue);
+}
+
+static int dec_MeasurementControlSysInfoExtension_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* hcs-not-used */
+         pvalue->u.hcs_not_used = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used));
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hcs-not-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
+         stat = dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 1: /* hcs-used */
+         pvalue->u.hcs_used = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_used));
+         if (pvalue->u.hcs_used == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hcs-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(pvalue->u.hcs_used);
+         stat = dec_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_use_of_HCS, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* use-of-HCS */
+   stat = dec_MeasurementControlSysInfoExtension_use_of_HCS(ctx, &pvalue->use_of_HCS, cur);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfoExtension");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used, pvalue);
+}
+
+static int dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* hcs-not-used */
+         pvalue->u.hcs_not_used = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used));
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hcs-not-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
+         stat = dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 1: /* hcs-used */
+         pvalue->u.hcs_used = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used));
+         if (pvalue->u.hcs_used == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hcs-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(pvalue->u.hcs_used);
+         stat = dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtension_LCR_r4(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* use-of-HCS */
+   stat = dec_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(ctx, &pvalue->use_of_HCS, cur);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfoExtension-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtension_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellSelectReselectInfo_v590ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellSelectReselectInfo_v590ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellSelectReselectInfo_v590ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementControlSysInfoExtensionAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   /* newIntraFrequencyCellInfoListAddon-r5 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(ctx, &pvalue->newIntraFrequencyCellInfoListAddon_r5, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   }
+   /* newInterFrequencyCellInfoListAddon-r5 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(ctx, &pvalue->newInterFrequencyCellInfoListAddon_r5, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   }
+   /* newInterRATCellInfoListAddon-r5 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(ctx, &pvalue->newInterRATCellInfoListAddon_r5, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementControlSysInfoExtensionAddon_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11bis_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType11bis-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType11bis-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11bis_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11bis_v7b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSG_DedicatedFrequencyInfoList(rtxContext* RT_RESTRICT ctx, CSG_DedicatedFrequencyInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-DomainInformationList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CSG-DedicatedFrequencyInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      FrequencyInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "FrequencyInfo", (int32_t)i, "CSG-DedicatedFrequencyInfoList");
+      elem = (FrequencyInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_FrequencyInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_FrequencyInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfo", (int32_t)i, "CSG-DedicatedFrequencyInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSG_DedicatedFrequencyInfoList(rtxContext* RT_RESTRICT ctx, CSG_DedicatedFrequencyInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSG_DedicatedFrequencyInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType11bis-v860ext-IEs");
+   /* csg-PSCSplitInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo, cur);
+      RT_CHECK(ctx, stat, 0, "csg-PSCSplitInfo", -1, "SysInfoType11bis-v860ext-IEs");
+   }
+   /* csg-DedicatedFrequencyInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CSG_DedicatedFrequencyInfoList(ctx, &pvalue->csg_DedicatedFrequencyInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "csg-DedicatedFrequencyInfoList", -1, "SysInfoType11bis-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11bis_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11bis-v860ext */
+   stat = dec_SysInfoType11bis_v860ext_IEs(ctx, &pvalue->sysInfoType11bis_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11bis-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType11bis_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11bis-v7b0ext */
+   stat = dec_SysInfoType11bis_v7b0ext_IEs(ctx, &pvalue->sysInfoType11bis_v7b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11bis-v7b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11bis_v7b0NonCriticalExtensions, pvalue);
+}
+
+static int dec_SysInfoType11bis(rtxContext* RT_RESTRICT ctx, SysInfoType11bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType11bis");
+   /* measurementControlSysInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasurementControlSysInfoExtension(ctx, &pvalue->measurementControlSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType11bis");
+   }
+   /* measurementControlSysInfo-LCR */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MeasurementControlSysInfoExtension_LCR_r4(ctx, &pvalue->measurementControlSysInfo_LCR, cur);
+      RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType11bis");
+   }
+   /* measurementControlSysInfoExtensionAddon-r5 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_MeasurementControlSysInfoExtensionAddon_r5(ctx, &pvalue->measurementControlSysInfoExtensionAddon_r5, cur);
+      RT_CHECK(ctx, stat, 0, "measurementControlSysInfoExtensionAddon-r5", -1, "SysInfoType11bis");
+   }
+   /* v7b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_SysInfoType11bis_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, "SysInfoType11bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11bis(rtxContext* RT_RESTRICT ctx, SysInfoType11bis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType11bis, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType12-v4b0ext-IEs");
+   /* fach-MeasurementOccasionInfo-LCR-Ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext, cur);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo-LCR-Ext", -1, "SysInfoType12-v4b0ext-IEs");
+   }
+   /* measurementControlSysInfo-LCR */
+   stat = dec_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType12-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellSelectReselectInfo_v590ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellSelectReselectInfo_v590ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellSelectReselectInfo_v590ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType12-v590ext-IEs");
+   /* newIntraFrequencyCellInfoList-v590ext */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* newInterFrequencyCellInfoList-v590ext */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* newInterRATCellInfoList-v590ext */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = dec_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* intraFreqEventCriteriaList-v590ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = dec_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqEventCriteriaList-v590ext", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = dec_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* intraFreqEvent-1d-r5 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = dec_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "SysInfoType12-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v590ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType12-v690ext-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType12-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v690ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType12-v6b0ext-IEs");
+   /* interFreqRACHReportingInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqRACHReportingInfo", -1, "SysInfoType12-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v6b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v7b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType12-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType12-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v7b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v7b0ext */
+   stat = dec_SysInfoType12_v7b0ext_IEs(ctx, &pvalue->sysInfoType12_v7b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v7b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v6b0ext */
+   stat = dec_SysInfoType12_v6b0ext_IEs(ctx, &pvalue->sysInfoType12_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v6b0ext", -1, 0);
+   /* v7b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v690ext */
+   stat = dec_SysInfoType12_v690ext_IEs(ctx, &pvalue->sysInfoType12_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions, pvalue);
+}
+
+static int dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v590ext */
+   stat = dec_SysInfoType12_v590ext_IEs(ctx, &pvalue->sysInfoType12_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v4b0ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType12_v4b0ext_IEs(ctx, &pvalue->sysInfoType12_v4b0ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType12-v4b0ext", -1, 0);
+   }
+   /* v590NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12_v4b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType12(rtxContext* RT_RESTRICT ctx, SysInfoType12* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType12");
+   /* fach-MeasurementOccasionInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo", -1, "SysInfoType12");
+   }
+   /* measurementControlSysInfo */
+   stat = dec_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType12");
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType12_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType12");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12(rtxContext* RT_RESTRICT ctx, SysInfoType12* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType12, pvalue);
+}
+
+RT_MERGED_BODY int dec_Re_EstablishmentTimer(rtxContext* RT_RESTRICT ctx, Re_EstablishmentTimer* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Re-EstablishmentTimer");
+   return 0;
+}
+
+int asn1PD_UMTS_Re_EstablishmentTimer(rtxContext* RT_RESTRICT ctx, Re_EstablishmentTimer* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Re_EstablishmentTimer, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimerMRW(rtxContext* RT_RESTRICT ctx, TimerMRW* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimerMRW");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerMRW(rtxContext* RT_RESTRICT ctx, TimerMRW* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimerMRW, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimerDiscard(rtxContext* RT_RESTRICT ctx, TimerDiscard* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimerDiscard");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerDiscard(rtxContext* RT_RESTRICT ctx, TimerDiscard* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimerDiscard, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxMRW(rtxContext* RT_RESTRICT ctx, MaxMRW* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxMRW");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxMRW(rtxContext* RT_RESTRICT ctx, MaxMRW* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxMRW, pvalue);
+}
+
+RT_MERGED_BODY int dec_ExplicitDiscard(rtxContext* RT_RESTRICT ctx, ExplicitDiscard* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timerMRW */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timerMRW, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimerMRW", "timerMRW", -1, "ExplicitDiscard");
+   /* timerDiscard */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timerDiscard, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimerDiscard", "timerDiscard", -1, "ExplicitDiscard");
+   /* maxMRW */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxMRW, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MaxMRW", "maxMRW", -1, "ExplicitDiscard");
+   return 0;
+}
+
+int asn1PD_UMTS_ExplicitDiscard(rtxContext* RT_RESTRICT ctx, ExplicitDiscard* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ExplicitDiscard, pvalue);
+}
+
+RT_MERGED_BODY int dec_NoExplicitDiscard(rtxContext* RT_RESTRICT ctx, NoExplicitDiscard* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NoExplicitDiscard");
+   return 0;
+}
+
+int asn1PD_UMTS_NoExplicitDiscard(rtxContext* RT_RESTRICT ctx, NoExplicitDiscard* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NoExplicitDiscard, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxDAT(rtxContext* RT_RESTRICT ctx, MaxDAT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxDAT");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxDAT(rtxContext* RT_RESTRICT ctx, MaxDAT* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxDAT, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxDAT_Retransmissions(rtxContext* RT_RESTRICT ctx, MaxDAT_Retransmissions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxDAT */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxDAT, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MaxDAT", "maxDAT", -1, "MaxDAT-Retransmissions");
+   /* timerMRW */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timerMRW, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimerMRW", "timerMRW", -1, "MaxDAT-Retransmissions");
+   /* maxMRW */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxMRW, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MaxMRW", "maxMRW", -1, "MaxDAT-Retransmissions");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxDAT_Retransmissions(rtxContext* RT_RESTRICT ctx, MaxDAT_Retransmissions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxDAT_Retransmissions, pvalue);
+}
+
+static int dec_TransmissionRLC_Discard(rtxContext* RT_RESTRICT ctx, TransmissionRLC_Discard* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransmissionRLC-Discard");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* timerBasedExplicit */
+         pvalue->u.timerBasedExplicit = (ExplicitDiscard*)rtxMemHeapAllocZ(ctx, sizeof(ExplicitDiscard));
+         if (pvalue->u.timerBasedExplicit == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "timerBasedExplicit", -1, "TransmissionRLC-Discard");
+         stat = dec_ExplicitDiscard(ctx, pvalue->u.timerBasedExplicit, cur);
+         RT_CHECK(ctx, stat, 0, "timerBasedExplicit", -1, "TransmissionRLC-Discard");
+         break;
+      case 1: /* timerBasedNoExplicit */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.timerBasedNoExplicit, 0, 9);
+         RT_CHECK_AT(ctx, cur, stat, "NoExplicitDiscard", "timerBasedNoExplicit", -1, "TransmissionRLC-Discard");
+         break;
+      case 2: /* maxDAT-Retransmissions */
+         pvalue->u.maxDAT_Retransmissions = (MaxDAT_Retransmissions*)rtxMemHeapAllocZ(ctx, sizeof(MaxDAT_Retransmissions));
+         if (pvalue->u.maxDAT_Retransmissions == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "maxDAT-Retransmissions", -1, "TransmissionRLC-Discard");
+         stat = dec_MaxDAT_Retransmissions(ctx, pvalue->u.maxDAT_Retransmissions, cur);
+         RT_CHECK(ctx, stat, 0, "maxDAT-Retransmissions", -1, "TransmissionRLC-Discard");
+         break;
+      case 3: /* noDiscard */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.noDiscard, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, "MaxDAT", "noDiscard", -1, "TransmissionRLC-Discard");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TransmissionRLC-Discard");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransmissionRLC_Discard(rtxContext* RT_RESTRICT ctx, TransmissionRLC_Discard* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TransmissionRLC_Discard, pvalue);
+}
+
+RT_MERGED_BODY int dec_TransmissionWindowSize(rtxContext* RT_RESTRICT ctx, TransmissionWindowSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransmissionWindowSize");
+   return 0;
+}
+
+int asn1PD_UMTS_TransmissionWindowSize(rtxContext* RT_RESTRICT ctx, TransmissionWindowSize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TransmissionWindowSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimerRST(rtxContext* RT_RESTRICT ctx, TimerRST* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimerRST");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerRST(rtxContext* RT_RESTRICT ctx, TimerRST* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimerRST, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxRST(rtxContext* RT_RESTRICT ctx, MaxRST* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxRST");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxRST(rtxContext* RT_RESTRICT ctx, MaxRST* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxRST, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimerPollProhibit(rtxContext* RT_RESTRICT ctx, TimerPollProhibit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimerPollProhibit");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerPollProhibit(rtxContext* RT_RESTRICT ctx, TimerPollProhibit* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimerPollProhibit, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimerPoll(rtxContext* RT_RESTRICT ctx, TimerPoll* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimerPoll");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerPoll(rtxContext* RT_RESTRICT ctx, TimerPoll* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimerPoll, pvalue);
+}
+
+RT_MERGED_BODY int dec_Poll_PDU(rtxContext* RT_RESTRICT ctx, Poll_PDU* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Poll-PDU");
+   return 0;
+}
+
+int asn1PD_UMTS_Poll_PDU(rtxContext* RT_RESTRICT ctx, Poll_PDU* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Poll_PDU, pvalue);
+}
+
+RT_MERGED_BODY int dec_Poll_SDU(rtxContext* RT_RESTRICT ctx, Poll_SDU* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Poll-SDU");
+   return 0;
+}
+
+int asn1PD_UMTS_Poll_SDU(rtxContext* RT_RESTRICT ctx, Poll_SDU* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Poll_SDU, pvalue);
+}
+
+RT_MERGED_BODY int dec_PollWindow(rtxContext* RT_RESTRICT ctx, PollWindow* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PollWindow");
+   return 0;
+}
+
+int asn1PD_UMTS_PollWindow(rtxContext* RT_RESTRICT ctx, PollWindow* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PollWindow, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimerPollPeriodic(rtxContext* RT_RESTRICT ctx, TimerPollPeriodic* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimerPollPeriodic");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerPollPeriodic(rtxContext* RT_RESTRICT ctx, TimerPollPeriodic* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimerPollPeriodic, pvalue);
+}
+
+RT_MERGED_BODY int dec_PollingInfo(rtxContext* RT_RESTRICT ctx, PollingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PollingInfo");
+   /* timerPollProhibit */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timerPollProhibit, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, "TimerPollProhibit", "timerPollProhibit", -1, "PollingInfo");
+   }
+   /* timerPoll */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timerPoll, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, "TimerPoll", "timerPoll", -1, "PollingInfo");
+   }
+   /* poll-PDU */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->poll_PDU, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "Poll-PDU", "poll-PDU", -1, "PollingInfo");
+   }
+   /* poll-SDU */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->poll_SDU, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "Poll-SDU", "poll-SDU", -1, "PollingInfo");
+   }
+   /* lastTransmissionPDU-Poll */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->lastTransmissionPDU_Poll);
+   RT_CHECK_AT(ctx, cur, stat, 0, "lastTransmissionPDU-Poll", -1, "PollingInfo");
+   /* lastRetransmissionPDU-Poll */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->lastRetransmissionPDU_Poll);
+   RT_CHECK_AT(ctx, cur, stat, 0, "lastRetransmissionPDU-Poll", -1, "PollingInfo");
+   /* pollWindow */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pollWindow, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "PollWindow", "pollWindow", -1, "PollingInfo");
+   }
+   /* timerPollPeriodic */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timerPollPeriodic, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "TimerPollPeriodic", "timerPollPeriodic", -1, "PollingInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PollingInfo(rtxContext* RT_RESTRICT ctx, PollingInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PollingInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_AM_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-AM-RLC-Mode");
+   /* transmissionRLC-Discard */
+   stat = dec_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard, cur);
+   RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-AM-RLC-Mode");
+   /* transmissionWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->transmissionWindowSize, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TransmissionWindowSize", "transmissionWindowSize", -1, "UL-AM-RLC-Mode");
+   /* timerRST */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timerRST, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimerRST", "timerRST", -1, "UL-AM-RLC-Mode");
+   /* max-RST */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->max_RST, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MaxRST", "max-RST", -1, "UL-AM-RLC-Mode");
+   /* pollingInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PollingInfo(ctx, &pvalue->pollingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "pollingInfo", -1, "UL-AM-RLC-Mode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_AM_RLC_Mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AM_RLC_Mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_UM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_UM_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-UM-RLC-Mode");
+   /* transmissionRLC-Discard */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard, cur);
+      RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-UM-RLC-Mode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_UM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_UM_RLC_Mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_UM_RLC_Mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_TM_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TM-RLC-Mode");
+   /* transmissionRLC-Discard */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard, cur);
+      RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-TM-RLC-Mode");
+   }
+   /* segmentationIndication */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->segmentationIndication);
+   RT_CHECK_AT(ctx, cur, stat, 0, "segmentationIndication", -1, "UL-TM-RLC-Mode");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_TM_RLC_Mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TM_RLC_Mode, pvalue);
+}
+
+static int dec_UL_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-RLC-Mode");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ul-AM-RLC-Mode */
+         pvalue->u.ul_AM_RLC_Mode = (UL_AM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(UL_AM_RLC_Mode));
+         if (pvalue->u.ul_AM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ul-AM-RLC-Mode", -1, "UL-RLC-Mode");
+         asn1Init_UMTS_UL_AM_RLC_Mode(pvalue->u.ul_AM_RLC_Mode);
+         stat = dec_UL_AM_RLC_Mode(ctx, pvalue->u.ul_AM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "ul-AM-RLC-Mode", -1, "UL-RLC-Mode");
+         break;
+      case 1: /* ul-UM-RLC-Mode */
+         pvalue->u.ul_UM_RLC_Mode = (UL_UM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(UL_UM_RLC_Mode));
+         if (pvalue->u.ul_UM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ul-UM-RLC-Mode", -1, "UL-RLC-Mode");
+         asn1Init_UMTS_UL_UM_RLC_Mode(pvalue->u.ul_UM_RLC_Mode);
+         stat = dec_UL_UM_RLC_Mode(ctx, pvalue->u.ul_UM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "ul-UM-RLC-Mode", -1, "UL-RLC-Mode");
+         break;
+      case 2: /* ul-TM-RLC-Mode */
+         pvalue->u.ul_TM_RLC_Mode = (UL_TM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(UL_TM_RLC_Mode));
+         if (pvalue->u.ul_TM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ul-TM-RLC-Mode", -1, "UL-RLC-Mode");
+         asn1Init_UMTS_UL_TM_RLC_Mode(pvalue->u.ul_TM_RLC_Mode);
+         stat = dec_UL_TM_RLC_Mode(ctx, pvalue->u.ul_TM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "ul-TM-RLC-Mode", -1, "UL-RLC-Mode");
+         break;
+      case 3: /* spare */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-RLC-Mode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_RLC_Mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_RLC_Mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReceivingWindowSize(rtxContext* RT_RESTRICT ctx, ReceivingWindowSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReceivingWindowSize");
+   return 0;
+}
+
+int asn1PD_UMTS_ReceivingWindowSize(rtxContext* RT_RESTRICT ctx, ReceivingWindowSize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReceivingWindowSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimerStatusProhibit(rtxContext* RT_RESTRICT ctx, TimerStatusProhibit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimerStatusProhibit");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerStatusProhibit(rtxContext* RT_RESTRICT ctx, TimerStatusProhibit* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimerStatusProhibit, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimerEPC(rtxContext* RT_RESTRICT ctx, TimerEPC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimerEPC");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerEPC(rtxContext* RT_RESTRICT ctx, TimerEPC* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimerEPC, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimerStatusPeriodic(rtxContext* RT_RESTRICT ctx, TimerStatusPeriodic* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimerStatusPeriodic");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerStatusPeriodic(rtxContext* RT_RESTRICT ctx, TimerStatusPeriodic* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimerStatusPeriodic, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_RLC_StatusInfo(rtxContext* RT_RESTRICT ctx, DL_RLC_StatusInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-RLC-StatusInfo");
+   /* timerStatusProhibit */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timerStatusProhibit, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, "TimerStatusProhibit", "timerStatusProhibit", -1, "DL-RLC-StatusInfo");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dummy, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "TimerEPC", "dummy", -1, "DL-RLC-StatusInfo");
+   }
+   /* missingPDU-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->missingPDU_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "missingPDU-Indicator", -1, "DL-RLC-StatusInfo");
+   /* timerStatusPeriodic */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timerStatusPeriodic, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "TimerStatusPeriodic", "timerStatusPeriodic", -1, "DL-RLC-StatusInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RLC_StatusInfo(rtxContext* RT_RESTRICT ctx, DL_RLC_StatusInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_RLC_StatusInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* inSequenceDelivery */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->inSequenceDelivery);
+   RT_CHECK_AT(ctx, cur, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode");
+   /* receivingWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->receivingWindowSize, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode");
+   /* dl-RLC-StatusInfo */
+   stat = dec_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AM_RLC_Mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_TM_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* segmentationIndication */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->segmentationIndication);
+   RT_CHECK_AT(ctx, cur, stat, 0, "segmentationIndication", -1, "DL-TM-RLC-Mode");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_TM_RLC_Mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TM_RLC_Mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-RLC-Mode");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-AM-RLC-Mode */
+         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode));
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode");
+         asn1Init_UMTS_DL_AM_RLC_Mode(pvalue->u.dl_AM_RLC_Mode);
+         stat = dec_DL_AM_RLC_Mode(ctx, pvalue->u.dl_AM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode");
+         break;
+      case 1: /* dl-UM-RLC-Mode */
+         break;
+      case 2: /* dl-TM-RLC-Mode */
+         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode");
+         stat = dec_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_RLC_Mode, pvalue);
+}
+
+static int dec_RLC_Info(rtxContext* RT_RESTRICT ctx, RLC_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-Info");
+   /* ul-RLC-Mode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info");
+   }
+   /* dl-RLC-Mode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_RLC_Mode(ctx, &pvalue->dl_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info(rtxContext* RT_RESTRICT ctx, RLC_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_InfoChoice(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-InfoChoice");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rlc-Info */
+         pvalue->u.rlc_Info = (RLC_Info*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info));
+         if (pvalue->u.rlc_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "rlc-Info", -1, "RLC-InfoChoice");
+         asn1Init_UMTS_RLC_Info(pvalue->u.rlc_Info);
+         stat = dec_RLC_Info(ctx, pvalue->u.rlc_Info, cur);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice");
+         break;
+      case 1: /* same-as-RB */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_InfoChoice(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_InfoChoice, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TransportChannelType(rtxContext* RT_RESTRICT ctx, UL_TransportChannelType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TransportChannelType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "UL-TransportChannelType");
+         break;
+      case 1: /* rach */
+         break;
+      case 2: /* dummy */
+         break;
+      case 3: /* usch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.usch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "usch", -1, "UL-TransportChannelType");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TransportChannelType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TransportChannelType(rtxContext* RT_RESTRICT ctx, UL_TransportChannelType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TransportChannelType, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_SizeInfo(rtxContext* RT_RESTRICT ctx, RLC_SizeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rlc-SizeIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rlc_SizeIndex, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-SizeIndex", -1, "RLC-SizeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_SizeInfo(rtxContext* RT_RESTRICT ctx, RLC_SizeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_SizeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_SizeExplicitList(rtxContext* RT_RESTRICT ctx, RLC_SizeExplicitList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-SizeExplicitList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RLC_SizeInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RLC_SizeInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RLC-SizeInfo", (int32_t)i, "RLC-SizeExplicitList");
+      elem = (RLC_SizeInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RLC_SizeInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RLC-SizeInfo", (int32_t)i, "RLC-SizeExplicitList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_SizeExplicitList(rtxContext* RT_RESTRICT ctx, RLC_SizeExplicitList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_SizeExplicitList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_rlc_SizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* allSizes */
+         break;
+      case 1: /* configured */
+         break;
+      case 2: /* explicitList */
+         pvalue->u.explicitList = (RLC_SizeExplicitList*)rtxMemHeapAlloc(ctx, sizeof(RLC_SizeExplicitList));
+         if (pvalue->u.explicitList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicitList", -1, 0);
+         asn1Init_UMTS_RLC_SizeExplicitList(pvalue->u.explicitList);
+         stat = dec_RLC_SizeExplicitList(ctx, pvalue->u.explicitList, cur);
+         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_rlc_SizeList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_rlc_SizeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_LogicalChannelPriority(rtxContext* RT_RESTRICT ctx, MAC_LogicalChannelPriority* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-LogicalChannelPriority");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_LogicalChannelPriority(rtxContext* RT_RESTRICT ctx, MAC_LogicalChannelPriority* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_LogicalChannelPriority, pvalue);
+}
+
+static int dec_UL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-LogicalChannelMapping");
+   /* ul-TransportChannelType */
+   stat = dec_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, "UL-LogicalChannelMapping");
+   /* logicalChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "UL-LogicalChannelMapping");
+   }
+   /* rlc-SizeList */
+   stat = dec_UL_LogicalChannelMapping_rlc_SizeList(ctx, &pvalue->rlc_SizeList, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, "UL-LogicalChannelMapping");
+   /* mac-LogicalChannelPriority */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_LogicalChannelPriority, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_ul_LogicalChannelMapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_LogicalChannelMapping* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_LogicalChannelMapping));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-LogicalChannelMapping", (int32_t)i, 0);
+      elem = (UL_LogicalChannelMapping*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_LogicalChannelMapping(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UL_LogicalChannelMapping(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMappingList_ul_LogicalChannelMapping, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rlc-LogicalChannelMappingIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_LogicalChannelMappingIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList");
+   /* ul-LogicalChannelMapping */
+   stat = dec_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping, cur);
+   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMappingList, pvalue);
+}
+
+static int dec_UL_LogicalChannelMappings(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-LogicalChannelMappings");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* oneLogicalChannel */
+         pvalue->u.oneLogicalChannel = (UL_LogicalChannelMapping*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping));
+         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings");
+         asn1Init_UMTS_UL_LogicalChannelMapping(pvalue->u.oneLogicalChannel);
+         stat = dec_UL_LogicalChannelMapping(ctx, pvalue->u.oneLogicalChannel, cur);
+         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings");
+         break;
+      case 1: /* twoLogicalChannels */
+         pvalue->u.twoLogicalChannels = (UL_LogicalChannelMappingList*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMappingList));
+         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings");
+         asn1Init_UMTS_UL_LogicalChannelMappingList(pvalue->u.twoLogicalChannels);
+         stat = dec_UL_LogicalChannelMappingList(ctx, pvalue->u.twoLogicalChannels, cur);
+         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappings(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMappings, pvalue);
+}
+
+RT_MERGED_BODY int dec_TransportChannelIdentityDCHandDSCH(rtxContext* RT_RESTRICT ctx, TransportChannelIdentityDCHandDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dch-transport-ch-id */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dch_transport_ch_id, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
+   /* dsch-transport-ch-id */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dsch_transport_ch_id, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dsch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(rtxContext* RT_RESTRICT ctx, TransportChannelIdentityDCHandDSCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TransportChannelIdentityDCHandDSCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TransportChannelType(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-TransportChannelType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType");
+         break;
+      case 1: /* fach */
+         break;
+      case 2: /* dsch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dsch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType");
+         break;
+      case 3: /* dch-and-dsch */
+         pvalue->u.dch_and_dsch = (TransportChannelIdentityDCHandDSCH*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelIdentityDCHandDSCH));
+         if (pvalue->u.dch_and_dsch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dch-and-dsch", -1, "DL-TransportChannelType");
+         stat = dec_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelType(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TransportChannelType, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-LogicalChannelMapping");
+   /* dl-TransportChannelType */
+   stat = dec_DL_TransportChannelType(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping");
+   /* logicalChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_LogicalChannelMapping, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-LogicalChannelMappingList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_LogicalChannelMapping* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_LogicalChannelMapping));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-LogicalChannelMapping", (int32_t)i, "DL-LogicalChannelMappingList");
+      elem = (DL_LogicalChannelMapping*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_LogicalChannelMapping(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_LogicalChannelMapping(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping", (int32_t)i, "DL-LogicalChannelMappingList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_LogicalChannelMappingList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_MappingOption(rtxContext* RT_RESTRICT ctx, RB_MappingOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-MappingOption");
+   /* ul-LogicalChannelMappings */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_LogicalChannelMappingList(ctx, &pvalue->dl_LogicalChannelMappingList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingOption(rtxContext* RT_RESTRICT ctx, RB_MappingOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_MappingOption, pvalue);
+}
+
+static int dec_RB_MappingInfo(rtxContext* RT_RESTRICT ctx, RB_MappingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-MappingInfo");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_MappingOption* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-MappingOption", (int32_t)i, "RB-MappingInfo");
+      elem = (RB_MappingOption*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_MappingOption(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_MappingOption(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption", (int32_t)i, "RB-MappingInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingInfo(rtxContext* RT_RESTRICT ctx, RB_MappingInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_MappingInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SRB_InformationSetup(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetup");
+   /* rb-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+      RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup");
+   }
+   /* rlc-InfoChoice */
+   stat = dec_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup");
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetup(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetup, pvalue);
+}
+
+static int dec_SRB_InformationSetupList(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList");
+      elem = (SRB_InformationSetup*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SRB_InformationSetup(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetupList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxPDCP_SN_WindowSize(rtxContext* RT_RESTRICT ctx, MaxPDCP_SN_WindowSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxPDCP-SN-WindowSize");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPDCP_SN_WindowSize(rtxContext* RT_RESTRICT ctx, MaxPDCP_SN_WindowSize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxPDCP_SN_WindowSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_LosslessSRNS_RelocSupport(rtxContext* RT_RESTRICT ctx, LosslessSRNS_RelocSupport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "LosslessSRNS-RelocSupport");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.supported, 0, 1);
+         RT_CHECK_AT(ctx, cur, stat, "MaxPDCP-SN-WindowSize", "supported", -1, "LosslessSRNS-RelocSupport");
+         break;
+      case 1: /* notSupported */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "LosslessSRNS-RelocSupport");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_LosslessSRNS_RelocSupport(rtxContext* RT_RESTRICT ctx, LosslessSRNS_RelocSupport* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_LosslessSRNS_RelocSupport, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_PDU_Header(rtxContext* RT_RESTRICT ctx, PDCP_PDU_Header* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDCP-PDU-Header");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_PDU_Header(rtxContext* RT_RESTRICT ctx, PDCP_PDU_Header* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_PDU_Header, pvalue);
+}
+
+RT_MERGED_BODY int dec_ExpectReordering(rtxContext* RT_RESTRICT ctx, ExpectReordering* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ExpectReordering");
+   return 0;
+}
+
+int asn1PD_UMTS_ExpectReordering(rtxContext* RT_RESTRICT ctx, ExpectReordering* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ExpectReordering, pvalue);
+}
+
+RT_MERGED_BODY int dec_RFC2507_Info(rtxContext* RT_RESTRICT ctx, RFC2507_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RFC2507-Info");
+   /* f-MAX-PERIOD */
+   if (present & ((uint32_t)1 << 4)) {
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->f_MAX_PERIOD, 1, 65535);
+      RT_CHECK_AT(ctx, cur, stat, 0, "f-MAX-PERIOD", -1, "RFC2507-Info");
+   }
+   else {
+      pvalue->f_MAX_PERIOD = 256;
+   }
+   /* f-MAX-TIME */
+   if (present & ((uint32_t)1 << 3)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->f_MAX_TIME, 1, 255);
+      RT_CHECK_AT(ctx, cur, stat, 0, "f-MAX-TIME", -1, "RFC2507-Info");
+   }
+   else {
+      pvalue->f_MAX_TIME = 5;
+   }
+   /* max-HEADER */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->max_HEADER, 60, 65535);
+      RT_CHECK_AT(ctx, cur, stat, 0, "max-HEADER", -1, "RFC2507-Info");
+   }
+   else {
+      pvalue->max_HEADER = 168;
+   }
+   /* tcp-SPACE */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tcp_SPACE, 3, 255);
+      RT_CHECK_AT(ctx, cur, stat, 0, "tcp-SPACE", -1, "RFC2507-Info");
+   }
+   else {
+      pvalue->tcp_SPACE = 15;
+   }
+   /* non-TCP-SPACE */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->non_TCP_SPACE, 3, 65535);
+      RT_CHECK_AT(ctx, cur, stat, 0, "non-TCP-SPACE", -1, "RFC2507-Info");
+   }
+   else {
+      pvalue->non_TCP_SPACE = 15;
+   }
+   /* expectReordering */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->expectReordering, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ExpectReordering", "expectReordering", -1, "RFC2507-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_RFC2507_Info(rtxContext* RT_RESTRICT ctx, RFC2507_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RFC2507_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_AlgorithmSpecificInfo(rtxContext* RT_RESTRICT ctx, AlgorithmSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AlgorithmSpecificInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rfc2507-Info */
+         pvalue->u.rfc2507_Info = (RFC2507_Info*)rtxMemHeapAlloc(ctx, sizeof(RFC2507_Info));
+         if (pvalue->u.rfc2507_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo");
+         asn1Init_UMTS_RFC2507_Info(pvalue->u.rfc2507_Info);
+         stat = dec_RFC2507_Info(ctx, pvalue->u.rfc2507_Info, cur);
+         RT_CHECK(ctx, stat, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "AlgorithmSpecificInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AlgorithmSpecificInfo(rtxContext* RT_RESTRICT ctx, AlgorithmSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AlgorithmSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_HeaderCompressionInfo(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* algorithmSpecificInfo */
+   stat = dec_AlgorithmSpecificInfo(ctx, &pvalue->algorithmSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "algorithmSpecificInfo", -1, "HeaderCompressionInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_HeaderCompressionInfo(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HeaderCompressionInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_HeaderCompressionInfoList(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HeaderCompressionInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HeaderCompressionInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HeaderCompressionInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HeaderCompressionInfo", (int32_t)i, "HeaderCompressionInfoList");
+      elem = (HeaderCompressionInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HeaderCompressionInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HeaderCompressionInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HeaderCompressionInfo", (int32_t)i, "HeaderCompressionInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HeaderCompressionInfoList(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HeaderCompressionInfoList, pvalue);
+}
+
+static int dec_PDCP_Info(rtxContext* RT_RESTRICT ctx, PDCP_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDCP-Info");
+   /* losslessSRNS-RelocSupport */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport, cur);
+      RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocSupport", -1, "PDCP-Info");
+   }
+   /* pdcp-PDU-Header */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pdcp_PDU_Header, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info");
+   /* headerCompressionInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_HeaderCompressionInfoList(ctx, &pvalue->headerCompressionInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "headerCompressionInfoList", -1, "PDCP-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Info(rtxContext* RT_RESTRICT ctx, PDCP_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationSetup(rtxContext* RT_RESTRICT ctx, RB_InformationSetup* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetup");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDCP_Info(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup");
+   }
+   /* rlc-InfoChoice */
+   stat = dec_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetup(rtxContext* RT_RESTRICT ctx, RB_InformationSetup* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationSetup, pvalue);
+}
+
+static int dec_RB_InformationSetupList(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetupList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationSetup* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationSetup", (int32_t)i, "RB-InformationSetupList");
+      elem = (RB_InformationSetup*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationSetup(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationSetup(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup", (int32_t)i, "RB-InformationSetupList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetupList(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationSetupList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PredefinedRB_Configuration(rtxContext* RT_RESTRICT ctx, PredefinedRB_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* re-EstablishmentTimer */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "PredefinedRB-Configuration");
+   /* srb-InformationList */
+   stat = dec_SRB_InformationSetupList(ctx, &pvalue->srb_InformationList, cur);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "PredefinedRB-Configuration");
+   /* rb-InformationList */
+   stat = dec_RB_InformationSetupList(ctx, &pvalue->rb_InformationList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationList", -1, "PredefinedRB-Configuration");
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedRB_Configuration(rtxContext* RT_RESTRICT ctx, PredefinedRB_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PredefinedRB_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFC_Value(rtxContext* RT_RESTRICT ctx, TFC_Value* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TFC-Value");
+   return 0;
+}
+
+int asn1PD_UMTS_TFC_Value(rtxContext* RT_RESTRICT ctx, TFC_Value* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TFC_Value, pvalue);
+}
+
+RT_MERGED_BODY int dec_AllowedTFC_List(rtxContext* RT_RESTRICT ctx, AllowedTFC_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 10, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AllowedTFC-List");
+      pvalue->n = n = raw + 1;
+      if (raw > 1023) {
+         rtxErrAddStrParm(ctx, "AllowedTFC-List");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AllowedTFC-List");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->elem[i], 0, 1023);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TFC-Value", "TFC-Value", (int32_t)i, "AllowedTFC-List");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AllowedTFC_List(rtxContext* RT_RESTRICT ctx, AllowedTFC_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AllowedTFC_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_Non_allowedTFC_List(rtxContext* RT_RESTRICT ctx, Non_allowedTFC_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 10, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Non-allowedTFC-List");
+      pvalue->n = n = raw + 1;
+      if (raw > 1023) {
+         rtxErrAddStrParm(ctx, "Non-allowedTFC-List");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Non-allowedTFC-List");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->elem[i], 0, 1023);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TFC-Value", "TFC-Value", (int32_t)i, "Non-allowedTFC-List");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Non_allowedTFC_List(rtxContext* RT_RESTRICT ctx, Non_allowedTFC_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Non_allowedTFC_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_TrCH_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TrCH-Type");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_TrCH_Type* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TrCH_Type, pvalue);
+}
+
+RT_MERGED_BODY int dec_AllowedTFI_List_element(rtxContext* RT_RESTRICT ctx, AllowedTFI_List_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_AllowedTFI_List_element(rtxContext* RT_RESTRICT ctx, AllowedTFI_List_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AllowedTFI_List_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_AllowedTFI_List(rtxContext* RT_RESTRICT ctx, AllowedTFI_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AllowedTFI-List");
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "AllowedTFI-List");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AllowedTFI-List");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, 0, "element", (int32_t)i, "AllowedTFI-List");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AllowedTFI_List(rtxContext* RT_RESTRICT ctx, AllowedTFI_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AllowedTFI_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_RestrictedTrChInfo(rtxContext* RT_RESTRICT ctx, RestrictedTrChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RestrictedTrChInfo");
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "RestrictedTrChInfo");
+   /* restrictedTrChIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->restrictedTrChIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "restrictedTrChIdentity", -1, "RestrictedTrChInfo");
+   /* allowedTFI-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AllowedTFI_List(ctx, &pvalue->allowedTFI_List, cur);
+      RT_CHECK(ctx, stat, 0, "allowedTFI-List", -1, "RestrictedTrChInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RestrictedTrChInfo(rtxContext* RT_RESTRICT ctx, RestrictedTrChInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RestrictedTrChInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_RestrictedTrChInfoList(rtxContext* RT_RESTRICT ctx, RestrictedTrChInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RestrictedTrChInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RestrictedTrChInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RestrictedTrChInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RestrictedTrChInfo", (int32_t)i, "RestrictedTrChInfoList");
+      elem = (RestrictedTrChInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RestrictedTrChInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RestrictedTrChInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RestrictedTrChInfo", (int32_t)i, "RestrictedTrChInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RestrictedTrChInfoList(rtxContext* RT_RESTRICT ctx, RestrictedTrChInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RestrictedTrChInfoList, pvalue);
+}
+
+static int dec_TFC_Subset(rtxContext* RT_RESTRICT ctx, TFC_Subset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TFC-Subset");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* minimumAllowedTFC-Number */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.minimumAllowedTFC_Number, 0, 1023);
+         RT_CHECK_AT(ctx, cur, stat, "TFC-Value", "minimumAllowedTFC-Number", -1, "TFC-Subset");
+         break;
+      case 1: /* allowedTFC-List */
+         pvalue->u.allowedTFC_List = (AllowedTFC_List*)rtxMemHeapAlloc(ctx, sizeof(AllowedTFC_List));
+         if (pvalue->u.allowedTFC_List == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "allowedTFC-List", -1, "TFC-Subset");
+         asn1Init_UMTS_AllowedTFC_List(pvalue->u.allowedTFC_List);
+         stat = dec_AllowedTFC_List(ctx, pvalue->u.allowedTFC_List, cur);
+         RT_CHECK(ctx, stat, 0, "allowedTFC-List", -1, "TFC-Subset");
+         break;
+      case 2: /* non-allowedTFC-List */
+         pvalue->u.non_allowedTFC_List = (Non_allowedTFC_List*)rtxMemHeapAlloc(ctx, sizeof(Non_allowedTFC_List));
+         if (pvalue->u.non_allowedTFC_List == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "non-allowedTFC-List", -1, "TFC-Subset");
+         asn1Init_UMTS_Non_allowedTFC_List(pvalue->u.non_allowedTFC_List);
+         stat = dec_Non_allowedTFC_List(ctx, pvalue->u.non_allowedTFC_List, cur);
+         RT_CHECK(ctx, stat, 0, "non-allowedTFC-List", -1, "TFC-Subset");
+         break;
+      case 3: /* restrictedTrChInfoList */
+         pvalue->u.restrictedTrChInfoList = (RestrictedTrChInfoList*)rtxMemHeapAlloc(ctx, sizeof(RestrictedTrChInfoList));
+         if (pvalue->u.restrictedTrChInfoList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "restrictedTrChInfoList", -1, "TFC-Subset");
+         asn1Init_UMTS_RestrictedTrChInfoList(pvalue->u.restrictedTrChInfoList);
+         stat = dec_RestrictedTrChInfoList(ctx, pvalue->u.restrictedTrChInfoList, cur);
+         RT_CHECK(ctx, stat, 0, "restrictedTrChInfoList", -1, "TFC-Subset");
+         break;
+      case 4: /* fullTFCS */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TFC-Subset");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TFC_Subset(rtxContext* RT_RESTRICT ctx, TFC_Subset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TFC_Subset, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TFCS */
+   stat = dec_TFCS(ctx, &pvalue->ul_TFCS, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CommonTransChInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFCS_Identity(rtxContext* RT_RESTRICT ctx, TFCS_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TFCS-Identity");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "TFCS-Identity");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* sharedChannelIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sharedChannelIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sharedChannelIndicator", -1, "TFCS-Identity");
+   return 0;
+}
+
+int asn1PD_UMTS_TFCS_Identity(rtxContext* RT_RESTRICT ctx, TFCS_Identity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TFCS_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualUL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, IndividualUL_CCTrCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TFCS-Identity */
+   stat = dec_TFCS_Identity(ctx, &pvalue->ul_TFCS_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS-Identity", -1, "IndividualUL-CCTrCH-Info");
+   /* ul-TFCS */
+   stat = dec_TFCS(ctx, &pvalue->ul_TFCS, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, "IndividualUL-CCTrCH-Info");
+   /* tfc-Subset */
+   stat = dec_TFC_Subset(ctx, &pvalue->tfc_Subset, cur);
+   RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "IndividualUL-CCTrCH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualUL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, IndividualUL_CCTrCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IndividualUL_CCTrCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualUL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, IndividualUL_CCTrCH_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IndividualUL-CCTrCH-InfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IndividualUL_CCTrCH_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IndividualUL_CCTrCH_Info));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "IndividualUL-CCTrCH-Info", (int32_t)i, "IndividualUL-CCTrCH-InfoList");
+      elem = (IndividualUL_CCTrCH_Info*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_IndividualUL_CCTrCH_Info(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_IndividualUL_CCTrCH_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "IndividualUL-CCTrCH-Info", (int32_t)i, "IndividualUL-CCTrCH-InfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualUL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, IndividualUL_CCTrCH_InfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IndividualUL_CCTrCH_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* individualUL-CCTrCH-InfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "individualUL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CommonTransChInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_CommonTransChInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_UL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_CommonTransChInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CommonTransChInfo_modeSpecificInfo, pvalue);
+}
+
+static int dec_UL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-CommonTransChInfo");
+   /* tfc-Subset */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TFC_Subset(ctx, &pvalue->tfc_Subset, cur);
+      RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "UL-CommonTransChInfo");
+   }
+   /* prach-TFCS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TFCS(ctx, &pvalue->prach_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "prach-TFCS", -1, "UL-CommonTransChInfo");
+   }
+   /* modeSpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-CommonTransChInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CommonTransChInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-AddReconfTransChInformation");
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "UL-AddReconfTransChInformation");
+   /* transportFormatSet */
+   stat = dec_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "UL-AddReconfTransChInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-AddReconfTransChInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_AddReconfTransChInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-AddReconfTransChInformation", (int32_t)i, "UL-AddReconfTransChInfoList");
+      elem = (UL_AddReconfTransChInformation*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_AddReconfTransChInformation(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UL_AddReconfTransChInformation(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation", (int32_t)i, "UL-AddReconfTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DCH-TFCS */
+         pvalue->u.dl_DCH_TFCS = (TFCS*)rtxMemHeapAlloc(ctx, sizeof(TFCS));
+         if (pvalue->u.dl_DCH_TFCS == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-DCH-TFCS", -1, 0);
+         asn1Init_UMTS_TFCS(pvalue->u.dl_DCH_TFCS);
+         stat = dec_TFCS(ctx, pvalue->u.dl_DCH_TFCS, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DCH-TFCS", -1, 0);
+         break;
+      case 1: /* sameAsUL */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-Parameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters, cur);
+      RT_CHECK(ctx, stat, 0, "dl-Parameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonTransChInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_Info_tfcs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TFCS*)rtxMemHeapAlloc(ctx, sizeof(TFCS));
+         if (pvalue->u.explicit_config == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TFCS(pvalue->u.explicit_config);
+         stat = dec_TFCS(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsUL */
+         pvalue->u.sameAsUL = (TFCS_Identity*)rtxMemHeapAlloc(ctx, sizeof(TFCS_Identity));
+         if (pvalue->u.sameAsUL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsUL", -1, 0);
+         asn1Init_UMTS_TFCS_Identity(pvalue->u.sameAsUL);
+         stat = dec_TFCS_Identity(ctx, pvalue->u.sameAsUL, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsUL", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_Info_tfcs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IndividualDL_CCTrCH_Info_tfcs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualDL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-TFCS-Identity */
+   stat = dec_TFCS_Identity(ctx, &pvalue->dl_TFCS_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TFCS-Identity", -1, "IndividualDL-CCTrCH-Info");
+   /* tfcs-SignallingMode */
+   stat = dec_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(ctx, &pvalue->tfcs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfcs-SignallingMode", -1, "IndividualDL-CCTrCH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualDL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IndividualDL_CCTrCH_Info, pvalue);
+}
+
+static int dec_IndividualDL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IndividualDL-CCTrCH-InfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IndividualDL_CCTrCH_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IndividualDL_CCTrCH_Info));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "IndividualDL-CCTrCH-Info", (int32_t)i, "IndividualDL-CCTrCH-InfoList");
+      elem = (IndividualDL_CCTrCH_Info*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_IndividualDL_CCTrCH_Info(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_IndividualDL_CCTrCH_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "IndividualDL-CCTrCH-Info", (int32_t)i, "IndividualDL-CCTrCH-InfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualDL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_InfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IndividualDL_CCTrCH_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* individualDL-CCTrCH-InfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "individualDL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonTransChInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonTransChInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonTransChInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonTransChInfo_modeSpecificInfo, pvalue);
+}
+
+static int dec_DL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CommonTransChInfo");
+   /* sccpch-TFCS */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TFCS(ctx, &pvalue->sccpch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "sccpch-TFCS", -1, "DL-CommonTransChInfo");
+   }
+   /* modeSpecificInfo */
+   stat = dec_DL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonTransChInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonTransChInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TrCH_Type(rtxContext* RT_RESTRICT ctx, DL_TrCH_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-TrCH-Type");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TrCH_Type(rtxContext* RT_RESTRICT ctx, DL_TrCH_Type* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TrCH_Type, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-TransportChannelIdentity");
+   /* ul-TransportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TransportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, "UL-TransportChannelIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TransportChannelIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_tfs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
+         if (pvalue->u.explicit_config == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
+         stat = dec_TransportFormatSet(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsULTrCH */
+         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
+         stat = dec_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInformation_tfs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_BLER_QualityValue(rtxContext* RT_RESTRICT ctx, BLER_QualityValue* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BLER-QualityValue");
+   return 0;
+}
+
+int asn1PD_UMTS_BLER_QualityValue(rtxContext* RT_RESTRICT ctx, BLER_QualityValue* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_BLER_QualityValue, pvalue);
+}
+
+RT_MERGED_BODY int dec_QualityTarget(rtxContext* RT_RESTRICT ctx, QualityTarget* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* bler-QualityValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_QualityValue, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "BLER-QualityValue", "bler-QualityValue", -1, "QualityTarget");
+   return 0;
+}
+
+int asn1PD_UMTS_QualityTarget(rtxContext* RT_RESTRICT ctx, QualityTarget* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_QualityTarget, pvalue);
+}
+
+RT_MERGED_BODY int dec_MessType(rtxContext* RT_RESTRICT ctx, MessType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MessType");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MessType");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MessType(rtxContext* RT_RESTRICT ctx, MessType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MessType, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_ControlledTrChList(rtxContext* RT_RESTRICT ctx, UL_ControlledTrChList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-ControlledTrChList");
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "UL-ControlledTrChList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UL-ControlledTrChList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 32);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "UL-ControlledTrChList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_ControlledTrChList(rtxContext* RT_RESTRICT ctx, UL_ControlledTrChList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_ControlledTrChList, pvalue);
+}
+
+RT_MERGED_BODY int dec_TM_SignallingInfo_tm_SignallingMode_mode2(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo_tm_SignallingMode_mode2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-controlledTrChList */
+   stat = dec_UL_ControlledTrChList(ctx, &pvalue->ul_controlledTrChList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-controlledTrChList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo_tm_SignallingMode_mode2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TM_SignallingInfo_tm_SignallingMode_mode2, pvalue);
+}
+
+RT_MERGED_BODY int dec_TM_SignallingInfo_tm_SignallingMode(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo_tm_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mode1 */
+         break;
+      case 1: /* mode2 */
+         pvalue->u.mode2 = (TM_SignallingInfo_tm_SignallingMode_mode2*)rtxMemHeapAlloc(ctx, sizeof(TM_SignallingInfo_tm_SignallingMode_mode2));
+         if (pvalue->u.mode2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "mode2", -1, 0);
+         asn1Init_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(pvalue->u.mode2);
+         stat = dec_TM_SignallingInfo_tm_SignallingMode_mode2(ctx, pvalue->u.mode2, cur);
+         RT_CHECK(ctx, stat, 0, "mode2", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo_tm_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TM_SignallingInfo_tm_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_TM_SignallingInfo(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* messType */
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, "MessType", "messType", -1, "TM-SignallingInfo");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, "MessType", "messType", -1, "TM-SignallingInfo");
+      pvalue->messType = ui;
+   }
+   /* tm-SignallingMode */
+   stat = dec_TM_SignallingInfo_tm_SignallingMode(ctx, &pvalue->tm_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tm-SignallingMode", -1, "TM-SignallingInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_TM_SignallingInfo(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TM_SignallingInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInformation");
+   /* dl-TransportChannelType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation");
+   /* dl-transportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_transportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation");
+   /* tfs-SignallingMode */
+   stat = dec_DL_AddReconfTransChInformation_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation");
+   /* dch-QualityTarget */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_QualityTarget(ctx, &pvalue->dch_QualityTarget, cur);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TM_SignallingInfo(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-AddReconfTransChInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInformation, pvalue);
+}
+
+static int dec_DL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_AddReconfTransChInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation", (int32_t)i, "DL-AddReconfTransChInfoList");
+      elem = (DL_AddReconfTransChInformation*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_AddReconfTransChInformation(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_AddReconfTransChInformation(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation", (int32_t)i, "DL-AddReconfTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PreDefTransChConfiguration(rtxContext* RT_RESTRICT ctx, PreDefTransChConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-CommonTransChInfo */
+   stat = dec_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "PreDefTransChConfiguration");
+   /* ul-AddReconfTrChInfoList */
+   stat = dec_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTrChInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTrChInfoList", -1, "PreDefTransChConfiguration");
+   /* dl-CommonTransChInfo */
+   stat = dec_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "PreDefTransChConfiguration");
+   /* dl-TrChInfoList */
+   stat = dec_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_TrChInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TrChInfoList", -1, "PreDefTransChConfiguration");
+   return 0;
+}
+
+int asn1PD_UMTS_PreDefTransChConfiguration(rtxContext* RT_RESTRICT ctx, PreDefTransChConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PreDefTransChConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfoPredef_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* powerControlAlgorithm */
+   stat = dec_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfoPredef_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfoPredef_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpch_ConstantValue, -35, 10);
+   RT_CHECK_AT(ctx, cur, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfoPredef_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfoPredef(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-PowerControlInfoPredef");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_PowerControlInfoPredef_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfoPredef_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(pvalue->u.fdd);
+         stat = dec_UL_DPCH_PowerControlInfoPredef_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_PowerControlInfoPredef_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_PowerControlInfoPredef_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         stat = dec_UL_DPCH_PowerControlInfoPredef_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfoPredef");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfoPredef, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* puncturingLimit */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_InfoPredef_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* commonTimeslotInfo */
+   stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_InfoPredef_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_InfoPredef_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_InfoPredef_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_InfoPredef_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_InfoPredef_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_InfoPredef_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-DPCH-PowerControlInfo */
+   stat = dec_UL_DPCH_PowerControlInfoPredef(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPredef");
+   /* modeSpecificInfo */
+   stat = dec_UL_DPCH_InfoPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-InfoPredef");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_InfoPredef, pvalue);
+}
+
+RT_MERGED_BODY int dec_PilotBits128(rtxContext* RT_RESTRICT ctx, PilotBits128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PilotBits128");
+   return 0;
+}
+
+int asn1PD_UMTS_PilotBits128(rtxContext* RT_RESTRICT ctx, PilotBits128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PilotBits128, pvalue);
+}
+
+RT_MERGED_BODY int dec_PilotBits256(rtxContext* RT_RESTRICT ctx, PilotBits256* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PilotBits256");
+   return 0;
+}
+
+int asn1PD_UMTS_PilotBits256(rtxContext* RT_RESTRICT ctx, PilotBits256* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PilotBits256, pvalue);
+}
+
+RT_MERGED_BODY int dec_SF512_AndPilot(rtxContext* RT_RESTRICT ctx, SF512_AndPilot* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SF512-AndPilot");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sfd4 */
+         break;
+      case 1: /* sfd8 */
+         break;
+      case 2: /* sfd16 */
+         break;
+      case 3: /* sfd32 */
+         break;
+      case 4: /* sfd64 */
+         break;
+      case 5: /* sfd128 */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.sfd128, 0, 1);
+         RT_CHECK_AT(ctx, cur, stat, "PilotBits128", "sfd128", -1, "SF512-AndPilot");
+         break;
+      case 6: /* sfd256 */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.sfd256, 0, 2);
+         RT_CHECK_AT(ctx, cur, stat, "PilotBits256", "sfd256", -1, "SF512-AndPilot");
+         break;
+      case 7: /* sfd512 */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SF512-AndPilot");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SF512_AndPilot(rtxContext* RT_RESTRICT ctx, SF512_AndPilot* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SF512_AndPilot, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* spreadingFactorAndPilot */
+   stat = dec_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot, cur);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* commonTimeslotInfo */
+   stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommonPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommonPredef_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommonPredef(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_DL_DPCH_InfoCommonPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommonPredef");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommonPredef(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommonPredef, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformationPredef(rtxContext* RT_RESTRICT ctx, DL_CommonInformationPredef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformationPredef");
+   /* dl-DPCH-InfoCommon */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_InfoCommonPredef(ctx, &pvalue->dl_DPCH_InfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformationPredef");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformationPredef(rtxContext* RT_RESTRICT ctx, DL_CommonInformationPredef* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformationPredef, pvalue);
+}
+
+static int dec_PreDefPhyChConfiguration(rtxContext* RT_RESTRICT ctx, PreDefPhyChConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PreDefPhyChConfiguration");
+   /* ul-DPCH-InfoPredef */
+   stat = dec_UL_DPCH_InfoPredef(ctx, &pvalue->ul_DPCH_InfoPredef, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-InfoPredef", -1, "PreDefPhyChConfiguration");
+   /* dl-CommonInformationPredef */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_CommonInformationPredef(ctx, &pvalue->dl_CommonInformationPredef, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformationPredef", -1, "PreDefPhyChConfiguration");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PreDefPhyChConfiguration(rtxContext* RT_RESTRICT ctx, PreDefPhyChConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PreDefPhyChConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PreDefRadioConfiguration(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* predefinedRB-Configuration */
+   stat = dec_PredefinedRB_Configuration(ctx, &pvalue->predefinedRB_Configuration, cur);
+   RT_CHECK(ctx, stat, 0, "predefinedRB-Configuration", -1, "PreDefRadioConfiguration");
+   /* preDefTransChConfiguration */
+   stat = dec_PreDefTransChConfiguration(ctx, &pvalue->preDefTransChConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "preDefTransChConfiguration", -1, "PreDefRadioConfiguration");
+   /* preDefPhyChConfiguration */
+   stat = dec_PreDefPhyChConfiguration(ctx, &pvalue->preDefPhyChConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "preDefPhyChConfiguration", -1, "PreDefRadioConfiguration");
+   return 0;
+}
+
+int asn1PD_UMTS_PreDefRadioConfiguration(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PreDefRadioConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_NumberOfTPC_Bits(rtxContext* RT_RESTRICT ctx, NumberOfTPC_Bits* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NumberOfTPC-Bits");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NumberOfTPC-Bits");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NumberOfTPC_Bits(rtxContext* RT_RESTRICT ctx, NumberOfTPC_Bits* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NumberOfTPC_Bits, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* numberOfTPC-Bits */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+         pvalue->numberOfTPC_Bits = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_InfoPredef_v770ext(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-InfoPredef-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_InfoPredef_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PreDefPhyChConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, PreDefPhyChConfiguration_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-DPCH-InfoPredef */
+   stat = dec_UL_DPCH_InfoPredef_v770ext(ctx, &pvalue->ul_DPCH_InfoPredef, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-InfoPredef", -1, "PreDefPhyChConfiguration-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_PreDefPhyChConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, PreDefPhyChConfiguration_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PreDefPhyChConfiguration_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PreDefRadioConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* preDefPhyChConfiguration */
+   stat = dec_PreDefPhyChConfiguration_v770ext(ctx, &pvalue->preDefPhyChConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "preDefPhyChConfiguration", -1, "PreDefRadioConfiguration-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_PreDefRadioConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PreDefRadioConfiguration_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType16_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* preDefinedRadioConfiguration */
+   stat = dec_PreDefRadioConfiguration_v770ext(ctx, &pvalue->preDefinedRadioConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16-v770ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType16_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType16_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_hs_WindowSize_r9(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-hs-WindowSize-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_hs_WindowSize_r9(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_hs_WindowSize_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_PreDefRadioConfiguration_v920ext(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mac-ehsWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mac_ehsWindowSize, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "PreDefRadioConfiguration-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_PreDefRadioConfiguration_v920ext(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PreDefRadioConfiguration_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType16_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType16_v920ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* preDefinedRadioConfiguration */
+   stat = dec_PreDefRadioConfiguration_v920ext(ctx, &pvalue->preDefinedRadioConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16-v920ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType16_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType16_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType16_v920ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType16-v920ext */
+   stat = dec_SysInfoType16_v920ext_IEs(ctx, &pvalue->sysInfoType16_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType16-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType16_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType16-v770ext */
+   stat = dec_SysInfoType16_v770ext_IEs(ctx, &pvalue->sysInfoType16_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType16-v770ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType16_v770NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType16(rtxContext* RT_RESTRICT ctx, SysInfoType16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType16");
+   /* preDefinedRadioConfiguration */
+   stat = dec_PreDefRadioConfiguration(ctx, &pvalue->preDefinedRadioConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16");
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType16_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "SysInfoType16");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType16(rtxContext* RT_RESTRICT ctx, SysInfoType16* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType16, pvalue);
+}
+
+RT_MERGED_BODY int dec_Ansi_41_IDNNS(rtxContext* RT_RESTRICT ctx, Ansi_41_IDNNS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pd_BitString32At(ctx, cur, pvalue, 14, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Ansi-41-IDNNS");
+   return 0;
+}
+
+int asn1PD_UMTS_Ansi_41_IDNNS(rtxContext* RT_RESTRICT ctx, Ansi_41_IDNNS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Ansi_41_IDNNS, pvalue);
+}
+
+RT_MERGED_BODY int dec_CN_DomainInformation(rtxContext* RT_RESTRICT ctx, CN_DomainInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformation");
+   /* cn-DomainSpecificNAS-Info */
+   stat = dec_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info, cur);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSpecificNAS-Info", -1, "CN-DomainInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_CN_DomainInformation(rtxContext* RT_RESTRICT ctx, CN_DomainInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CN_DomainInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_CN_DomainInformationFull(rtxContext* RT_RESTRICT ctx, CN_DomainInformationFull* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformationFull");
+   /* cn-DomainSpecificNAS-Info */
+   stat = dec_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info, cur);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSpecificNAS-Info", -1, "CN-DomainInformationFull");
+   /* cn-DRX-CycleLengthCoeff */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainInformationFull");
+   return 0;
+}
+
+int asn1PD_UMTS_CN_DomainInformationFull(rtxContext* RT_RESTRICT ctx, CN_DomainInformationFull* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CN_DomainInformationFull, pvalue);
+}
+
+RT_MERGED_BODY int dec_CN_DomainInformationList(rtxContext* RT_RESTRICT ctx, CN_DomainInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CN-DomainInformationList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       CN_DomainInformation* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CN_DomainInformation));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CN-DomainInformation", (int32_t)i, "CN-DomainInformationList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CN-DomainInformation", (int32_t)i, "CN-DomainInformationList");
       elem = (CN_DomainInformation*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_CN_DomainInformation(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CN_DomainInformation(ctx, elem);
+      stat = dec_CN_DomainInformation(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "CN-DomainInformation", (int32_t)i, "CN-DomainInformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CN_DomainInformationList(rtxContext* RT_RESTRICT ctx, CN_DomainInformationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CN_DomainInformationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CN_DomainInformationListFull(rtxContext* RT_RESTRICT ctx, CN_DomainInformationListFull* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CN-DomainInformationListFull");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CN_DomainInformationFull* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CN_DomainInformationFull));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CN-DomainInformationFull", (int32_t)i, "CN-DomainInformationListFull");
+      elem = (CN_DomainInformationFull*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CN_DomainInformationFull(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CN_DomainInformationFull(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CN-DomainInformationFull", (int32_t)i, "CN-DomainInformationListFull");
    }
    return 0;
 }
 
 int asn1PD_UMTS_CN_DomainInformationListFull(rtxContext* RT_RESTRICT ctx, CN_DomainInformationListFull* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-DomainInformationListFull");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CN_DomainInformationFull* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CN_DomainInformationFull));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CN-DomainInformationFull", (int32_t)i, "CN-DomainInformationListFull");
-      elem = (CN_DomainInformationFull*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CN_DomainInformationFull(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CN_DomainInformationFull(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CN-DomainInformationFull", (int32_t)i, "CN-DomainInformationListFull");
+   RT_DECODE_ENTRY(ctx, dec_CN_DomainInformationListFull, pvalue);
+}
+
+static int dec_CN_InformationInfo(rtxContext* RT_RESTRICT ctx, CN_InformationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CN-InformationInfo");
+   /* plmn-Identity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfo");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfo");
+   }
+   /* cn-DomainInformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "CN-InformationInfo");
    }
    return 0;
 }
 
 int asn1PD_UMTS_CN_InformationInfo(rtxContext* RT_RESTRICT ctx, CN_InformationInfo* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CN_InformationInfo, pvalue);
+}
+
+static int dec_CN_InformationInfo_r6(rtxContext* RT_RESTRICT ctx, CN_InformationInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-InformationInfo");
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CN-InformationInfo-r6");
    /* plmn-Identity */
-   if (present & ((uint32_t)1 << 2)) {
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfo");
+      stat = dec_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfo-r6");
    }
    /* cn-CommonGSM-MAP-NAS-SysInfo */
-   if (present & ((uint32_t)1 << 1)) {
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfo");
+      stat = dec_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfo-r6");
    }
    /* cn-DomainInformationList */
-   if (present & ((uint32_t)1 << 0)) {
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList);
-      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "CN-InformationInfo");
+      stat = dec_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "CN-InformationInfo-r6");
+   }
+   /* primary-plmn-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "CN-InformationInfo-r6");
    }
    return 0;
 }
 
 int asn1PD_UMTS_CN_InformationInfo_r6(rtxContext* RT_RESTRICT ctx, CN_InformationInfo_r6* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CN_InformationInfo_r6, pvalue);
+}
+
+static int dec_CN_InformationInfoFull(rtxContext* RT_RESTRICT ctx, CN_InformationInfoFull* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-InformationInfo-r6");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CN-InformationInfoFull");
    /* plmn-Identity */
-   if (present & ((uint32_t)1 << 3)) {
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfo-r6");
+      stat = dec_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfoFull");
    }
    /* cn-CommonGSM-MAP-NAS-SysInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfo-r6");
-   }
-   /* cn-DomainInformationList */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList);
-      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "CN-InformationInfo-r6");
+      pvalue->m |= 0x2u;
+      stat = dec_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfoFull");
    }
-   /* primary-plmn-Identity */
+   /* cn-DomainInformationListFull */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "CN-InformationInfo-r6");
+      pvalue->m |= 0x4u;
+      stat = dec_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationListFull, cur);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationListFull", -1, "CN-InformationInfoFull");
    }
    return 0;
 }
 
 int asn1PD_UMTS_CN_InformationInfoFull(rtxContext* RT_RESTRICT ctx, CN_InformationInfoFull* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-InformationInfoFull");
-   /* plmn-Identity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfoFull");
-   }
-   /* cn-CommonGSM-MAP-NAS-SysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfoFull");
-   }
-   /* cn-DomainInformationListFull */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationListFull);
-      RT_CHECK(ctx, stat, 0, "cn-DomainInformationListFull", -1, "CN-InformationInfoFull");
-   }
+   RT_DECODE_ENTRY(ctx, dec_CN_InformationInfoFull, pvalue);
+}
+
+RT_MERGED_BODY int dec_RoutingParameter(rtxContext* RT_RESTRICT ctx, RoutingParameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, pvalue, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RoutingParameter");
    return 0;
 }
 
 int asn1PD_UMTS_RoutingParameter(rtxContext* RT_RESTRICT ctx, RoutingParameter* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, pvalue, 10, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RoutingParameter");
+   RT_DECODE_ENTRY(ctx, dec_RoutingParameter, pvalue);
+}
+
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_localPTMSI(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_localPTMSI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* routingparameter */
+   stat = dec_RoutingParameter(ctx, &pvalue->routingparameter, cur);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_localPTMSI* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Gsm_map_IDNNS_routingbasis_localPTMSI, pvalue);
+}
+
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    /* routingparameter */
-   stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
+   stat = dec_RoutingParameter(ctx, &pvalue->routingparameter, cur);
    RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN, pvalue);
+}
+
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    /* routingparameter */
-   stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
+   stat = dec_RoutingParameter(ctx, &pvalue->routingparameter, cur);
    RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN, pvalue);
+}
+
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    /* routingparameter */
-   stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
+   stat = dec_RoutingParameter(ctx, &pvalue->routingparameter, cur);
    RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging, pvalue);
+}
+
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    /* routingparameter */
-   stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
+   stat = dec_RoutingParameter(ctx, &pvalue->routingparameter, cur);
    RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent, pvalue);
+}
+
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_iMEI(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_iMEI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    /* routingparameter */
-   stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
+   stat = dec_RoutingParameter(ctx, &pvalue->routingparameter, cur);
    RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_iMEI* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Gsm_map_IDNNS_routingbasis_iMEI, pvalue);
+}
+
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_spare2(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_spare2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    /* routingparameter */
-   stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
+   stat = dec_RoutingParameter(ctx, &pvalue->routingparameter, cur);
    RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_spare2(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_spare2* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Gsm_map_IDNNS_routingbasis_spare2, pvalue);
+}
+
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis_spare1(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_spare1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    /* routingparameter */
-   stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
+   stat = dec_RoutingParameter(ctx, &pvalue->routingparameter, cur);
    RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_spare1(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_spare1* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* routingparameter */
-   stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
-   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_Gsm_map_IDNNS_routingbasis_spare1, pvalue);
+}
+
+RT_MERGED_BODY int dec_Gsm_map_IDNNS_routingbasis(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* localPTMSI */
+         pvalue->u.localPTMSI = (Gsm_map_IDNNS_routingbasis_localPTMSI*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_localPTMSI));
+         if (pvalue->u.localPTMSI == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "localPTMSI", -1, 0);
+         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(pvalue->u.localPTMSI);
+         stat = dec_Gsm_map_IDNNS_routingbasis_localPTMSI(ctx, pvalue->u.localPTMSI, cur);
+         RT_CHECK(ctx, stat, 0, "localPTMSI", -1, 0);
+         break;
+      case 1: /* tMSIofsamePLMN */
+         pvalue->u.tMSIofsamePLMN = (Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN));
+         if (pvalue->u.tMSIofsamePLMN == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tMSIofsamePLMN", -1, 0);
+         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(pvalue->u.tMSIofsamePLMN);
+         stat = dec_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(ctx, pvalue->u.tMSIofsamePLMN, cur);
+         RT_CHECK(ctx, stat, 0, "tMSIofsamePLMN", -1, 0);
+         break;
+      case 2: /* tMSIofdifferentPLMN */
+         pvalue->u.tMSIofdifferentPLMN = (Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN));
+         if (pvalue->u.tMSIofdifferentPLMN == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tMSIofdifferentPLMN", -1, 0);
+         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(pvalue->u.tMSIofdifferentPLMN);
+         stat = dec_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(ctx, pvalue->u.tMSIofdifferentPLMN, cur);
+         RT_CHECK(ctx, stat, 0, "tMSIofdifferentPLMN", -1, 0);
+         break;
+      case 3: /* iMSIresponsetopaging */
+         pvalue->u.iMSIresponsetopaging = (Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging));
+         if (pvalue->u.iMSIresponsetopaging == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "iMSIresponsetopaging", -1, 0);
+         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(pvalue->u.iMSIresponsetopaging);
+         stat = dec_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(ctx, pvalue->u.iMSIresponsetopaging, cur);
+         RT_CHECK(ctx, stat, 0, "iMSIresponsetopaging", -1, 0);
+         break;
+      case 4: /* iMSIcauseUEinitiatedEvent */
+         pvalue->u.iMSIcauseUEinitiatedEvent = (Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent));
+         if (pvalue->u.iMSIcauseUEinitiatedEvent == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "iMSIcauseUEinitiatedEvent", -1, 0);
+         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(pvalue->u.iMSIcauseUEinitiatedEvent);
+         stat = dec_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(ctx, pvalue->u.iMSIcauseUEinitiatedEvent, cur);
+         RT_CHECK(ctx, stat, 0, "iMSIcauseUEinitiatedEvent", -1, 0);
+         break;
+      case 5: /* iMEI */
+         pvalue->u.iMEI = (Gsm_map_IDNNS_routingbasis_iMEI*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_iMEI));
+         if (pvalue->u.iMEI == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "iMEI", -1, 0);
+         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(pvalue->u.iMEI);
+         stat = dec_Gsm_map_IDNNS_routingbasis_iMEI(ctx, pvalue->u.iMEI, cur);
+         RT_CHECK(ctx, stat, 0, "iMEI", -1, 0);
+         break;
+      case 6: /* spare2 */
+         pvalue->u.spare2 = (Gsm_map_IDNNS_routingbasis_spare2*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_spare2));
+         if (pvalue->u.spare2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "spare2", -1, 0);
+         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_spare2(pvalue->u.spare2);
+         stat = dec_Gsm_map_IDNNS_routingbasis_spare2(ctx, pvalue->u.spare2, cur);
+         RT_CHECK(ctx, stat, 0, "spare2", -1, 0);
+         break;
+      case 7: /* spare1 */
+         pvalue->u.spare1 = (Gsm_map_IDNNS_routingbasis_spare1*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_spare1));
+         if (pvalue->u.spare1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "spare1", -1, 0);
+         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_spare1(pvalue->u.spare1);
+         stat = dec_Gsm_map_IDNNS_routingbasis_spare1(ctx, pvalue->u.spare1, cur);
+         RT_CHECK(ctx, stat, 0, "spare1", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* localPTMSI */
-         pvalue->u.localPTMSI = (Gsm_map_IDNNS_routingbasis_localPTMSI*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_localPTMSI));
-         if (pvalue->u.localPTMSI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "localPTMSI", -1, 0);
-         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(pvalue->u.localPTMSI);
-         stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(ctx, pvalue->u.localPTMSI);
-         RT_CHECK(ctx, stat, 0, "localPTMSI", -1, 0);
-         break;
-      case 1: /* tMSIofsamePLMN */
-         pvalue->u.tMSIofsamePLMN = (Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN));
-         if (pvalue->u.tMSIofsamePLMN == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tMSIofsamePLMN", -1, 0);
-         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(pvalue->u.tMSIofsamePLMN);
-         stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(ctx, pvalue->u.tMSIofsamePLMN);
-         RT_CHECK(ctx, stat, 0, "tMSIofsamePLMN", -1, 0);
-         break;
-      case 2: /* tMSIofdifferentPLMN */
-         pvalue->u.tMSIofdifferentPLMN = (Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN));
-         if (pvalue->u.tMSIofdifferentPLMN == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tMSIofdifferentPLMN", -1, 0);
-         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(pvalue->u.tMSIofdifferentPLMN);
-         stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(ctx, pvalue->u.tMSIofdifferentPLMN);
-         RT_CHECK(ctx, stat, 0, "tMSIofdifferentPLMN", -1, 0);
-         break;
-      case 3: /* iMSIresponsetopaging */
-         pvalue->u.iMSIresponsetopaging = (Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging));
-         if (pvalue->u.iMSIresponsetopaging == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "iMSIresponsetopaging", -1, 0);
-         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(pvalue->u.iMSIresponsetopaging);
-         stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(ctx, pvalue->u.iMSIresponsetopaging);
-         RT_CHECK(ctx, stat, 0, "iMSIresponsetopaging", -1, 0);
-         break;
-      case 4: /* iMSIcauseUEinitiatedEvent */
-         pvalue->u.iMSIcauseUEinitiatedEvent = (Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent));
-         if (pvalue->u.iMSIcauseUEinitiatedEvent == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "iMSIcauseUEinitiatedEvent", -1, 0);
-         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(pvalue->u.iMSIcauseUEinitiatedEvent);
-         stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(ctx, pvalue->u.iMSIcauseUEinitiatedEvent);
-         RT_CHECK(ctx, stat, 0, "iMSIcauseUEinitiatedEvent", -1, 0);
-         break;
-      case 5: /* iMEI */
-         pvalue->u.iMEI = (Gsm_map_IDNNS_routingbasis_iMEI*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_iMEI));
-         if (pvalue->u.iMEI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "iMEI", -1, 0);
-         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(pvalue->u.iMEI);
-         stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(ctx, pvalue->u.iMEI);
-         RT_CHECK(ctx, stat, 0, "iMEI", -1, 0);
-         break;
-      case 6: /* spare2 */
-         pvalue->u.spare2 = (Gsm_map_IDNNS_routingbasis_spare2*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_spare2));
-         if (pvalue->u.spare2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "spare2", -1, 0);
-         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_spare2(pvalue->u.spare2);
-         stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_spare2(ctx, pvalue->u.spare2);
-         RT_CHECK(ctx, stat, 0, "spare2", -1, 0);
-         break;
-      case 7: /* spare1 */
-         pvalue->u.spare1 = (Gsm_map_IDNNS_routingbasis_spare1*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_spare1));
-         if (pvalue->u.spare1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "spare1", -1, 0);
-         asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_spare1(pvalue->u.spare1);
-         stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_spare1(ctx, pvalue->u.spare1);
-         RT_CHECK(ctx, stat, 0, "spare1", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_Gsm_map_IDNNS_routingbasis, pvalue);
+}
+
+RT_MERGED_BODY int dec_Gsm_map_IDNNS(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* routingbasis */
+   stat = dec_Gsm_map_IDNNS_routingbasis(ctx, &pvalue->routingbasis, cur);
+   RT_CHECK(ctx, stat, 0, "routingbasis", -1, "Gsm-map-IDNNS");
+   /* dummy */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dummy);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dummy", -1, "Gsm-map-IDNNS");
    return 0;
 }
 
 int asn1PD_UMTS_Gsm_map_IDNNS(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* routingbasis */
-   stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis(ctx, &pvalue->routingbasis);
-   RT_CHECK(ctx, stat, 0, "routingbasis", -1, "Gsm-map-IDNNS");
-   /* dummy */
-   stat = rtxDecBitInline(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "Gsm-map-IDNNS");
+   RT_DECODE_ENTRY(ctx, dec_Gsm_map_IDNNS, pvalue);
+}
+
+RT_MERGED_BODY int dec_IMEI_Digit(rtxContext* RT_RESTRICT ctx, IMEI_Digit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IMEI-Digit");
    return 0;
 }
 
 int asn1PD_UMTS_IMEI_Digit(rtxContext* RT_RESTRICT ctx, IMEI_Digit* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_IMEI_Digit, pvalue);
+}
+
+RT_MERGED_BODY int dec_IMEI(rtxContext* RT_RESTRICT ctx, IMEI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IMEI-Digit");
+   uint32_t i, n;
+   pvalue->n = n = 15;
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "IMEI-Digit", "IMEI-Digit", (int32_t)i, "IMEI");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_IMEI(rtxContext* RT_RESTRICT ctx, IMEI* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_IMEI, pvalue);
+}
+
+RT_MERGED_BODY int dec_IMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, IMSI_GSM_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t i;
-   pvalue->n = 15;
-   for (i = 0; i < pvalue->n; i++) {
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IMSI-GSM-MAP");
+      pvalue->n = n = raw + 6;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "IMSI-GSM-MAP");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "IMSI-GSM-MAP");
+      }
+   }
+   for (i = 0; i < n; i++) {
       pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 15);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 9);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "IMEI-Digit", "IMEI-Digit", (int32_t)i, "IMEI");
+         RT_FAIL_AT(ctx, cur, stat, "Digit", "Digit", (int32_t)i, "IMSI-GSM-MAP");
       }
    }
    return 0;
@@ -334,237 +7967,286 @@ int asn1PD_UMTS_IMEI(rtxContext* RT_RESTRICT ctx, IMEI* RT_RESTRICT pvalue)
 
 int asn1PD_UMTS_IMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, IMSI_GSM_MAP* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_IMSI_GSM_MAP, pvalue);
+}
+
+static int dec_IntraDomainNasNodeSelector_version_release99_cn_Type(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version_release99_cn_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "IMSI-GSM-MAP");
-      pvalue->n = raw + 6;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "IMSI-GSM-MAP");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IMSI-GSM-MAP");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 9);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "Digit", "Digit", (int32_t)i, "IMSI-GSM-MAP");
-      }
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm-Map-IDNNS */
+         pvalue->u.gsm_Map_IDNNS = (Gsm_map_IDNNS*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS));
+         if (pvalue->u.gsm_Map_IDNNS == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm-Map-IDNNS", -1, 0);
+         asn1Init_UMTS_Gsm_map_IDNNS(pvalue->u.gsm_Map_IDNNS);
+         stat = dec_Gsm_map_IDNNS(ctx, pvalue->u.gsm_Map_IDNNS, cur);
+         RT_CHECK(ctx, stat, 0, "gsm-Map-IDNNS", -1, 0);
+         break;
+      case 1: /* ansi-41-IDNNS */
+         pvalue->u.ansi_41_IDNNS = (Ansi_41_IDNNS*)rtxMemHeapAlloc(ctx, sizeof(Ansi_41_IDNNS));
+         if (pvalue->u.ansi_41_IDNNS == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ansi-41-IDNNS", -1, 0);
+         asn1Init_UMTS_Ansi_41_IDNNS(pvalue->u.ansi_41_IDNNS);
+         stat = dec_Ansi_41_IDNNS(ctx, pvalue->u.ansi_41_IDNNS, cur);
+         RT_CHECK(ctx, stat, 0, "ansi-41-IDNNS", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
 int asn1PD_UMTS_IntraDomainNasNodeSelector_version_release99_cn_Type(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version_release99_cn_Type* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* gsm-Map-IDNNS */
-         pvalue->u.gsm_Map_IDNNS = (Gsm_map_IDNNS*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS));
-         if (pvalue->u.gsm_Map_IDNNS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm-Map-IDNNS", -1, 0);
-         asn1Init_UMTS_Gsm_map_IDNNS(pvalue->u.gsm_Map_IDNNS);
-         stat = asn1PD_UMTS_Gsm_map_IDNNS(ctx, pvalue->u.gsm_Map_IDNNS);
-         RT_CHECK(ctx, stat, 0, "gsm-Map-IDNNS", -1, 0);
-         break;
-      case 1: /* ansi-41-IDNNS */
-         pvalue->u.ansi_41_IDNNS = (Ansi_41_IDNNS*)rtxMemHeapAlloc(ctx, sizeof(Ansi_41_IDNNS));
-         if (pvalue->u.ansi_41_IDNNS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ansi-41-IDNNS", -1, 0);
-         asn1Init_UMTS_Ansi_41_IDNNS(pvalue->u.ansi_41_IDNNS);
-         stat = asn1PD_UMTS_Ansi_41_IDNNS(ctx, pvalue->u.ansi_41_IDNNS);
-         RT_CHECK(ctx, stat, 0, "ansi-41-IDNNS", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_IntraDomainNasNodeSelector_version_release99_cn_Type, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraDomainNasNodeSelector_version_release99(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version_release99* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cn-Type */
+   stat = dec_IntraDomainNasNodeSelector_version_release99_cn_Type(ctx, &pvalue->cn_Type, cur);
+   RT_CHECK(ctx, stat, 0, "cn-Type", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_IntraDomainNasNodeSelector_version_release99(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version_release99* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_IntraDomainNasNodeSelector_version_release99, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraDomainNasNodeSelector_version_later(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version_later* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* cn-Type */
-   stat = asn1PD_UMTS_IntraDomainNasNodeSelector_version_release99_cn_Type(ctx, &pvalue->cn_Type);
-   RT_CHECK(ctx, stat, 0, "cn-Type", -1, 0);
+   /* futurecoding */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pd_BitString32At(ctx, cur, &pvalue->futurecoding, 15, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "futurecoding", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_IntraDomainNasNodeSelector_version_later(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version_later* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* futurecoding */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->futurecoding, 15, 15);
-   RT_CHECK(ctx, stat, 0, "futurecoding", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_IntraDomainNasNodeSelector_version_later, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraDomainNasNodeSelector_version(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* release99 */
+         pvalue->u.release99 = (IntraDomainNasNodeSelector_version_release99*)rtxMemHeapAlloc(ctx, sizeof(IntraDomainNasNodeSelector_version_release99));
+         if (pvalue->u.release99 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "release99", -1, 0);
+         asn1Init_UMTS_IntraDomainNasNodeSelector_version_release99(pvalue->u.release99);
+         stat = dec_IntraDomainNasNodeSelector_version_release99(ctx, pvalue->u.release99, cur);
+         RT_CHECK(ctx, stat, 0, "release99", -1, 0);
+         break;
+      case 1: /* later */
+         pvalue->u.later = (IntraDomainNasNodeSelector_version_later*)rtxMemHeapAllocZ(ctx, sizeof(IntraDomainNasNodeSelector_version_later));
+         if (pvalue->u.later == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "later", -1, 0);
+         stat = dec_IntraDomainNasNodeSelector_version_later(ctx, pvalue->u.later, cur);
+         RT_CHECK(ctx, stat, 0, "later", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_IntraDomainNasNodeSelector_version(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* release99 */
-         pvalue->u.release99 = (IntraDomainNasNodeSelector_version_release99*)rtxMemHeapAlloc(ctx, sizeof(IntraDomainNasNodeSelector_version_release99));
-         if (pvalue->u.release99 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "release99", -1, 0);
-         asn1Init_UMTS_IntraDomainNasNodeSelector_version_release99(pvalue->u.release99);
-         stat = asn1PD_UMTS_IntraDomainNasNodeSelector_version_release99(ctx, pvalue->u.release99);
-         RT_CHECK(ctx, stat, 0, "release99", -1, 0);
-         break;
-      case 1: /* later */
-         pvalue->u.later = (IntraDomainNasNodeSelector_version_later*)rtxMemHeapAllocZ(ctx, sizeof(IntraDomainNasNodeSelector_version_later));
-         if (pvalue->u.later == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later", -1, 0);
-         stat = asn1PD_UMTS_IntraDomainNasNodeSelector_version_later(ctx, pvalue->u.later);
-         RT_CHECK(ctx, stat, 0, "later", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_IntraDomainNasNodeSelector_version, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraDomainNasNodeSelector(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* version */
+   stat = dec_IntraDomainNasNodeSelector_version(ctx, &pvalue->version, cur);
+   RT_CHECK(ctx, stat, 0, "version", -1, "IntraDomainNasNodeSelector");
    return 0;
 }
 
 int asn1PD_UMTS_IntraDomainNasNodeSelector(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_IntraDomainNasNodeSelector, pvalue);
+}
+
+RT_MERGED_BODY int dec_LAI(rtxContext* RT_RESTRICT ctx, LAI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* version */
-   stat = asn1PD_UMTS_IntraDomainNasNodeSelector_version(ctx, &pvalue->version);
-   RT_CHECK(ctx, stat, 0, "version", -1, "IntraDomainNasNodeSelector");
+   /* plmn-Identity */
+   stat = dec_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "LAI");
+   /* lac */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->lac, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "lac", -1, "LAI");
    return 0;
 }
 
 int asn1PD_UMTS_LAI(rtxContext* RT_RESTRICT ctx, LAI* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* plmn-Identity */
-   stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "LAI");
-   /* lac */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->lac, 16, 16);
-   RT_CHECK(ctx, stat, 0, "lac", -1, "LAI");
+   RT_DECODE_ENTRY(ctx, dec_LAI, pvalue);
+}
+
+RT_MERGED_BODY int dec_NAS_Message(rtxContext* RT_RESTRICT ctx, NAS_Message* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 4095);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NAS-Message");
    return 0;
 }
 
 int asn1PD_UMTS_NAS_Message(rtxContext* RT_RESTRICT ctx, NAS_Message* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_NAS_Message, pvalue);
+}
+
+RT_MERGED_BODY int dec_NAS_Synchronisation_Indicator(rtxContext* RT_RESTRICT ctx, NAS_Synchronisation_Indicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   RT_SET_SIZE(ctx, 1, 4095);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-Message");
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32At(ctx, cur, pvalue, 4, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NAS-Synchronisation-Indicator");
    return 0;
 }
 
 int asn1PD_UMTS_NAS_Synchronisation_Indicator(rtxContext* RT_RESTRICT ctx, NAS_Synchronisation_Indicator* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_NAS_Synchronisation_Indicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_P_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_GSM_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, pvalue, 4, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-Synchronisation-Indicator");
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, pvalue, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "P-TMSI-GSM-MAP");
    return 0;
 }
 
 int asn1PD_UMTS_P_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_GSM_MAP* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_P_TMSI_GSM_MAP, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingRecordTypeID(rtxContext* RT_RESTRICT ctx, PagingRecordTypeID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, pvalue, 32, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "P-TMSI-GSM-MAP");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PagingRecordTypeID");
    return 0;
 }
 
 int asn1PD_UMTS_PagingRecordTypeID(rtxContext* RT_RESTRICT ctx, PagingRecordTypeID* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_PagingRecordTypeID, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_Identity(rtxContext* RT_RESTRICT ctx, RAB_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingRecordTypeID");
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-Identity");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm-MAP-RAB-Identity */
+         pvalue->u.gsm_MAP_RAB_Identity = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.gsm_MAP_RAB_Identity == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm-MAP-RAB-Identity", -1, "RAB-Identity");
+         RT_SET_SIZE(ctx, 8, 8);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.gsm_MAP_RAB_Identity, 8, 8);
+         RT_CHECK_AT(ctx, cur, stat, 0, "gsm-MAP-RAB-Identity", -1, "RAB-Identity");
+         break;
+      case 1: /* ansi-41-RAB-Identity */
+         pvalue->u.ansi_41_RAB_Identity = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.ansi_41_RAB_Identity == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ansi-41-RAB-Identity", -1, "RAB-Identity");
+         RT_SET_SIZE(ctx, 8, 8);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.ansi_41_RAB_Identity, 8, 8);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ansi-41-RAB-Identity", -1, "RAB-Identity");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RAB-Identity");
+   }
    return 0;
 }
 
 int asn1PD_UMTS_RAB_Identity(rtxContext* RT_RESTRICT ctx, RAB_Identity* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_RAB_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_RoutingAreaCode(rtxContext* RT_RESTRICT ctx, RoutingAreaCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Identity");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* gsm-MAP-RAB-Identity */
-         pvalue->u.gsm_MAP_RAB_Identity = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.gsm_MAP_RAB_Identity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm-MAP-RAB-Identity", -1, "RAB-Identity");
-         RT_SET_SIZE(ctx, 8, 8);
-         stat = pd_BitString32(ctx, pvalue->u.gsm_MAP_RAB_Identity, 8, 8);
-         RT_CHECK(ctx, stat, 0, "gsm-MAP-RAB-Identity", -1, "RAB-Identity");
-         break;
-      case 1: /* ansi-41-RAB-Identity */
-         pvalue->u.ansi_41_RAB_Identity = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.ansi_41_RAB_Identity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ansi-41-RAB-Identity", -1, "RAB-Identity");
-         RT_SET_SIZE(ctx, 8, 8);
-         stat = pd_BitString32(ctx, pvalue->u.ansi_41_RAB_Identity, 8, 8);
-         RT_CHECK(ctx, stat, 0, "ansi-41-RAB-Identity", -1, "RAB-Identity");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RAB-Identity");
-   }
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RoutingAreaCode");
    return 0;
 }
 
 int asn1PD_UMTS_RoutingAreaCode(rtxContext* RT_RESTRICT ctx, RoutingAreaCode* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RoutingAreaCode");
+   RT_DECODE_ENTRY(ctx, dec_RoutingAreaCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAI(rtxContext* RT_RESTRICT ctx, RAI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* lai */
+   stat = dec_LAI(ctx, &pvalue->lai, cur);
+   RT_CHECK(ctx, stat, 0, "lai", -1, "RAI");
+   /* rac */
+   stat = dec_RoutingAreaCode(ctx, &pvalue->rac, cur);
+   RT_CHECK(ctx, stat, 0, "rac", -1, "RAI");
    return 0;
 }
 
 int asn1PD_UMTS_RAI(rtxContext* RT_RESTRICT ctx, RAI* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* lai */
-   stat = asn1PD_UMTS_LAI(ctx, &pvalue->lai);
-   RT_CHECK(ctx, stat, 0, "lai", -1, "RAI");
-   /* rac */
-   stat = asn1PD_UMTS_RoutingAreaCode(ctx, &pvalue->rac);
-   RT_CHECK(ctx, stat, 0, "rac", -1, "RAI");
+   RT_DECODE_ENTRY(ctx, dec_RAI, pvalue);
+}
+
+RT_MERGED_BODY int dec_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_GSM_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, pvalue, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TMSI-GSM-MAP");
    return 0;
 }
 
 int asn1PD_UMTS_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_GSM_MAP* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, pvalue, 32, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TMSI-GSM-MAP");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_TMSI_GSM_MAP, pvalue);
 }
 
-int asn1PD_UMTS_CellIdentity_PerRL_List(rtxContext* RT_RESTRICT ctx, CellIdentity_PerRL_List* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CellIdentity_PerRL_List(rtxContext* RT_RESTRICT ctx, CellIdentity_PerRL_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t i;
+   uint32_t i, n;
    {
       uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CellIdentity-PerRL-List");
-      pvalue->n = raw + 1;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellIdentity-PerRL-List");
+      pvalue->n = n = raw + 1;
       if (raw > 7) {
          rtxErrAddStrParm(ctx, "CellIdentity-PerRL-List");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellIdentity-PerRL-List");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CellIdentity-PerRL-List");
       }
    }
-   for (i = 0; i < pvalue->n; i++) {
+   for (i = 0; i < n; i++) {
       asn1Init_UMTS_CellIdentity(&pvalue->elem[i]);
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->elem[i]);
+      stat = dec_CellIdentity(ctx, &pvalue->elem[i], cur);
       if (stat != 0) {
          pvalue->n = i + 1;
          RT_FAIL(ctx, stat, 0, "CellIdentity", (int32_t)i, "CellIdentity-PerRL-List");
@@ -573,560 +8255,750 @@ int asn1PD_UMTS_CellIdentity_PerRL_List(rtxContext* RT_RESTRICT ctx, CellIdentit
    return 0;
 }
 
-int asn1PD_UMTS_T_322(rtxContext* RT_RESTRICT ctx, T_322* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellIdentity_PerRL_List(rtxContext* RT_RESTRICT ctx, CellIdentity_PerRL_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellIdentity_PerRL_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_322(rtxContext* RT_RESTRICT ctx, T_322* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-322");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-322");
+   return 0;
+}
+
+int asn1PD_UMTS_T_322(rtxContext* RT_RESTRICT ctx, T_322* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_T_322, pvalue);
+}
+
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_utraFDD_element(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraFDD_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* uarfcn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->uarfcn, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, "UARFCN", "uarfcn", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraFDD_element(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraFDD_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* uarfcn */
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PriorityLevel_radioAccessTechnology_utraFDD_element, pvalue);
 }
 
-int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraFDD* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_utraFDD(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PriorityLevel_radioAccessTechnology_utraFDD_element* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PriorityLevel_radioAccessTechnology_utraFDD_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
       elem = (PriorityLevel_radioAccessTechnology_utraFDD_element*)(node + 1);
       node->data = elem;
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraFDD_element(ctx, elem);
+      stat = dec_PriorityLevel_radioAccessTechnology_utraFDD_element(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PriorityLevel_radioAccessTechnology_utraFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_utraTDD_element(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraTDD_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* uarfcn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->uarfcn, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, "UARFCN", "uarfcn", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraTDD_element(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraTDD_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* uarfcn */
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PriorityLevel_radioAccessTechnology_utraTDD_element, pvalue);
 }
 
-int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraTDD* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_utraTDD(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PriorityLevel_radioAccessTechnology_utraTDD_element* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PriorityLevel_radioAccessTechnology_utraTDD_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
       elem = (PriorityLevel_radioAccessTechnology_utraTDD_element*)(node + 1);
       node->data = elem;
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraTDD_element(ctx, elem);
+      stat = dec_PriorityLevel_radioAccessTechnology_utraTDD_element(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PriorityLevel_radioAccessTechnology_utraTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_EARFCN(rtxContext* RT_RESTRICT ctx, EARFCN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EARFCN");
    return 0;
 }
 
 int asn1PD_UMTS_EARFCN(rtxContext* RT_RESTRICT ctx, EARFCN* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 65535);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EARFCN");
+   RT_DECODE_ENTRY(ctx, dec_EARFCN, pvalue);
+}
+
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_eutra_element(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_eutra_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* earfcn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->earfcn, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, "EARFCN", "earfcn", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_eutra_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* earfcn */
-   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PriorityLevel_radioAccessTechnology_eutra_element, pvalue);
 }
 
-int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_eutra* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_eutra(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_eutra* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PriorityLevel_radioAccessTechnology_eutra_element* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PriorityLevel_radioAccessTechnology_eutra_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
       elem = (PriorityLevel_radioAccessTechnology_eutra_element*)(node + 1);
       node->data = elem;
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(ctx, elem);
+      stat = dec_PriorityLevel_radioAccessTechnology_eutra_element(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_GSM_CellGroup_bandIndicator(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_bandIndicator* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_eutra* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PriorityLevel_radioAccessTechnology_eutra, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_CellGroup_bandIndicator(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_bandIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_CellGroup_bandIndicator(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_bandIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_CellGroup_bandIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_explicitListOfARFCNs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 0;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "explicitListOfARFCNs");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->elem[i], 0, 1023);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "BCCH-ARFCN", "BCCH-ARFCN", (int32_t)i, 0);
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_explicitListOfARFCNs* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 0;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "explicitListOfARFCNs");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 1023);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "BCCH-ARFCN", "BCCH-ARFCN", (int32_t)i, 0);
-      }
-   }
+   RT_DECODE_ENTRY(ctx, dec_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_equallySpacedARFCNs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* arfcn-Spacing */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->arfcn_Spacing, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "arfcn-Spacing", -1, 0);
+   /* numberOfFollowingARFCNs */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfFollowingARFCNs, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numberOfFollowingARFCNs", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_equallySpacedARFCNs* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* arfcn-Spacing */
-   stat = pd_ConsUInt8(ctx, &pvalue->arfcn_Spacing, 1, 8);
-   RT_CHECK(ctx, stat, 0, "arfcn-Spacing", -1, 0);
-   /* numberOfFollowingARFCNs */
-   stat = pd_ConsUInt8(ctx, &pvalue->numberOfFollowingARFCNs, 0, 31);
-   RT_CHECK(ctx, stat, 0, "numberOfFollowingARFCNs", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* endingARFCN */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->endingARFCN, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, "BCCH-ARFCN", "endingARFCN", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* endingARFCN */
-   stat = pd_ConsUInt16(ctx, &pvalue->endingARFCN, 0, 1023);
-   RT_CHECK(ctx, stat, "BCCH-ARFCN", "endingARFCN", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_CellGroup_followingARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicitListOfARFCNs */
+         pvalue->u.explicitListOfARFCNs = (GSM_CellGroup_followingARFCNs_explicitListOfARFCNs*)rtxMemHeapAlloc(ctx, sizeof(GSM_CellGroup_followingARFCNs_explicitListOfARFCNs));
+         if (pvalue->u.explicitListOfARFCNs == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicitListOfARFCNs", -1, 0);
+         asn1Init_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(pvalue->u.explicitListOfARFCNs);
+         stat = dec_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(ctx, pvalue->u.explicitListOfARFCNs, cur);
+         RT_CHECK(ctx, stat, 0, "explicitListOfARFCNs", -1, 0);
+         break;
+      case 1: /* equallySpacedARFCNs */
+         pvalue->u.equallySpacedARFCNs = (GSM_CellGroup_followingARFCNs_equallySpacedARFCNs*)rtxMemHeapAllocZ(ctx, sizeof(GSM_CellGroup_followingARFCNs_equallySpacedARFCNs));
+         if (pvalue->u.equallySpacedARFCNs == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "equallySpacedARFCNs", -1, 0);
+         stat = dec_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(ctx, pvalue->u.equallySpacedARFCNs, cur);
+         RT_CHECK(ctx, stat, 0, "equallySpacedARFCNs", -1, 0);
+         break;
+      case 2: /* variableBitMapOfARFCNs */
+         pvalue->u.variableBitMapOfARFCNs = (GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs*)rtxMemHeapAlloc(ctx, sizeof(GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs));
+         if (pvalue->u.variableBitMapOfARFCNs == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "variableBitMapOfARFCNs", -1, 0);
+         asn1Init_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(pvalue->u.variableBitMapOfARFCNs);
+         stat = dec_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(ctx, pvalue->u.variableBitMapOfARFCNs, cur);
+         RT_CHECK(ctx, stat, 0, "variableBitMapOfARFCNs", -1, 0);
+         break;
+      case 3: /* continuousRangeOfARFCNs */
+         pvalue->u.continuousRangeOfARFCNs = (GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs*)rtxMemHeapAllocZ(ctx, sizeof(GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs));
+         if (pvalue->u.continuousRangeOfARFCNs == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "continuousRangeOfARFCNs", -1, 0);
+         stat = dec_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(ctx, pvalue->u.continuousRangeOfARFCNs, cur);
+         RT_CHECK(ctx, stat, 0, "continuousRangeOfARFCNs", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_GSM_CellGroup_followingARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* explicitListOfARFCNs */
-         pvalue->u.explicitListOfARFCNs = (GSM_CellGroup_followingARFCNs_explicitListOfARFCNs*)rtxMemHeapAlloc(ctx, sizeof(GSM_CellGroup_followingARFCNs_explicitListOfARFCNs));
-         if (pvalue->u.explicitListOfARFCNs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicitListOfARFCNs", -1, 0);
-         asn1Init_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(pvalue->u.explicitListOfARFCNs);
-         stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(ctx, pvalue->u.explicitListOfARFCNs);
-         RT_CHECK(ctx, stat, 0, "explicitListOfARFCNs", -1, 0);
-         break;
-      case 1: /* equallySpacedARFCNs */
-         pvalue->u.equallySpacedARFCNs = (GSM_CellGroup_followingARFCNs_equallySpacedARFCNs*)rtxMemHeapAllocZ(ctx, sizeof(GSM_CellGroup_followingARFCNs_equallySpacedARFCNs));
-         if (pvalue->u.equallySpacedARFCNs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "equallySpacedARFCNs", -1, 0);
-         stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(ctx, pvalue->u.equallySpacedARFCNs);
-         RT_CHECK(ctx, stat, 0, "equallySpacedARFCNs", -1, 0);
-         break;
-      case 2: /* variableBitMapOfARFCNs */
-         pvalue->u.variableBitMapOfARFCNs = (GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs*)rtxMemHeapAlloc(ctx, sizeof(GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs));
-         if (pvalue->u.variableBitMapOfARFCNs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "variableBitMapOfARFCNs", -1, 0);
-         asn1Init_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(pvalue->u.variableBitMapOfARFCNs);
-         stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(ctx, pvalue->u.variableBitMapOfARFCNs);
-         RT_CHECK(ctx, stat, 0, "variableBitMapOfARFCNs", -1, 0);
-         break;
-      case 3: /* continuousRangeOfARFCNs */
-         pvalue->u.continuousRangeOfARFCNs = (GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs*)rtxMemHeapAllocZ(ctx, sizeof(GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs));
-         if (pvalue->u.continuousRangeOfARFCNs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "continuousRangeOfARFCNs", -1, 0);
-         stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(ctx, pvalue->u.continuousRangeOfARFCNs);
-         RT_CHECK(ctx, stat, 0, "continuousRangeOfARFCNs", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_GSM_CellGroup_followingARFCNs, pvalue);
+}
+
+static int dec_GSM_CellGroup(rtxContext* RT_RESTRICT ctx, GSM_CellGroup* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* startingARFCN */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->startingARFCN, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, "BCCH-ARFCN", "startingARFCN", -1, "GSM-CellGroup");
+   /* bandIndicator */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->bandIndicator, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "bandIndicator", -1, "GSM-CellGroup");
+   /* followingARFCNs */
+   stat = dec_GSM_CellGroup_followingARFCNs(ctx, &pvalue->followingARFCNs, cur);
+   RT_CHECK(ctx, stat, 0, "followingARFCNs", -1, "GSM-CellGroup");
    return 0;
 }
 
 int asn1PD_UMTS_GSM_CellGroup(rtxContext* RT_RESTRICT ctx, GSM_CellGroup* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_GSM_CellGroup, pvalue);
+}
+
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology_gsm(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   /* startingARFCN */
-   stat = pd_ConsUInt16(ctx, &pvalue->startingARFCN, 0, 1023);
-   RT_CHECK(ctx, stat, "BCCH-ARFCN", "startingARFCN", -1, "GSM-CellGroup");
-   /* bandIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->bandIndicator, 0, 1);
-   RT_CHECK(ctx, stat, 0, "bandIndicator", -1, "GSM-CellGroup");
-   /* followingARFCNs */
-   stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs(ctx, &pvalue->followingARFCNs);
-   RT_CHECK(ctx, stat, 0, "followingARFCNs", -1, "GSM-CellGroup");
+   /* gsm-CellGroup */
+   stat = dec_GSM_CellGroup(ctx, &pvalue->gsm_CellGroup, cur);
+   RT_CHECK(ctx, stat, 0, "gsm-CellGroup", -1, 0);
    return 0;
 }
 
 int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_gsm(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_gsm* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* gsm-CellGroup */
-   stat = asn1PD_UMTS_GSM_CellGroup(ctx, &pvalue->gsm_CellGroup);
-   RT_CHECK(ctx, stat, 0, "gsm-CellGroup", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PriorityLevel_radioAccessTechnology_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_PriorityLevel_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* utraFDD */
+         pvalue->u.utraFDD = (PriorityLevel_radioAccessTechnology_utraFDD*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_utraFDD));
+         if (pvalue->u.utraFDD == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "utraFDD", -1, 0);
+         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(pvalue->u.utraFDD);
+         stat = dec_PriorityLevel_radioAccessTechnology_utraFDD(ctx, pvalue->u.utraFDD, cur);
+         RT_CHECK(ctx, stat, 0, "utraFDD", -1, 0);
+         break;
+      case 1: /* utraTDD */
+         pvalue->u.utraTDD = (PriorityLevel_radioAccessTechnology_utraTDD*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_utraTDD));
+         if (pvalue->u.utraTDD == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "utraTDD", -1, 0);
+         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(pvalue->u.utraTDD);
+         stat = dec_PriorityLevel_radioAccessTechnology_utraTDD(ctx, pvalue->u.utraTDD, cur);
+         RT_CHECK(ctx, stat, 0, "utraTDD", -1, 0);
+         break;
+      case 2: /* eutra */
+         pvalue->u.eutra = (PriorityLevel_radioAccessTechnology_eutra*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_eutra));
+         if (pvalue->u.eutra == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "eutra", -1, 0);
+         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_eutra(pvalue->u.eutra);
+         stat = dec_PriorityLevel_radioAccessTechnology_eutra(ctx, pvalue->u.eutra, cur);
+         RT_CHECK(ctx, stat, 0, "eutra", -1, 0);
+         break;
+      case 3: /* gsm */
+         pvalue->u.gsm = (PriorityLevel_radioAccessTechnology_gsm*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_gsm(pvalue->u.gsm);
+         stat = dec_PriorityLevel_radioAccessTechnology_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
 int asn1PD_UMTS_PriorityLevel_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* utraFDD */
-         pvalue->u.utraFDD = (PriorityLevel_radioAccessTechnology_utraFDD*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_utraFDD));
-         if (pvalue->u.utraFDD == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utraFDD", -1, 0);
-         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(pvalue->u.utraFDD);
-         stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(ctx, pvalue->u.utraFDD);
-         RT_CHECK(ctx, stat, 0, "utraFDD", -1, 0);
-         break;
-      case 1: /* utraTDD */
-         pvalue->u.utraTDD = (PriorityLevel_radioAccessTechnology_utraTDD*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_utraTDD));
-         if (pvalue->u.utraTDD == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utraTDD", -1, 0);
-         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(pvalue->u.utraTDD);
-         stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(ctx, pvalue->u.utraTDD);
-         RT_CHECK(ctx, stat, 0, "utraTDD", -1, 0);
-         break;
-      case 2: /* eutra */
-         pvalue->u.eutra = (PriorityLevel_radioAccessTechnology_eutra*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_eutra));
-         if (pvalue->u.eutra == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "eutra", -1, 0);
-         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_eutra(pvalue->u.eutra);
-         stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra(ctx, pvalue->u.eutra);
-         RT_CHECK(ctx, stat, 0, "eutra", -1, 0);
-         break;
-      case 3: /* gsm */
-         pvalue->u.gsm = (PriorityLevel_radioAccessTechnology_gsm*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_PriorityLevel_radioAccessTechnology, pvalue);
+}
+
+RT_MERGED_BODY int dec_PriorityLevel(rtxContext* RT_RESTRICT ctx, PriorityLevel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PriorityLevel");
+   /* priority */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->priority, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "priority", -1, "PriorityLevel");
    }
+   /* radioAccessTechnology */
+   stat = dec_PriorityLevel_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology, cur);
+   RT_CHECK(ctx, stat, 0, "radioAccessTechnology", -1, "PriorityLevel");
    return 0;
 }
 
 int asn1PD_UMTS_PriorityLevel(rtxContext* RT_RESTRICT ctx, PriorityLevel* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PriorityLevel");
-   /* priority */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
-      RT_CHECK(ctx, stat, 0, "priority", -1, "PriorityLevel");
-   }
-   /* radioAccessTechnology */
-   stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology);
-   RT_CHECK(ctx, stat, 0, "radioAccessTechnology", -1, "PriorityLevel");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PriorityLevel, pvalue);
 }
 
-int asn1PD_UMTS_PriorityLevelList(rtxContext* RT_RESTRICT ctx, PriorityLevelList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PriorityLevelList(rtxContext* RT_RESTRICT ctx, PriorityLevelList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PriorityLevelList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PriorityLevelList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PriorityLevel* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PriorityLevel));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PriorityLevel", (int32_t)i, "PriorityLevelList");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PriorityLevel", (int32_t)i, "PriorityLevelList");
       elem = (PriorityLevel*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PriorityLevel(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PriorityLevel(ctx, elem);
+      stat = dec_PriorityLevel(ctx, elem, cur);
       RT_CHECK(ctx, stat, 0, "PriorityLevel", (int32_t)i, "PriorityLevelList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation_action_configureDedicatedPriorities* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PriorityLevelList(rtxContext* RT_RESTRICT ctx, PriorityLevelList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PriorityLevelList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DedicatedPriorityInformation_action_configureDedicatedPriorities(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation_action_configureDedicatedPriorities* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* t-322 */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_322, 0, 7);
-      RT_CHECK(ctx, stat, "T-322", "t-322", -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_322, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-322", "t-322", -1, 0);
    }
    /* priorityLevelList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PriorityLevelList(ctx, &pvalue->priorityLevelList);
+      stat = dec_PriorityLevelList(ctx, &pvalue->priorityLevelList, cur);
       RT_CHECK(ctx, stat, 0, "priorityLevelList", -1, 0);
    }
    /* eutraDetection */
-   stat = rtxDecBitInline(ctx, &pvalue->eutraDetection);
-   RT_CHECK(ctx, stat, 0, "eutraDetection", -1, 0);
+   stat = rtxDecBitAt(ctx, cur, &pvalue->eutraDetection);
+   RT_CHECK_AT(ctx, cur, stat, 0, "eutraDetection", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_DedicatedPriorityInformation_action(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation_action* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation_action_configureDedicatedPriorities* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DedicatedPriorityInformation_action_configureDedicatedPriorities, pvalue);
+}
+
+RT_MERGED_BODY int dec_DedicatedPriorityInformation_action(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation_action* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* clearDedicatedPriorities */
          break;
       case 1: /* configureDedicatedPriorities */
          pvalue->u.configureDedicatedPriorities = (DedicatedPriorityInformation_action_configureDedicatedPriorities*)rtxMemHeapAlloc(ctx, sizeof(DedicatedPriorityInformation_action_configureDedicatedPriorities));
-         if (pvalue->u.configureDedicatedPriorities == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "configureDedicatedPriorities", -1, 0);
+         if (pvalue->u.configureDedicatedPriorities == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "configureDedicatedPriorities", -1, 0);
          asn1Init_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(pvalue->u.configureDedicatedPriorities);
-         stat = asn1PD_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(ctx, pvalue->u.configureDedicatedPriorities);
+         stat = dec_DedicatedPriorityInformation_action_configureDedicatedPriorities(ctx, pvalue->u.configureDedicatedPriorities, cur);
          RT_CHECK(ctx, stat, 0, "configureDedicatedPriorities", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_DedicatedPriorityInformation_action(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation_action* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DedicatedPriorityInformation_action, pvalue);
+}
+
+RT_MERGED_BODY int dec_DedicatedPriorityInformation(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* action */
+   stat = dec_DedicatedPriorityInformation_action(ctx, &pvalue->action, cur);
+   RT_CHECK(ctx, stat, 0, "action", -1, "DedicatedPriorityInformation");
    return 0;
 }
 
 int asn1PD_UMTS_DedicatedPriorityInformation(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* action */
-   stat = asn1PD_UMTS_DedicatedPriorityInformation_action(ctx, &pvalue->action);
-   RT_CHECK(ctx, stat, 0, "action", -1, "DedicatedPriorityInformation");
+   RT_DECODE_ENTRY(ctx, dec_DedicatedPriorityInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_Q_Hyst_S_Fine(rtxContext* RT_RESTRICT ctx, Q_Hyst_S_Fine* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 40);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Q-Hyst-S-Fine");
    return 0;
 }
 
 int asn1PD_UMTS_Q_Hyst_S_Fine(rtxContext* RT_RESTRICT ctx, Q_Hyst_S_Fine* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_Q_Hyst_S_Fine, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_Reselection_S_Fine(rtxContext* RT_RESTRICT ctx, T_Reselection_S_Fine* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 40);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-Hyst-S-Fine");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-Reselection-S-Fine");
    return 0;
 }
 
 int asn1PD_UMTS_T_Reselection_S_Fine(rtxContext* RT_RESTRICT ctx, T_Reselection_S_Fine* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_T_Reselection_S_Fine, pvalue);
+}
+
+RT_MERGED_BODY int dec_AccessStratumReleaseIndicator(rtxContext* RT_RESTRICT ctx, AccessStratumReleaseIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-Reselection-S-Fine");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AccessStratumReleaseIndicator");
    return 0;
 }
 
 int asn1PD_UMTS_AccessStratumReleaseIndicator(rtxContext* RT_RESTRICT ctx, AccessStratumReleaseIndicator* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_AccessStratumReleaseIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActivationTime(rtxContext* RT_RESTRICT ctx, ActivationTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AccessStratumReleaseIndicator");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActivationTime");
    return 0;
 }
 
 int asn1PD_UMTS_ActivationTime(rtxContext* RT_RESTRICT ctx, ActivationTime* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_ActivationTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_AP_RetransMax(rtxContext* RT_RESTRICT ctx, N_AP_RetransMax* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActivationTime");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-AP-RetransMax");
    return 0;
 }
 
 int asn1PD_UMTS_N_AP_RetransMax(rtxContext* RT_RESTRICT ctx, N_AP_RetransMax* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_N_AP_RetransMax, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_AccessFails(rtxContext* RT_RESTRICT ctx, N_AccessFails* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-AP-RetransMax");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-AccessFails");
    return 0;
 }
 
 int asn1PD_UMTS_N_AccessFails(rtxContext* RT_RESTRICT ctx, N_AccessFails* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_N_AccessFails, pvalue);
+}
+
+RT_MERGED_BODY int dec_NF_BO_NoAICH(rtxContext* RT_RESTRICT ctx, NF_BO_NoAICH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-AccessFails");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NF-BO-NoAICH");
    return 0;
 }
 
 int asn1PD_UMTS_NF_BO_NoAICH(rtxContext* RT_RESTRICT ctx, NF_BO_NoAICH* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_NF_BO_NoAICH, pvalue);
+}
+
+RT_MERGED_BODY int dec_NS_BO_Busy(rtxContext* RT_RESTRICT ctx, NS_BO_Busy* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NF-BO-NoAICH");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NS-BO-Busy");
    return 0;
 }
 
 int asn1PD_UMTS_NS_BO_Busy(rtxContext* RT_RESTRICT ctx, NS_BO_Busy* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_NS_BO_Busy, pvalue);
+}
+
+RT_MERGED_BODY int dec_NF_BO_AllBusy(rtxContext* RT_RESTRICT ctx, NF_BO_AllBusy* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NS-BO-Busy");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NF-BO-AllBusy");
    return 0;
 }
 
 int asn1PD_UMTS_NF_BO_AllBusy(rtxContext* RT_RESTRICT ctx, NF_BO_AllBusy* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_NF_BO_AllBusy, pvalue);
+}
+
+RT_MERGED_BODY int dec_NF_BO_Mismatch(rtxContext* RT_RESTRICT ctx, NF_BO_Mismatch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NF-BO-AllBusy");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NF-BO-Mismatch");
    return 0;
 }
 
 int asn1PD_UMTS_NF_BO_Mismatch(rtxContext* RT_RESTRICT ctx, NF_BO_Mismatch* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_NF_BO_Mismatch, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_CPCH(rtxContext* RT_RESTRICT ctx, T_CPCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NF-BO-Mismatch");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-CPCH");
    return 0;
 }
 
 int asn1PD_UMTS_T_CPCH(rtxContext* RT_RESTRICT ctx, T_CPCH* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-CPCH");
+   RT_DECODE_ENTRY(ctx, dec_T_CPCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_BackoffControlParams(rtxContext* RT_RESTRICT ctx, BackoffControlParams* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* n-AP-RetransMax */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_AP_RetransMax, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "N-AP-RetransMax", "n-AP-RetransMax", -1, "BackoffControlParams");
+   /* n-AccessFails */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_AccessFails, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "N-AccessFails", "n-AccessFails", -1, "BackoffControlParams");
+   /* nf-BO-NoAICH */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->nf_BO_NoAICH, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "NF-BO-NoAICH", "nf-BO-NoAICH", -1, "BackoffControlParams");
+   /* ns-BO-Busy */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ns_BO_Busy, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, "NS-BO-Busy", "ns-BO-Busy", -1, "BackoffControlParams");
+   /* nf-BO-AllBusy */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->nf_BO_AllBusy, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "NF-BO-AllBusy", "nf-BO-AllBusy", -1, "BackoffControlParams");
+   /* nf-BO-Mismatch */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->nf_BO_Mismatch, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "NF-BO-Mismatch", "nf-BO-Mismatch", -1, "BackoffControlParams");
+   /* t-CPCH */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_CPCH, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "T-CPCH", "t-CPCH", -1, "BackoffControlParams");
    return 0;
 }
 
 int asn1PD_UMTS_BackoffControlParams(rtxContext* RT_RESTRICT ctx, BackoffControlParams* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* n-AP-RetransMax */
-   stat = pd_ConsUInt8(ctx, &pvalue->n_AP_RetransMax, 1, 64);
-   RT_CHECK(ctx, stat, "N-AP-RetransMax", "n-AP-RetransMax", -1, "BackoffControlParams");
-   /* n-AccessFails */
-   stat = pd_ConsUInt8(ctx, &pvalue->n_AccessFails, 1, 64);
-   RT_CHECK(ctx, stat, "N-AccessFails", "n-AccessFails", -1, "BackoffControlParams");
-   /* nf-BO-NoAICH */
-   stat = pd_ConsUInt8(ctx, &pvalue->nf_BO_NoAICH, 0, 31);
-   RT_CHECK(ctx, stat, "NF-BO-NoAICH", "nf-BO-NoAICH", -1, "BackoffControlParams");
-   /* ns-BO-Busy */
-   stat = pd_ConsUInt8(ctx, &pvalue->ns_BO_Busy, 0, 63);
-   RT_CHECK(ctx, stat, "NS-BO-Busy", "ns-BO-Busy", -1, "BackoffControlParams");
-   /* nf-BO-AllBusy */
-   stat = pd_ConsUInt8(ctx, &pvalue->nf_BO_AllBusy, 0, 31);
-   RT_CHECK(ctx, stat, "NF-BO-AllBusy", "nf-BO-AllBusy", -1, "BackoffControlParams");
-   /* nf-BO-Mismatch */
-   stat = pd_ConsUInt8(ctx, &pvalue->nf_BO_Mismatch, 0, 127);
-   RT_CHECK(ctx, stat, "NF-BO-Mismatch", "nf-BO-Mismatch", -1, "BackoffControlParams");
-   /* t-CPCH */
-   stat = pd_ConsUnsigned(ctx, &pvalue->t_CPCH, 0, 1);
-   RT_CHECK(ctx, stat, "T-CPCH", "t-CPCH", -1, "BackoffControlParams");
+   RT_DECODE_ENTRY(ctx, dec_BackoffControlParams, pvalue);
+}
+
+RT_MERGED_BODY int dec_BandComb(rtxContext* RT_RESTRICT ctx, BandComb* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 1, 256);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BandComb");
    return 0;
 }
 
 int asn1PD_UMTS_BandComb(rtxContext* RT_RESTRICT ctx, BandComb* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_BandComb, pvalue);
+}
+
+RT_MERGED_BODY int dec_C_RNTI(rtxContext* RT_RESTRICT ctx, C_RNTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 1, 256);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BandComb");
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, pvalue, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "C-RNTI");
    return 0;
 }
 
 int asn1PD_UMTS_C_RNTI(rtxContext* RT_RESTRICT ctx, C_RNTI* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "C-RNTI");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_C_RNTI, pvalue);
 }
 
-int asn1PD_UMTS_SystemSpecificCapUpdateReq(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReq(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    {
       uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq");
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReq");
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq");
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReq");
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_SystemSpecificCapUpdateReqList(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SystemSpecificCapUpdateReq(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SystemSpecificCapUpdateReq, pvalue);
+}
+
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReqList(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t i;
+   uint32_t i, n;
    {
       uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList");
-      pvalue->n = raw + 1;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList");
+      pvalue->n = n = raw + 1;
       if (raw > 15) {
          rtxErrAddStrParm(ctx, "SystemSpecificCapUpdateReqList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SystemSpecificCapUpdateReqList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SystemSpecificCapUpdateReqList");
       }
    }
-   for (i = 0; i < pvalue->n; i++) {
+   for (i = 0; i < n; i++) {
       pvalue->elem[i] = 0;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
          if (stat != 0) {
             pvalue->n = i + 1;
-            RT_FAIL(ctx, stat, "SystemSpecificCapUpdateReq", "SystemSpecificCapUpdateReq", (int32_t)i, "SystemSpecificCapUpdateReqList");
+            RT_FAIL_AT(ctx, cur, stat, "SystemSpecificCapUpdateReq", "SystemSpecificCapUpdateReq", (int32_t)i, "SystemSpecificCapUpdateReqList");
          }
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
          if (stat != 0) {
             pvalue->n = i + 1;
-            RT_FAIL(ctx, stat, "SystemSpecificCapUpdateReq", "SystemSpecificCapUpdateReq", (int32_t)i, "SystemSpecificCapUpdateReqList");
+            RT_FAIL_AT(ctx, cur, stat, "SystemSpecificCapUpdateReq", "SystemSpecificCapUpdateReq", (int32_t)i, "SystemSpecificCapUpdateReqList");
          }
          pvalue->elem[i] = ui;
       }
@@ -1134,7876 +9006,421 @@ int asn1PD_UMTS_SystemSpecificCapUpdateReqList(rtxContext* RT_RESTRICT ctx, Syst
    return 0;
 }
 
-int asn1PD_UMTS_CapabilityUpdateRequirement(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SystemSpecificCapUpdateReqList(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SystemSpecificCapUpdateReqList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CapabilityUpdateRequirement");
    /* ue-RadioCapabilityFDDUpdateRequirement */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement", -1, "CapabilityUpdateRequirement");
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityFDDUpdateRequirement);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement", -1, "CapabilityUpdateRequirement");
    /* ue-RadioCapabilityTDDUpdateRequirement */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement", -1, "CapabilityUpdateRequirement");
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityTDDUpdateRequirement);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement", -1, "CapabilityUpdateRequirement");
    /* systemSpecificCapUpdateReqList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      stat = dec_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList, cur);
       RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CapabilityUpdateRequirement_r4_ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r4_ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CapabilityUpdateRequirement(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CapabilityUpdateRequirement, pvalue);
+}
+
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_r4_ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* ue-RadioCapabilityUpdateRequirement-TDD128 */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r4-ext");
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityUpdateRequirement_TDD128);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r4-ext");
    return 0;
 }
 
-int asn1PD_UMTS_CapabilityUpdateRequirement_r4(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CapabilityUpdateRequirement_r4_ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CapabilityUpdateRequirement_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_r4(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r4");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CapabilityUpdateRequirement-r4");
    /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r4");
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r4");
    /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r4");
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r4");
    /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r4");
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r4");
    /* systemSpecificCapUpdateReqList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      stat = dec_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList, cur);
       RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r4");
    }
    return 0;
 }
 
-int asn1PD_UMTS_SystemSpecificCapUpdateReq_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r5* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CapabilityUpdateRequirement_r4(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CapabilityUpdateRequirement_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReq_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-r5");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_SystemSpecificCapUpdateReq_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SystemSpecificCapUpdateReq_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReqList_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList-r5");
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "SystemSpecificCapUpdateReqList-r5");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SystemSpecificCapUpdateReqList-r5");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 1);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "SystemSpecificCapUpdateReq-r5", "SystemSpecificCapUpdateReq-r5", (int32_t)i, "SystemSpecificCapUpdateReqList-r5");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_SystemSpecificCapUpdateReqList_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList_r5* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList-r5");
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "SystemSpecificCapUpdateReqList-r5");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SystemSpecificCapUpdateReqList-r5");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 1);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "SystemSpecificCapUpdateReq-r5", "SystemSpecificCapUpdateReq-r5", (int32_t)i, "SystemSpecificCapUpdateReqList-r5");
-      }
+   RT_DECODE_ENTRY(ctx, dec_SystemSpecificCapUpdateReqList_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_r5(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CapabilityUpdateRequirement-r5");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r5");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r5");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r5");
+   /* systemSpecificCapUpdateReqList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList, cur);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r5");
    }
    return 0;
 }
 
 int asn1PD_UMTS_CapabilityUpdateRequirement_r5(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r5* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CapabilityUpdateRequirement_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_v770ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r5");
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r5");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r5");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r5");
-   /* systemSpecificCapUpdateReqList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r5");
-   }
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-v770ext");
    return 0;
 }
 
 int asn1PD_UMTS_CapabilityUpdateRequirement_v770ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_v770ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-v770ext");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CapabilityUpdateRequirement_v770ext, pvalue);
 }
 
-int asn1PD_UMTS_CapabilityUpdateRequirement_r7(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_r7(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r7");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CapabilityUpdateRequirement-r7");
    /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r7");
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r7");
    /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r7");
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r7");
    /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-r7");
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-r7");
    /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r7");
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r7");
    /* systemSpecificCapUpdateReqList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      stat = dec_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList, cur);
       RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r7");
    }
    return 0;
 }
 
-int asn1PD_UMTS_SystemSpecificCapUpdateReq_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r8* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CapabilityUpdateRequirement_r7(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CapabilityUpdateRequirement_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReq_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-r8");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_SystemSpecificCapUpdateReq_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SystemSpecificCapUpdateReq_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReqList_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList-r8");
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "SystemSpecificCapUpdateReqList-r8");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SystemSpecificCapUpdateReqList-r8");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 7);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "SystemSpecificCapUpdateReq-r8", "SystemSpecificCapUpdateReq-r8", (int32_t)i, "SystemSpecificCapUpdateReqList-r8");
+      }
+   }
    return 0;
 }
 
 int asn1PD_UMTS_SystemSpecificCapUpdateReqList_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList_r8* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList-r8");
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "SystemSpecificCapUpdateReqList-r8");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SystemSpecificCapUpdateReqList-r8");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 7);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "SystemSpecificCapUpdateReq-r8", "SystemSpecificCapUpdateReq-r8", (int32_t)i, "SystemSpecificCapUpdateReqList-r8");
-      }
+   RT_DECODE_ENTRY(ctx, dec_SystemSpecificCapUpdateReqList_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_v860ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CapabilityUpdateRequirement-v860ext");
+   /* systemSpecificCapUpdateReqList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList, cur);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-v860ext");
    }
    return 0;
 }
 
 int asn1PD_UMTS_CapabilityUpdateRequirement_v860ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_v860ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CapabilityUpdateRequirement_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_CapabilityUpdateRequirement_r8(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-v860ext");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r8");
    /* systemSpecificCapUpdateReqList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-v860ext");
+      stat = dec_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList, cur);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r8");
    }
    return 0;
 }
 
 int asn1PD_UMTS_CapabilityUpdateRequirement_r8(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r8* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r8");
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r8");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r8");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-r8");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r8");
-   /* systemSpecificCapUpdateReqList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r8");
-   }
+   RT_DECODE_ENTRY(ctx, dec_CapabilityUpdateRequirement_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateCause(rtxContext* RT_RESTRICT ctx, CellUpdateCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateCause");
    return 0;
 }
 
 int asn1PD_UMTS_CellUpdateCause(rtxContext* RT_RESTRICT ctx, CellUpdateCause* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateCause, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateCause_ext(rtxContext* RT_RESTRICT ctx, CellUpdateCause_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateCause");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateCause-ext");
    return 0;
 }
 
 int asn1PD_UMTS_CellUpdateCause_ext(rtxContext* RT_RESTRICT ctx, CellUpdateCause_ext* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateCause_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_ChipRateCapability(rtxContext* RT_RESTRICT ctx, ChipRateCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateCause-ext");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ChipRateCapability");
    return 0;
 }
 
 int asn1PD_UMTS_ChipRateCapability(rtxContext* RT_RESTRICT ctx, ChipRateCapability* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_ChipRateCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_CipheringAlgorithm(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ChipRateCapability");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CipheringAlgorithm");
    return 0;
 }
 
 int asn1PD_UMTS_CipheringAlgorithm(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CipheringAlgorithm, pvalue);
+}
+
+RT_MERGED_BODY int dec_CipheringAlgorithm_r7(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringAlgorithm");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CipheringAlgorithm-r7");
    return 0;
 }
 
 int asn1PD_UMTS_CipheringAlgorithm_r7(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm_r7* RT_RESTRICT pvalue)
 {
+   RT_DECODE_ENTRY(ctx, dec_CipheringAlgorithm_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_CipheringModeCommand(rtxContext* RT_RESTRICT ctx, CipheringModeCommand* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringAlgorithm-r7");
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CipheringModeCommand");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* startRestart */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.startRestart, 0, 1);
+         RT_CHECK_AT(ctx, cur, stat, "CipheringAlgorithm", "startRestart", -1, "CipheringModeCommand");
+         break;
+      case 1: /* dummy */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CipheringModeCommand");
+   }
    return 0;
 }
 
 int asn1PD_UMTS_CipheringModeCommand(rtxContext* RT_RESTRICT ctx, CipheringModeCommand* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringModeCommand");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* startRestart */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.startRestart, 0, 1);
-         RT_CHECK(ctx, stat, "CipheringAlgorithm", "startRestart", -1, "CipheringModeCommand");
-         break;
-      case 1: /* dummy */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CipheringModeCommand");
-   }
+   RT_DECODE_ENTRY(ctx, dec_CipheringModeCommand, pvalue);
+}
+
+RT_MERGED_BODY int dec_CipheringModeCommand_r7(rtxContext* RT_RESTRICT ctx, CipheringModeCommand_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* startRestart */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->startRestart, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "CipheringAlgorithm-r7", "startRestart", -1, "CipheringModeCommand-r7");
    return 0;
 }
 
 int asn1PD_UMTS_CipheringModeCommand_r7(rtxContext* RT_RESTRICT ctx, CipheringModeCommand_r7* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* startRestart */
-   stat = pd_ConsUnsigned(ctx, &pvalue->startRestart, 0, 2);
-   RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "startRestart", -1, "CipheringModeCommand-r7");
+   RT_DECODE_ENTRY(ctx, dec_CipheringModeCommand_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_SequenceNumber(rtxContext* RT_RESTRICT ctx, RLC_SequenceNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-SequenceNumber");
    return 0;
 }
 
 int asn1PD_UMTS_RLC_SequenceNumber(rtxContext* RT_RESTRICT ctx, RLC_SequenceNumber* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 4095);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-SequenceNumber");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_ActivationTimeInfo(rtxContext* RT_RESTRICT ctx, RB_ActivationTimeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-ActivationTimeInfo");
-   /* rlc-SequenceNumber */
-   stat = pd_ConsUInt16(ctx, &pvalue->rlc_SequenceNumber, 0, 4095);
-   RT_CHECK(ctx, stat, "RLC-SequenceNumber", "rlc-SequenceNumber", -1, "RB-ActivationTimeInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_ActivationTimeInfoList(rtxContext* RT_RESTRICT ctx, RB_ActivationTimeInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-ActivationTimeInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_ActivationTimeInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_ActivationTimeInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-ActivationTimeInfo", (int32_t)i, "RB-ActivationTimeInfoList");
-      elem = (RB_ActivationTimeInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_ActivationTimeInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-ActivationTimeInfo", (int32_t)i, "RB-ActivationTimeInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CipheringModeInfo(rtxContext* RT_RESTRICT ctx, CipheringModeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringModeInfo");
-   /* cipheringModeCommand */
-   stat = asn1PD_UMTS_CipheringModeCommand(ctx, &pvalue->cipheringModeCommand);
-   RT_CHECK(ctx, stat, 0, "cipheringModeCommand", -1, "CipheringModeInfo");
-   /* activationTimeForDPCH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTimeForDPCH, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTimeForDPCH", -1, "CipheringModeInfo");
-   }
-   /* rb-DL-CiphActivationTimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo);
-      RT_CHECK(ctx, stat, 0, "rb-DL-CiphActivationTimeInfo", -1, "CipheringModeInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CipheringModeInfo_r7(rtxContext* RT_RESTRICT ctx, CipheringModeInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringModeInfo-r7");
-   /* cipheringModeCommand */
-   stat = asn1PD_UMTS_CipheringModeCommand_r7(ctx, &pvalue->cipheringModeCommand);
-   RT_CHECK(ctx, stat, 0, "cipheringModeCommand", -1, "CipheringModeInfo-r7");
-   /* activationTimeForDPCH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTimeForDPCH, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTimeForDPCH", -1, "CipheringModeInfo-r7");
-   }
-   /* rb-DL-CiphActivationTimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo);
-      RT_CHECK(ctx, stat, 0, "rb-DL-CiphActivationTimeInfo", -1, "CipheringModeInfo-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IMSI_DS_41(rtxContext* RT_RESTRICT ctx, IMSI_DS_41* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 5, 7);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "IMSI-DS-41");
-   return 0;
-}
-
-int asn1PD_UMTS_TMSI_DS_41(rtxContext* RT_RESTRICT ctx, TMSI_DS_41* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 2, 17);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "TMSI-DS-41");
-   return 0;
-}
-
-int asn1PD_UMTS_CN_PagedUE_Identity(rtxContext* RT_RESTRICT ctx, CN_PagedUE_Identity* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-PagedUE-Identity");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* imsi-GSM-MAP */
-         pvalue->u.imsi_GSM_MAP = (IMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(IMSI_GSM_MAP));
-         if (pvalue->u.imsi_GSM_MAP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imsi-GSM-MAP", -1, "CN-PagedUE-Identity");
-         asn1Init_UMTS_IMSI_GSM_MAP(pvalue->u.imsi_GSM_MAP);
-         stat = asn1PD_UMTS_IMSI_GSM_MAP(ctx, pvalue->u.imsi_GSM_MAP);
-         RT_CHECK(ctx, stat, 0, "imsi-GSM-MAP", -1, "CN-PagedUE-Identity");
-         break;
-      case 1: /* tmsi-GSM-MAP */
-         pvalue->u.tmsi_GSM_MAP = (TMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(TMSI_GSM_MAP));
-         if (pvalue->u.tmsi_GSM_MAP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tmsi-GSM-MAP", -1, "CN-PagedUE-Identity");
-         asn1Init_UMTS_TMSI_GSM_MAP(pvalue->u.tmsi_GSM_MAP);
-         stat = asn1PD_UMTS_TMSI_GSM_MAP(ctx, pvalue->u.tmsi_GSM_MAP);
-         RT_CHECK(ctx, stat, 0, "tmsi-GSM-MAP", -1, "CN-PagedUE-Identity");
-         break;
-      case 2: /* p-TMSI-GSM-MAP */
-         pvalue->u.p_TMSI_GSM_MAP = (P_TMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(P_TMSI_GSM_MAP));
-         if (pvalue->u.p_TMSI_GSM_MAP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "p-TMSI-GSM-MAP", -1, "CN-PagedUE-Identity");
-         asn1Init_UMTS_P_TMSI_GSM_MAP(pvalue->u.p_TMSI_GSM_MAP);
-         stat = asn1PD_UMTS_P_TMSI_GSM_MAP(ctx, pvalue->u.p_TMSI_GSM_MAP);
-         RT_CHECK(ctx, stat, 0, "p-TMSI-GSM-MAP", -1, "CN-PagedUE-Identity");
-         break;
-      case 3: /* imsi-DS-41 */
-         pvalue->u.imsi_DS_41 = (IMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(IMSI_DS_41));
-         if (pvalue->u.imsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imsi-DS-41", -1, "CN-PagedUE-Identity");
-         asn1Init_UMTS_IMSI_DS_41(pvalue->u.imsi_DS_41);
-         stat = asn1PD_UMTS_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41);
-         RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "CN-PagedUE-Identity");
-         break;
-      case 4: /* tmsi-DS-41 */
-         pvalue->u.tmsi_DS_41 = (TMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(TMSI_DS_41));
-         if (pvalue->u.tmsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tmsi-DS-41", -1, "CN-PagedUE-Identity");
-         asn1Init_UMTS_TMSI_DS_41(pvalue->u.tmsi_DS_41);
-         stat = asn1PD_UMTS_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41);
-         RT_CHECK(ctx, stat, 0, "tmsi-DS-41", -1, "CN-PagedUE-Identity");
-         break;
-      case 5: /* spare3 */
-         break;
-      case 6: /* spare2 */
-         break;
-      case 7: /* spare1 */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CN-PagedUE-Identity");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_Measurements(rtxContext* RT_RESTRICT ctx, GSM_Measurements* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gsm900 */
-   stat = rtxDecBitInline(ctx, &pvalue->gsm900);
-   RT_CHECK(ctx, stat, 0, "gsm900", -1, "GSM-Measurements");
-   /* dcs1800 */
-   stat = rtxDecBitInline(ctx, &pvalue->dcs1800);
-   RT_CHECK(ctx, stat, 0, "dcs1800", -1, "GSM-Measurements");
-   /* gsm1900 */
-   stat = rtxDecBitInline(ctx, &pvalue->gsm1900);
-   RT_CHECK(ctx, stat, 0, "gsm1900", -1, "GSM-Measurements");
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapability(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability");
-   /* fdd-Measurements */
-   stat = rtxDecBitInline(ctx, &pvalue->fdd_Measurements);
-   RT_CHECK(ctx, stat, 0, "fdd-Measurements", -1, "CompressedModeMeasCapability");
-   /* tdd-Measurements */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = rtxDecBitInline(ctx, &pvalue->tdd_Measurements);
-      RT_CHECK(ctx, stat, 0, "tdd-Measurements", -1, "CompressedModeMeasCapability");
-   }
-   /* gsm-Measurements */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_GSM_Measurements(ctx, &pvalue->gsm_Measurements);
-      RT_CHECK(ctx, stat, 0, "gsm-Measurements", -1, "CompressedModeMeasCapability");
-   }
-   /* multiCarrierMeasurements */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = rtxDecBitInline(ctx, &pvalue->multiCarrierMeasurements);
-      RT_CHECK(ctx, stat, 0, "multiCarrierMeasurements", -1, "CompressedModeMeasCapability");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-LCR-r4");
-   /* tdd128-Measurements */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = rtxDecBitInline(ctx, &pvalue->tdd128_Measurements);
-      RT_CHECK(ctx, stat, 0, "tdd128-Measurements", -1, "CompressedModeMeasCapability-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapability_v860ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-v860ext");
-   /* adjacentFrequencyMeasurements */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "adjacentFrequencyMeasurements", -1, "CompressedModeMeasCapability-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "adjacentFrequencyMeasurements", -1, "CompressedModeMeasCapability-v860ext");
-         pvalue->adjacentFrequencyMeasurements = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapability_v920ext_interBandMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext_interBandMeasurements* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapability_v920ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-v920ext");
-   /* interBandMeasurements */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "interBandMeasurements", -1, "CompressedModeMeasCapability-v920ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "interBandMeasurements", -1, "CompressedModeMeasCapability-v920ext");
-         pvalue->interBandMeasurements = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandEUTRA(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandEUTRA* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandEUTRA");
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabEUTRA* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* radioFrequencyBandEUTRA */
-   stat = pd_ConsUInt8(ctx, &pvalue->radioFrequencyBandEUTRA, 1, 64);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "CompressedModeMeasCapabEUTRA");
-   /* compressedMode */
-   stat = rtxDecBitInline(ctx, &pvalue->compressedMode);
-   RT_CHECK(ctx, stat, 0, "compressedMode", -1, "CompressedModeMeasCapabEUTRA");
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabEUTRAList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabEUTRAList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CompressedModeMeasCapabEUTRA* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabEUTRA));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabEUTRA", (int32_t)i, "CompressedModeMeasCapabEUTRAList");
-      elem = (CompressedModeMeasCapabEUTRA*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompressedModeMeasCapabEUTRA(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabEUTRA", (int32_t)i, "CompressedModeMeasCapabEUTRAList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabFDD(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDD");
-   /* radioFrequencyBandFDD */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD");
-   }
-   /* dl-MeasurementsFDD */
-   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsFDD);
-   RT_CHECK(ctx, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD");
-   /* ul-MeasurementsFDD */
-   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsFDD);
-   RT_CHECK(ctx, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD");
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabFDDList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CompressedModeMeasCapabFDD* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabFDD));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabFDD", (int32_t)i, "CompressedModeMeasCapabFDDList");
-      elem = (CompressedModeMeasCapabFDD*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CompressedModeMeasCapabFDD(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompressedModeMeasCapabFDD(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD", (int32_t)i, "CompressedModeMeasCapabFDDList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabFDD2(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDD2");
-   /* radioFrequencyBandFDD */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD2");
-   }
-   /* radioFrequencyBandFDD2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD2, 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD2");
-   }
-   /* dl-MeasurementsFDD */
-   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsFDD);
-   RT_CHECK(ctx, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD2");
-   /* ul-MeasurementsFDD */
-   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsFDD);
-   RT_CHECK(ctx, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD2");
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabFDDList2(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList2* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList2");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CompressedModeMeasCapabFDD2* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabFDD2));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabFDD2", (int32_t)i, "CompressedModeMeasCapabFDDList2");
-      elem = (CompressedModeMeasCapabFDD2*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CompressedModeMeasCapabFDD2(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompressedModeMeasCapabFDD2(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD2", (int32_t)i, "CompressedModeMeasCapabFDDList2");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabFDD_ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* radioFrequencyBandFDD2 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD2, 0, 15);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD-ext");
-   /* dl-MeasurementsFDD */
-   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsFDD);
-   RT_CHECK(ctx, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD-ext");
-   /* ul-MeasurementsFDD */
-   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsFDD);
-   RT_CHECK(ctx, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabFDDList_ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList-ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CompressedModeMeasCapabFDD_ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabFDD_ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabFDD-ext", (int32_t)i, "CompressedModeMeasCapabFDDList-ext");
-      elem = (CompressedModeMeasCapabFDD_ext*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompressedModeMeasCapabFDD_ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD-ext", (int32_t)i, "CompressedModeMeasCapabFDDList-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandTDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDD");
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabTDD(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* radioFrequencyBandTDD */
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandTDD, 0, 3);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandTDD", "radioFrequencyBandTDD", -1, "CompressedModeMeasCapabTDD");
-   /* dl-MeasurementsTDD */
-   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsTDD);
-   RT_CHECK(ctx, stat, 0, "dl-MeasurementsTDD", -1, "CompressedModeMeasCapabTDD");
-   /* ul-MeasurementsTDD */
-   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsTDD);
-   RT_CHECK(ctx, stat, 0, "ul-MeasurementsTDD", -1, "CompressedModeMeasCapabTDD");
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabTDDList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabTDDList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabTDDList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CompressedModeMeasCapabTDD* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabTDD));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabTDD", (int32_t)i, "CompressedModeMeasCapabTDDList");
-      elem = (CompressedModeMeasCapabTDD*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompressedModeMeasCapabTDD(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabTDD", (int32_t)i, "CompressedModeMeasCapabTDDList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandGSM(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandGSM* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandGSM");
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabGSM(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabGSM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* radioFrequencyBandGSM */
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandGSM, 0, 15);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandGSM", "radioFrequencyBandGSM", -1, "CompressedModeMeasCapabGSM");
-   /* dl-MeasurementsGSM */
-   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsGSM);
-   RT_CHECK(ctx, stat, 0, "dl-MeasurementsGSM", -1, "CompressedModeMeasCapabGSM");
-   /* ul-MeasurementsGSM */
-   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsGSM);
-   RT_CHECK(ctx, stat, 0, "ul-MeasurementsGSM", -1, "CompressedModeMeasCapabGSM");
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabGSMList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabGSMList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabGSMList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CompressedModeMeasCapabGSM* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabGSM));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabGSM", (int32_t)i, "CompressedModeMeasCapabGSMList");
-      elem = (CompressedModeMeasCapabGSM*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompressedModeMeasCapabGSM(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabGSM", (int32_t)i, "CompressedModeMeasCapabGSMList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabMC(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabMC* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dl-MeasurementsMC */
-   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsMC);
-   RT_CHECK(ctx, stat, 0, "dl-MeasurementsMC", -1, "CompressedModeMeasCapabMC");
-   /* ul-MeasurementsMC */
-   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsMC);
-   RT_CHECK(ctx, stat, 0, "ul-MeasurementsMC", -1, "CompressedModeMeasCapabMC");
-   return 0;
-}
-
-int asn1PD_UMTS_NS_IP(rtxContext* RT_RESTRICT ctx, NS_IP* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 28);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NS-IP");
-   return 0;
-}
-
-int asn1PD_UMTS_InitialPriorityDelayList(rtxContext* RT_RESTRICT ctx, InitialPriorityDelayList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "InitialPriorityDelayList");
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "InitialPriorityDelayList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InitialPriorityDelayList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 28);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "NS-IP", "NS-IP", (int32_t)i, "InitialPriorityDelayList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCCH_BER(rtxContext* RT_RESTRICT ctx, DL_DPCCH_BER* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCCH-BER");
-   return 0;
-}
-
-int asn1PD_UMTS_CPCH_Parameters(rtxContext* RT_RESTRICT ctx, CPCH_Parameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-Parameters");
-   /* initialPriorityDelayList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialPriorityDelayList(ctx, &pvalue->initialPriorityDelayList);
-      RT_CHECK(ctx, stat, 0, "initialPriorityDelayList", -1, "CPCH-Parameters");
-   }
-   /* backoffControlParams */
-   stat = asn1PD_UMTS_BackoffControlParams(ctx, &pvalue->backoffControlParams);
-   RT_CHECK(ctx, stat, 0, "backoffControlParams", -1, "CPCH-Parameters");
-   /* powerControlAlgorithm */
-   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, "CPCH-Parameters");
-   /* dl-DPCCH-BER */
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_DPCCH_BER, 0, 63);
-   RT_CHECK(ctx, stat, "DL-DPCCH-BER", "dl-DPCCH-BER", -1, "CPCH-Parameters");
-   return 0;
-}
-
-int asn1PD_UMTS_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSG_ProximityIndicationCapability(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSG-ProximityIndicationCapability");
-   /* supportOfIntraFreqProximityIndication */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfIntraFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfIntraFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
-         pvalue->supportOfIntraFreqProximityIndication = ui;
-      }
-   }
-   /* supportOfInterFreqProximityIndication */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfInterFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfInterFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
-         pvalue->supportOfInterFreqProximityIndication = ui;
-      }
-   }
-   /* supportOfE-UtraProximityIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfE-UtraProximityIndication", -1, "CSG-ProximityIndicationCapability");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfE-UtraProximityIndication", -1, "CSG-ProximityIndicationCapability");
-         pvalue->supportOfE_UtraProximityIndication = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CapabilityWithSimultaneousHS_DSCHConfig(rtxContext* RT_RESTRICT ctx, DL_CapabilityWithSimultaneousHS_DSCHConfig* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
-   return 0;
-}
-
-int asn1PD_UMTS_DPCH_FrameOffset(rtxContext* RT_RESTRICT ctx, DPCH_FrameOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 149);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DPCH-FrameOffset");
-   return 0;
-}
-
-int asn1PD_UMTS_FDPCH_SlotFormat(rtxContext* RT_RESTRICT ctx, FDPCH_SlotFormat* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FDPCH-SlotFormat");
-   return 0;
-}
-
-int asn1PD_UMTS_TPC_CombinationIndex(rtxContext* RT_RESTRICT ctx, TPC_CombinationIndex* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-CombinationIndex");
-   return 0;
-}
-
-int asn1PD_UMTS_STTDIndication(rtxContext* RT_RESTRICT ctx, STTDIndication* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "STTDIndication");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "STTDIndication");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoPerRL_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FDPCH-InfoPerRL-r7");
-   /* pCPICH-UsageForChannelEst */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r7");
-   /* fdpch-FrameOffset */
-   stat = pd_ConsUInt8(ctx, &pvalue->fdpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r7");
-   /* fdpch-SlotFormat */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->fdpch_SlotFormat, 0, 9);
-      RT_CHECK(ctx, stat, "FDPCH-SlotFormat", "fdpch-SlotFormat", -1, "DL-FDPCH-InfoPerRL-r7");
-   }
-   /* secondaryCPICH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, "DL-FDPCH-InfoPerRL-r7");
-   }
-   /* secondaryScramblingCode */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r7");
-   }
-   /* dl-ChannelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCode", -1, "DL-FDPCH-InfoPerRL-r7");
-   /* tpc-CombinationIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r7");
-   /* sttdIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "DL-FDPCH-InfoPerRL-r7");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "DL-FDPCH-InfoPerRL-r7");
-         pvalue->sttdIndication = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-RGCH-Information */
-         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerSecondaryRL(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerSecondaryRL");
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "DL-InformationPerSecondaryRL");
-   /* cell-id */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerSecondaryRL");
-   }
-   /* dl-FDPCHInfoPerRL-SecULFreq */
-   stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCHInfoPerRL_SecULFreq);
-   RT_CHECK(ctx, stat, 0, "dl-FDPCHInfoPerRL-SecULFreq", -1, "DL-InformationPerSecondaryRL");
-   /* e-AGCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerSecondaryRL");
-   }
-   /* e-HICH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "DL-InformationPerSecondaryRL");
-   }
-   /* e-RGCH-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "DL-InformationPerSecondaryRL");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerSecondaryRL_List(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerSecondaryRL-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_InformationPerSecondaryRL* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerSecondaryRL));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerSecondaryRL", (int32_t)i, "DL-InformationPerSecondaryRL-List");
-      elem = (DL_InformationPerSecondaryRL*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_InformationPerSecondaryRL(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_InformationPerSecondaryRL(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerSecondaryRL", (int32_t)i, "DL-InformationPerSecondaryRL-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MaxNoPhysChBitsReceived(rtxContext* RT_RESTRICT ctx, MaxNoPhysChBitsReceived* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoPhysChBitsReceived");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxNoSCCPCH_RL(rtxContext* RT_RESTRICT ctx, MaxNoSCCPCH_RL* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoSCCPCH-RL");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoSCCPCH-RL");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(rtxContext* RT_RESTRICT ctx, SimultaneousSCCPCH_DPCH_Reception_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxNoSCCPCH-RL */
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, "MaxNoSCCPCH-RL", "maxNoSCCPCH-RL", -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, "MaxNoSCCPCH-RL", "maxNoSCCPCH-RL", -1, 0);
-      pvalue->maxNoSCCPCH_RL = ui;
-   }
-   /* simultaneousSCCPCH-DPCH-DPDCH-Reception */
-   stat = rtxDecBitInline(ctx, &pvalue->simultaneousSCCPCH_DPCH_DPDCH_Reception);
-   RT_CHECK(ctx, stat, 0, "simultaneousSCCPCH-DPCH-DPDCH-Reception", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception(rtxContext* RT_RESTRICT ctx, SimultaneousSCCPCH_DPCH_Reception* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SimultaneousSCCPCH-DPCH-Reception");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* notSupported */
-         break;
-      case 1: /* supported */
-         pvalue->u.supported = (SimultaneousSCCPCH_DPCH_Reception_supported*)rtxMemHeapAllocZ(ctx, sizeof(SimultaneousSCCPCH_DPCH_Reception_supported));
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, "SimultaneousSCCPCH-DPCH-Reception");
-         stat = asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, "SimultaneousSCCPCH-DPCH-Reception");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SimultaneousSCCPCH-DPCH-Reception");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxNoDPCH-PDSCH-Codes */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxNoDPCH_PDSCH_Codes, 1, 8);
-   RT_CHECK(ctx, stat, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD");
-   /* maxNoPhysChBitsReceived */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoPhysChBitsReceived, 0, 14);
-   RT_CHECK(ctx, stat, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD");
-   /* supportForSF-512 */
-   stat = rtxDecBitInline(ctx, &pvalue->supportForSF_512);
-   RT_CHECK(ctx, stat, 0, "supportForSF-512", -1, "DL-PhysChCapabilityFDD");
-   /* dummy */
-   stat = rtxDecBitInline(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-PhysChCapabilityFDD");
-   /* dummy2 */
-   stat = asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PhysChCapabilityFDD");
-   return 0;
-}
-
-int asn1PD_UMTS_SupportOfDedicatedPilotsForChEstimation(rtxContext* RT_RESTRICT ctx, SupportOfDedicatedPilotsForChEstimation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "SupportOfDedicatedPilotsForChEstimation");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "SupportOfDedicatedPilotsForChEstimation");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v380ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v380ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v380ext");
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy", -1, "DL-PhysChCapabilityFDD-v380ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy", -1, "DL-PhysChCapabilityFDD-v380ext");
-         pvalue->dummy = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_physical_layer_category_ext(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v770ext");
-   /* hsdsch-physical-layer-category-ext */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext, 1, 20);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "DL-PhysChCapabilityFDD-v770ext");
-   }
-   /* hsscchlessHsdschOperation */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "hsscchlessHsdschOperation", -1, "DL-PhysChCapabilityFDD-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "hsscchlessHsdschOperation", -1, "DL-PhysChCapabilityFDD-v770ext");
-         pvalue->hsscchlessHsdschOperation = ui;
-      }
-   }
-   /* enhancedFdpch */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "enhancedFdpch", -1, "DL-PhysChCapabilityFDD-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "enhancedFdpch", -1, "DL-PhysChCapabilityFDD-v770ext");
-         pvalue->enhancedFdpch = ui;
-      }
-   }
-   /* hsdschReception-CellFach */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "hsdschReception-CellFach", -1, "DL-PhysChCapabilityFDD-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "hsdschReception-CellFach", -1, "DL-PhysChCapabilityFDD-v770ext");
-         pvalue->hsdschReception_CellFach = ui;
-      }
-   }
-   /* hsdschReception-CellUraPch */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "hsdschReception-CellUraPch", -1, "DL-PhysChCapabilityFDD-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "hsdschReception-CellUraPch", -1, "DL-PhysChCapabilityFDD-v770ext");
-         pvalue->hsdschReception_CellUraPch = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_physical_layer_category_ext2(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext2* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 21, 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext2");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v860ext");
-   /* hsdsch-physical-layer-category-ext2 */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "DL-PhysChCapabilityFDD-v860ext");
-   }
-   /* supportOfTargetCellPreConfig */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfTargetCellPreConfig", -1, "DL-PhysChCapabilityFDD-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfTargetCellPreConfig", -1, "DL-PhysChCapabilityFDD-v860ext");
-         pvalue->supportOfTargetCellPreConfig = ui;
-      }
-   }
-   /* supportOfHsdschDrxOperation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfHsdschDrxOperation", -1, "DL-PhysChCapabilityFDD-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfHsdschDrxOperation", -1, "DL-PhysChCapabilityFDD-v860ext");
-         pvalue->supportOfHsdschDrxOperation = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_physical_layer_category_ext3(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext3* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 25, 28);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext3");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v920ext");
-   /* hsdsch-physical-layer-category-ext3 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "DL-PhysChCapabilityFDD-v920ext");
-   }
-   /* supportOfMimoOnlySingleStream */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfMimoOnlySingleStream", -1, "DL-PhysChCapabilityFDD-v920ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfMimoOnlySingleStream", -1, "DL-PhysChCapabilityFDD-v920ext");
-         pvalue->supportOfMimoOnlySingleStream = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MaxTS_PerFrame(rtxContext* RT_RESTRICT ctx, MaxTS_PerFrame* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTS-PerFrame");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerFrame(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 224);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerFrame");
-   return 0;
-}
-
-int asn1PD_UMTS_MinimumSF_DL(rtxContext* RT_RESTRICT ctx, MinimumSF_DL* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSF-DL");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerTS(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTS");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxTS-PerFrame */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD");
-   /* maxPhysChPerFrame */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerFrame, 1, 224);
-   RT_CHECK(ctx, stat, "MaxPhysChPerFrame", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD");
-   /* minimumSF */
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD");
-   /* supportOfPDSCH */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD");
-   /* maxPhysChPerTS */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 16);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxTS_PerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxTS_PerSubFrame_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTS-PerSubFrame-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxPhysChPerSubFrame_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 96);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerSubFrame-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxTS-PerSubFrame */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerSubFrame, 1, 6);
-   RT_CHECK(ctx, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* maxPhysChPerFrame */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerFrame, 1, 96);
-   RT_CHECK(ctx, stat, "MaxPhysChPerSubFrame-r4", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* minimumSF */
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* supportOfPDSCH */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* maxPhysChPerTS */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 16);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* supportOf8PSK */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOf8PSK);
-   RT_CHECK(ctx, stat, 0, "supportOf8PSK", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_MultiCarrier_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v770ext");
-   /* multiCarrier-physical-layer-category */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->multiCarrier_physical_layer_category, 1, 64);
-      RT_CHECK(ctx, stat, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "DL-PhysChCapabilityTDD-128-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_extension* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-extension");
-   return 0;
-}
-
-int asn1PD_UMTS_MultiCarrier_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category_extension* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 36);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category-extension");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v860ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v860ext");
-   /* hSDSCH-physical-layer-category-extension */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->hSDSCH_physical_layer_category_extension, 1, 64);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-extension", "hSDSCH-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
-   }
-   /* multiCarrier-physical-layer-category-extension */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->multiCarrier_physical_layer_category_extension, 1, 36);
-      RT_CHECK(ctx, stat, "MultiCarrier-HSDSCH-physical-layer-category-extension", "multiCarrier-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
-   }
-   /* supportOfSFModeForHSPDSCHDualStream */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
-      RT_CHECK(ctx, stat, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "DL-PhysChCapabilityTDD-128-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerFrame_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame_768* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 1, 448);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerFrame-768");
-   return 0;
-}
-
-int asn1PD_UMTS_MinimumSF_DL_768(rtxContext* RT_RESTRICT ctx, MinimumSF_DL_768* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSF-DL-768");
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_768_tdd768_hspdsch* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* supported */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.supported, 1, 64);
-         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
-         break;
-      case 1: /* unsupported */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerTS_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS_768* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTS-768");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxTS-PerFrame */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD-768");
-   /* maxPhysChPerFrame */
-   stat = pd_ConsUInt16(ctx, &pvalue->maxPhysChPerFrame, 1, 448);
-   RT_CHECK(ctx, stat, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-768");
-   /* minimumSF */
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityTDD-768");
-   /* supportOfPDSCH */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-768");
-   /* tdd768-hspdsch */
-   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(ctx, &pvalue->tdd768_hspdsch);
-   RT_CHECK(ctx, stat, 0, "tdd768-hspdsch", -1, "DL-PhysChCapabilityTDD-768");
-   /* maxPhysChPerTS */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 32);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-768");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityInfoTDD_768(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityInfoTDD_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxTS-PerFrame */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
-   /* maxPhysChPerFrame */
-   stat = pd_ConsUInt16(ctx, &pvalue->maxPhysChPerFrame, 1, 448);
-   RT_CHECK(ctx, stat, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
-   /* minimumSF */
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityInfoTDD-768");
-   /* supportOfPDSCH */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityInfoTDD-768");
-   /* maxPhysChPerTS */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 32);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityInfoTDD-768");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxNoBits(rtxContext* RT_RESTRICT ctx, MaxNoBits* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoBits");
-   return 0;
-}
-
-int asn1PD_UMTS_TurboSupport(rtxContext* RT_RESTRICT ctx, TurboSupport* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TurboSupport");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* notSupported */
-         break;
-      case 1: /* supported */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 12);
-         RT_CHECK(ctx, stat, "MaxNoBits", "supported", -1, "TurboSupport");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TurboSupport");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MaxSimultaneousTransChsDL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsDL* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxSimultaneousTransChsDL");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxSimultaneousCCTrCH_Count(rtxContext* RT_RESTRICT ctx, MaxSimultaneousCCTrCH_Count* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxSimultaneousCCTrCH-Count");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxTransportBlocksDL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksDL* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTransportBlocksDL");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxNumberOfTFC_DL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_DL* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfTFC-DL");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxNumberOfTF(rtxContext* RT_RESTRICT ctx, MaxNumberOfTF* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfTF");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransChCapability(rtxContext* RT_RESTRICT ctx, DL_TransChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxNoBitsReceived */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoBitsReceived, 0, 12);
-   RT_CHECK(ctx, stat, "MaxNoBits", "maxNoBitsReceived", -1, "DL-TransChCapability");
-   /* maxConvCodeBitsReceived */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxConvCodeBitsReceived, 0, 12);
-   RT_CHECK(ctx, stat, "MaxNoBits", "maxConvCodeBitsReceived", -1, "DL-TransChCapability");
-   /* turboDecodingSupport */
-   stat = asn1PD_UMTS_TurboSupport(ctx, &pvalue->turboDecodingSupport);
-   RT_CHECK(ctx, stat, 0, "turboDecodingSupport", -1, "DL-TransChCapability");
-   /* maxSimultaneousTransChs */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxSimultaneousTransChs, 0, 3);
-   RT_CHECK(ctx, stat, "MaxSimultaneousTransChsDL", "maxSimultaneousTransChs", -1, "DL-TransChCapability");
-   /* maxSimultaneousCCTrCH-Count */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
-   RT_CHECK(ctx, stat, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, "DL-TransChCapability");
-   /* maxReceivedTransportBlocks */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxReceivedTransportBlocks, 0, 9);
-   RT_CHECK(ctx, stat, "MaxTransportBlocksDL", "maxReceivedTransportBlocks", -1, "DL-TransChCapability");
-   /* maxNumberOfTFC */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNumberOfTFC, 0, 8);
-   RT_CHECK(ctx, stat, "MaxNumberOfTFC-DL", "maxNumberOfTFC", -1, "DL-TransChCapability");
-   /* maxNumberOfTF */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNumberOfTF, 0, 5);
-   RT_CHECK(ctx, stat, "MaxNumberOfTF", "maxNumberOfTF", -1, "DL-TransChCapability");
-   return 0;
-}
-
-int asn1PD_UMTS_TransmissionProbability(rtxContext* RT_RESTRICT ctx, TransmissionProbability* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionProbability");
-   return 0;
-}
-
-int asn1PD_UMTS_MaximumBitRate(rtxContext* RT_RESTRICT ctx, MaximumBitRate* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaximumBitRate");
-   return 0;
-}
-
-int asn1PD_UMTS_DRAC_SysInfo(rtxContext* RT_RESTRICT ctx, DRAC_SysInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* transmissionProbability */
-   stat = pd_ConsUInt8(ctx, &pvalue->transmissionProbability, 1, 8);
-   RT_CHECK(ctx, stat, "TransmissionProbability", "transmissionProbability", -1, "DRAC-SysInfo");
-   /* maximumBitRate */
-   stat = pd_ConsUInt8(ctx, &pvalue->maximumBitRate, 0, 32);
-   RT_CHECK(ctx, stat, "MaximumBitRate", "maximumBitRate", -1, "DRAC-SysInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_DRAC_SysInfoList(rtxContext* RT_RESTRICT ctx, DRAC_SysInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DRAC-SysInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DRAC_SysInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DRAC_SysInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DRAC-SysInfo", (int32_t)i, "DRAC-SysInfoList");
-      elem = (DRAC_SysInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DRAC_SysInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DRAC-SysInfo", (int32_t)i, "DRAC-SysInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DSCH_RNTI(rtxContext* RT_RESTRICT ctx, DSCH_RNTI* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DSCH-RNTI");
-   return 0;
-}
-
-int asn1PD_UMTS_DelayRestrictionFlag(rtxContext* RT_RESTRICT ctx, DelayRestrictionFlag* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "DelayRestrictionFlag");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "DelayRestrictionFlag");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ESN_DS_41(rtxContext* RT_RESTRICT ctx, ESN_DS_41* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, pvalue, 32, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ESN-DS-41");
-   return 0;
-}
-
-int asn1PD_UMTS_EstablishmentCause(rtxContext* RT_RESTRICT ctx, EstablishmentCause* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EstablishmentCause");
-   return 0;
-}
-
-int asn1PD_UMTS_TGPSI(rtxContext* RT_RESTRICT ctx, TGPSI* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGPSI");
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorCause(rtxContext* RT_RESTRICT ctx, ProtocolErrorCause* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ProtocolErrorCause");
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation_diagnosticsType_type1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* protocolErrorCause */
-   stat = pd_ConsUnsigned(ctx, &pvalue->protocolErrorCause, 0, 7);
-   RT_CHECK(ctx, stat, "ProtocolErrorCause", "protocolErrorCause", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation_diagnosticsType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* type1 */
-         pvalue->u.type1 = (ProtocolErrorInformation_diagnosticsType_type1*)rtxMemHeapAllocZ(ctx, sizeof(ProtocolErrorInformation_diagnosticsType_type1));
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
-         stat = asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
-         break;
-      case 1: /* spare */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorInformation(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* diagnosticsType */
-   stat = asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType(ctx, &pvalue->diagnosticsType);
-   RT_CHECK(ctx, stat, 0, "diagnosticsType", -1, "ProtocolErrorInformation");
-   return 0;
-}
-
-int asn1PD_UMTS_FailureCauseWithProtErr(rtxContext* RT_RESTRICT ctx, FailureCauseWithProtErr* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FailureCauseWithProtErr");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* configurationUnsupported */
-         break;
-      case 1: /* physicalChannelFailure */
-         break;
-      case 2: /* incompatibleSimultaneousReconfiguration */
-         break;
-      case 3: /* compressedModeRuntimeError */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.compressedModeRuntimeError, 1, 6);
-         RT_CHECK(ctx, stat, "TGPSI", "compressedModeRuntimeError", -1, "FailureCauseWithProtErr");
-         break;
-      case 4: /* protocolError */
-         pvalue->u.protocolError = (ProtocolErrorInformation*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorInformation));
-         if (pvalue->u.protocolError == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "protocolError", -1, "FailureCauseWithProtErr");
-         asn1Init_UMTS_ProtocolErrorInformation(pvalue->u.protocolError);
-         stat = asn1PD_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
-         RT_CHECK(ctx, stat, 0, "protocolError", -1, "FailureCauseWithProtErr");
-         break;
-      case 5: /* cellUpdateOccurred */
-         break;
-      case 6: /* invalidConfiguration */
-         break;
-      case 7: /* configurationIncomplete */
-         break;
-      case 8: /* unsupportedMeasurement */
-         break;
-      case 9: /* mbmsSessionAlreadyReceivedCorrectly */
-         break;
-      case 10: /* lowerPriorityMBMSService */
-         break;
-      case 11: /* spare5 */
-         break;
-      case 12: /* spare4 */
-         break;
-      case 13: /* spare3 */
-         break;
-      case 14: /* spare2 */
-         break;
-      case 15: /* spare1 */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "FailureCauseWithProtErr");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRC_TransactionIdentifier(rtxContext* RT_RESTRICT ctx, RRC_TransactionIdentifier* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-TransactionIdentifier");
-   return 0;
-}
-
-int asn1PD_UMTS_FailureCauseWithProtErrTrId(rtxContext* RT_RESTRICT ctx, FailureCauseWithProtErrTrId* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "FailureCauseWithProtErrTrId");
-   /* failureCause */
-   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat, 0, "failureCause", -1, "FailureCauseWithProtErrTrId");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_Mode(rtxContext* RT_RESTRICT ctx, GANSS_Mode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-Mode");
-   return 0;
-}
-
-int asn1PD_UMTS_ReleaseCause(rtxContext* RT_RESTRICT ctx, ReleaseCause* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReleaseCause");
-   return 0;
-}
-
-int asn1PD_UMTS_RRC_ConnectionReleaseInformation_release(rtxContext* RT_RESTRICT ctx, RRC_ConnectionReleaseInformation_release* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* releaseCause */
-   stat = pd_ConsUnsigned(ctx, &pvalue->releaseCause, 0, 7);
-   RT_CHECK(ctx, stat, "ReleaseCause", "releaseCause", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RRC_ConnectionReleaseInformation(rtxContext* RT_RESTRICT ctx, RRC_ConnectionReleaseInformation* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-ConnectionReleaseInformation");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* noRelease */
-         break;
-      case 1: /* release */
-         pvalue->u.release = (RRC_ConnectionReleaseInformation_release*)rtxMemHeapAllocZ(ctx, sizeof(RRC_ConnectionReleaseInformation_release));
-         if (pvalue->u.release == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "release", -1, "RRC-ConnectionReleaseInformation");
-         stat = asn1PD_UMTS_RRC_ConnectionReleaseInformation_release(ctx, pvalue->u.release);
-         RT_CHECK(ctx, stat, 0, "release", -1, "RRC-ConnectionReleaseInformation");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRC-ConnectionReleaseInformation");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_U_RNTI_Group(rtxContext* RT_RESTRICT ctx, U_RNTI_Group* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "U-RNTI-Group");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* all */
-         break;
-      case 1: /* u-RNTI-BitMaskIndex-b1 */
-         pvalue->u.u_RNTI_BitMaskIndex_b1 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b1", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 31, 31);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b1, 31, 31);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b1", -1, "U-RNTI-Group");
-         break;
-      case 2: /* u-RNTI-BitMaskIndex-b2 */
-         pvalue->u.u_RNTI_BitMaskIndex_b2 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b2", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 30, 30);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b2, 30, 30);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b2", -1, "U-RNTI-Group");
-         break;
-      case 3: /* u-RNTI-BitMaskIndex-b3 */
-         pvalue->u.u_RNTI_BitMaskIndex_b3 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b3", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 29, 29);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b3, 29, 29);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b3", -1, "U-RNTI-Group");
-         break;
-      case 4: /* u-RNTI-BitMaskIndex-b4 */
-         pvalue->u.u_RNTI_BitMaskIndex_b4 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b4", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 28, 28);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b4, 28, 28);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b4", -1, "U-RNTI-Group");
-         break;
-      case 5: /* u-RNTI-BitMaskIndex-b5 */
-         pvalue->u.u_RNTI_BitMaskIndex_b5 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b5", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 27, 27);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b5, 27, 27);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b5", -1, "U-RNTI-Group");
-         break;
-      case 6: /* u-RNTI-BitMaskIndex-b6 */
-         pvalue->u.u_RNTI_BitMaskIndex_b6 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b6", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 26, 26);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b6, 26, 26);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b6", -1, "U-RNTI-Group");
-         break;
-      case 7: /* u-RNTI-BitMaskIndex-b7 */
-         pvalue->u.u_RNTI_BitMaskIndex_b7 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b7", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 25, 25);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b7, 25, 25);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b7", -1, "U-RNTI-Group");
-         break;
-      case 8: /* u-RNTI-BitMaskIndex-b8 */
-         pvalue->u.u_RNTI_BitMaskIndex_b8 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b8", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 24, 24);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b8, 24, 24);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b8", -1, "U-RNTI-Group");
-         break;
-      case 9: /* u-RNTI-BitMaskIndex-b9 */
-         pvalue->u.u_RNTI_BitMaskIndex_b9 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b9", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 23, 23);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b9, 23, 23);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b9", -1, "U-RNTI-Group");
-         break;
-      case 10: /* u-RNTI-BitMaskIndex-b10 */
-         pvalue->u.u_RNTI_BitMaskIndex_b10 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b10 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b10", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 22, 22);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b10, 22, 22);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b10", -1, "U-RNTI-Group");
-         break;
-      case 11: /* u-RNTI-BitMaskIndex-b11 */
-         pvalue->u.u_RNTI_BitMaskIndex_b11 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b11 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b11", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 21, 21);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b11, 21, 21);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b11", -1, "U-RNTI-Group");
-         break;
-      case 12: /* u-RNTI-BitMaskIndex-b12 */
-         pvalue->u.u_RNTI_BitMaskIndex_b12 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b12 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b12", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 20, 20);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b12, 20, 20);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b12", -1, "U-RNTI-Group");
-         break;
-      case 13: /* u-RNTI-BitMaskIndex-b13 */
-         pvalue->u.u_RNTI_BitMaskIndex_b13 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b13 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b13", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 19, 19);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b13, 19, 19);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b13", -1, "U-RNTI-Group");
-         break;
-      case 14: /* u-RNTI-BitMaskIndex-b14 */
-         pvalue->u.u_RNTI_BitMaskIndex_b14 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b14 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b14", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 18, 18);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b14, 18, 18);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b14", -1, "U-RNTI-Group");
-         break;
-      case 15: /* u-RNTI-BitMaskIndex-b15 */
-         pvalue->u.u_RNTI_BitMaskIndex_b15 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b15 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b15", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 17, 17);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b15, 17, 17);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b15", -1, "U-RNTI-Group");
-         break;
-      case 16: /* u-RNTI-BitMaskIndex-b16 */
-         pvalue->u.u_RNTI_BitMaskIndex_b16 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b16 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b16", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 16, 16);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b16, 16, 16);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b16", -1, "U-RNTI-Group");
-         break;
-      case 17: /* u-RNTI-BitMaskIndex-b17 */
-         pvalue->u.u_RNTI_BitMaskIndex_b17 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b17 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b17", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 15, 15);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b17, 15, 15);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b17", -1, "U-RNTI-Group");
-         break;
-      case 18: /* u-RNTI-BitMaskIndex-b18 */
-         pvalue->u.u_RNTI_BitMaskIndex_b18 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b18 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b18", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 14, 14);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b18, 14, 14);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b18", -1, "U-RNTI-Group");
-         break;
-      case 19: /* u-RNTI-BitMaskIndex-b19 */
-         pvalue->u.u_RNTI_BitMaskIndex_b19 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b19 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b19", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 13, 13);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b19, 13, 13);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b19", -1, "U-RNTI-Group");
-         break;
-      case 20: /* u-RNTI-BitMaskIndex-b20 */
-         pvalue->u.u_RNTI_BitMaskIndex_b20 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b20 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b20", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 12, 12);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b20, 12, 12);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b20", -1, "U-RNTI-Group");
-         break;
-      case 21: /* u-RNTI-BitMaskIndex-b21 */
-         pvalue->u.u_RNTI_BitMaskIndex_b21 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b21 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b21", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 11, 11);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b21, 11, 11);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b21", -1, "U-RNTI-Group");
-         break;
-      case 22: /* u-RNTI-BitMaskIndex-b22 */
-         pvalue->u.u_RNTI_BitMaskIndex_b22 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b22 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b22", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 10, 10);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b22, 10, 10);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b22", -1, "U-RNTI-Group");
-         break;
-      case 23: /* u-RNTI-BitMaskIndex-b23 */
-         pvalue->u.u_RNTI_BitMaskIndex_b23 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b23 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b23", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 9, 9);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b23, 9, 9);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b23", -1, "U-RNTI-Group");
-         break;
-      case 24: /* u-RNTI-BitMaskIndex-b24 */
-         pvalue->u.u_RNTI_BitMaskIndex_b24 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b24 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b24", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 8, 8);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b24, 8, 8);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b24", -1, "U-RNTI-Group");
-         break;
-      case 25: /* u-RNTI-BitMaskIndex-b25 */
-         pvalue->u.u_RNTI_BitMaskIndex_b25 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b25 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b25", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 7, 7);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b25, 7, 7);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b25", -1, "U-RNTI-Group");
-         break;
-      case 26: /* u-RNTI-BitMaskIndex-b26 */
-         pvalue->u.u_RNTI_BitMaskIndex_b26 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b26 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b26", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 6, 6);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b26, 6, 6);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b26", -1, "U-RNTI-Group");
-         break;
-      case 27: /* u-RNTI-BitMaskIndex-b27 */
-         pvalue->u.u_RNTI_BitMaskIndex_b27 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b27 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b27", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 5, 5);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b27, 5, 5);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b27", -1, "U-RNTI-Group");
-         break;
-      case 28: /* u-RNTI-BitMaskIndex-b28 */
-         pvalue->u.u_RNTI_BitMaskIndex_b28 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b28 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b28", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 4, 4);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b28, 4, 4);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b28", -1, "U-RNTI-Group");
-         break;
-      case 29: /* u-RNTI-BitMaskIndex-b29 */
-         pvalue->u.u_RNTI_BitMaskIndex_b29 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b29 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b29", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 3, 3);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b29, 3, 3);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b29", -1, "U-RNTI-Group");
-         break;
-      case 30: /* u-RNTI-BitMaskIndex-b30 */
-         pvalue->u.u_RNTI_BitMaskIndex_b30 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b30 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b30", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 2, 2);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b30, 2, 2);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b30", -1, "U-RNTI-Group");
-         break;
-      case 31: /* u-RNTI-BitMaskIndex-b31 */
-         pvalue->u.u_RNTI_BitMaskIndex_b31 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b31 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b31", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 1, 1);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b31, 1, 1);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b31", -1, "U-RNTI-Group");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "U-RNTI-Group");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GroupReleaseInformation(rtxContext* RT_RESTRICT ctx, GroupReleaseInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* uRNTI-Group */
-   stat = asn1PD_UMTS_U_RNTI_Group(ctx, &pvalue->uRNTI_Group);
-   RT_CHECK(ctx, stat, 0, "uRNTI-Group", -1, "GroupReleaseInformation");
-   return 0;
-}
-
-int asn1PD_UMTS_GroupIdentityWithReleaseInformation(rtxContext* RT_RESTRICT ctx, GroupIdentityWithReleaseInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-ConnectionReleaseInformation */
-   stat = asn1PD_UMTS_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation);
-   RT_CHECK(ctx, stat, 0, "rrc-ConnectionReleaseInformation", -1, "GroupIdentityWithReleaseInformation");
-   /* groupReleaseInformation */
-   stat = asn1PD_UMTS_GroupReleaseInformation(ctx, &pvalue->groupReleaseInformation);
-   RT_CHECK(ctx, stat, 0, "groupReleaseInformation", -1, "GroupIdentityWithReleaseInformation");
-   return 0;
-}
-
-int asn1PD_UMTS_High_MobilityDetected(rtxContext* RT_RESTRICT ctx, High_MobilityDetected* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "High-MobilityDetected");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "High-MobilityDetected");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UESpecificBehaviourInformation1idle(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1idle* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, pvalue, 4, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UESpecificBehaviourInformation1idle");
-   return 0;
-}
-
-int asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1interRAT* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UESpecificBehaviourInformation1interRAT");
-   return 0;
-}
-
-int asn1PD_UMTS_IdleIntervalMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, IdleIntervalMeasCapabEUTRA* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* radioFrequencyBandEUTRA */
-   stat = pd_ConsUInt8(ctx, &pvalue->radioFrequencyBandEUTRA, 1, 64);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "IdleIntervalMeasCapabEUTRA");
-   /* idleInterval */
-   stat = rtxDecBitInline(ctx, &pvalue->idleInterval);
-   RT_CHECK(ctx, stat, 0, "idleInterval", -1, "IdleIntervalMeasCapabEUTRA");
-   return 0;
-}
-
-int asn1PD_UMTS_IdleIntervalMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, IdleIntervalMeasCapabEUTRAList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IdleIntervalMeasCapabEUTRAList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IdleIntervalMeasCapabEUTRA* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IdleIntervalMeasCapabEUTRA));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IdleIntervalMeasCapabEUTRA", (int32_t)i, "IdleIntervalMeasCapabEUTRAList");
-      elem = (IdleIntervalMeasCapabEUTRA*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IdleIntervalMeasCapabEUTRA(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "IdleIntervalMeasCapabEUTRA", (int32_t)i, "IdleIntervalMeasCapabEUTRAList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IMSI_and_ESN_DS_41(rtxContext* RT_RESTRICT ctx, IMSI_and_ESN_DS_41* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* imsi-DS-41 */
-   stat = asn1PD_UMTS_IMSI_DS_41(ctx, &pvalue->imsi_DS_41);
-   RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "IMSI-and-ESN-DS-41");
-   /* esn-DS-41 */
-   stat = asn1PD_UMTS_ESN_DS_41(ctx, &pvalue->esn_DS_41);
-   RT_CHECK(ctx, stat, 0, "esn-DS-41", -1, "IMSI-and-ESN-DS-41");
-   return 0;
-}
-
-int asn1PD_UMTS_TMSI_and_LAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_and_LAI_GSM_MAP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tmsi */
-   stat = asn1PD_UMTS_TMSI_GSM_MAP(ctx, &pvalue->tmsi);
-   RT_CHECK(ctx, stat, 0, "tmsi", -1, "TMSI-and-LAI-GSM-MAP");
-   /* lai */
-   stat = asn1PD_UMTS_LAI(ctx, &pvalue->lai);
-   RT_CHECK(ctx, stat, 0, "lai", -1, "TMSI-and-LAI-GSM-MAP");
-   return 0;
-}
-
-int asn1PD_UMTS_P_TMSI_and_RAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_and_RAI_GSM_MAP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* p-TMSI */
-   stat = asn1PD_UMTS_P_TMSI_GSM_MAP(ctx, &pvalue->p_TMSI);
-   RT_CHECK(ctx, stat, 0, "p-TMSI", -1, "P-TMSI-and-RAI-GSM-MAP");
-   /* rai */
-   stat = asn1PD_UMTS_RAI(ctx, &pvalue->rai);
-   RT_CHECK(ctx, stat, 0, "rai", -1, "P-TMSI-and-RAI-GSM-MAP");
-   return 0;
-}
-
-int asn1PD_UMTS_InitialUE_Identity(rtxContext* RT_RESTRICT ctx, InitialUE_Identity* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InitialUE-Identity");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* imsi */
-         pvalue->u.imsi = (IMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(IMSI_GSM_MAP));
-         if (pvalue->u.imsi == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imsi", -1, "InitialUE-Identity");
-         asn1Init_UMTS_IMSI_GSM_MAP(pvalue->u.imsi);
-         stat = asn1PD_UMTS_IMSI_GSM_MAP(ctx, pvalue->u.imsi);
-         RT_CHECK(ctx, stat, 0, "imsi", -1, "InitialUE-Identity");
-         break;
-      case 1: /* tmsi-and-LAI */
-         pvalue->u.tmsi_and_LAI = (TMSI_and_LAI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(TMSI_and_LAI_GSM_MAP));
-         if (pvalue->u.tmsi_and_LAI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tmsi-and-LAI", -1, "InitialUE-Identity");
-         asn1Init_UMTS_TMSI_and_LAI_GSM_MAP(pvalue->u.tmsi_and_LAI);
-         stat = asn1PD_UMTS_TMSI_and_LAI_GSM_MAP(ctx, pvalue->u.tmsi_and_LAI);
-         RT_CHECK(ctx, stat, 0, "tmsi-and-LAI", -1, "InitialUE-Identity");
-         break;
-      case 2: /* p-TMSI-and-RAI */
-         pvalue->u.p_TMSI_and_RAI = (P_TMSI_and_RAI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(P_TMSI_and_RAI_GSM_MAP));
-         if (pvalue->u.p_TMSI_and_RAI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "p-TMSI-and-RAI", -1, "InitialUE-Identity");
-         asn1Init_UMTS_P_TMSI_and_RAI_GSM_MAP(pvalue->u.p_TMSI_and_RAI);
-         stat = asn1PD_UMTS_P_TMSI_and_RAI_GSM_MAP(ctx, pvalue->u.p_TMSI_and_RAI);
-         RT_CHECK(ctx, stat, 0, "p-TMSI-and-RAI", -1, "InitialUE-Identity");
-         break;
-      case 3: /* imei */
-         pvalue->u.imei = (IMEI*)rtxMemHeapAlloc(ctx, sizeof(IMEI));
-         if (pvalue->u.imei == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imei", -1, "InitialUE-Identity");
-         asn1Init_UMTS_IMEI(pvalue->u.imei);
-         stat = asn1PD_UMTS_IMEI(ctx, pvalue->u.imei);
-         RT_CHECK(ctx, stat, 0, "imei", -1, "InitialUE-Identity");
-         break;
-      case 4: /* esn-DS-41 */
-         pvalue->u.esn_DS_41 = (ESN_DS_41*)rtxMemHeapAlloc(ctx, sizeof(ESN_DS_41));
-         if (pvalue->u.esn_DS_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "esn-DS-41", -1, "InitialUE-Identity");
-         asn1Init_UMTS_ESN_DS_41(pvalue->u.esn_DS_41);
-         stat = asn1PD_UMTS_ESN_DS_41(ctx, pvalue->u.esn_DS_41);
-         RT_CHECK(ctx, stat, 0, "esn-DS-41", -1, "InitialUE-Identity");
-         break;
-      case 5: /* imsi-DS-41 */
-         pvalue->u.imsi_DS_41 = (IMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(IMSI_DS_41));
-         if (pvalue->u.imsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imsi-DS-41", -1, "InitialUE-Identity");
-         asn1Init_UMTS_IMSI_DS_41(pvalue->u.imsi_DS_41);
-         stat = asn1PD_UMTS_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41);
-         RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "InitialUE-Identity");
-         break;
-      case 6: /* imsi-and-ESN-DS-41 */
-         pvalue->u.imsi_and_ESN_DS_41 = (IMSI_and_ESN_DS_41*)rtxMemHeapAlloc(ctx, sizeof(IMSI_and_ESN_DS_41));
-         if (pvalue->u.imsi_and_ESN_DS_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imsi-and-ESN-DS-41", -1, "InitialUE-Identity");
-         asn1Init_UMTS_IMSI_and_ESN_DS_41(pvalue->u.imsi_and_ESN_DS_41);
-         stat = asn1PD_UMTS_IMSI_and_ESN_DS_41(ctx, pvalue->u.imsi_and_ESN_DS_41);
-         RT_CHECK(ctx, stat, 0, "imsi-and-ESN-DS-41", -1, "InitialUE-Identity");
-         break;
-      case 7: /* tmsi-DS-41 */
-         pvalue->u.tmsi_DS_41 = (TMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(TMSI_DS_41));
-         if (pvalue->u.tmsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tmsi-DS-41", -1, "InitialUE-Identity");
-         asn1Init_UMTS_TMSI_DS_41(pvalue->u.tmsi_DS_41);
-         stat = asn1PD_UMTS_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41);
-         RT_CHECK(ctx, stat, 0, "tmsi-DS-41", -1, "InitialUE-Identity");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InitialUE-Identity");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MessageAuthenticationCode(rtxContext* RT_RESTRICT ctx, MessageAuthenticationCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, pvalue, 32, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MessageAuthenticationCode");
-   return 0;
-}
-
-int asn1PD_UMTS_RRC_MessageSequenceNumber(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumber* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-MessageSequenceNumber");
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityCheckInfo(rtxContext* RT_RESTRICT ctx, IntegrityCheckInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* messageAuthenticationCode */
-   stat = asn1PD_UMTS_MessageAuthenticationCode(ctx, &pvalue->messageAuthenticationCode);
-   RT_CHECK(ctx, stat, 0, "messageAuthenticationCode", -1, "IntegrityCheckInfo");
-   /* rrc-MessageSequenceNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_MessageSequenceNumber, 0, 15);
-   RT_CHECK(ctx, stat, "RRC-MessageSequenceNumber", "rrc-MessageSequenceNumber", -1, "IntegrityCheckInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_RRC_MessageSequenceNumberList(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumberList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RRC-MessageSequenceNumberList");
-      pvalue->n = raw + 4;
-      if (raw > 1) {
-         rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumberList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RRC-MessageSequenceNumberList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "RRC-MessageSequenceNumber", "RRC-MessageSequenceNumber", (int32_t)i, "RRC-MessageSequenceNumberList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtActivationInfo(rtxContext* RT_RESTRICT ctx, IntegrityProtActivationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-MessageSequenceNumberList */
-   stat = asn1PD_UMTS_RRC_MessageSequenceNumberList(ctx, &pvalue->rrc_MessageSequenceNumberList);
-   RT_CHECK(ctx, stat, 0, "rrc-MessageSequenceNumberList", -1, "IntegrityProtActivationInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionAlgorithm(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionAlgorithm");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionAlgorithm");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionAlgorithm_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionAlgorithm-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtInitNumber(rtxContext* RT_RESTRICT ctx, IntegrityProtInitNumber* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, pvalue, 32, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtInitNumber");
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand_startIntegrityProtection* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* integrityProtInitNumber */
-   stat = asn1PD_UMTS_IntegrityProtInitNumber(ctx, &pvalue->integrityProtInitNumber);
-   RT_CHECK(ctx, stat, 0, "integrityProtInitNumber", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionModeCommand_modify(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand_modify* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dl-IntegrityProtActivationInfo */
-   stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->dl_IntegrityProtActivationInfo);
-   RT_CHECK(ctx, stat, 0, "dl-IntegrityProtActivationInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionModeCommand(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionModeCommand");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* startIntegrityProtection */
-         pvalue->u.startIntegrityProtection = (IntegrityProtectionModeCommand_startIntegrityProtection*)rtxMemHeapAlloc(ctx, sizeof(IntegrityProtectionModeCommand_startIntegrityProtection));
-         if (pvalue->u.startIntegrityProtection == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "startIntegrityProtection", -1, "IntegrityProtectionModeCommand");
-         asn1Init_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(pvalue->u.startIntegrityProtection);
-         stat = asn1PD_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(ctx, pvalue->u.startIntegrityProtection);
-         RT_CHECK(ctx, stat, 0, "startIntegrityProtection", -1, "IntegrityProtectionModeCommand");
-         break;
-      case 1: /* modify */
-         pvalue->u.modify = (IntegrityProtectionModeCommand_modify*)rtxMemHeapAlloc(ctx, sizeof(IntegrityProtectionModeCommand_modify));
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "modify", -1, "IntegrityProtectionModeCommand");
-         asn1Init_UMTS_IntegrityProtectionModeCommand_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_IntegrityProtectionModeCommand_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "IntegrityProtectionModeCommand");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntegrityProtectionModeCommand");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionModeInfo(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionModeInfo");
-   /* integrityProtectionModeCommand */
-   stat = asn1PD_UMTS_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand);
-   RT_CHECK(ctx, stat, 0, "integrityProtectionModeCommand", -1, "IntegrityProtectionModeInfo");
-   /* integrityProtectionAlgorithm */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "IntegrityProtectionAlgorithm", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "IntegrityProtectionAlgorithm", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo");
-         pvalue->integrityProtectionAlgorithm = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionModeInfo_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionModeInfo-r7");
-   /* integrityProtectionModeCommand */
-   stat = asn1PD_UMTS_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand);
-   RT_CHECK(ctx, stat, 0, "integrityProtectionModeCommand", -1, "IntegrityProtectionModeInfo-r7");
-   /* integrityProtectionAlgorithm */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->integrityProtectionAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat, "IntegrityProtectionAlgorithm-r7", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MaxHcContextSpace(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxHcContextSpace");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxHcContextSpace_r5_ext(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace_r5_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxHcContextSpace-r5-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxROHC_ContextSessions_r4(rtxContext* RT_RESTRICT ctx, MaxROHC_ContextSessions_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxROHC-ContextSessions-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_MaximumAM_EntityNumberRLC_Cap(rtxContext* RT_RESTRICT ctx, MaximumAM_EntityNumberRLC_Cap* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaximumAM-EntityNumberRLC-Cap");
-   return 0;
-}
-
-int asn1PD_UMTS_MaximumRLC_WindowSize(rtxContext* RT_RESTRICT ctx, MaximumRLC_WindowSize* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaximumRLC-WindowSize");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxNoDPDCH_BitsTransmitted(rtxContext* RT_RESTRICT ctx, MaxNoDPDCH_BitsTransmitted* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoDPDCH-BitsTransmitted");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxNumberOfTFC_UL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_UL* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfTFC-UL");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerTimeslot(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTimeslot");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerTimeslot_LCR_r7(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot_LCR_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTimeslot-LCR-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxSimultaneousTransChsUL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsUL* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxSimultaneousTransChsUL");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxTransportBlocksUL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksUL* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTransportBlocksUL");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapability(rtxContext* RT_RESTRICT ctx, MeasurementCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkCompressedMode */
-   stat = asn1PD_UMTS_CompressedModeMeasCapability(ctx, &pvalue->downlinkCompressedMode);
-   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability");
-   /* uplinkCompressedMode */
-   stat = asn1PD_UMTS_CompressedModeMeasCapability(ctx, &pvalue->uplinkCompressedMode);
-   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode", -1, "MeasurementCapability");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapabilityExt(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityExt");
-   /* compressedModeMeasCapabFDDList */
-   stat = asn1PD_UMTS_CompressedModeMeasCapabFDDList(ctx, &pvalue->compressedModeMeasCapabFDDList);
-   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList", -1, "MeasurementCapabilityExt");
-   /* compressedModeMeasCapabTDDList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabTDDList", -1, "MeasurementCapabilityExt");
-   }
-   /* compressedModeMeasCapabGSMList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabGSMList", -1, "MeasurementCapabilityExt");
-   }
-   /* compressedModeMeasCapabMC */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabMC", -1, "MeasurementCapabilityExt");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapabilityExt2(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityExt2");
-   /* compressedModeMeasCapabFDDList */
-   stat = asn1PD_UMTS_CompressedModeMeasCapabFDDList2(ctx, &pvalue->compressedModeMeasCapabFDDList);
-   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList", -1, "MeasurementCapabilityExt2");
-   /* compressedModeMeasCapabTDDList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabTDDList", -1, "MeasurementCapabilityExt2");
-   }
-   /* compressedModeMeasCapabGSMList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabGSMList", -1, "MeasurementCapabilityExt2");
-   }
-   /* compressedModeMeasCapabMC */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabMC", -1, "MeasurementCapabilityExt2");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapabilityExt3(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityExt3");
-   /* compressedModeMeasCapabEUTRAList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabEUTRAList(ctx, &pvalue->compressedModeMeasCapabEUTRAList);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabEUTRAList", -1, "MeasurementCapabilityExt3");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapability_r4_ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkCompressedMode-LCR */
-   stat = asn1PD_UMTS_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->downlinkCompressedMode_LCR);
-   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode-LCR", -1, "MeasurementCapability-r4-ext");
-   /* uplinkCompressedMode-LCR */
-   stat = asn1PD_UMTS_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->uplinkCompressedMode_LCR);
-   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode-LCR", -1, "MeasurementCapability-r4-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapability_v860ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkCompressedMode */
-   stat = asn1PD_UMTS_CompressedModeMeasCapability_v860ext(ctx, &pvalue->downlinkCompressedMode);
-   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-v860ext");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapability_v920ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkCompressedMode */
-   stat = asn1PD_UMTS_CompressedModeMeasCapability_v920ext(ctx, &pvalue->downlinkCompressedMode);
-   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-v920ext");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapabilityTDD(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityTDD");
-   /* idleIntervalMeasCapabEUTRAList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IdleIntervalMeasCapabEUTRAList(ctx, &pvalue->idleIntervalMeasCapabEUTRAList);
-      RT_CHECK(ctx, stat, 0, "idleIntervalMeasCapabEUTRAList", -1, "MeasurementCapabilityTDD");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MinimumSF_UL(rtxContext* RT_RESTRICT ctx, MinimumSF_UL* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSF-UL");
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeCapability(rtxContext* RT_RESTRICT ctx, MultiModeCapability* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeCapability");
-   return 0;
-}
-
-int asn1PD_UMTS_MultiRAT_Capability(rtxContext* RT_RESTRICT ctx, MultiRAT_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* supportOfGSM */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfGSM);
-   RT_CHECK(ctx, stat, 0, "supportOfGSM", -1, "MultiRAT-Capability");
-   /* supportOfMulticarrier */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfMulticarrier);
-   RT_CHECK(ctx, stat, 0, "supportOfMulticarrier", -1, "MultiRAT-Capability");
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v590ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* supportOfUTRAN-ToGERAN-NACC */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfUTRAN_ToGERAN_NACC);
-   RT_CHECK(ctx, stat, 0, "supportOfUTRAN-ToGERAN-NACC", -1, "MultiModeRAT-Capability-v590ext");
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v680ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeRAT-Capability-v680ext");
-   /* supportOfHandoverToGAN */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfHandoverToGAN", -1, "MultiModeRAT-Capability-v680ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfHandoverToGAN", -1, "MultiModeRAT-Capability-v680ext");
-         pvalue->supportOfHandoverToGAN = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v770ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeRAT-Capability-v770ext");
-   /* supportOfPSHandoverToGAN */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfPSHandoverToGAN", -1, "MultiModeRAT-Capability-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfPSHandoverToGAN", -1, "MultiModeRAT-Capability-v770ext");
-         pvalue->supportOfPSHandoverToGAN = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v860ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeRAT-Capability-v860ext");
-   /* supportOfEUTRAFDD */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
-         pvalue->supportOfEUTRAFDD = ui;
-      }
-   }
-   /* supportOfInterRATHOToEUTRAFDD */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfInterRATHOToEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfInterRATHOToEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
-         pvalue->supportOfInterRATHOToEUTRAFDD = ui;
-      }
-   }
-   /* supportOfEUTRATDD */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
-         pvalue->supportOfEUTRATDD = ui;
-      }
-   }
-   /* supportOfInterRATHOToEUTRATDD */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfInterRATHOToEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfInterRATHOToEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
-         pvalue->supportOfInterRATHOToEUTRATDD = ui;
-      }
-   }
-   /* eutraFeatureGroupIndicators */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      RT_SET_SIZE(ctx, 4, 4);
-      stat = pd_BitString32(ctx, &pvalue->eutraFeatureGroupIndicators, 4, 4);
-      RT_CHECK(ctx, stat, 0, "eutraFeatureGroupIndicators", -1, "MultiModeRAT-Capability-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_N_308(rtxContext* RT_RESTRICT ctx, N_308* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-308");
-   return 0;
-}
-
-int asn1PD_UMTS_N_312_r5(rtxContext* RT_RESTRICT ctx, N_312_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-312-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_N_315_r5(rtxContext* RT_RESTRICT ctx, N_315_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-315-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NeighCellSI_AcquisitionCapability(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NeighCellSI-AcquisitionCapability");
-   /* supportOfIntraFreqSIAcquisitionForHO */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfIntraFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfIntraFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
-         pvalue->supportOfIntraFreqSIAcquisitionForHO = ui;
-      }
-   }
-   /* supportOfInterFreqSIAcquisitionForHO */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfInterFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfInterFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
-         pvalue->supportOfInterFreqSIAcquisitionForHO = ui;
-      }
-   }
-   /* supportOfE-UtraSIAcquisitionForHO */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfE-UtraSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfE-UtraSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
-         pvalue->supportOfE_UtraSIAcquisitionForHO = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_element_gANSS_Id(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element_gANSS_Id* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_Signal_Id(rtxContext* RT_RESTRICT ctx, GANSS_Signal_Id* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-Signal-Id");
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_element(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* gANSS-Id */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->gANSS_Id, 0, 7);
-      RT_CHECK(ctx, stat, 0, "gANSS-Id", -1, 0);
-   }
-   /* gANSS-Mode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->gANSS_Mode, 0, 3);
-   RT_CHECK(ctx, stat, "GANSS-Mode", "gANSS-Mode", -1, 0);
-   /* gANSS-SignalId */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->gANSS_SignalId, 0, 7);
-      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "gANSS-SignalId", -1, 0);
-   }
-   /* supportForUE-GANSS-TimingOfCellFrames */
-   stat = rtxDecBitInline(ctx, &pvalue->supportForUE_GANSS_TimingOfCellFrames);
-   RT_CHECK(ctx, stat, 0, "supportForUE-GANSS-TimingOfCellFrames", -1, 0);
-   /* supportForUE-GANSS-CarrierPhaseMeasurement */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForUE_GANSS_CarrierPhaseMeasurement);
-      RT_CHECK(ctx, stat, 0, "supportForUE-GANSS-CarrierPhaseMeasurement", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NetworkAssistedGANSS-Supported-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NetworkAssistedGANSS_Supported_List_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NetworkAssistedGANSS_Supported_List_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List");
-      elem = (NetworkAssistedGANSS_Supported_List_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NetworkAssistedGANSS_Supported_List_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sbas-Ids */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->sbas_Ids, 8, 8);
-      RT_CHECK(ctx, stat, 0, "sbas-Ids", -1, 0);
-   }
-   /* gANSS-SignalIds */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->gANSS_SignalIds, 8, 8);
-      RT_CHECK(ctx, stat, 0, "gANSS-SignalIds", -1, 0);
-   }
-   /* non-native-AD-choices-supported */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "non-native-AD-choices-supported", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "non-native-AD-choices-supported", -1, 0);
-         pvalue->non_native_AD_choices_supported = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NetworkAssistedGANSS-Supported-List-v860ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NetworkAssistedGANSS_Supported_List_v860ext_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NetworkAssistedGANSS_Supported_List_v860ext_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List-v860ext");
-      elem = (NetworkAssistedGANSS_Supported_List_v860ext_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGPS_Supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGPS_Supported* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NetworkAssistedGPS-Supported");
-   return 0;
-}
-
-int asn1PD_UMTS_PagingCause(rtxContext* RT_RESTRICT ctx, PagingCause* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingCause");
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord_cn_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord_cn_Identity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pagingCause */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, 0);
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
-   /* cn-pagedUE-Identity */
-   stat = asn1PD_UMTS_CN_PagedUE_Identity(ctx, &pvalue->cn_pagedUE_Identity);
-   RT_CHECK(ctx, stat, 0, "cn-pagedUE-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SRNC_Identity(rtxContext* RT_RESTRICT ctx, SRNC_Identity* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, pvalue, 12, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-Identity");
-   return 0;
-}
-
-int asn1PD_UMTS_S_RNTI(rtxContext* RT_RESTRICT ctx, S_RNTI* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 20, 20);
-   stat = pd_BitString32(ctx, pvalue, 20, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "S-RNTI");
-   return 0;
-}
-
-int asn1PD_UMTS_U_RNTI(rtxContext* RT_RESTRICT ctx, U_RNTI* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* srnc-Identity */
-   stat = asn1PD_UMTS_SRNC_Identity(ctx, &pvalue->srnc_Identity);
-   RT_CHECK(ctx, stat, 0, "srnc-Identity", -1, "U-RNTI");
-   /* s-RNTI */
-   stat = asn1PD_UMTS_S_RNTI(ctx, &pvalue->s_RNTI);
-   RT_CHECK(ctx, stat, 0, "s-RNTI", -1, "U-RNTI");
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pagingCause */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, 0);
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
-   /* pagingRecordTypeID */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingRecordTypeID, 0, 3);
-   RT_CHECK(ctx, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord_utran_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord_utran_Identity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* u-RNTI */
-   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
-   /* cn-OriginatedPage-connectedMode-UE */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE);
-      RT_CHECK(ctx, stat, 0, "cn-OriginatedPage-connectedMode-UE", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord(rtxContext* RT_RESTRICT ctx, PagingRecord* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingRecord");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cn-Identity */
-         pvalue->u.cn_Identity = (PagingRecord_cn_Identity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord_cn_Identity));
-         if (pvalue->u.cn_Identity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cn-Identity", -1, "PagingRecord");
-         asn1Init_UMTS_PagingRecord_cn_Identity(pvalue->u.cn_Identity);
-         stat = asn1PD_UMTS_PagingRecord_cn_Identity(ctx, pvalue->u.cn_Identity);
-         RT_CHECK(ctx, stat, 0, "cn-Identity", -1, "PagingRecord");
-         break;
-      case 1: /* utran-Identity */
-         pvalue->u.utran_Identity = (PagingRecord_utran_Identity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord_utran_Identity));
-         if (pvalue->u.utran_Identity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utran-Identity", -1, "PagingRecord");
-         asn1Init_UMTS_PagingRecord_utran_Identity(pvalue->u.utran_Identity);
-         stat = asn1PD_UMTS_PagingRecord_utran_Identity(ctx, pvalue->u.utran_Identity);
-         RT_CHECK(ctx, stat, 0, "utran-Identity", -1, "PagingRecord");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PagingRecord");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pagingCause */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, 0);
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
-   /* pagingRecordTypeID */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingRecordTypeID, 0, 3);
-   RT_CHECK(ctx, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_SingleUE_Identity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* u-RNTI */
-   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
-   /* cn-OriginatedPage-connectedMode-UE */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE);
-      RT_CHECK(ctx, stat, 0, "cn-OriginatedPage-connectedMode-UE", -1, 0);
-   }
-   /* rrc-ConnectionReleaseInformation */
-   stat = asn1PD_UMTS_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation);
-   RT_CHECK(ctx, stat, 0, "rrc-ConnectionReleaseInformation", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord2_r5_utran_GroupIdentity(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_GroupIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GroupIdentityWithReleaseInformation* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GroupIdentityWithReleaseInformation));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GroupIdentityWithReleaseInformation", (int32_t)i, 0);
-      elem = (GroupIdentityWithReleaseInformation*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GroupIdentityWithReleaseInformation(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GroupIdentityWithReleaseInformation(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GroupIdentityWithReleaseInformation", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord2_r5(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingRecord2-r5");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* utran-SingleUE-Identity */
-         pvalue->u.utran_SingleUE_Identity = (PagingRecord2_r5_utran_SingleUE_Identity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord2_r5_utran_SingleUE_Identity));
-         if (pvalue->u.utran_SingleUE_Identity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utran-SingleUE-Identity", -1, "PagingRecord2-r5");
-         asn1Init_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(pvalue->u.utran_SingleUE_Identity);
-         stat = asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(ctx, pvalue->u.utran_SingleUE_Identity);
-         RT_CHECK(ctx, stat, 0, "utran-SingleUE-Identity", -1, "PagingRecord2-r5");
-         break;
-      case 1: /* utran-GroupIdentity */
-         pvalue->u.utran_GroupIdentity = (PagingRecord2_r5_utran_GroupIdentity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord2_r5_utran_GroupIdentity));
-         if (pvalue->u.utran_GroupIdentity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utran-GroupIdentity", -1, "PagingRecord2-r5");
-         asn1Init_UMTS_PagingRecord2_r5_utran_GroupIdentity(pvalue->u.utran_GroupIdentity);
-         stat = asn1PD_UMTS_PagingRecord2_r5_utran_GroupIdentity(ctx, pvalue->u.utran_GroupIdentity);
-         RT_CHECK(ctx, stat, 0, "utran-GroupIdentity", -1, "PagingRecord2-r5");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PagingRecord2-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecordList(rtxContext* RT_RESTRICT ctx, PagingRecordList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingRecordList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PagingRecord* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PagingRecord));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PagingRecord", (int32_t)i, "PagingRecordList");
-      elem = (PagingRecord*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PagingRecord(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PagingRecord(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PagingRecord", (int32_t)i, "PagingRecordList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord2List_r5(rtxContext* RT_RESTRICT ctx, PagingRecord2List_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingRecord2List-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PagingRecord2_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PagingRecord2_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PagingRecord2-r5", (int32_t)i, "PagingRecord2List-r5");
-      elem = (PagingRecord2_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PagingRecord2_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PagingRecord2_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PagingRecord2-r5", (int32_t)i, "PagingRecord2List-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_supportForRfc2507(rtxContext* RT_RESTRICT ctx, PDCP_Capability_supportForRfc2507* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* notSupported */
-         break;
-      case 1: /* supported */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 4);
-         RT_CHECK(ctx, stat, "MaxHcContextSpace", "supported", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability(rtxContext* RT_RESTRICT ctx, PDCP_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* losslessSRNS-RelocationSupport */
-   stat = rtxDecBitInline(ctx, &pvalue->losslessSRNS_RelocationSupport);
-   RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocationSupport", -1, "PDCP-Capability");
-   /* supportForRfc2507 */
-   stat = asn1PD_UMTS_PDCP_Capability_supportForRfc2507(ctx, &pvalue->supportForRfc2507);
-   RT_CHECK(ctx, stat, 0, "supportForRfc2507", -1, "PDCP-Capability");
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext_supportForRfc3095_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* maxROHC-ContextSessions */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxROHC_ContextSessions, 0, 13);
-      RT_CHECK(ctx, stat, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
-   }
-   else {
-      pvalue->maxROHC_ContextSessions = 4;
-   }
-   /* reverseCompressionDepth */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt16(ctx, &pvalue->reverseCompressionDepth, 0, 65535);
-      RT_CHECK(ctx, stat, 0, "reverseCompressionDepth", -1, 0);
-   }
-   else {
-      pvalue->reverseCompressionDepth = 0;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext_supportForRfc3095* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* notSupported */
-         break;
-      case 1: /* supported */
-         pvalue->u.supported = (PDCP_Capability_r4_ext_supportForRfc3095_supported*)rtxMemHeapAlloc(ctx, sizeof(PDCP_Capability_r4_ext_supportForRfc3095_supported));
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
-         asn1Init_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(pvalue->u.supported);
-         stat = asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* supportForRfc3095 */
-   stat = asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(ctx, &pvalue->supportForRfc3095);
-   RT_CHECK(ctx, stat, 0, "supportForRfc3095", -1, "PDCP-Capability-r4-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-r5-ext");
-   /* supportForRfc3095ContextRelocation */
-   stat = rtxDecBitInline(ctx, &pvalue->supportForRfc3095ContextRelocation);
-   RT_CHECK(ctx, stat, 0, "supportForRfc3095ContextRelocation", -1, "PDCP-Capability-r5-ext");
-   /* maxHcContextSpace */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxHcContextSpace, 0, 3);
-      RT_CHECK(ctx, stat, "MaxHcContextSpace-r5-ext", "maxHcContextSpace", -1, "PDCP-Capability-r5-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_r5_ext2(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-r5-ext2");
-   /* losslessDLRLC-PDUSizeChange */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r5-ext2");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r5-ext2");
-         pvalue->losslessDLRLC_PDUSizeChange = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_v770ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-v770ext");
-   /* supportForCSVoiceoverHSPA */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "PDCP-Capability-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "PDCP-Capability-v770ext");
-         pvalue->supportForCSVoiceoverHSPA = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxNoDPDCH-BitsTransmitted */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
-   RT_CHECK(ctx, stat, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD");
-   /* dummy */
-   stat = rtxDecBitInline(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-PhysChCapabilityFDD");
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_fddPhysChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityFDD(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxTS-PerFrame */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD");
-   /* maxPhysChPerTimeslot */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxPhysChPerTimeslot, 0, 1);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD");
-   /* minimumSF */
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 4);
-   RT_CHECK(ctx, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD");
-   /* supportOfPUSCH */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPUSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD");
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_tddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_tddPhysChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability");
-   /* fddPhysChCapability */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability");
-   }
-   /* tddPhysChCapability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_tddPhysChCapability(ctx, &pvalue->tddPhysChCapability);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability", -1, "PhysicalChannelCapability");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_slotFormat4* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-PhysChCapabilityFDD-v770ext");
-   /* edch-PhysicalLayerCategory-extension */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
-      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension", -1, "UL-PhysChCapabilityFDD-v770ext");
-   }
-   /* discontinuousDpcchTransmission */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "UL-PhysChCapabilityFDD-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "UL-PhysChCapabilityFDD-v770ext");
-         pvalue->discontinuousDpcchTransmission = ui;
-      }
-   }
-   /* slotFormat4 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "slotFormat4", -1, "UL-PhysChCapabilityFDD-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "slotFormat4", -1, "UL-PhysChCapabilityFDD-v770ext");
-         pvalue->slotFormat4 = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_fddPhysChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tdd-edch-PhysicalLayerCategory */
-   stat = pd_ConsUInt8(ctx, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
-   RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* supported */
-         pvalue->u.supported = (UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported));
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
-         stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      case 1: /* unsupported */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tdd384-edch */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(ctx, &pvalue->tdd384_edch);
-   RT_CHECK(ctx, stat, 0, "tdd384-edch", -1, "UL-PhysChCapabilityTDD-384-v770ext");
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* uplinkPhysChCapability */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768_tdd384_edch_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tdd-edch-PhysicalLayerCategory */
-   stat = pd_ConsUInt8(ctx, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
-   RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768_tdd384_edch* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* supported */
-         pvalue->u.supported = (UL_PhysChCapabilityTDD_768_tdd384_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(UL_PhysChCapabilityTDD_768_tdd384_edch_supported));
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
-         stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      case 1: /* unsupported */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxTS-PerFrame */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD-768");
-   /* maxPhysChPerTimeslot */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxPhysChPerTimeslot, 0, 1);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-768");
-   /* minimumSF */
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 4);
-   RT_CHECK(ctx, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-768");
-   /* supportOfPUSCH */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPUSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD-768");
-   /* tdd384-edch */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(ctx, &pvalue->tdd384_edch);
-   RT_CHECK(ctx, stat, 0, "tdd384-edch", -1, "UL-PhysChCapabilityTDD-768");
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_768(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_768(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tdd-edch-PhysicalLayerCategory */
-   stat = pd_ConsUInt8(ctx, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
-   RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* supported */
-         pvalue->u.supported = (UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported));
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
-         stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      case 1: /* unsupported */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxPhysChPerTimeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTimeslot, 1, 4);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-128-v770ext");
-   /* tdd128-edch */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(ctx, &pvalue->tdd128_edch);
-   RT_CHECK(ctx, stat, 0, "tdd128-edch", -1, "UL-PhysChCapabilityTDD-128-v770ext");
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v770ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-v770ext");
-   /* fddPhysChCapability */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v770ext");
-   }
-   /* tddPhysChCapability-384 */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(ctx, &pvalue->tddPhysChCapability_384);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-384", -1, "PhysicalChannelCapability-v770ext");
-   }
-   /* tddPhysChCapability-768 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-768", -1, "PhysicalChannelCapability-v770ext");
-   }
-   /* tddPhysChCapability-128 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapability-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext_fddPhysChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v860ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v860ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-v860ext");
-   /* fddPhysChCapability */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v860ext");
-   }
-   /* tddPhysChCapability-128 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapability-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-PhysChCapabilityFDD-v920ext");
-   /* edch-PhysicalLayerCategory-extension2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
-      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension2", -1, "UL-PhysChCapabilityFDD-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v920ext_fddPhysChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v920ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-v920ext");
-   /* fddPhysChCapability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   stat = asn1PD_UMTS_DL_PhysChCapabilityInfoTDD_768(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityInfoTDD_128_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxPhysChPerTimeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTimeslot, 1, 4);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityInfoTDD-128-v770ext");
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* uplinkPhysChCapability */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapabilityInfo-v770ext");
-   /* tddPhysChCapability-768 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-768", -1, "PhysicalChannelCapabilityInfo-v770ext");
-   }
-   /* tddPhysChCapability-128 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapabilityInfo-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxTS-PerSubFrame */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerSubFrame, 1, 6);
-   RT_CHECK(ctx, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   /* maxPhysChPerTimeslot */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxPhysChPerTimeslot, 0, 1);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   /* minimumSF */
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 4);
-   RT_CHECK(ctx, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   /* supportOfPUSCH */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPUSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   /* supportOf8PSK */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOf8PSK);
-   RT_CHECK(ctx, stat, 0, "supportOf8PSK", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-LCR-r4");
-   /* tdd128-PhysChCapability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(ctx, &pvalue->tdd128_PhysChCapability);
-      RT_CHECK(ctx, stat, 0, "tdd128-PhysChCapability", -1, "PhysicalChannelCapability-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* hsdsch-physical-layer-category */
-   stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category, 1, 64);
-   RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "hsdsch-physical-layer-category", -1, 0);
-   /* dummy */
-   stat = rtxDecBitInline(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   /* dummy2 */
-   stat = rtxDecBitInline(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* supported */
-         pvalue->u.supported = (PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported));
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
-         stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      case 1: /* unsupported */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* supported */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.supported, 1, 64);
-         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
-         break;
-      case 1: /* unsupported */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* supported */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.supported, 1, 64);
-         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
-         break;
-      case 1: /* unsupported */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* fdd-hspdsch */
-   stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(ctx, &pvalue->fdd_hspdsch);
-   RT_CHECK(ctx, stat, 0, "fdd-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
-   /* tdd384-hspdsch */
-   stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(ctx, &pvalue->tdd384_hspdsch);
-   RT_CHECK(ctx, stat, 0, "tdd384-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
-   /* tdd128-hspdsch */
-   stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(ctx, &pvalue->tdd128_hspdsch);
-   RT_CHECK(ctx, stat, 0, "tdd128-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_Pre_RedirectionInfo(rtxContext* RT_RESTRICT ctx, Pre_RedirectionInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* supportEUTRA-FDD */
-   stat = rtxDecBitInline(ctx, &pvalue->supportEUTRA_FDD);
-   RT_CHECK(ctx, stat, 0, "supportEUTRA-FDD", -1, "Pre-RedirectionInfo");
-   /* supportEUTRA-TDD */
-   stat = rtxDecBitInline(ctx, &pvalue->supportEUTRA_TDD);
-   RT_CHECK(ctx, stat, 0, "supportEUTRA-TDD", -1, "Pre-RedirectionInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorIndicator(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ProtocolErrorIndicator");
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicatorWithMoreInfo_errorOccurred* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* protocolErrorInformation */
-   stat = asn1PD_UMTS_ProtocolErrorInformation(ctx, &pvalue->protocolErrorInformation);
-   RT_CHECK(ctx, stat, 0, "protocolErrorInformation", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicatorWithMoreInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ProtocolErrorIndicatorWithMoreInfo");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* noError */
-         break;
-      case 1: /* errorOccurred */
-         pvalue->u.errorOccurred = (ProtocolErrorIndicatorWithMoreInfo_errorOccurred*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorIndicatorWithMoreInfo_errorOccurred));
-         if (pvalue->u.errorOccurred == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "errorOccurred", -1, "ProtocolErrorIndicatorWithMoreInfo");
-         asn1Init_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(pvalue->u.errorOccurred);
-         stat = asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(ctx, pvalue->u.errorOccurred);
-         RT_CHECK(ctx, stat, 0, "errorOccurred", -1, "ProtocolErrorIndicatorWithMoreInfo");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ProtocolErrorIndicatorWithMoreInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ReceivedMessageType(rtxContext* RT_RESTRICT ctx, ReceivedMessageType* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReceivedMessageType");
-   return 0;
-}
-
-int asn1PD_UMTS_IdentificationOfReceivedMessage(rtxContext* RT_RESTRICT ctx, IdentificationOfReceivedMessage* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "IdentificationOfReceivedMessage");
-   /* receivedMessageType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->receivedMessageType, 0, 31);
-   RT_CHECK(ctx, stat, "ReceivedMessageType", "receivedMessageType", -1, "IdentificationOfReceivedMessage");
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation_diagnosticsType_type1* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* asn1-ViolationOrEncodingError */
-         break;
-      case 1: /* messageTypeNonexistent */
-         break;
-      case 2: /* messageNotCompatibleWithReceiverState */
-         pvalue->u.messageNotCompatibleWithReceiverState = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
-         if (pvalue->u.messageNotCompatibleWithReceiverState == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "messageNotCompatibleWithReceiverState", -1, 0);
-         stat = asn1PD_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.messageNotCompatibleWithReceiverState);
-         RT_CHECK(ctx, stat, 0, "messageNotCompatibleWithReceiverState", -1, 0);
-         break;
-      case 3: /* ie-ValueNotComprehended */
-         pvalue->u.ie_ValueNotComprehended = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
-         if (pvalue->u.ie_ValueNotComprehended == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ie-ValueNotComprehended", -1, 0);
-         stat = asn1PD_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.ie_ValueNotComprehended);
-         RT_CHECK(ctx, stat, 0, "ie-ValueNotComprehended", -1, 0);
-         break;
-      case 4: /* conditionalInformationElementError */
-         pvalue->u.conditionalInformationElementError = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
-         if (pvalue->u.conditionalInformationElementError == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "conditionalInformationElementError", -1, 0);
-         stat = asn1PD_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.conditionalInformationElementError);
-         RT_CHECK(ctx, stat, 0, "conditionalInformationElementError", -1, 0);
-         break;
-      case 5: /* messageExtensionNotComprehended */
-         pvalue->u.messageExtensionNotComprehended = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
-         if (pvalue->u.messageExtensionNotComprehended == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "messageExtensionNotComprehended", -1, 0);
-         stat = asn1PD_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.messageExtensionNotComprehended);
-         RT_CHECK(ctx, stat, 0, "messageExtensionNotComprehended", -1, 0);
-         break;
-      case 6: /* spare1 */
-         break;
-      case 7: /* spare2 */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation_diagnosticsType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* type1 */
-         pvalue->u.type1 = (ProtocolErrorMoreInformation_diagnosticsType_type1*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorMoreInformation_diagnosticsType_type1));
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
-         asn1Init_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(pvalue->u.type1);
-         stat = asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
-         break;
-      case 1: /* spare */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorMoreInformation(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* diagnosticsType */
-   stat = asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType(ctx, &pvalue->diagnosticsType);
-   RT_CHECK(ctx, stat, 0, "diagnosticsType", -1, "ProtocolErrorMoreInformation");
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandTDDList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDList");
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandTDDList_r7(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDList-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandTDDext(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDext* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDext");
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandTDDextList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDextList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDextList");
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "RadioFrequencyBandTDDextList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RadioFrequencyBandTDDextList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "RadioFrequencyBandTDDext", "RadioFrequencyBandTDDext", (int32_t)i, "RadioFrequencyBandTDDextList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Rb_timer_indicator(rtxContext* RT_RESTRICT ctx, Rb_timer_indicator* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* t314-expired */
-   stat = rtxDecBitInline(ctx, &pvalue->t314_expired);
-   RT_CHECK(ctx, stat, 0, "t314-expired", -1, "Rb-timer-indicator");
-   /* t315-expired */
-   stat = rtxDecBitInline(ctx, &pvalue->t315_expired);
-   RT_CHECK(ctx, stat, 0, "t315-expired", -1, "Rb-timer-indicator");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATInfo(rtxContext* RT_RESTRICT ctx, InterRATInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "InterRATInfo");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "InterRATInfo");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RedirectionInfo(rtxContext* RT_RESTRICT ctx, RedirectionInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RedirectionInfo");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* frequencyInfo */
-         pvalue->u.frequencyInfo = (FrequencyInfo*)rtxMemHeapAlloc(ctx, sizeof(FrequencyInfo));
-         if (pvalue->u.frequencyInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "frequencyInfo", -1, "RedirectionInfo");
-         asn1Init_UMTS_FrequencyInfo(pvalue->u.frequencyInfo);
-         stat = asn1PD_UMTS_FrequencyInfo(ctx, pvalue->u.frequencyInfo);
-         RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RedirectionInfo");
-         break;
-      case 1: /* interRATInfo */
-         {
-            uint32_t ui;
-            stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-            RT_CHECK(ctx, stat, "InterRATInfo", "interRATInfo", -1, "RedirectionInfo");
-            stat = ui != 0 ? RT_ERR_INVENUM : 0;
-            RT_CHECK(ctx, stat, "InterRATInfo", "interRATInfo", -1, "RedirectionInfo");
-            pvalue->u.interRATInfo = ui;
-         }
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_TargetCellInfo(rtxContext* RT_RESTRICT ctx, GSM_TargetCellInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-TargetCellInfo");
-   /* bcch-ARFCN */
-   stat = pd_ConsUInt16(ctx, &pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, "GSM-TargetCellInfo");
-   /* frequency-band */
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, "GSM-TargetCellInfo");
-   /* bsic */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_BSIC(ctx, &pvalue->bsic);
-      RT_CHECK(ctx, stat, 0, "bsic", -1, "GSM-TargetCellInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_TargetCellInfoList(rtxContext* RT_RESTRICT ctx, GSM_TargetCellInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-TargetCellInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GSM_TargetCellInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_TargetCellInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GSM-TargetCellInfo", (int32_t)i, "GSM-TargetCellInfoList");
-      elem = (GSM_TargetCellInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GSM_TargetCellInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GSM_TargetCellInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GSM-TargetCellInfo", (int32_t)i, "GSM-TargetCellInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATInfo_r6(rtxContext* RT_RESTRICT ctx, InterRATInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATInfo-r6");
-   /* rat */
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, "InterRATInfo", "rat", -1, "InterRATInfo-r6");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, "InterRATInfo", "rat", -1, "InterRATInfo-r6");
-      pvalue->rat = ui;
-   }
-   /* gsm-TargetCellInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GSM_TargetCellInfoList(ctx, &pvalue->gsm_TargetCellInfoList);
-      RT_CHECK(ctx, stat, 0, "gsm-TargetCellInfoList", -1, "InterRATInfo-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RedirectionInfo_r6(rtxContext* RT_RESTRICT ctx, RedirectionInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RedirectionInfo-r6");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* frequencyInfo */
-         pvalue->u.frequencyInfo = (FrequencyInfo*)rtxMemHeapAlloc(ctx, sizeof(FrequencyInfo));
-         if (pvalue->u.frequencyInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "frequencyInfo", -1, "RedirectionInfo-r6");
-         asn1Init_UMTS_FrequencyInfo(pvalue->u.frequencyInfo);
-         stat = asn1PD_UMTS_FrequencyInfo(ctx, pvalue->u.frequencyInfo);
-         RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RedirectionInfo-r6");
-         break;
-      case 1: /* interRATInfo */
-         pvalue->u.interRATInfo = (InterRATInfo_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATInfo_r6));
-         if (pvalue->u.interRATInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATInfo", -1, "RedirectionInfo-r6");
-         asn1Init_UMTS_InterRATInfo_r6(pvalue->u.interRATInfo);
-         stat = asn1PD_UMTS_InterRATInfo_r6(ctx, pvalue->u.interRATInfo);
-         RT_CHECK(ctx, stat, 0, "interRATInfo", -1, "RedirectionInfo-r6");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_PhysicalCellIdentity(rtxContext* RT_RESTRICT ctx, EUTRA_PhysicalCellIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 503);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-PhysicalCellIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_BlacklistedCell(rtxContext* RT_RESTRICT ctx, EUTRA_BlacklistedCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* physicalCellIdentity */
-   stat = pd_ConsUInt16(ctx, &pvalue->physicalCellIdentity, 0, 503);
-   RT_CHECK(ctx, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-BlacklistedCell");
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_BlacklistedCellPerFreqList(rtxContext* RT_RESTRICT ctx, EUTRA_BlacklistedCellPerFreqList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-BlacklistedCellPerFreqList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      EUTRA_BlacklistedCell* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_BlacklistedCell));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "EUTRA-BlacklistedCell", (int32_t)i, "EUTRA-BlacklistedCellPerFreqList");
-      elem = (EUTRA_BlacklistedCell*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_BlacklistedCell(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "EUTRA-BlacklistedCell", (int32_t)i, "EUTRA-BlacklistedCellPerFreqList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_TargetFreqInfo(rtxContext* RT_RESTRICT ctx, EUTRA_TargetFreqInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-TargetFreqInfo");
-   /* dlEUTRACarrierFreq */
-   stat = pd_ConsUInt16(ctx, &pvalue->dlEUTRACarrierFreq, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "dlEUTRACarrierFreq", -1, "EUTRA-TargetFreqInfo");
-   /* eutraBlacklistedCellPerFreqList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutraBlacklistedCellPerFreqList);
-      RT_CHECK(ctx, stat, 0, "eutraBlacklistedCellPerFreqList", -1, "EUTRA-TargetFreqInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_TargetFreqInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_TargetFreqInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-TargetFreqInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      EUTRA_TargetFreqInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_TargetFreqInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "EUTRA-TargetFreqInfo", (int32_t)i, "EUTRA-TargetFreqInfoList");
-      elem = (EUTRA_TargetFreqInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_EUTRA_TargetFreqInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_TargetFreqInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "EUTRA-TargetFreqInfo", (int32_t)i, "EUTRA-TargetFreqInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATInfo_v860ext_eutra(rtxContext* RT_RESTRICT ctx, InterRATInfo_v860ext_eutra* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* eutra-TargetFreqInfoList */
-   stat = asn1PD_UMTS_EUTRA_TargetFreqInfoList(ctx, &pvalue->eutra_TargetFreqInfoList);
-   RT_CHECK(ctx, stat, 0, "eutra-TargetFreqInfoList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATInfo_v860ext(rtxContext* RT_RESTRICT ctx, InterRATInfo_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATInfo-v860ext");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* gsm */
-         break;
-      case 1: /* eutra */
-         pvalue->u.eutra = (InterRATInfo_v860ext_eutra*)rtxMemHeapAlloc(ctx, sizeof(InterRATInfo_v860ext_eutra));
-         if (pvalue->u.eutra == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "eutra", -1, "InterRATInfo-v860ext");
-         asn1Init_UMTS_InterRATInfo_v860ext_eutra(pvalue->u.eutra);
-         stat = asn1PD_UMTS_InterRATInfo_v860ext_eutra(ctx, pvalue->u.eutra);
-         RT_CHECK(ctx, stat, 0, "eutra", -1, "InterRATInfo-v860ext");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATInfo-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RedirectionInfo_v860ext(rtxContext* RT_RESTRICT ctx, RedirectionInfo_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RedirectionInfo-v860ext");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* frequencyInfo */
-         break;
-      case 1: /* interRATInfo */
-         pvalue->u.interRATInfo = (InterRATInfo_v860ext*)rtxMemHeapAlloc(ctx, sizeof(InterRATInfo_v860ext));
-         if (pvalue->u.interRATInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATInfo", -1, "RedirectionInfo-v860ext");
-         asn1Init_UMTS_InterRATInfo_v860ext(pvalue->u.interRATInfo);
-         stat = asn1PD_UMTS_InterRATInfo_v860ext(ctx, pvalue->u.interRATInfo);
-         RT_CHECK(ctx, stat, 0, "interRATInfo", -1, "RedirectionInfo-v860ext");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RejectionCause(rtxContext* RT_RESTRICT ctx, RejectionCause* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RejectionCause");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PowerClass(rtxContext* RT_RESTRICT ctx, UE_PowerClass* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PowerClass");
-   return 0;
-}
-
-int asn1PD_UMTS_TxRxFrequencySeparation(rtxContext* RT_RESTRICT ctx, TxRxFrequencySeparation* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TxRxFrequencySeparation");
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_fddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_fddRF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-PowerClass */
-   stat = pd_ConsUInt8(ctx, &pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
-   /* txRxFrequencySeparation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->txRxFrequencySeparation, 0, 2);
-   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_tddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_tddRF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-PowerClass */
-   stat = pd_ConsUInt8(ctx, &pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
-   /* radioFrequencyTDDBandList */
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyTDDBandList, 0, 7);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "radioFrequencyTDDBandList", -1, 0);
-   /* chipRateCapability */
-   stat = pd_ConsUnsigned(ctx, &pvalue->chipRateCapability, 0, 1);
-   RT_CHECK(ctx, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability");
-   /* fddRF-Capability */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RF_Capability_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
-      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "RF-Capability");
-   }
-   /* tddRF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RF_Capability_tddRF_Capability(ctx, &pvalue->tddRF_Capability);
-      RT_CHECK(ctx, stat, 0, "tddRF-Capability", -1, "RF-Capability");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_r4_ext_tddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_ext_tddRF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-PowerClass */
-   stat = pd_ConsUInt8(ctx, &pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
-   /* radioFrequencyBandTDDList */
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandTDDList, 0, 7);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
-   /* chipRateCapability */
-   stat = pd_ConsUnsigned(ctx, &pvalue->chipRateCapability, 0, 1);
-   RT_CHECK(ctx, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-r4-ext");
-   /* tddRF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RF_Capability_r4_ext_tddRF_Capability(ctx, &pvalue->tddRF_Capability);
-      RT_CHECK(ctx, stat, 0, "tddRF-Capability", -1, "RF-Capability-r4-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_v770ext_tdd768RF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_v770ext_tdd768RF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-PowerClass */
-   stat = pd_ConsUInt8(ctx, &pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
-   /* radioFrequencyBandTDDList */
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandTDDList, 0, 15);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "radioFrequencyBandTDDList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_v770ext(rtxContext* RT_RESTRICT ctx, RF_Capability_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-v770ext");
-   /* tdd384RF-Capability */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tdd384RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd384RF-Capability", -1, "RF-Capability-v770ext");
-   }
-   /* tdd768RF-Capability */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RF_Capability_v770ext_tdd768RF_Capability(ctx, &pvalue->tdd768RF_Capability);
-      RT_CHECK(ctx, stat, 0, "tdd768RF-Capability", -1, "RF-Capability-v770ext");
-   }
-   /* tdd128RF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tdd128RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd128RF-Capability", -1, "RF-Capability-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_v860ext(rtxContext* RT_RESTRICT ctx, RF_Capability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-v860ext");
-   /* tdd128RF-Capability */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability);
-      RT_CHECK(ctx, stat, 0, "tdd128RF-Capability", -1, "RF-Capability-v860ext");
-   }
-   /* tdd384RF-Capability */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd384RF_Capability);
-      RT_CHECK(ctx, stat, 0, "tdd384RF-Capability", -1, "RF-Capability-v860ext");
-   }
-   /* tdd768RF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd768RF_Capability);
-      RT_CHECK(ctx, stat, 0, "tdd768RF-Capability", -1, "RF-Capability-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TotalRLC_AM_BufferSize(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize");
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Capability(rtxContext* RT_RESTRICT ctx, RLC_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* totalRLC-AM-BufferSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 7);
-   RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize", "totalRLC-AM-BufferSize", -1, "RLC-Capability");
-   /* maximumRLC-WindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maximumRLC_WindowSize, 0, 1);
-   RT_CHECK(ctx, stat, "MaximumRLC-WindowSize", "maximumRLC-WindowSize", -1, "RLC-Capability");
-   /* maximumAM-EntityNumber */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maximumAM_EntityNumber, 0, 6);
-   RT_CHECK(ctx, stat, "MaximumAM-EntityNumberRLC-Cap", "maximumAM-EntityNumber", -1, "RLC-Capability");
-   return 0;
-}
-
-int asn1PD_UMTS_TotalRLC_AM_BufferSize_r5_ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_r5_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-r5-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_r5_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Capability-r5-ext");
-   /* totalRLC-AM-BufferSize */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 3);
-      RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-r5-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Capability_v770ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* supportOfTwoLogicalChannel */
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfTwoLogicalChannel);
-   RT_CHECK(ctx, stat, 0, "supportOfTwoLogicalChannel", -1, "RLC-Capability-v770ext");
-   return 0;
-}
-
-int asn1PD_UMTS_TotalRLC_AM_BufferSize_v920ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-v920ext");
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Capability_v920ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Capability-v920ext");
-   /* totalRLC-AM-BufferSize */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 1);
-      RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-v920ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRC_StateIndicator(rtxContext* RT_RESTRICT ctx, RRC_StateIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-StateIndicator");
-   return 0;
-}
-
-int asn1PD_UMTS_S_RNTI_2(rtxContext* RT_RESTRICT ctx, S_RNTI_2* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, pvalue, 10, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "S-RNTI-2");
-   return 0;
-}
-
-int asn1PD_UMTS_SecurityCapability_cipheringAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_cipheringAlgorithmCap* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_integrityProtectionAlgorithmCap* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SecurityCapability(rtxContext* RT_RESTRICT ctx, SecurityCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cipheringAlgorithmCap */
-   stat = asn1PD_UMTS_SecurityCapability_cipheringAlgorithmCap(ctx, &pvalue->cipheringAlgorithmCap);
-   RT_CHECK(ctx, stat, 0, "cipheringAlgorithmCap", -1, "SecurityCapability");
-   /* integrityProtectionAlgorithmCap */
-   stat = asn1PD_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(ctx, &pvalue->integrityProtectionAlgorithmCap);
-   RT_CHECK(ctx, stat, 0, "integrityProtectionAlgorithmCap", -1, "SecurityCapability");
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryServingEDCHCell_Info(rtxContext* RT_RESTRICT ctx, SecondaryServingEDCHCell_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryServingEDCHCell-Info");
-   /* primary-E-RNTI */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->primary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "primary-E-RNTI", -1, "SecondaryServingEDCHCell-Info");
-   }
-   /* secondary-E-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->secondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "secondary-E-RNTI", -1, "SecondaryServingEDCHCell-Info");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryEDCH_Info_Common_servingGrant(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primary-Secondary-GrantSelector */
-   stat = pd_ConsUnsigned(ctx, &pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PC_Preamble(rtxContext* RT_RESTRICT ctx, PC_Preamble* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PC-Preamble");
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryEDCH_Info_Common(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryEDCH-Info-Common");
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "SecondaryEDCH-Info-Common");
-   /* scramblingCodeType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, "SecondaryEDCH-Info-Common");
-   /* scramblingCodeNumber */
-   stat = pd_ConsUInt32(ctx, &pvalue->scramblingCodeNumber, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCodeNumber", -1, "SecondaryEDCH-Info-Common");
-   /* ms2-SchedTransmGrantHARQAlloc */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
-      RT_CHECK(ctx, stat, 0, "ms2-SchedTransmGrantHARQAlloc", -1, "SecondaryEDCH-Info-Common");
-   }
-   /* servingGrant */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SecondaryEDCH_Info_Common_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "SecondaryEDCH-Info-Common");
-   }
-   /* minReduced-E-DPDCH-GainFactor */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
-      RT_CHECK(ctx, stat, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "SecondaryEDCH-Info-Common");
-   }
-   /* e-DCH-minimumSet-E-TFCI */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->e_DCH_minimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-minimumSet-E-TFCI", -1, "SecondaryEDCH-Info-Common");
-   }
-   /* dpcchPowerOffset-SecondaryULFrequency */
-   stat = pd_ConsUInt8(ctx, &pvalue->dpcchPowerOffset_SecondaryULFrequency, 0, 7);
-   RT_CHECK(ctx, stat, 0, "dpcchPowerOffset-SecondaryULFrequency", -1, "SecondaryEDCH-Info-Common");
-   /* pc-Preamble */
-   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, "SecondaryEDCH-Info-Common");
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Preamble_Mode(rtxContext* RT_RESTRICT ctx, HARQ_Preamble_Mode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HARQ-Preamble-Mode");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
-   /* dl-ScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(rtxContext* RT_RESTRICT ctx, HS_SICH_Power_Control_Info_TDD384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-target-SIR */
-   stat = pd_ConsInt8(ctx, &pvalue->ul_target_SIR, -22, 40);
-   RT_CHECK(ctx, stat, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD384");
-   /* hs-sich-ConstantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->hs_sich_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD384");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD384(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD384");
-   /* channelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SICH-Configuration-TDD384");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD384");
-   /* midambleconfiguration */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD384");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD384(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384");
-   /* channelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD384");
-   /* midambleconfiguration */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384");
-   /* bler-target */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD384");
-   /* hs-sich-configuration */
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD384");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD384* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD384", (int32_t)i, 0);
-      elem = (HS_SCCH_TDD384*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD384(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD384(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* nack-ack-power-offset */
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* hs-SICH-PowerControl-Info */
-   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_tpc_step_size* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128");
-   /* channelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD128");
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128");
-   /* nack-ack-power-offset */
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, "HS-SICH-Configuration-TDD128");
-   /* power-level-HSSICH */
-   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, "HS-SICH-Configuration-TDD128");
-   /* tpc-step-size */
-   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, "HS-SICH-Configuration-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128");
-   /* firstChannelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128");
-   /* secondChannelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_HS_SCCH_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128");
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128");
-   /* bler-target */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128");
-   /* hs-sich-configuration */
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD128* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128", (int32_t)i, 0);
-      elem = (HS_SCCH_TDD128*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD128(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD128(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (HS_SCCH_Info_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (HS_SCCH_Info_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HS_SCCH_Info_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (HS_SCCH_Info_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_Feedback_cycle(rtxContext* RT_RESTRICT ctx, Feedback_cycle* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Feedback-cycle");
-   return 0;
-}
-
-int asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* measurementPowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
-   /* feedback-cycle */
-   stat = pd_ConsUnsigned(ctx, &pvalue->feedback_cycle, 0, 8);
-   RT_CHECK(ctx, stat, "Feedback-cycle", "feedback-cycle", -1, 0);
-   /* cqi-RepetitionFactor */
-   stat = pd_ConsUInt8(ctx, &pvalue->cqi_RepetitionFactor, 1, 4);
-   RT_CHECK(ctx, stat, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
-   /* deltaCQI */
-   stat = pd_ConsUInt8(ctx, &pvalue->deltaCQI, 0, 8);
-   RT_CHECK(ctx, stat, "DeltaCQI", "deltaCQI", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (Measurement_Feedback_Info_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(Measurement_Feedback_Info_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Measurement_Feedback_Info(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Measurement-Feedback-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleConfigurationBurstType1and3 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleConfigurationBurstType2 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* type1 */
-         pvalue->u.type1 = (MidambleShiftAndBurstType_DL_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type1));
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
-         asn1Init_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(pvalue->u.type1);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
-         break;
-      case 1: /* type2 */
-         pvalue->u.type2 = (MidambleShiftAndBurstType_DL_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type2));
-         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type2", -1, 0);
-         asn1Init_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(pvalue->u.type2);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* burstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-DL");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-TS-Configuration");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_HSPDSCH_TS_Configuration_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_HSPDSCH_TS_Configuration_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration");
-      elem = (DL_HSPDSCH_TS_Configuration_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_HSPDSCH_TS_Configuration_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd */
-         pvalue->u.tdd = (DL_HSPDSCH_Information_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 1: /* fdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information");
-   /* hs-scch-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_SCCH_Info(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information");
-   }
-   /* measurement-feedback-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_mac_hsResetIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation");
-   /* deltaACK */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation");
-   }
-   /* deltaNACK */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation");
-   }
-   /* harq-Preamble-Mode */
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation");
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation");
-   }
-   /* dl-hspdsch-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation");
-   }
-   /* harqInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation");
-   }
-   /* mac-hsResetIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation");
-         pvalue->mac_hsResetIndicator = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
-   /* dl-ScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DHS_Sync(rtxContext* RT_RESTRICT ctx, DHS_Sync* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -20, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DHS-Sync");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD384_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384-r6");
-   /* channelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384-r6");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD384-r6");
-   /* midambleconfiguration */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384-r6");
-   /* hs-sich-configuration */
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD384-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD384_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
-      elem = (HS_SCCH_TDD384_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD384_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD384_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* hs-SICH-PowerControl-Info */
-   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
-   }
-   /* bler-target */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD768(rtxContext* RT_RESTRICT ctx, HS_SICH_Power_Control_Info_TDD768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-target-SIR */
-   stat = pd_ConsInt8(ctx, &pvalue->ul_target_SIR, -22, 40);
-   RT_CHECK(ctx, stat, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD768");
-   /* hs-sich-ConstantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->hs_sich_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD768");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD768(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD768");
-   /* channelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 31);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD768");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD768");
-   /* midambleconfiguration */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD768");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD768(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD768");
-   /* channelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 31);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SCCH-TDD768");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD768");
-   /* midambleconfiguration */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD768");
-   /* hs-sich-configuration */
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD768(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD768");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD768* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD768));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
-      elem = (HS_SCCH_TDD768*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD768(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD768(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* hs-SICH-PowerControl-Info */
-   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
-   }
-   /* bler-target */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PowerControlGAP(rtxContext* RT_RESTRICT ctx, PowerControlGAP* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerControlGAP");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD128_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-      elem = (HS_SCCH_TDD128_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD128_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* power-level-HSSICH */
-   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, 0);
-   /* tpc-step-size */
-   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, 0);
-   /* bler-target */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* powerControlGAP */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->powerControlGAP, 0, 255);
-      RT_CHECK(ctx, stat, "PowerControlGAP", "powerControlGAP", -1, 0);
-   }
-   /* pathlossCompensationSwitch */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = rtxDecBitInline(ctx, &pvalue->pathlossCompensationSwitch);
-      RT_CHECK(ctx, stat, 0, "pathlossCompensationSwitch", -1, 0);
-   }
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HS_SCCH_Info_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (HS_SCCH_Info_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleConfigurationBurstType1and3 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 7);
-   RT_CHECK(ctx, stat, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleConfigurationBurstType2 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* type1 */
-         pvalue->u.type1 = (MidambleShiftAndBurstType_DL_VHCR_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type1));
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
-         asn1Init_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(pvalue->u.type1);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
-         break;
-      case 1: /* type2 */
-         pvalue->u.type2 = (MidambleShiftAndBurstType_DL_VHCR_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type2));
-         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type2", -1, 0);
-         asn1Init_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(pvalue->u.type2);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* burstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-DL-VHCR");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_VHCR_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_VHCR* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-TS-Configuration-VHCR");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_HSPDSCH_TS_Configuration_VHCR_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_HSPDSCH_TS_Configuration_VHCR_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration-VHCR");
-      elem = (DL_HSPDSCH_TS_Configuration_VHCR_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration-VHCR");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_MultiCarrier_Information_tsn_Length(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information_tsn_Length* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* uarfcn-HS-SCCH-Rx */
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_HS_SCCH_Rx, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-HS-SCCH-Rx", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* firstChannelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* secondChannelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* bler-target */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* hs-sich-configuration */
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128-MultiCarrier");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD128_MultiCarrier* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_MultiCarrier));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-MultiCarrier", (int32_t)i, 0);
-      elem = (HS_SCCH_TDD128_MultiCarrier*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD128_MultiCarrier(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-MultiCarrier", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* uarfcn-Carrier */
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_Carrier, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-Carrier", -1, 0);
-   /* harqInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, 0);
-   }
-   /* hs-PDSCH-Midamble-Configuration */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration);
-      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration", -1, 0);
-   }
-   /* hs-SCCH-TDD128-MultiCarrier */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(ctx, &pvalue->hs_SCCH_TDD128_MultiCarrier);
-      RT_CHECK(ctx, stat, 0, "hs-SCCH-TDD128-MultiCarrier", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-MultiCarrier-Information");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_HSPDSCH_MultiCarrier_Information_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_HSPDSCH_MultiCarrier_Information_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "DL-HSPDSCH-MultiCarrier-Information");
-      elem = (DL_HSPDSCH_MultiCarrier_Information_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-MultiCarrier-Information");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-MultiCarrier-Information");
-   /* tsn-Length */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tsn_Length, 0, 1);
-      RT_CHECK(ctx, stat, 0, "tsn-Length", -1, "DL-MultiCarrier-Information");
-   }
-   /* multiCarrierNumber */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->multiCarrierNumber, 1, 6);
-      RT_CHECK(ctx, stat, 0, "multiCarrierNumber", -1, "DL-MultiCarrier-Information");
-   }
-   /* dl-HSPDSCH-MultiCarrier-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information(ctx, &pvalue->dl_HSPDSCH_MultiCarrier_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-MultiCarrier-Information", -1, "DL-MultiCarrier-Information");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
-   }
-   /* dl-MultiCarrier-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
-      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-64QAM-Configured */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-         pvalue->dl_64QAM_Configured = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd */
-         pvalue->u.tdd = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 1: /* fdd */
-         pvalue->u.fdd = (DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r7");
-   /* hs-scch-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r7");
-   }
-   /* measurement-feedback-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r7");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Info_r7_numberOfProcesses(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_numberOfProcesses* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit__memorySize* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "memorySize");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 60);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "additionalMemorySizesForMIMO");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 60);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit_* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* memorySize */
-   stat = asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(ctx, &pvalue->memorySize);
-   RT_CHECK(ctx, stat, 0, "memorySize", -1, 0);
-   /* additionalMemorySizesForMIMO */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(ctx, &pvalue->additionalMemorySizesForMIMO);
-      RT_CHECK(ctx, stat, 0, "additionalMemorySizesForMIMO", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* implicit */
-         break;
-      case 1: /* explicit */
-         pvalue->u.explicit_ = (HARQ_Info_r7_memoryPartitioning_explicit_*)rtxMemHeapAlloc(ctx, sizeof(HARQ_Info_r7_memoryPartitioning_explicit_));
-         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit", -1, 0);
-         asn1Init_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(pvalue->u.explicit_);
-         stat = asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Info_r7(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* numberOfProcesses */
-   stat = pd_ConsUnsigned(ctx, &pvalue->numberOfProcesses, 0, 10);
-   RT_CHECK(ctx, stat, 0, "numberOfProcesses", -1, "HARQ-Info-r7");
-   /* memoryPartitioning */
-   stat = asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning(ctx, &pvalue->memoryPartitioning);
-   RT_CHECK(ctx, stat, 0, "memoryPartitioning", -1, "HARQ-Info-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r7(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r7");
-   /* deltaACK */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r7");
-   }
-   /* deltaNACK */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r7");
-   }
-   /* harq-Preamble-Mode */
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r7");
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r7");
-   }
-   /* dl-hspdsch-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r7");
-   }
-   /* harqInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r7");
-   }
-   /* mac-hsResetIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r7");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r7");
-         pvalue->mac_hsResetIndicator = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
-   }
-   /* dl-MultiCarrier-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
-      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_TBSizeTable(rtxContext* RT_RESTRICT ctx, HS_DSCH_TBSizeTable* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-TBSizeTable");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-TBSizeTable");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-64QAM-Configured */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-         pvalue->dl_64QAM_Configured = ui;
-      }
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd */
-         pvalue->u.tdd = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 1: /* fdd */
-         pvalue->u.fdd = (DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r8");
-   /* hs-scch-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r8");
-   }
-   /* measurement-feedback-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r8");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r8(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r8");
-   /* deltaACK */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r8");
-   }
-   /* deltaNACK */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r8");
-   }
-   /* harq-Preamble-Mode */
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r8");
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r8");
-   }
-   /* dl-hspdsch-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r8");
-   }
-   /* harqInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r8");
-   }
-   /* mac-hsResetIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r8");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r8");
-         pvalue->mac_hsResetIndicator = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
-   /* dl-ScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_RLC_SequenceNumber, pvalue);
 }
 

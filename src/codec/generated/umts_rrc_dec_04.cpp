@@ -6,9019 +6,9447 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+/* The bodies of this unit. */
+RT_MERGED_BODY int dec_RB_ActivationTimeInfo(rtxContext* RT_RESTRICT ctx, RB_ActivationTimeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_ActivationTimeInfoList(rtxContext* RT_RESTRICT ctx, RB_ActivationTimeInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CipheringModeInfo(rtxContext* RT_RESTRICT ctx, CipheringModeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CipheringModeInfo_r7(rtxContext* RT_RESTRICT ctx, CipheringModeInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IMSI_DS_41(rtxContext* RT_RESTRICT ctx, IMSI_DS_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TMSI_DS_41(rtxContext* RT_RESTRICT ctx, TMSI_DS_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CN_PagedUE_Identity(rtxContext* RT_RESTRICT ctx, CN_PagedUE_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_Measurements(rtxContext* RT_RESTRICT ctx, GSM_Measurements* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapability(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapability_v860ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapability_v920ext_interBandMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext_interBandMeasurements* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapability_v920ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RadioFrequencyBandEUTRA(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandEUTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabEUTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabEUTRAList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabFDD(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabFDDList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabFDD2(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabFDDList2(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabFDD_ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabFDDList_ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RadioFrequencyBandTDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabTDD(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabTDDList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabTDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RadioFrequencyBandGSM(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandGSM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabGSM(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabGSM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabGSMList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabGSMList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CompressedModeMeasCapabMC(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabMC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NS_IP(rtxContext* RT_RESTRICT ctx, NS_IP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InitialPriorityDelayList(rtxContext* RT_RESTRICT ctx, InitialPriorityDelayList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCCH_BER(rtxContext* RT_RESTRICT ctx, DL_DPCCH_BER* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CPCH_Parameters(rtxContext* RT_RESTRICT ctx, CPCH_Parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSG_ProximityIndicationCapability(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CapabilityWithSimultaneousHS_DSCHConfig(rtxContext* RT_RESTRICT ctx, DL_CapabilityWithSimultaneousHS_DSCHConfig* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DPCH_FrameOffset(rtxContext* RT_RESTRICT ctx, DPCH_FrameOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FDPCH_SlotFormat(rtxContext* RT_RESTRICT ctx, FDPCH_SlotFormat* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TPC_CombinationIndex(rtxContext* RT_RESTRICT ctx, TPC_CombinationIndex* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_STTDIndication(rtxContext* RT_RESTRICT ctx, STTDIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_FDPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoPerRL_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerSecondaryRL_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerSecondaryRL(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerSecondaryRL_List(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxNoPhysChBitsReceived(rtxContext* RT_RESTRICT ctx, MaxNoPhysChBitsReceived* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxNoSCCPCH_RL(rtxContext* RT_RESTRICT ctx, MaxNoSCCPCH_RL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SimultaneousSCCPCH_DPCH_Reception_supported(rtxContext* RT_RESTRICT ctx, SimultaneousSCCPCH_DPCH_Reception_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SimultaneousSCCPCH_DPCH_Reception(rtxContext* RT_RESTRICT ctx, SimultaneousSCCPCH_DPCH_Reception* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SupportOfDedicatedPilotsForChEstimation(rtxContext* RT_RESTRICT ctx, SupportOfDedicatedPilotsForChEstimation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v380ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v380ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HSDSCH_physical_layer_category_ext(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HSDSCH_physical_layer_category_ext2(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v860ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HSDSCH_physical_layer_category_ext3(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxTS_PerFrame(rtxContext* RT_RESTRICT ctx, MaxTS_PerFrame* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxPhysChPerFrame(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MinimumSF_DL(rtxContext* RT_RESTRICT ctx, MinimumSF_DL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxPhysChPerTS(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxTS_PerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxTS_PerSubFrame_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxPhysChPerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxPhysChPerSubFrame_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiCarrier_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_extension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiCarrier_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category_extension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD_128_v860ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxPhysChPerFrame_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MinimumSF_DL_768(rtxContext* RT_RESTRICT ctx, MinimumSF_DL_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_768_tdd768_hspdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxPhysChPerTS_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PhysChCapabilityInfoTDD_768(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityInfoTDD_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxNoBits(rtxContext* RT_RESTRICT ctx, MaxNoBits* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TurboSupport(rtxContext* RT_RESTRICT ctx, TurboSupport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxSimultaneousTransChsDL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsDL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxSimultaneousCCTrCH_Count(rtxContext* RT_RESTRICT ctx, MaxSimultaneousCCTrCH_Count* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxTransportBlocksDL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksDL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxNumberOfTFC_DL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_DL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxNumberOfTF(rtxContext* RT_RESTRICT ctx, MaxNumberOfTF* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TransChCapability(rtxContext* RT_RESTRICT ctx, DL_TransChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TransmissionProbability(rtxContext* RT_RESTRICT ctx, TransmissionProbability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaximumBitRate(rtxContext* RT_RESTRICT ctx, MaximumBitRate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DRAC_SysInfo(rtxContext* RT_RESTRICT ctx, DRAC_SysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DRAC_SysInfoList(rtxContext* RT_RESTRICT ctx, DRAC_SysInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DSCH_RNTI(rtxContext* RT_RESTRICT ctx, DSCH_RNTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DelayRestrictionFlag(rtxContext* RT_RESTRICT ctx, DelayRestrictionFlag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ESN_DS_41(rtxContext* RT_RESTRICT ctx, ESN_DS_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EstablishmentCause(rtxContext* RT_RESTRICT ctx, EstablishmentCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGPSI(rtxContext* RT_RESTRICT ctx, TGPSI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ProtocolErrorCause(rtxContext* RT_RESTRICT ctx, ProtocolErrorCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ProtocolErrorInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation_diagnosticsType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ProtocolErrorInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation_diagnosticsType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ProtocolErrorInformation(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FailureCauseWithProtErr(rtxContext* RT_RESTRICT ctx, FailureCauseWithProtErr* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RRC_TransactionIdentifier(rtxContext* RT_RESTRICT ctx, RRC_TransactionIdentifier* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FailureCauseWithProtErrTrId(rtxContext* RT_RESTRICT ctx, FailureCauseWithProtErrTrId* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_Mode(rtxContext* RT_RESTRICT ctx, GANSS_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReleaseCause(rtxContext* RT_RESTRICT ctx, ReleaseCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RRC_ConnectionReleaseInformation_release(rtxContext* RT_RESTRICT ctx, RRC_ConnectionReleaseInformation_release* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RRC_ConnectionReleaseInformation(rtxContext* RT_RESTRICT ctx, RRC_ConnectionReleaseInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_U_RNTI_Group(rtxContext* RT_RESTRICT ctx, U_RNTI_Group* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GroupReleaseInformation(rtxContext* RT_RESTRICT ctx, GroupReleaseInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GroupIdentityWithReleaseInformation(rtxContext* RT_RESTRICT ctx, GroupIdentityWithReleaseInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_High_MobilityDetected(rtxContext* RT_RESTRICT ctx, High_MobilityDetected* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UESpecificBehaviourInformation1idle(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1idle* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UESpecificBehaviourInformation1interRAT(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1interRAT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IdleIntervalMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, IdleIntervalMeasCapabEUTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IdleIntervalMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, IdleIntervalMeasCapabEUTRAList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IMSI_and_ESN_DS_41(rtxContext* RT_RESTRICT ctx, IMSI_and_ESN_DS_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TMSI_and_LAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_and_LAI_GSM_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_P_TMSI_and_RAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_and_RAI_GSM_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InitialUE_Identity(rtxContext* RT_RESTRICT ctx, InitialUE_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MessageAuthenticationCode(rtxContext* RT_RESTRICT ctx, MessageAuthenticationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RRC_MessageSequenceNumber(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntegrityCheckInfo(rtxContext* RT_RESTRICT ctx, IntegrityCheckInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RRC_MessageSequenceNumberList(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumberList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntegrityProtActivationInfo(rtxContext* RT_RESTRICT ctx, IntegrityProtActivationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntegrityProtectionAlgorithm(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntegrityProtectionAlgorithm_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntegrityProtInitNumber(rtxContext* RT_RESTRICT ctx, IntegrityProtInitNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntegrityProtectionModeCommand_startIntegrityProtection(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand_startIntegrityProtection* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntegrityProtectionModeCommand_modify(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntegrityProtectionModeCommand(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntegrityProtectionModeInfo(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntegrityProtectionModeInfo_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxHcContextSpace(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxHcContextSpace_r5_ext(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace_r5_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxROHC_ContextSessions_r4(rtxContext* RT_RESTRICT ctx, MaxROHC_ContextSessions_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaximumAM_EntityNumberRLC_Cap(rtxContext* RT_RESTRICT ctx, MaximumAM_EntityNumberRLC_Cap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaximumRLC_WindowSize(rtxContext* RT_RESTRICT ctx, MaximumRLC_WindowSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxNoDPDCH_BitsTransmitted(rtxContext* RT_RESTRICT ctx, MaxNoDPDCH_BitsTransmitted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxNumberOfTFC_UL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_UL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxPhysChPerTimeslot(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxPhysChPerTimeslot_LCR_r7(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot_LCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxSimultaneousTransChsUL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsUL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxTransportBlocksUL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksUL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCapability(rtxContext* RT_RESTRICT ctx, MeasurementCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCapabilityExt(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCapabilityExt2(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCapabilityExt3(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCapability_r4_ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCapability_v860ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCapability_v920ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCapabilityTDD(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MinimumSF_UL(rtxContext* RT_RESTRICT ctx, MinimumSF_UL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiModeCapability(rtxContext* RT_RESTRICT ctx, MultiModeCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiRAT_Capability(rtxContext* RT_RESTRICT ctx, MultiRAT_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v590ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v680ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v770ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v860ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_308(rtxContext* RT_RESTRICT ctx, N_308* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_312_r5(rtxContext* RT_RESTRICT ctx, N_312_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_315_r5(rtxContext* RT_RESTRICT ctx, N_315_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NeighCellSI_AcquisitionCapability(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NetworkAssistedGANSS_Supported_List_element_gANSS_Id(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element_gANSS_Id* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_Signal_Id(rtxContext* RT_RESTRICT ctx, GANSS_Signal_Id* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NetworkAssistedGANSS_Supported_List_element(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NetworkAssistedGANSS_Supported_List(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NetworkAssistedGANSS_Supported_List_v860ext_element(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NetworkAssistedGANSS_Supported_List_v860ext(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NetworkAssistedGPS_Supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGPS_Supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingCause(rtxContext* RT_RESTRICT ctx, PagingCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingRecord_cn_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord_cn_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SRNC_Identity(rtxContext* RT_RESTRICT ctx, SRNC_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_S_RNTI(rtxContext* RT_RESTRICT ctx, S_RNTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_U_RNTI(rtxContext* RT_RESTRICT ctx, U_RNTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingRecord_utran_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord_utran_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingRecord(rtxContext* RT_RESTRICT ctx, PagingRecord* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingRecord2_r5_utran_SingleUE_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_SingleUE_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingRecord2_r5_utran_GroupIdentity(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_GroupIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingRecord2_r5(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PagingRecordList(rtxContext* RT_RESTRICT ctx, PagingRecordList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PagingRecord2List_r5(rtxContext* RT_RESTRICT ctx, PagingRecord2List_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_Capability_supportForRfc2507(rtxContext* RT_RESTRICT ctx, PDCP_Capability_supportForRfc2507* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_Capability(rtxContext* RT_RESTRICT ctx, PDCP_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_Capability_r4_ext_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext_supportForRfc3095_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_Capability_r4_ext_supportForRfc3095(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext_supportForRfc3095* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_Capability_r5_ext2(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_Capability_v770ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_fddPhysChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_tddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_tddPhysChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityFDD_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_slotFormat4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v770ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_fddPhysChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_384_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768_tdd384_edch_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_768_tdd384_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768_tdd384_edch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PhysicalChannelCapability_v770ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v860ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext_fddPhysChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext_tddPhysChCapability_128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v860ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v920ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v920ext_fddPhysChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v920ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityInfoTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityInfoTDD_128_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_hspdsch_r5(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Pre_RedirectionInfo(rtxContext* RT_RESTRICT ctx, Pre_RedirectionInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ProtocolErrorIndicator(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicatorWithMoreInfo_errorOccurred* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ProtocolErrorIndicatorWithMoreInfo(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicatorWithMoreInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReceivedMessageType(rtxContext* RT_RESTRICT ctx, ReceivedMessageType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IdentificationOfReceivedMessage(rtxContext* RT_RESTRICT ctx, IdentificationOfReceivedMessage* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation_diagnosticsType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ProtocolErrorMoreInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation_diagnosticsType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ProtocolErrorMoreInformation(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RadioFrequencyBandTDDList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RadioFrequencyBandTDDList_r7(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RadioFrequencyBandTDDext(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RadioFrequencyBandTDDextList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDextList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Rb_timer_indicator(rtxContext* RT_RESTRICT ctx, Rb_timer_indicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATInfo(rtxContext* RT_RESTRICT ctx, InterRATInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RedirectionInfo(rtxContext* RT_RESTRICT ctx, RedirectionInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_TargetCellInfo(rtxContext* RT_RESTRICT ctx, GSM_TargetCellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_TargetCellInfoList(rtxContext* RT_RESTRICT ctx, GSM_TargetCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATInfo_r6(rtxContext* RT_RESTRICT ctx, InterRATInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RedirectionInfo_r6(rtxContext* RT_RESTRICT ctx, RedirectionInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_PhysicalCellIdentity(rtxContext* RT_RESTRICT ctx, EUTRA_PhysicalCellIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_BlacklistedCell(rtxContext* RT_RESTRICT ctx, EUTRA_BlacklistedCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_BlacklistedCellPerFreqList(rtxContext* RT_RESTRICT ctx, EUTRA_BlacklistedCellPerFreqList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_TargetFreqInfo(rtxContext* RT_RESTRICT ctx, EUTRA_TargetFreqInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_TargetFreqInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_TargetFreqInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATInfo_v860ext_eutra(rtxContext* RT_RESTRICT ctx, InterRATInfo_v860ext_eutra* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATInfo_v860ext(rtxContext* RT_RESTRICT ctx, InterRATInfo_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RedirectionInfo_v860ext(rtxContext* RT_RESTRICT ctx, RedirectionInfo_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RejectionCause(rtxContext* RT_RESTRICT ctx, RejectionCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_PowerClass(rtxContext* RT_RESTRICT ctx, UE_PowerClass* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TxRxFrequencySeparation(rtxContext* RT_RESTRICT ctx, TxRxFrequencySeparation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_Capability_fddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_fddRF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_Capability_tddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_tddRF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_Capability_r4_ext_tddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_ext_tddRF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_Capability_v770ext_tdd768RF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_v770ext_tdd768RF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_Capability_v770ext(rtxContext* RT_RESTRICT ctx, RF_Capability_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_Capability_v860ext(rtxContext* RT_RESTRICT ctx, RF_Capability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TotalRLC_AM_BufferSize(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_Capability(rtxContext* RT_RESTRICT ctx, RLC_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TotalRLC_AM_BufferSize_r5_ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_r5_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_r5_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_Capability_v770ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TotalRLC_AM_BufferSize_v920ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_Capability_v920ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RRC_StateIndicator(rtxContext* RT_RESTRICT ctx, RRC_StateIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_S_RNTI_2(rtxContext* RT_RESTRICT ctx, S_RNTI_2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecurityCapability_cipheringAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_cipheringAlgorithmCap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecurityCapability_integrityProtectionAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_integrityProtectionAlgorithmCap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecurityCapability(rtxContext* RT_RESTRICT ctx, SecurityCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryServingEDCHCell_Info(rtxContext* RT_RESTRICT ctx, SecondaryServingEDCHCell_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryEDCH_Info_Common_servingGrant(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PC_Preamble(rtxContext* RT_RESTRICT ctx, PC_Preamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryEDCH_Info_Common(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HARQ_Preamble_Mode(rtxContext* RT_RESTRICT ctx, HARQ_Preamble_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Power_Control_Info_TDD384(rtxContext* RT_RESTRICT ctx, HS_SICH_Power_Control_Info_TDD384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD384(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_TDD384(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_HS_SCCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Feedback_cycle(rtxContext* RT_RESTRICT ctx, Feedback_cycle* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Measurement_Feedback_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Measurement_Feedback_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Measurement_Feedback_Info(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_TS_Configuration_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_HSPDSCH_TS_Configuration(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_HSPDSCH_Information(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Serving_HSDSCH_CellInformation_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Serving_HSDSCH_CellInformation(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DHS_Sync(rtxContext* RT_RESTRICT ctx, DHS_Sync* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_TDD384_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_HS_SCCH_TDD384_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Power_Control_Info_TDD768(rtxContext* RT_RESTRICT ctx, HS_SICH_Power_Control_Info_TDD768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD768(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_HS_SCCH_TDD768(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PowerControlGAP(rtxContext* RT_RESTRICT ctx, PowerControlGAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_HS_SCCH_Info_r7(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_TS_Configuration_VHCR_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_VHCR_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_HSPDSCH_TS_Configuration_VHCR(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_MultiCarrier_Information_tsn_Length(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information_tsn_Length* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_MultiCarrier_Information_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_HSPDSCH_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+
+/* Bodies held by other units. */
+RT_DECODE_EXTERN(CipheringModeCommand)
+RT_DECODE_EXTERN(CipheringModeCommand_r7)
+RT_DECODE_EXTERN(IMSI_GSM_MAP)
+RT_DECODE_EXTERN(TMSI_GSM_MAP)
+RT_DECODE_EXTERN(P_TMSI_GSM_MAP)
+RT_DECODE_EXTERN(BackoffControlParams)
+RT_DECODE_EXTERN(PowerControlAlgorithm)
+RT_DECODE_EXTERN(SecondaryCPICH_Info)
+RT_DECODE_EXTERN(E_RGCH_Information)
+RT_DECODE_EXTERN(PrimaryCPICH_Info)
+RT_DECODE_EXTERN(CellIdentity)
+RT_DECODE_EXTERN(E_AGCH_Information)
+RT_DECODE_EXTERN(E_HICH_Information)
+RT_DECODE_EXTERN(LAI)
+RT_DECODE_EXTERN(RAI)
+RT_DECODE_EXTERN(IMEI)
+RT_DECODE_EXTERN(FrequencyInfo)
+RT_DECODE_EXTERN(BSIC)
+RT_DECODE_EXTERN(E_RNTI)
+RT_DECODE_EXTERN(HS_PDSCH_Midamble_Configuration_TDD128)
+RT_DECODE_EXTERN(HARQ_Info)
+RT_DECODE_EXTERN(HS_SCCH_TDD128_r6)
+
+RT_MERGED_BODY int dec_RB_ActivationTimeInfo(rtxContext* RT_RESTRICT ctx, RB_ActivationTimeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-ActivationTimeInfo");
+   /* rlc-SequenceNumber */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->rlc_SequenceNumber, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, "RLC-SequenceNumber", "rlc-SequenceNumber", -1, "RB-ActivationTimeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_ActivationTimeInfo(rtxContext* RT_RESTRICT ctx, RB_ActivationTimeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_ActivationTimeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_ActivationTimeInfoList(rtxContext* RT_RESTRICT ctx, RB_ActivationTimeInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-ActivationTimeInfoList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      HS_SCCH_TDD384_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
-      elem = (HS_SCCH_TDD384_r6*)(node + 1);
+      RB_ActivationTimeInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_ActivationTimeInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-ActivationTimeInfo", (int32_t)i, "RB-ActivationTimeInfoList");
+      elem = (RB_ActivationTimeInfo*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD384_r6(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD384_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      stat = dec_RB_ActivationTimeInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-ActivationTimeInfo", (int32_t)i, "RB-ActivationTimeInfoList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+int asn1PD_UMTS_RB_ActivationTimeInfoList(rtxContext* RT_RESTRICT ctx, RB_ActivationTimeInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_ActivationTimeInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CipheringModeInfo(rtxContext* RT_RESTRICT ctx, CipheringModeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* hs-SICH-PowerControl-Info */
-   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
-   }
-   /* bler-target */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD768* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD768));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
-      elem = (HS_SCCH_TDD768*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD768(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD768(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* hs-SICH-PowerControl-Info */
-   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
-   }
-   /* bler-target */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD128_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-      elem = (HS_SCCH_TDD128_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD128_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* power-level-HSSICH */
-   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, 0);
-   /* tpc-step-size */
-   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, 0);
-   /* bler-target */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-tpc-step-size */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->hS_SCCH_tpc_step_size, 0, 3);
-      RT_CHECK(ctx, stat, 0, "hS-SCCH-tpc-step-size", -1, 0);
-   }
-   /* powerControlGAP */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CipheringModeInfo");
+   /* cipheringModeCommand */
+   stat = dec_CipheringModeCommand(ctx, &pvalue->cipheringModeCommand, cur);
+   RT_CHECK(ctx, stat, 0, "cipheringModeCommand", -1, "CipheringModeInfo");
+   /* activationTimeForDPCH */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->powerControlGAP, 0, 255);
-      RT_CHECK(ctx, stat, "PowerControlGAP", "powerControlGAP", -1, 0);
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTimeForDPCH, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTimeForDPCH", -1, "CipheringModeInfo");
    }
-   /* pathlossCompensationSwitch */
+   /* rb-DL-CiphActivationTimeInfo */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = rtxDecBitInline(ctx, &pvalue->pathlossCompensationSwitch);
-      RT_CHECK(ctx, stat, 0, "pathlossCompensationSwitch", -1, 0);
+      pvalue->m |= 0x2u;
+      stat = dec_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-DL-CiphActivationTimeInfo", -1, "CipheringModeInfo");
    }
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CipheringModeInfo(rtxContext* RT_RESTRICT ctx, CipheringModeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CipheringModeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CipheringModeInfo_r7(rtxContext* RT_RESTRICT ctx, CipheringModeInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CipheringModeInfo-r7");
+   /* cipheringModeCommand */
+   stat = dec_CipheringModeCommand_r7(ctx, &pvalue->cipheringModeCommand, cur);
+   RT_CHECK(ctx, stat, 0, "cipheringModeCommand", -1, "CipheringModeInfo-r7");
+   /* activationTimeForDPCH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTimeForDPCH, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTimeForDPCH", -1, "CipheringModeInfo-r7");
+   }
+   /* rb-DL-CiphActivationTimeInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-DL-CiphActivationTimeInfo", -1, "CipheringModeInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringModeInfo_r7(rtxContext* RT_RESTRICT ctx, CipheringModeInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CipheringModeInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_IMSI_DS_41(rtxContext* RT_RESTRICT ctx, IMSI_DS_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 5, 7);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IMSI-DS-41");
+   return 0;
+}
+
+int asn1PD_UMTS_IMSI_DS_41(rtxContext* RT_RESTRICT ctx, IMSI_DS_41* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IMSI_DS_41, pvalue);
+}
+
+RT_MERGED_BODY int dec_TMSI_DS_41(rtxContext* RT_RESTRICT ctx, TMSI_DS_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 2, 17);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TMSI-DS-41");
+   return 0;
+}
+
+int asn1PD_UMTS_TMSI_DS_41(rtxContext* RT_RESTRICT ctx, TMSI_DS_41* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TMSI_DS_41, pvalue);
+}
+
+RT_MERGED_BODY int dec_CN_PagedUE_Identity(rtxContext* RT_RESTRICT ctx, CN_PagedUE_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CN-PagedUE-Identity");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* imsi-GSM-MAP */
+         pvalue->u.imsi_GSM_MAP = (IMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(IMSI_GSM_MAP));
+         if (pvalue->u.imsi_GSM_MAP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "imsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         asn1Init_UMTS_IMSI_GSM_MAP(pvalue->u.imsi_GSM_MAP);
+         stat = dec_IMSI_GSM_MAP(ctx, pvalue->u.imsi_GSM_MAP, cur);
+         RT_CHECK(ctx, stat, 0, "imsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         break;
+      case 1: /* tmsi-GSM-MAP */
+         pvalue->u.tmsi_GSM_MAP = (TMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(TMSI_GSM_MAP));
+         if (pvalue->u.tmsi_GSM_MAP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tmsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         asn1Init_UMTS_TMSI_GSM_MAP(pvalue->u.tmsi_GSM_MAP);
+         stat = dec_TMSI_GSM_MAP(ctx, pvalue->u.tmsi_GSM_MAP, cur);
+         RT_CHECK(ctx, stat, 0, "tmsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         break;
+      case 2: /* p-TMSI-GSM-MAP */
+         pvalue->u.p_TMSI_GSM_MAP = (P_TMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(P_TMSI_GSM_MAP));
+         if (pvalue->u.p_TMSI_GSM_MAP == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "p-TMSI-GSM-MAP", -1, "CN-PagedUE-Identity");
+         asn1Init_UMTS_P_TMSI_GSM_MAP(pvalue->u.p_TMSI_GSM_MAP);
+         stat = dec_P_TMSI_GSM_MAP(ctx, pvalue->u.p_TMSI_GSM_MAP, cur);
+         RT_CHECK(ctx, stat, 0, "p-TMSI-GSM-MAP", -1, "CN-PagedUE-Identity");
+         break;
+      case 3: /* imsi-DS-41 */
+         pvalue->u.imsi_DS_41 = (IMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(IMSI_DS_41));
+         if (pvalue->u.imsi_DS_41 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "imsi-DS-41", -1, "CN-PagedUE-Identity");
+         asn1Init_UMTS_IMSI_DS_41(pvalue->u.imsi_DS_41);
+         stat = dec_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41, cur);
+         RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "CN-PagedUE-Identity");
+         break;
+      case 4: /* tmsi-DS-41 */
+         pvalue->u.tmsi_DS_41 = (TMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(TMSI_DS_41));
+         if (pvalue->u.tmsi_DS_41 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tmsi-DS-41", -1, "CN-PagedUE-Identity");
+         asn1Init_UMTS_TMSI_DS_41(pvalue->u.tmsi_DS_41);
+         stat = dec_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41, cur);
+         RT_CHECK(ctx, stat, 0, "tmsi-DS-41", -1, "CN-PagedUE-Identity");
+         break;
+      case 5: /* spare3 */
+         break;
+      case 6: /* spare2 */
+         break;
+      case 7: /* spare1 */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CN-PagedUE-Identity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CN_PagedUE_Identity(rtxContext* RT_RESTRICT ctx, CN_PagedUE_Identity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CN_PagedUE_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_Measurements(rtxContext* RT_RESTRICT ctx, GSM_Measurements* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* gsm900 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->gsm900);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gsm900", -1, "GSM-Measurements");
+   /* dcs1800 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dcs1800);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dcs1800", -1, "GSM-Measurements");
+   /* gsm1900 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->gsm1900);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gsm1900", -1, "GSM-Measurements");
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_Measurements(rtxContext* RT_RESTRICT ctx, GSM_Measurements* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_Measurements, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapability(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapability");
+   /* fdd-Measurements */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->fdd_Measurements);
+   RT_CHECK_AT(ctx, cur, stat, 0, "fdd-Measurements", -1, "CompressedModeMeasCapability");
+   /* tdd-Measurements */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->tdd_Measurements);
+      RT_CHECK_AT(ctx, cur, stat, 0, "tdd-Measurements", -1, "CompressedModeMeasCapability");
+   }
+   /* gsm-Measurements */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_GSM_Measurements(ctx, &pvalue->gsm_Measurements, cur);
+      RT_CHECK(ctx, stat, 0, "gsm-Measurements", -1, "CompressedModeMeasCapability");
+   }
+   /* multiCarrierMeasurements */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->multiCarrierMeasurements);
+      RT_CHECK_AT(ctx, cur, stat, 0, "multiCarrierMeasurements", -1, "CompressedModeMeasCapability");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapability(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapability-LCR-r4");
+   /* tdd128-Measurements */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->tdd128_Measurements);
+      RT_CHECK_AT(ctx, cur, stat, 0, "tdd128-Measurements", -1, "CompressedModeMeasCapability-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapability_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapability_v860ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapability-v860ext");
+   /* adjacentFrequencyMeasurements */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "adjacentFrequencyMeasurements", -1, "CompressedModeMeasCapability-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "adjacentFrequencyMeasurements", -1, "CompressedModeMeasCapability-v860ext");
+         pvalue->adjacentFrequencyMeasurements = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapability_v860ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapability_v920ext_interBandMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext_interBandMeasurements* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapability_v920ext_interBandMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext_interBandMeasurements* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapability_v920ext_interBandMeasurements, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapability_v920ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapability-v920ext");
+   /* interBandMeasurements */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "interBandMeasurements", -1, "CompressedModeMeasCapability-v920ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "interBandMeasurements", -1, "CompressedModeMeasCapability-v920ext");
+         pvalue->interBandMeasurements = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapability_v920ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapability_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RadioFrequencyBandEUTRA(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandEUTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandEUTRA");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandEUTRA(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandEUTRA* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RadioFrequencyBandEUTRA, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabEUTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* radioFrequencyBandEUTRA */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->radioFrequencyBandEUTRA, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "CompressedModeMeasCapabEUTRA");
+   /* compressedMode */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->compressedMode);
+   RT_CHECK_AT(ctx, cur, stat, 0, "compressedMode", -1, "CompressedModeMeasCapabEUTRA");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabEUTRA* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabEUTRA, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabEUTRAList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabEUTRAList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CompressedModeMeasCapabEUTRA* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabEUTRA));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabEUTRA", (int32_t)i, "CompressedModeMeasCapabEUTRAList");
+      elem = (CompressedModeMeasCapabEUTRA*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CompressedModeMeasCapabEUTRA(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabEUTRA", (int32_t)i, "CompressedModeMeasCapabEUTRAList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabEUTRAList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabEUTRAList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabFDD(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabFDD");
+   /* radioFrequencyBandFDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandFDD, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD");
+   }
+   /* dl-MeasurementsFDD */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dl_MeasurementsFDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD");
+   /* ul-MeasurementsFDD */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ul_MeasurementsFDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabFDD(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabFDDList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CompressedModeMeasCapabFDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabFDD));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabFDD", (int32_t)i, "CompressedModeMeasCapabFDDList");
+      elem = (CompressedModeMeasCapabFDD*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CompressedModeMeasCapabFDD(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CompressedModeMeasCapabFDD(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD", (int32_t)i, "CompressedModeMeasCapabFDDList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabFDDList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabFDDList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabFDD2(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabFDD2");
+   /* radioFrequencyBandFDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandFDD, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD2");
+   }
+   /* radioFrequencyBandFDD2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandFDD2, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD2");
+   }
+   /* dl-MeasurementsFDD */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dl_MeasurementsFDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD2");
+   /* ul-MeasurementsFDD */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ul_MeasurementsFDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD2");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabFDD2(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabFDD2, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabFDDList2(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList2");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CompressedModeMeasCapabFDD2* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabFDD2));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabFDD2", (int32_t)i, "CompressedModeMeasCapabFDDList2");
+      elem = (CompressedModeMeasCapabFDD2*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CompressedModeMeasCapabFDD2(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CompressedModeMeasCapabFDD2(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD2", (int32_t)i, "CompressedModeMeasCapabFDDList2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabFDDList2(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabFDDList2, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabFDD_ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* radioFrequencyBandFDD2 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandFDD2, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD-ext");
+   /* dl-MeasurementsFDD */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dl_MeasurementsFDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD-ext");
+   /* ul-MeasurementsFDD */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ul_MeasurementsFDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabFDD_ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabFDD_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabFDDList_ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CompressedModeMeasCapabFDD_ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabFDD_ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabFDD-ext", (int32_t)i, "CompressedModeMeasCapabFDDList-ext");
+      elem = (CompressedModeMeasCapabFDD_ext*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CompressedModeMeasCapabFDD_ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD-ext", (int32_t)i, "CompressedModeMeasCapabFDDList-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabFDDList_ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabFDDList_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RadioFrequencyBandTDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandTDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RadioFrequencyBandTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabTDD(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* radioFrequencyBandTDD */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandTDD, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandTDD", "radioFrequencyBandTDD", -1, "CompressedModeMeasCapabTDD");
+   /* dl-MeasurementsTDD */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dl_MeasurementsTDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dl-MeasurementsTDD", -1, "CompressedModeMeasCapabTDD");
+   /* ul-MeasurementsTDD */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ul_MeasurementsTDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ul-MeasurementsTDD", -1, "CompressedModeMeasCapabTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabTDD(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabTDDList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabTDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabTDDList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CompressedModeMeasCapabTDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabTDD));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabTDD", (int32_t)i, "CompressedModeMeasCapabTDDList");
+      elem = (CompressedModeMeasCapabTDD*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CompressedModeMeasCapabTDD(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabTDD", (int32_t)i, "CompressedModeMeasCapabTDDList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabTDDList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabTDDList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabTDDList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RadioFrequencyBandGSM(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandGSM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandGSM");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandGSM(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandGSM* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RadioFrequencyBandGSM, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabGSM(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabGSM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* radioFrequencyBandGSM */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandGSM, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandGSM", "radioFrequencyBandGSM", -1, "CompressedModeMeasCapabGSM");
+   /* dl-MeasurementsGSM */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dl_MeasurementsGSM);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dl-MeasurementsGSM", -1, "CompressedModeMeasCapabGSM");
+   /* ul-MeasurementsGSM */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ul_MeasurementsGSM);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ul-MeasurementsGSM", -1, "CompressedModeMeasCapabGSM");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabGSM(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabGSM* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabGSM, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabGSMList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabGSMList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabGSMList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CompressedModeMeasCapabGSM* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabGSM));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabGSM", (int32_t)i, "CompressedModeMeasCapabGSMList");
+      elem = (CompressedModeMeasCapabGSM*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CompressedModeMeasCapabGSM(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabGSM", (int32_t)i, "CompressedModeMeasCapabGSMList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabGSMList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabGSMList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabGSMList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CompressedModeMeasCapabMC(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabMC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-MeasurementsMC */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dl_MeasurementsMC);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dl-MeasurementsMC", -1, "CompressedModeMeasCapabMC");
+   /* ul-MeasurementsMC */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ul_MeasurementsMC);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ul-MeasurementsMC", -1, "CompressedModeMeasCapabMC");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabMC(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabMC* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CompressedModeMeasCapabMC, pvalue);
+}
+
+RT_MERGED_BODY int dec_NS_IP(rtxContext* RT_RESTRICT ctx, NS_IP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 28);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NS-IP");
+   return 0;
+}
+
+int asn1PD_UMTS_NS_IP(rtxContext* RT_RESTRICT ctx, NS_IP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NS_IP, pvalue);
+}
+
+RT_MERGED_BODY int dec_InitialPriorityDelayList(rtxContext* RT_RESTRICT ctx, InitialPriorityDelayList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InitialPriorityDelayList");
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "InitialPriorityDelayList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "InitialPriorityDelayList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 28);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "NS-IP", "NS-IP", (int32_t)i, "InitialPriorityDelayList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialPriorityDelayList(rtxContext* RT_RESTRICT ctx, InitialPriorityDelayList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InitialPriorityDelayList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCCH_BER(rtxContext* RT_RESTRICT ctx, DL_DPCCH_BER* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-DPCCH-BER");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCCH_BER(rtxContext* RT_RESTRICT ctx, DL_DPCCH_BER* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCCH_BER, pvalue);
+}
+
+RT_MERGED_BODY int dec_CPCH_Parameters(rtxContext* RT_RESTRICT ctx, CPCH_Parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CPCH-Parameters");
+   /* initialPriorityDelayList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InitialPriorityDelayList(ctx, &pvalue->initialPriorityDelayList, cur);
+      RT_CHECK(ctx, stat, 0, "initialPriorityDelayList", -1, "CPCH-Parameters");
+   }
+   /* backoffControlParams */
+   stat = dec_BackoffControlParams(ctx, &pvalue->backoffControlParams, cur);
+   RT_CHECK(ctx, stat, 0, "backoffControlParams", -1, "CPCH-Parameters");
+   /* powerControlAlgorithm */
+   stat = dec_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, "CPCH-Parameters");
+   /* dl-DPCCH-BER */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_DPCCH_BER, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, "DL-DPCCH-BER", "dl-DPCCH-BER", -1, "CPCH-Parameters");
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_Parameters(rtxContext* RT_RESTRICT ctx, CPCH_Parameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CPCH_Parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSG_ProximityIndicationCapability(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CSG-ProximityIndicationCapability");
+   /* supportOfIntraFreqProximityIndication */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfIntraFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfIntraFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+         pvalue->supportOfIntraFreqProximityIndication = ui;
+      }
+   }
+   /* supportOfInterFreqProximityIndication */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfInterFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfInterFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+         pvalue->supportOfInterFreqProximityIndication = ui;
+      }
+   }
+   /* supportOfE-UtraProximityIndication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfE-UtraProximityIndication", -1, "CSG-ProximityIndicationCapability");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfE-UtraProximityIndication", -1, "CSG-ProximityIndicationCapability");
+         pvalue->supportOfE_UtraProximityIndication = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSG_ProximityIndicationCapability(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSG_ProximityIndicationCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CapabilityWithSimultaneousHS_DSCHConfig(rtxContext* RT_RESTRICT ctx, DL_CapabilityWithSimultaneousHS_DSCHConfig* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CapabilityWithSimultaneousHS_DSCHConfig(rtxContext* RT_RESTRICT ctx, DL_CapabilityWithSimultaneousHS_DSCHConfig* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CapabilityWithSimultaneousHS_DSCHConfig, pvalue);
+}
+
+RT_MERGED_BODY int dec_DPCH_FrameOffset(rtxContext* RT_RESTRICT ctx, DPCH_FrameOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 149);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DPCH-FrameOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_DPCH_FrameOffset(rtxContext* RT_RESTRICT ctx, DPCH_FrameOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DPCH_FrameOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_FDPCH_SlotFormat(rtxContext* RT_RESTRICT ctx, FDPCH_SlotFormat* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "FDPCH-SlotFormat");
+   return 0;
+}
+
+int asn1PD_UMTS_FDPCH_SlotFormat(rtxContext* RT_RESTRICT ctx, FDPCH_SlotFormat* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FDPCH_SlotFormat, pvalue);
+}
+
+RT_MERGED_BODY int dec_TPC_CombinationIndex(rtxContext* RT_RESTRICT ctx, TPC_CombinationIndex* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TPC-CombinationIndex");
+   return 0;
+}
+
+int asn1PD_UMTS_TPC_CombinationIndex(rtxContext* RT_RESTRICT ctx, TPC_CombinationIndex* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TPC_CombinationIndex, pvalue);
+}
+
+RT_MERGED_BODY int dec_STTDIndication(rtxContext* RT_RESTRICT ctx, STTDIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "STTDIndication");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "STTDIndication");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_STTDIndication(rtxContext* RT_RESTRICT ctx, STTDIndication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_STTDIndication, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_FDPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoPerRL_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-FDPCH-InfoPerRL-r7");
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* fdpch-FrameOffset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->fdpch_FrameOffset, 0, 149);
+   RT_CHECK_AT(ctx, cur, stat, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* fdpch-SlotFormat */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->fdpch_SlotFormat, 0, 9);
+      RT_CHECK_AT(ctx, cur, stat, "FDPCH-SlotFormat", "fdpch-SlotFormat", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   /* secondaryScramblingCode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   /* dl-ChannelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_ChannelisationCode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dl-ChannelisationCode", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* sttdIndication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "STTDIndication", "sttdIndication", -1, "DL-FDPCH-InfoPerRL-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "STTDIndication", "sttdIndication", -1, "DL-FDPCH-InfoPerRL-r7");
+         pvalue->sttdIndication = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoPerRL_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_FDPCH_InfoPerRL_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerSecondaryRL_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = dec_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerSecondaryRL_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerSecondaryRL(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerSecondaryRL");
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "DL-InformationPerSecondaryRL");
+   /* cell-id */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellIdentity(ctx, &pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerSecondaryRL");
+   }
+   /* dl-FDPCHInfoPerRL-SecULFreq */
+   stat = dec_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCHInfoPerRL_SecULFreq, cur);
+   RT_CHECK(ctx, stat, 0, "dl-FDPCHInfoPerRL-SecULFreq", -1, "DL-InformationPerSecondaryRL");
+   /* e-AGCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerSecondaryRL");
+   }
+   /* e-HICH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "DL-InformationPerSecondaryRL");
+   }
+   /* e-RGCH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_DL_InformationPerSecondaryRL_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "DL-InformationPerSecondaryRL");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerSecondaryRL(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerSecondaryRL, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerSecondaryRL_List(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerSecondaryRL-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerSecondaryRL* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerSecondaryRL));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-InformationPerSecondaryRL", (int32_t)i, "DL-InformationPerSecondaryRL-List");
+      elem = (DL_InformationPerSecondaryRL*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerSecondaryRL(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_InformationPerSecondaryRL(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerSecondaryRL", (int32_t)i, "DL-InformationPerSecondaryRL-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerSecondaryRL_List(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerSecondaryRL_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxNoPhysChBitsReceived(rtxContext* RT_RESTRICT ctx, MaxNoPhysChBitsReceived* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxNoPhysChBitsReceived");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNoPhysChBitsReceived(rtxContext* RT_RESTRICT ctx, MaxNoPhysChBitsReceived* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxNoPhysChBitsReceived, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxNoSCCPCH_RL(rtxContext* RT_RESTRICT ctx, MaxNoSCCPCH_RL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxNoSCCPCH-RL");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxNoSCCPCH-RL");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNoSCCPCH_RL(rtxContext* RT_RESTRICT ctx, MaxNoSCCPCH_RL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxNoSCCPCH_RL, pvalue);
+}
+
+RT_MERGED_BODY int dec_SimultaneousSCCPCH_DPCH_Reception_supported(rtxContext* RT_RESTRICT ctx, SimultaneousSCCPCH_DPCH_Reception_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxNoSCCPCH-RL */
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, "MaxNoSCCPCH-RL", "maxNoSCCPCH-RL", -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, "MaxNoSCCPCH-RL", "maxNoSCCPCH-RL", -1, 0);
+      pvalue->maxNoSCCPCH_RL = ui;
+   }
+   /* simultaneousSCCPCH-DPCH-DPDCH-Reception */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->simultaneousSCCPCH_DPCH_DPDCH_Reception);
+   RT_CHECK_AT(ctx, cur, stat, 0, "simultaneousSCCPCH-DPCH-DPDCH-Reception", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(rtxContext* RT_RESTRICT ctx, SimultaneousSCCPCH_DPCH_Reception_supported* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SimultaneousSCCPCH_DPCH_Reception_supported, pvalue);
+}
+
+RT_MERGED_BODY int dec_SimultaneousSCCPCH_DPCH_Reception(rtxContext* RT_RESTRICT ctx, SimultaneousSCCPCH_DPCH_Reception* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SimultaneousSCCPCH-DPCH-Reception");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         pvalue->u.supported = (SimultaneousSCCPCH_DPCH_Reception_supported*)rtxMemHeapAllocZ(ctx, sizeof(SimultaneousSCCPCH_DPCH_Reception_supported));
+         if (pvalue->u.supported == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "supported", -1, "SimultaneousSCCPCH-DPCH-Reception");
+         stat = dec_SimultaneousSCCPCH_DPCH_Reception_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, "SimultaneousSCCPCH-DPCH-Reception");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SimultaneousSCCPCH-DPCH-Reception");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception(rtxContext* RT_RESTRICT ctx, SimultaneousSCCPCH_DPCH_Reception* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SimultaneousSCCPCH_DPCH_Reception, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxNoDPCH-PDSCH-Codes */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxNoDPCH_PDSCH_Codes, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD");
+   /* maxNoPhysChBitsReceived */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxNoPhysChBitsReceived, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD");
+   /* supportForSF-512 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportForSF_512);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportForSF-512", -1, "DL-PhysChCapabilityFDD");
+   /* dummy */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dummy);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dummy", -1, "DL-PhysChCapabilityFDD");
+   /* dummy2 */
+   stat = dec_SimultaneousSCCPCH_DPCH_Reception(ctx, &pvalue->dummy2, cur);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PhysChCapabilityFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_SupportOfDedicatedPilotsForChEstimation(rtxContext* RT_RESTRICT ctx, SupportOfDedicatedPilotsForChEstimation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SupportOfDedicatedPilotsForChEstimation");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SupportOfDedicatedPilotsForChEstimation");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SupportOfDedicatedPilotsForChEstimation(rtxContext* RT_RESTRICT ctx, SupportOfDedicatedPilotsForChEstimation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SupportOfDedicatedPilotsForChEstimation, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v380ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v380ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v380ext");
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy", -1, "DL-PhysChCapabilityFDD-v380ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy", -1, "DL-PhysChCapabilityFDD-v380ext");
+         pvalue->dummy = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v380ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v380ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityFDD_v380ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_HSDSCH_physical_layer_category_ext(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 20);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_physical_layer_category_ext(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HSDSCH_physical_layer_category_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v770ext");
+   /* hsdsch-physical-layer-category-ext */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->hsdsch_physical_layer_category_ext, 1, 20);
+      RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "DL-PhysChCapabilityFDD-v770ext");
+   }
+   /* hsscchlessHsdschOperation */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsscchlessHsdschOperation", -1, "DL-PhysChCapabilityFDD-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsscchlessHsdschOperation", -1, "DL-PhysChCapabilityFDD-v770ext");
+         pvalue->hsscchlessHsdschOperation = ui;
+      }
+   }
+   /* enhancedFdpch */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "enhancedFdpch", -1, "DL-PhysChCapabilityFDD-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "enhancedFdpch", -1, "DL-PhysChCapabilityFDD-v770ext");
+         pvalue->enhancedFdpch = ui;
+      }
+   }
+   /* hsdschReception-CellFach */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsdschReception-CellFach", -1, "DL-PhysChCapabilityFDD-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsdschReception-CellFach", -1, "DL-PhysChCapabilityFDD-v770ext");
+         pvalue->hsdschReception_CellFach = ui;
+      }
+   }
+   /* hsdschReception-CellUraPch */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsdschReception-CellUraPch", -1, "DL-PhysChCapabilityFDD-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsdschReception-CellUraPch", -1, "DL-PhysChCapabilityFDD-v770ext");
+         pvalue->hsdschReception_CellUraPch = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityFDD_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_HSDSCH_physical_layer_category_ext2(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 21, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext2");
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_physical_layer_category_ext2(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HSDSCH_physical_layer_category_ext2, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v860ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v860ext");
+   /* hsdsch-physical-layer-category-ext2 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
+      RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "DL-PhysChCapabilityFDD-v860ext");
+   }
+   /* supportOfTargetCellPreConfig */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfTargetCellPreConfig", -1, "DL-PhysChCapabilityFDD-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfTargetCellPreConfig", -1, "DL-PhysChCapabilityFDD-v860ext");
+         pvalue->supportOfTargetCellPreConfig = ui;
+      }
+   }
+   /* supportOfHsdschDrxOperation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfHsdschDrxOperation", -1, "DL-PhysChCapabilityFDD-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfHsdschDrxOperation", -1, "DL-PhysChCapabilityFDD-v860ext");
+         pvalue->supportOfHsdschDrxOperation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityFDD_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_HSDSCH_physical_layer_category_ext3(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 25, 28);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext3");
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_physical_layer_category_ext3(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HSDSCH_physical_layer_category_ext3, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v920ext");
+   /* hsdsch-physical-layer-category-ext3 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
+      RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "DL-PhysChCapabilityFDD-v920ext");
+   }
+   /* supportOfMimoOnlySingleStream */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfMimoOnlySingleStream", -1, "DL-PhysChCapabilityFDD-v920ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfMimoOnlySingleStream", -1, "DL-PhysChCapabilityFDD-v920ext");
+         pvalue->supportOfMimoOnlySingleStream = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityFDD_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxTS_PerFrame(rtxContext* RT_RESTRICT ctx, MaxTS_PerFrame* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxTS-PerFrame");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxTS_PerFrame(rtxContext* RT_RESTRICT ctx, MaxTS_PerFrame* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxTS_PerFrame, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxPhysChPerFrame(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 224);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerFrame");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerFrame(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxPhysChPerFrame, pvalue);
+}
+
+RT_MERGED_BODY int dec_MinimumSF_DL(rtxContext* RT_RESTRICT ctx, MinimumSF_DL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MinimumSF-DL");
+   return 0;
+}
+
+int asn1PD_UMTS_MinimumSF_DL(rtxContext* RT_RESTRICT ctx, MinimumSF_DL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MinimumSF_DL, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxPhysChPerTS(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerTS");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerTS(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxPhysChPerTS, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxTS-PerFrame */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK_AT(ctx, cur, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD");
+   /* maxPhysChPerFrame */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxPhysChPerFrame, 1, 224);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerFrame", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD");
+   /* minimumSF */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->minimumSF, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD");
+   /* supportOfPDSCH */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOfPDSCH);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD");
+   /* maxPhysChPerTS */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxPhysChPerTS, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxTS_PerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxTS_PerSubFrame_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxTS-PerSubFrame-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxTS_PerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxTS_PerSubFrame_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxTS_PerSubFrame_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxPhysChPerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxPhysChPerSubFrame_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 96);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerSubFrame-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxPhysChPerSubFrame_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxPhysChPerSubFrame_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxTS-PerSubFrame */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxTS_PerSubFrame, 1, 6);
+   RT_CHECK_AT(ctx, cur, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* maxPhysChPerFrame */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxPhysChPerFrame, 1, 96);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerSubFrame-r4", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* minimumSF */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->minimumSF, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOfPDSCH */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOfPDSCH);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* maxPhysChPerTS */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxPhysChPerTS, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOf8PSK */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOf8PSK);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOf8PSK", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiCarrier_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiCarrier_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiCarrier_HSDSCH_physical_layer_category, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v770ext");
+   /* multiCarrier-physical-layer-category */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->multiCarrier_physical_layer_category, 1, 64);
+      RT_CHECK_AT(ctx, cur, stat, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "DL-PhysChCapabilityTDD-128-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityTDD_128_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_extension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HSDSCH-physical-layer-category-extension");
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_extension* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HSDSCH_physical_layer_category_extension, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiCarrier_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category_extension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 36);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category-extension");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiCarrier_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category_extension* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiCarrier_HSDSCH_physical_layer_category_extension, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD_128_v860ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   /* hSDSCH-physical-layer-category-extension */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->hSDSCH_physical_layer_category_extension, 1, 64);
+      RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category-extension", "hSDSCH-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   }
+   /* multiCarrier-physical-layer-category-extension */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->multiCarrier_physical_layer_category_extension, 1, 36);
+      RT_CHECK_AT(ctx, cur, stat, "MultiCarrier-HSDSCH-physical-layer-category-extension", "multiCarrier-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   }
+   /* supportOfSFModeForHSPDSCHDualStream */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v860ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityTDD_128_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxPhysChPerFrame_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 1, 448);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerFrame-768");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerFrame_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame_768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxPhysChPerFrame_768, pvalue);
+}
+
+RT_MERGED_BODY int dec_MinimumSF_DL_768(rtxContext* RT_RESTRICT ctx, MinimumSF_DL_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MinimumSF-DL-768");
+   return 0;
+}
+
+int asn1PD_UMTS_MinimumSF_DL_768(rtxContext* RT_RESTRICT ctx, MinimumSF_DL_768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MinimumSF_DL_768, pvalue);
+}
+
+RT_MERGED_BODY int dec_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HSDSCH-physical-layer-category");
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HSDSCH_physical_layer_category, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_768_tdd768_hspdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.supported, 1, 64);
+         RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_768_tdd768_hspdsch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityTDD_768_tdd768_hspdsch, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxPhysChPerTS_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerTS-768");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerTS_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS_768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxPhysChPerTS_768, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxTS-PerFrame */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK_AT(ctx, cur, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD-768");
+   /* maxPhysChPerFrame */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->maxPhysChPerFrame, 1, 448);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-768");
+   /* minimumSF */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->minimumSF, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityTDD-768");
+   /* supportOfPDSCH */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOfPDSCH);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-768");
+   /* tdd768-hspdsch */
+   stat = dec_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(ctx, &pvalue->tdd768_hspdsch, cur);
+   RT_CHECK(ctx, stat, 0, "tdd768-hspdsch", -1, "DL-PhysChCapabilityTDD-768");
+   /* maxPhysChPerTS */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxPhysChPerTS, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-768");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityTDD_768, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PhysChCapabilityInfoTDD_768(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityInfoTDD_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxTS-PerFrame */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK_AT(ctx, cur, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* maxPhysChPerFrame */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->maxPhysChPerFrame, 1, 448);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* minimumSF */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->minimumSF, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* supportOfPDSCH */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOfPDSCH);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* maxPhysChPerTS */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxPhysChPerTS, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityInfoTDD-768");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityInfoTDD_768(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityInfoTDD_768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PhysChCapabilityInfoTDD_768, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxNoBits(rtxContext* RT_RESTRICT ctx, MaxNoBits* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxNoBits");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNoBits(rtxContext* RT_RESTRICT ctx, MaxNoBits* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxNoBits, pvalue);
+}
+
+RT_MERGED_BODY int dec_TurboSupport(rtxContext* RT_RESTRICT ctx, TurboSupport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TurboSupport");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.supported, 0, 12);
+         RT_CHECK_AT(ctx, cur, stat, "MaxNoBits", "supported", -1, "TurboSupport");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TurboSupport");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TurboSupport(rtxContext* RT_RESTRICT ctx, TurboSupport* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TurboSupport, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxSimultaneousTransChsDL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsDL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxSimultaneousTransChsDL");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxSimultaneousTransChsDL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsDL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxSimultaneousTransChsDL, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxSimultaneousCCTrCH_Count(rtxContext* RT_RESTRICT ctx, MaxSimultaneousCCTrCH_Count* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxSimultaneousCCTrCH-Count");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxSimultaneousCCTrCH_Count(rtxContext* RT_RESTRICT ctx, MaxSimultaneousCCTrCH_Count* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxSimultaneousCCTrCH_Count, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxTransportBlocksDL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksDL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxTransportBlocksDL");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxTransportBlocksDL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksDL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxTransportBlocksDL, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxNumberOfTFC_DL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_DL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxNumberOfTFC-DL");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNumberOfTFC_DL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_DL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxNumberOfTFC_DL, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxNumberOfTF(rtxContext* RT_RESTRICT ctx, MaxNumberOfTF* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxNumberOfTF");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNumberOfTF(rtxContext* RT_RESTRICT ctx, MaxNumberOfTF* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxNumberOfTF, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TransChCapability(rtxContext* RT_RESTRICT ctx, DL_TransChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxNoBitsReceived */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxNoBitsReceived, 0, 12);
+   RT_CHECK_AT(ctx, cur, stat, "MaxNoBits", "maxNoBitsReceived", -1, "DL-TransChCapability");
+   /* maxConvCodeBitsReceived */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxConvCodeBitsReceived, 0, 12);
+   RT_CHECK_AT(ctx, cur, stat, "MaxNoBits", "maxConvCodeBitsReceived", -1, "DL-TransChCapability");
+   /* turboDecodingSupport */
+   stat = dec_TurboSupport(ctx, &pvalue->turboDecodingSupport, cur);
+   RT_CHECK(ctx, stat, 0, "turboDecodingSupport", -1, "DL-TransChCapability");
+   /* maxSimultaneousTransChs */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxSimultaneousTransChs, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "MaxSimultaneousTransChsDL", "maxSimultaneousTransChs", -1, "DL-TransChCapability");
+   /* maxSimultaneousCCTrCH-Count */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, "DL-TransChCapability");
+   /* maxReceivedTransportBlocks */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxReceivedTransportBlocks, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, "MaxTransportBlocksDL", "maxReceivedTransportBlocks", -1, "DL-TransChCapability");
+   /* maxNumberOfTFC */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxNumberOfTFC, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfTFC-DL", "maxNumberOfTFC", -1, "DL-TransChCapability");
+   /* maxNumberOfTF */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxNumberOfTF, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfTF", "maxNumberOfTF", -1, "DL-TransChCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransChCapability(rtxContext* RT_RESTRICT ctx, DL_TransChCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TransChCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_TransmissionProbability(rtxContext* RT_RESTRICT ctx, TransmissionProbability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransmissionProbability");
+   return 0;
+}
+
+int asn1PD_UMTS_TransmissionProbability(rtxContext* RT_RESTRICT ctx, TransmissionProbability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TransmissionProbability, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaximumBitRate(rtxContext* RT_RESTRICT ctx, MaximumBitRate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaximumBitRate");
+   return 0;
+}
+
+int asn1PD_UMTS_MaximumBitRate(rtxContext* RT_RESTRICT ctx, MaximumBitRate* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaximumBitRate, pvalue);
+}
+
+RT_MERGED_BODY int dec_DRAC_SysInfo(rtxContext* RT_RESTRICT ctx, DRAC_SysInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* transmissionProbability */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transmissionProbability, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "TransmissionProbability", "transmissionProbability", -1, "DRAC-SysInfo");
+   /* maximumBitRate */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maximumBitRate, 0, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MaximumBitRate", "maximumBitRate", -1, "DRAC-SysInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_DRAC_SysInfo(rtxContext* RT_RESTRICT ctx, DRAC_SysInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DRAC_SysInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DRAC_SysInfoList(rtxContext* RT_RESTRICT ctx, DRAC_SysInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DRAC-SysInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DRAC_SysInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DRAC_SysInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DRAC-SysInfo", (int32_t)i, "DRAC-SysInfoList");
+      elem = (DRAC_SysInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DRAC_SysInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DRAC-SysInfo", (int32_t)i, "DRAC-SysInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DRAC_SysInfoList(rtxContext* RT_RESTRICT ctx, DRAC_SysInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DRAC_SysInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DSCH_RNTI(rtxContext* RT_RESTRICT ctx, DSCH_RNTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, pvalue, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DSCH-RNTI");
+   return 0;
+}
+
+int asn1PD_UMTS_DSCH_RNTI(rtxContext* RT_RESTRICT ctx, DSCH_RNTI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DSCH_RNTI, pvalue);
+}
+
+RT_MERGED_BODY int dec_DelayRestrictionFlag(rtxContext* RT_RESTRICT ctx, DelayRestrictionFlag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DelayRestrictionFlag");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DelayRestrictionFlag");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DelayRestrictionFlag(rtxContext* RT_RESTRICT ctx, DelayRestrictionFlag* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DelayRestrictionFlag, pvalue);
+}
+
+RT_MERGED_BODY int dec_ESN_DS_41(rtxContext* RT_RESTRICT ctx, ESN_DS_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, pvalue, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ESN-DS-41");
+   return 0;
+}
+
+int asn1PD_UMTS_ESN_DS_41(rtxContext* RT_RESTRICT ctx, ESN_DS_41* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ESN_DS_41, pvalue);
+}
+
+RT_MERGED_BODY int dec_EstablishmentCause(rtxContext* RT_RESTRICT ctx, EstablishmentCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EstablishmentCause");
+   return 0;
+}
+
+int asn1PD_UMTS_EstablishmentCause(rtxContext* RT_RESTRICT ctx, EstablishmentCause* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EstablishmentCause, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGPSI(rtxContext* RT_RESTRICT ctx, TGPSI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGPSI");
+   return 0;
+}
+
+int asn1PD_UMTS_TGPSI(rtxContext* RT_RESTRICT ctx, TGPSI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGPSI, pvalue);
+}
+
+RT_MERGED_BODY int dec_ProtocolErrorCause(rtxContext* RT_RESTRICT ctx, ProtocolErrorCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ProtocolErrorCause");
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorCause(rtxContext* RT_RESTRICT ctx, ProtocolErrorCause* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ProtocolErrorCause, pvalue);
+}
+
+RT_MERGED_BODY int dec_ProtocolErrorInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation_diagnosticsType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* protocolErrorCause */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->protocolErrorCause, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ProtocolErrorCause", "protocolErrorCause", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation_diagnosticsType_type1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ProtocolErrorInformation_diagnosticsType_type1, pvalue);
+}
+
+RT_MERGED_BODY int dec_ProtocolErrorInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation_diagnosticsType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* type1 */
+         pvalue->u.type1 = (ProtocolErrorInformation_diagnosticsType_type1*)rtxMemHeapAllocZ(ctx, sizeof(ProtocolErrorInformation_diagnosticsType_type1));
+         if (pvalue->u.type1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         stat = dec_ProtocolErrorInformation_diagnosticsType_type1(ctx, pvalue->u.type1, cur);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 1: /* spare */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation_diagnosticsType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ProtocolErrorInformation_diagnosticsType, pvalue);
+}
+
+RT_MERGED_BODY int dec_ProtocolErrorInformation(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* diagnosticsType */
+   stat = dec_ProtocolErrorInformation_diagnosticsType(ctx, &pvalue->diagnosticsType, cur);
+   RT_CHECK(ctx, stat, 0, "diagnosticsType", -1, "ProtocolErrorInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorInformation(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ProtocolErrorInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_FailureCauseWithProtErr(rtxContext* RT_RESTRICT ctx, FailureCauseWithProtErr* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "FailureCauseWithProtErr");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* configurationUnsupported */
+         break;
+      case 1: /* physicalChannelFailure */
+         break;
+      case 2: /* incompatibleSimultaneousReconfiguration */
+         break;
+      case 3: /* compressedModeRuntimeError */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.compressedModeRuntimeError, 1, 6);
+         RT_CHECK_AT(ctx, cur, stat, "TGPSI", "compressedModeRuntimeError", -1, "FailureCauseWithProtErr");
+         break;
+      case 4: /* protocolError */
+         pvalue->u.protocolError = (ProtocolErrorInformation*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorInformation));
+         if (pvalue->u.protocolError == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "protocolError", -1, "FailureCauseWithProtErr");
+         asn1Init_UMTS_ProtocolErrorInformation(pvalue->u.protocolError);
+         stat = dec_ProtocolErrorInformation(ctx, pvalue->u.protocolError, cur);
+         RT_CHECK(ctx, stat, 0, "protocolError", -1, "FailureCauseWithProtErr");
+         break;
+      case 5: /* cellUpdateOccurred */
+         break;
+      case 6: /* invalidConfiguration */
+         break;
+      case 7: /* configurationIncomplete */
+         break;
+      case 8: /* unsupportedMeasurement */
+         break;
+      case 9: /* mbmsSessionAlreadyReceivedCorrectly */
+         break;
+      case 10: /* lowerPriorityMBMSService */
+         break;
+      case 11: /* spare5 */
+         break;
+      case 12: /* spare4 */
+         break;
+      case 13: /* spare3 */
+         break;
+      case 14: /* spare2 */
+         break;
+      case 15: /* spare1 */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "FailureCauseWithProtErr");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_FailureCauseWithProtErr(rtxContext* RT_RESTRICT ctx, FailureCauseWithProtErr* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FailureCauseWithProtErr, pvalue);
+}
+
+RT_MERGED_BODY int dec_RRC_TransactionIdentifier(rtxContext* RT_RESTRICT ctx, RRC_TransactionIdentifier* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RRC-TransactionIdentifier");
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_TransactionIdentifier(rtxContext* RT_RESTRICT ctx, RRC_TransactionIdentifier* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RRC_TransactionIdentifier, pvalue);
+}
+
+RT_MERGED_BODY int dec_FailureCauseWithProtErrTrId(rtxContext* RT_RESTRICT ctx, FailureCauseWithProtErrTrId* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "FailureCauseWithProtErrTrId");
+   /* failureCause */
+   stat = dec_FailureCauseWithProtErr(ctx, &pvalue->failureCause, cur);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "FailureCauseWithProtErrTrId");
+   return 0;
+}
+
+int asn1PD_UMTS_FailureCauseWithProtErrTrId(rtxContext* RT_RESTRICT ctx, FailureCauseWithProtErrTrId* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FailureCauseWithProtErrTrId, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_Mode(rtxContext* RT_RESTRICT ctx, GANSS_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSS-Mode");
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_Mode(rtxContext* RT_RESTRICT ctx, GANSS_Mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_Mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReleaseCause(rtxContext* RT_RESTRICT ctx, ReleaseCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReleaseCause");
+   return 0;
+}
+
+int asn1PD_UMTS_ReleaseCause(rtxContext* RT_RESTRICT ctx, ReleaseCause* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReleaseCause, pvalue);
+}
+
+RT_MERGED_BODY int dec_RRC_ConnectionReleaseInformation_release(rtxContext* RT_RESTRICT ctx, RRC_ConnectionReleaseInformation_release* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* releaseCause */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->releaseCause, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReleaseCause", "releaseCause", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_ConnectionReleaseInformation_release(rtxContext* RT_RESTRICT ctx, RRC_ConnectionReleaseInformation_release* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RRC_ConnectionReleaseInformation_release, pvalue);
+}
+
+RT_MERGED_BODY int dec_RRC_ConnectionReleaseInformation(rtxContext* RT_RESTRICT ctx, RRC_ConnectionReleaseInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RRC-ConnectionReleaseInformation");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* noRelease */
+         break;
+      case 1: /* release */
+         pvalue->u.release = (RRC_ConnectionReleaseInformation_release*)rtxMemHeapAllocZ(ctx, sizeof(RRC_ConnectionReleaseInformation_release));
+         if (pvalue->u.release == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "release", -1, "RRC-ConnectionReleaseInformation");
+         stat = dec_RRC_ConnectionReleaseInformation_release(ctx, pvalue->u.release, cur);
+         RT_CHECK(ctx, stat, 0, "release", -1, "RRC-ConnectionReleaseInformation");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RRC-ConnectionReleaseInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_ConnectionReleaseInformation(rtxContext* RT_RESTRICT ctx, RRC_ConnectionReleaseInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RRC_ConnectionReleaseInformation, pvalue);
+}
+
+static int dec_U_RNTI_Group(rtxContext* RT_RESTRICT ctx, U_RNTI_Group* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "U-RNTI-Group");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* all */
+         break;
+      case 1: /* u-RNTI-BitMaskIndex-b1 */
+         pvalue->u.u_RNTI_BitMaskIndex_b1 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b1", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 31, 31);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b1, 31, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b1", -1, "U-RNTI-Group");
+         break;
+      case 2: /* u-RNTI-BitMaskIndex-b2 */
+         pvalue->u.u_RNTI_BitMaskIndex_b2 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b2", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 30, 30);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b2, 30, 30);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b2", -1, "U-RNTI-Group");
+         break;
+      case 3: /* u-RNTI-BitMaskIndex-b3 */
+         pvalue->u.u_RNTI_BitMaskIndex_b3 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b3", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 29, 29);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b3, 29, 29);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b3", -1, "U-RNTI-Group");
+         break;
+      case 4: /* u-RNTI-BitMaskIndex-b4 */
+         pvalue->u.u_RNTI_BitMaskIndex_b4 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b4 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b4", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 28, 28);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b4, 28, 28);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b4", -1, "U-RNTI-Group");
+         break;
+      case 5: /* u-RNTI-BitMaskIndex-b5 */
+         pvalue->u.u_RNTI_BitMaskIndex_b5 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b5 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b5", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 27, 27);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b5, 27, 27);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b5", -1, "U-RNTI-Group");
+         break;
+      case 6: /* u-RNTI-BitMaskIndex-b6 */
+         pvalue->u.u_RNTI_BitMaskIndex_b6 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b6 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b6", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 26, 26);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b6, 26, 26);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b6", -1, "U-RNTI-Group");
+         break;
+      case 7: /* u-RNTI-BitMaskIndex-b7 */
+         pvalue->u.u_RNTI_BitMaskIndex_b7 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b7 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b7", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 25, 25);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b7, 25, 25);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b7", -1, "U-RNTI-Group");
+         break;
+      case 8: /* u-RNTI-BitMaskIndex-b8 */
+         pvalue->u.u_RNTI_BitMaskIndex_b8 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b8 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b8", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 24, 24);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b8, 24, 24);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b8", -1, "U-RNTI-Group");
+         break;
+      case 9: /* u-RNTI-BitMaskIndex-b9 */
+         pvalue->u.u_RNTI_BitMaskIndex_b9 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b9 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b9", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 23, 23);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b9, 23, 23);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b9", -1, "U-RNTI-Group");
+         break;
+      case 10: /* u-RNTI-BitMaskIndex-b10 */
+         pvalue->u.u_RNTI_BitMaskIndex_b10 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b10 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b10", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 22, 22);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b10, 22, 22);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b10", -1, "U-RNTI-Group");
+         break;
+      case 11: /* u-RNTI-BitMaskIndex-b11 */
+         pvalue->u.u_RNTI_BitMaskIndex_b11 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b11 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b11", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 21, 21);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b11, 21, 21);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b11", -1, "U-RNTI-Group");
+         break;
+      case 12: /* u-RNTI-BitMaskIndex-b12 */
+         pvalue->u.u_RNTI_BitMaskIndex_b12 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b12 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b12", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 20, 20);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b12, 20, 20);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b12", -1, "U-RNTI-Group");
+         break;
+      case 13: /* u-RNTI-BitMaskIndex-b13 */
+         pvalue->u.u_RNTI_BitMaskIndex_b13 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b13 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b13", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 19, 19);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b13, 19, 19);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b13", -1, "U-RNTI-Group");
+         break;
+      case 14: /* u-RNTI-BitMaskIndex-b14 */
+         pvalue->u.u_RNTI_BitMaskIndex_b14 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b14 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b14", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 18, 18);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b14, 18, 18);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b14", -1, "U-RNTI-Group");
+         break;
+      case 15: /* u-RNTI-BitMaskIndex-b15 */
+         pvalue->u.u_RNTI_BitMaskIndex_b15 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b15 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b15", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 17, 17);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b15, 17, 17);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b15", -1, "U-RNTI-Group");
+         break;
+      case 16: /* u-RNTI-BitMaskIndex-b16 */
+         pvalue->u.u_RNTI_BitMaskIndex_b16 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b16 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b16", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 16, 16);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b16, 16, 16);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b16", -1, "U-RNTI-Group");
+         break;
+      case 17: /* u-RNTI-BitMaskIndex-b17 */
+         pvalue->u.u_RNTI_BitMaskIndex_b17 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b17 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b17", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 15, 15);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b17, 15, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b17", -1, "U-RNTI-Group");
+         break;
+      case 18: /* u-RNTI-BitMaskIndex-b18 */
+         pvalue->u.u_RNTI_BitMaskIndex_b18 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b18 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b18", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 14, 14);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b18, 14, 14);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b18", -1, "U-RNTI-Group");
+         break;
+      case 19: /* u-RNTI-BitMaskIndex-b19 */
+         pvalue->u.u_RNTI_BitMaskIndex_b19 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b19 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b19", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 13, 13);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b19, 13, 13);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b19", -1, "U-RNTI-Group");
+         break;
+      case 20: /* u-RNTI-BitMaskIndex-b20 */
+         pvalue->u.u_RNTI_BitMaskIndex_b20 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b20 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b20", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 12, 12);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b20, 12, 12);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b20", -1, "U-RNTI-Group");
+         break;
+      case 21: /* u-RNTI-BitMaskIndex-b21 */
+         pvalue->u.u_RNTI_BitMaskIndex_b21 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b21 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b21", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 11, 11);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b21, 11, 11);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b21", -1, "U-RNTI-Group");
+         break;
+      case 22: /* u-RNTI-BitMaskIndex-b22 */
+         pvalue->u.u_RNTI_BitMaskIndex_b22 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b22 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b22", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 10, 10);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b22, 10, 10);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b22", -1, "U-RNTI-Group");
+         break;
+      case 23: /* u-RNTI-BitMaskIndex-b23 */
+         pvalue->u.u_RNTI_BitMaskIndex_b23 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b23 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b23", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 9, 9);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b23, 9, 9);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b23", -1, "U-RNTI-Group");
+         break;
+      case 24: /* u-RNTI-BitMaskIndex-b24 */
+         pvalue->u.u_RNTI_BitMaskIndex_b24 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b24 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b24", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 8, 8);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b24, 8, 8);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b24", -1, "U-RNTI-Group");
+         break;
+      case 25: /* u-RNTI-BitMaskIndex-b25 */
+         pvalue->u.u_RNTI_BitMaskIndex_b25 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b25 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b25", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 7, 7);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b25, 7, 7);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b25", -1, "U-RNTI-Group");
+         break;
+      case 26: /* u-RNTI-BitMaskIndex-b26 */
+         pvalue->u.u_RNTI_BitMaskIndex_b26 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b26 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b26", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 6, 6);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b26, 6, 6);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b26", -1, "U-RNTI-Group");
+         break;
+      case 27: /* u-RNTI-BitMaskIndex-b27 */
+         pvalue->u.u_RNTI_BitMaskIndex_b27 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b27 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b27", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 5, 5);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b27, 5, 5);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b27", -1, "U-RNTI-Group");
+         break;
+      case 28: /* u-RNTI-BitMaskIndex-b28 */
+         pvalue->u.u_RNTI_BitMaskIndex_b28 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b28 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b28", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 4, 4);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b28, 4, 4);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b28", -1, "U-RNTI-Group");
+         break;
+      case 29: /* u-RNTI-BitMaskIndex-b29 */
+         pvalue->u.u_RNTI_BitMaskIndex_b29 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b29 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b29", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 3, 3);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b29, 3, 3);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b29", -1, "U-RNTI-Group");
+         break;
+      case 30: /* u-RNTI-BitMaskIndex-b30 */
+         pvalue->u.u_RNTI_BitMaskIndex_b30 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b30 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b30", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 2, 2);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b30, 2, 2);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b30", -1, "U-RNTI-Group");
+         break;
+      case 31: /* u-RNTI-BitMaskIndex-b31 */
+         pvalue->u.u_RNTI_BitMaskIndex_b31 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b31 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b31", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 1, 1);
+         stat = pd_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b31, 1, 1);
+         RT_CHECK_AT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b31", -1, "U-RNTI-Group");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "U-RNTI-Group");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_U_RNTI_Group(rtxContext* RT_RESTRICT ctx, U_RNTI_Group* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_U_RNTI_Group, pvalue);
+}
+
+RT_MERGED_BODY int dec_GroupReleaseInformation(rtxContext* RT_RESTRICT ctx, GroupReleaseInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* uRNTI-Group */
+   stat = dec_U_RNTI_Group(ctx, &pvalue->uRNTI_Group, cur);
+   RT_CHECK(ctx, stat, 0, "uRNTI-Group", -1, "GroupReleaseInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_GroupReleaseInformation(rtxContext* RT_RESTRICT ctx, GroupReleaseInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GroupReleaseInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_GroupIdentityWithReleaseInformation(rtxContext* RT_RESTRICT ctx, GroupIdentityWithReleaseInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rrc-ConnectionReleaseInformation */
+   stat = dec_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation, cur);
+   RT_CHECK(ctx, stat, 0, "rrc-ConnectionReleaseInformation", -1, "GroupIdentityWithReleaseInformation");
+   /* groupReleaseInformation */
+   stat = dec_GroupReleaseInformation(ctx, &pvalue->groupReleaseInformation, cur);
+   RT_CHECK(ctx, stat, 0, "groupReleaseInformation", -1, "GroupIdentityWithReleaseInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_GroupIdentityWithReleaseInformation(rtxContext* RT_RESTRICT ctx, GroupIdentityWithReleaseInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GroupIdentityWithReleaseInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_High_MobilityDetected(rtxContext* RT_RESTRICT ctx, High_MobilityDetected* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "High-MobilityDetected");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "High-MobilityDetected");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_High_MobilityDetected(rtxContext* RT_RESTRICT ctx, High_MobilityDetected* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_High_MobilityDetected, pvalue);
+}
+
+RT_MERGED_BODY int dec_UESpecificBehaviourInformation1idle(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1idle* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32At(ctx, cur, pvalue, 4, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UESpecificBehaviourInformation1idle");
+   return 0;
+}
+
+int asn1PD_UMTS_UESpecificBehaviourInformation1idle(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1idle* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UESpecificBehaviourInformation1idle, pvalue);
+}
+
+RT_MERGED_BODY int dec_UESpecificBehaviourInformation1interRAT(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1interRAT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UESpecificBehaviourInformation1interRAT");
+   return 0;
+}
+
+int asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1interRAT* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UESpecificBehaviourInformation1interRAT, pvalue);
+}
+
+RT_MERGED_BODY int dec_IdleIntervalMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, IdleIntervalMeasCapabEUTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* radioFrequencyBandEUTRA */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->radioFrequencyBandEUTRA, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "IdleIntervalMeasCapabEUTRA");
+   /* idleInterval */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->idleInterval);
+   RT_CHECK_AT(ctx, cur, stat, 0, "idleInterval", -1, "IdleIntervalMeasCapabEUTRA");
+   return 0;
+}
+
+int asn1PD_UMTS_IdleIntervalMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, IdleIntervalMeasCapabEUTRA* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IdleIntervalMeasCapabEUTRA, pvalue);
+}
+
+RT_MERGED_BODY int dec_IdleIntervalMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, IdleIntervalMeasCapabEUTRAList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IdleIntervalMeasCapabEUTRAList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IdleIntervalMeasCapabEUTRA* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IdleIntervalMeasCapabEUTRA));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "IdleIntervalMeasCapabEUTRA", (int32_t)i, "IdleIntervalMeasCapabEUTRAList");
+      elem = (IdleIntervalMeasCapabEUTRA*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_IdleIntervalMeasCapabEUTRA(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "IdleIntervalMeasCapabEUTRA", (int32_t)i, "IdleIntervalMeasCapabEUTRAList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IdleIntervalMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, IdleIntervalMeasCapabEUTRAList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IdleIntervalMeasCapabEUTRAList, pvalue);
+}
+
+RT_MERGED_BODY int dec_IMSI_and_ESN_DS_41(rtxContext* RT_RESTRICT ctx, IMSI_and_ESN_DS_41* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* imsi-DS-41 */
+   stat = dec_IMSI_DS_41(ctx, &pvalue->imsi_DS_41, cur);
+   RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "IMSI-and-ESN-DS-41");
+   /* esn-DS-41 */
+   stat = dec_ESN_DS_41(ctx, &pvalue->esn_DS_41, cur);
+   RT_CHECK(ctx, stat, 0, "esn-DS-41", -1, "IMSI-and-ESN-DS-41");
+   return 0;
+}
+
+int asn1PD_UMTS_IMSI_and_ESN_DS_41(rtxContext* RT_RESTRICT ctx, IMSI_and_ESN_DS_41* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IMSI_and_ESN_DS_41, pvalue);
+}
+
+RT_MERGED_BODY int dec_TMSI_and_LAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_and_LAI_GSM_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tmsi */
+   stat = dec_TMSI_GSM_MAP(ctx, &pvalue->tmsi, cur);
+   RT_CHECK(ctx, stat, 0, "tmsi", -1, "TMSI-and-LAI-GSM-MAP");
+   /* lai */
+   stat = dec_LAI(ctx, &pvalue->lai, cur);
+   RT_CHECK(ctx, stat, 0, "lai", -1, "TMSI-and-LAI-GSM-MAP");
+   return 0;
+}
+
+int asn1PD_UMTS_TMSI_and_LAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_and_LAI_GSM_MAP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TMSI_and_LAI_GSM_MAP, pvalue);
+}
+
+RT_MERGED_BODY int dec_P_TMSI_and_RAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_and_RAI_GSM_MAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* p-TMSI */
+   stat = dec_P_TMSI_GSM_MAP(ctx, &pvalue->p_TMSI, cur);
+   RT_CHECK(ctx, stat, 0, "p-TMSI", -1, "P-TMSI-and-RAI-GSM-MAP");
+   /* rai */
+   stat = dec_RAI(ctx, &pvalue->rai, cur);
+   RT_CHECK(ctx, stat, 0, "rai", -1, "P-TMSI-and-RAI-GSM-MAP");
+   return 0;
+}
+
+int asn1PD_UMTS_P_TMSI_and_RAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_and_RAI_GSM_MAP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_P_TMSI_and_RAI_GSM_MAP, pvalue);
+}
+
+static int dec_InitialUE_Identity(rtxContext* RT_RESTRICT ctx, InitialUE_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InitialUE-Identity");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* imsi */
+         pvalue->u.imsi = (IMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(IMSI_GSM_MAP));
+         if (pvalue->u.imsi == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "imsi", -1, "InitialUE-Identity");
+         asn1Init_UMTS_IMSI_GSM_MAP(pvalue->u.imsi);
+         stat = dec_IMSI_GSM_MAP(ctx, pvalue->u.imsi, cur);
+         RT_CHECK(ctx, stat, 0, "imsi", -1, "InitialUE-Identity");
+         break;
+      case 1: /* tmsi-and-LAI */
+         pvalue->u.tmsi_and_LAI = (TMSI_and_LAI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(TMSI_and_LAI_GSM_MAP));
+         if (pvalue->u.tmsi_and_LAI == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tmsi-and-LAI", -1, "InitialUE-Identity");
+         asn1Init_UMTS_TMSI_and_LAI_GSM_MAP(pvalue->u.tmsi_and_LAI);
+         stat = dec_TMSI_and_LAI_GSM_MAP(ctx, pvalue->u.tmsi_and_LAI, cur);
+         RT_CHECK(ctx, stat, 0, "tmsi-and-LAI", -1, "InitialUE-Identity");
+         break;
+      case 2: /* p-TMSI-and-RAI */
+         pvalue->u.p_TMSI_and_RAI = (P_TMSI_and_RAI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(P_TMSI_and_RAI_GSM_MAP));
+         if (pvalue->u.p_TMSI_and_RAI == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "p-TMSI-and-RAI", -1, "InitialUE-Identity");
+         asn1Init_UMTS_P_TMSI_and_RAI_GSM_MAP(pvalue->u.p_TMSI_and_RAI);
+         stat = dec_P_TMSI_and_RAI_GSM_MAP(ctx, pvalue->u.p_TMSI_and_RAI, cur);
+         RT_CHECK(ctx, stat, 0, "p-TMSI-and-RAI", -1, "InitialUE-Identity");
+         break;
+      case 3: /* imei */
+         pvalue->u.imei = (IMEI*)rtxMemHeapAlloc(ctx, sizeof(IMEI));
+         if (pvalue->u.imei == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "imei", -1, "InitialUE-Identity");
+         asn1Init_UMTS_IMEI(pvalue->u.imei);
+         stat = dec_IMEI(ctx, pvalue->u.imei, cur);
+         RT_CHECK(ctx, stat, 0, "imei", -1, "InitialUE-Identity");
+         break;
+      case 4: /* esn-DS-41 */
+         pvalue->u.esn_DS_41 = (ESN_DS_41*)rtxMemHeapAlloc(ctx, sizeof(ESN_DS_41));
+         if (pvalue->u.esn_DS_41 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "esn-DS-41", -1, "InitialUE-Identity");
+         asn1Init_UMTS_ESN_DS_41(pvalue->u.esn_DS_41);
+         stat = dec_ESN_DS_41(ctx, pvalue->u.esn_DS_41, cur);
+         RT_CHECK(ctx, stat, 0, "esn-DS-41", -1, "InitialUE-Identity");
+         break;
+      case 5: /* imsi-DS-41 */
+         pvalue->u.imsi_DS_41 = (IMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(IMSI_DS_41));
+         if (pvalue->u.imsi_DS_41 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "imsi-DS-41", -1, "InitialUE-Identity");
+         asn1Init_UMTS_IMSI_DS_41(pvalue->u.imsi_DS_41);
+         stat = dec_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41, cur);
+         RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "InitialUE-Identity");
+         break;
+      case 6: /* imsi-and-ESN-DS-41 */
+         pvalue->u.imsi_and_ESN_DS_41 = (IMSI_and_ESN_DS_41*)rtxMemHeapAlloc(ctx, sizeof(IMSI_and_ESN_DS_41));
+         if (pvalue->u.imsi_and_ESN_DS_41 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "imsi-and-ESN-DS-41", -1, "InitialUE-Identity");
+         asn1Init_UMTS_IMSI_and_ESN_DS_41(pvalue->u.imsi_and_ESN_DS_41);
+         stat = dec_IMSI_and_ESN_DS_41(ctx, pvalue->u.imsi_and_ESN_DS_41, cur);
+         RT_CHECK(ctx, stat, 0, "imsi-and-ESN-DS-41", -1, "InitialUE-Identity");
+         break;
+      case 7: /* tmsi-DS-41 */
+         pvalue->u.tmsi_DS_41 = (TMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(TMSI_DS_41));
+         if (pvalue->u.tmsi_DS_41 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tmsi-DS-41", -1, "InitialUE-Identity");
+         asn1Init_UMTS_TMSI_DS_41(pvalue->u.tmsi_DS_41);
+         stat = dec_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41, cur);
+         RT_CHECK(ctx, stat, 0, "tmsi-DS-41", -1, "InitialUE-Identity");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InitialUE-Identity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialUE_Identity(rtxContext* RT_RESTRICT ctx, InitialUE_Identity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InitialUE_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_MessageAuthenticationCode(rtxContext* RT_RESTRICT ctx, MessageAuthenticationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, pvalue, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MessageAuthenticationCode");
+   return 0;
+}
+
+int asn1PD_UMTS_MessageAuthenticationCode(rtxContext* RT_RESTRICT ctx, MessageAuthenticationCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MessageAuthenticationCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_RRC_MessageSequenceNumber(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RRC-MessageSequenceNumber");
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_MessageSequenceNumber(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumber* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RRC_MessageSequenceNumber, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntegrityCheckInfo(rtxContext* RT_RESTRICT ctx, IntegrityCheckInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* messageAuthenticationCode */
+   stat = dec_MessageAuthenticationCode(ctx, &pvalue->messageAuthenticationCode, cur);
+   RT_CHECK(ctx, stat, 0, "messageAuthenticationCode", -1, "IntegrityCheckInfo");
+   /* rrc-MessageSequenceNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_MessageSequenceNumber, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-MessageSequenceNumber", "rrc-MessageSequenceNumber", -1, "IntegrityCheckInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityCheckInfo(rtxContext* RT_RESTRICT ctx, IntegrityCheckInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntegrityCheckInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_RRC_MessageSequenceNumberList(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumberList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 1, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RRC-MessageSequenceNumberList");
+      pvalue->n = n = raw + 4;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumberList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RRC-MessageSequenceNumberList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "RRC-MessageSequenceNumber", "RRC-MessageSequenceNumber", (int32_t)i, "RRC-MessageSequenceNumberList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_MessageSequenceNumberList(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumberList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RRC_MessageSequenceNumberList, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntegrityProtActivationInfo(rtxContext* RT_RESTRICT ctx, IntegrityProtActivationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rrc-MessageSequenceNumberList */
+   stat = dec_RRC_MessageSequenceNumberList(ctx, &pvalue->rrc_MessageSequenceNumberList, cur);
+   RT_CHECK(ctx, stat, 0, "rrc-MessageSequenceNumberList", -1, "IntegrityProtActivationInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtActivationInfo(rtxContext* RT_RESTRICT ctx, IntegrityProtActivationInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntegrityProtActivationInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntegrityProtectionAlgorithm(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntegrityProtectionAlgorithm");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntegrityProtectionAlgorithm");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionAlgorithm(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntegrityProtectionAlgorithm, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntegrityProtectionAlgorithm_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntegrityProtectionAlgorithm-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionAlgorithm_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntegrityProtectionAlgorithm_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntegrityProtInitNumber(rtxContext* RT_RESTRICT ctx, IntegrityProtInitNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, pvalue, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntegrityProtInitNumber");
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtInitNumber(rtxContext* RT_RESTRICT ctx, IntegrityProtInitNumber* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntegrityProtInitNumber, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntegrityProtectionModeCommand_startIntegrityProtection(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand_startIntegrityProtection* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* integrityProtInitNumber */
+   stat = dec_IntegrityProtInitNumber(ctx, &pvalue->integrityProtInitNumber, cur);
+   RT_CHECK(ctx, stat, 0, "integrityProtInitNumber", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand_startIntegrityProtection* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntegrityProtectionModeCommand_startIntegrityProtection, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntegrityProtectionModeCommand_modify(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-IntegrityProtActivationInfo */
+   stat = dec_IntegrityProtActivationInfo(ctx, &pvalue->dl_IntegrityProtActivationInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-IntegrityProtActivationInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionModeCommand_modify(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand_modify* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntegrityProtectionModeCommand_modify, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntegrityProtectionModeCommand(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntegrityProtectionModeCommand");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* startIntegrityProtection */
+         pvalue->u.startIntegrityProtection = (IntegrityProtectionModeCommand_startIntegrityProtection*)rtxMemHeapAlloc(ctx, sizeof(IntegrityProtectionModeCommand_startIntegrityProtection));
+         if (pvalue->u.startIntegrityProtection == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "startIntegrityProtection", -1, "IntegrityProtectionModeCommand");
+         asn1Init_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(pvalue->u.startIntegrityProtection);
+         stat = dec_IntegrityProtectionModeCommand_startIntegrityProtection(ctx, pvalue->u.startIntegrityProtection, cur);
+         RT_CHECK(ctx, stat, 0, "startIntegrityProtection", -1, "IntegrityProtectionModeCommand");
+         break;
+      case 1: /* modify */
+         pvalue->u.modify = (IntegrityProtectionModeCommand_modify*)rtxMemHeapAlloc(ctx, sizeof(IntegrityProtectionModeCommand_modify));
+         if (pvalue->u.modify == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "modify", -1, "IntegrityProtectionModeCommand");
+         asn1Init_UMTS_IntegrityProtectionModeCommand_modify(pvalue->u.modify);
+         stat = dec_IntegrityProtectionModeCommand_modify(ctx, pvalue->u.modify, cur);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "IntegrityProtectionModeCommand");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntegrityProtectionModeCommand");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionModeCommand(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntegrityProtectionModeCommand, pvalue);
+}
+
+static int dec_IntegrityProtectionModeInfo(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntegrityProtectionModeInfo");
+   /* integrityProtectionModeCommand */
+   stat = dec_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand, cur);
+   RT_CHECK(ctx, stat, 0, "integrityProtectionModeCommand", -1, "IntegrityProtectionModeInfo");
+   /* integrityProtectionAlgorithm */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "IntegrityProtectionAlgorithm", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "IntegrityProtectionAlgorithm", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo");
+         pvalue->integrityProtectionAlgorithm = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionModeInfo(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntegrityProtectionModeInfo, pvalue);
+}
+
+static int dec_IntegrityProtectionModeInfo_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntegrityProtectionModeInfo-r7");
+   /* integrityProtectionModeCommand */
+   stat = dec_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand, cur);
+   RT_CHECK(ctx, stat, 0, "integrityProtectionModeCommand", -1, "IntegrityProtectionModeInfo-r7");
+   /* integrityProtectionAlgorithm */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->integrityProtectionAlgorithm, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "IntegrityProtectionAlgorithm-r7", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionModeInfo_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntegrityProtectionModeInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxHcContextSpace(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxHcContextSpace");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxHcContextSpace(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxHcContextSpace, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxHcContextSpace_r5_ext(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace_r5_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxHcContextSpace-r5-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxHcContextSpace_r5_ext(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace_r5_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxHcContextSpace_r5_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxROHC_ContextSessions_r4(rtxContext* RT_RESTRICT ctx, MaxROHC_ContextSessions_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxROHC-ContextSessions-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxROHC_ContextSessions_r4(rtxContext* RT_RESTRICT ctx, MaxROHC_ContextSessions_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxROHC_ContextSessions_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaximumAM_EntityNumberRLC_Cap(rtxContext* RT_RESTRICT ctx, MaximumAM_EntityNumberRLC_Cap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaximumAM-EntityNumberRLC-Cap");
+   return 0;
+}
+
+int asn1PD_UMTS_MaximumAM_EntityNumberRLC_Cap(rtxContext* RT_RESTRICT ctx, MaximumAM_EntityNumberRLC_Cap* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaximumAM_EntityNumberRLC_Cap, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaximumRLC_WindowSize(rtxContext* RT_RESTRICT ctx, MaximumRLC_WindowSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaximumRLC-WindowSize");
+   return 0;
+}
+
+int asn1PD_UMTS_MaximumRLC_WindowSize(rtxContext* RT_RESTRICT ctx, MaximumRLC_WindowSize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaximumRLC_WindowSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxNoDPDCH_BitsTransmitted(rtxContext* RT_RESTRICT ctx, MaxNoDPDCH_BitsTransmitted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxNoDPDCH-BitsTransmitted");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNoDPDCH_BitsTransmitted(rtxContext* RT_RESTRICT ctx, MaxNoDPDCH_BitsTransmitted* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxNoDPDCH_BitsTransmitted, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxNumberOfTFC_UL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_UL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxNumberOfTFC-UL");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNumberOfTFC_UL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_UL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxNumberOfTFC_UL, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxPhysChPerTimeslot(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerTimeslot");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerTimeslot(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxPhysChPerTimeslot, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxPhysChPerTimeslot_LCR_r7(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot_LCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerTimeslot-LCR-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerTimeslot_LCR_r7(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot_LCR_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxPhysChPerTimeslot_LCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxSimultaneousTransChsUL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsUL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxSimultaneousTransChsUL");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxSimultaneousTransChsUL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsUL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxSimultaneousTransChsUL, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxTransportBlocksUL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksUL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxTransportBlocksUL");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxTransportBlocksUL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksUL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxTransportBlocksUL, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCapability(rtxContext* RT_RESTRICT ctx, MeasurementCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkCompressedMode */
+   stat = dec_CompressedModeMeasCapability(ctx, &pvalue->downlinkCompressedMode, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability");
+   /* uplinkCompressedMode */
+   stat = dec_CompressedModeMeasCapability(ctx, &pvalue->uplinkCompressedMode, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode", -1, "MeasurementCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapability(rtxContext* RT_RESTRICT ctx, MeasurementCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCapabilityExt(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementCapabilityExt");
+   /* compressedModeMeasCapabFDDList */
+   stat = dec_CompressedModeMeasCapabFDDList(ctx, &pvalue->compressedModeMeasCapabFDDList, cur);
+   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList", -1, "MeasurementCapabilityExt");
+   /* compressedModeMeasCapabTDDList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabTDDList", -1, "MeasurementCapabilityExt");
+   }
+   /* compressedModeMeasCapabGSMList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabGSMList", -1, "MeasurementCapabilityExt");
+   }
+   /* compressedModeMeasCapabMC */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabMC", -1, "MeasurementCapabilityExt");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapabilityExt(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCapabilityExt, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCapabilityExt2(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementCapabilityExt2");
+   /* compressedModeMeasCapabFDDList */
+   stat = dec_CompressedModeMeasCapabFDDList2(ctx, &pvalue->compressedModeMeasCapabFDDList, cur);
+   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList", -1, "MeasurementCapabilityExt2");
+   /* compressedModeMeasCapabTDDList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabTDDList", -1, "MeasurementCapabilityExt2");
+   }
+   /* compressedModeMeasCapabGSMList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabGSMList", -1, "MeasurementCapabilityExt2");
+   }
+   /* compressedModeMeasCapabMC */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabMC", -1, "MeasurementCapabilityExt2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapabilityExt2(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCapabilityExt2, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCapabilityExt3(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementCapabilityExt3");
+   /* compressedModeMeasCapabEUTRAList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CompressedModeMeasCapabEUTRAList(ctx, &pvalue->compressedModeMeasCapabEUTRAList, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabEUTRAList", -1, "MeasurementCapabilityExt3");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapabilityExt3(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCapabilityExt3, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCapability_r4_ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkCompressedMode-LCR */
+   stat = dec_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->downlinkCompressedMode_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode-LCR", -1, "MeasurementCapability-r4-ext");
+   /* uplinkCompressedMode-LCR */
+   stat = dec_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->uplinkCompressedMode_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode-LCR", -1, "MeasurementCapability-r4-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapability_r4_ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCapability_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCapability_v860ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkCompressedMode */
+   stat = dec_CompressedModeMeasCapability_v860ext(ctx, &pvalue->downlinkCompressedMode, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-v860ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapability_v860ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCapability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCapability_v920ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkCompressedMode */
+   stat = dec_CompressedModeMeasCapability_v920ext(ctx, &pvalue->downlinkCompressedMode, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapability_v920ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCapability_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCapabilityTDD(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementCapabilityTDD");
+   /* idleIntervalMeasCapabEUTRAList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IdleIntervalMeasCapabEUTRAList(ctx, &pvalue->idleIntervalMeasCapabEUTRAList, cur);
+      RT_CHECK(ctx, stat, 0, "idleIntervalMeasCapabEUTRAList", -1, "MeasurementCapabilityTDD");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapabilityTDD(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCapabilityTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_MinimumSF_UL(rtxContext* RT_RESTRICT ctx, MinimumSF_UL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MinimumSF-UL");
+   return 0;
+}
+
+int asn1PD_UMTS_MinimumSF_UL(rtxContext* RT_RESTRICT ctx, MinimumSF_UL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MinimumSF_UL, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiModeCapability(rtxContext* RT_RESTRICT ctx, MultiModeCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MultiModeCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeCapability(rtxContext* RT_RESTRICT ctx, MultiModeCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiModeCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiRAT_Capability(rtxContext* RT_RESTRICT ctx, MultiRAT_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* supportOfGSM */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOfGSM);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOfGSM", -1, "MultiRAT-Capability");
+   /* supportOfMulticarrier */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOfMulticarrier);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOfMulticarrier", -1, "MultiRAT-Capability");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiRAT_Capability(rtxContext* RT_RESTRICT ctx, MultiRAT_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiRAT_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v590ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* supportOfUTRAN-ToGERAN-NACC */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOfUTRAN_ToGERAN_NACC);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOfUTRAN-ToGERAN-NACC", -1, "MultiModeRAT-Capability-v590ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v590ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiModeRAT_Capability_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v680ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MultiModeRAT-Capability-v680ext");
+   /* supportOfHandoverToGAN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfHandoverToGAN", -1, "MultiModeRAT-Capability-v680ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfHandoverToGAN", -1, "MultiModeRAT-Capability-v680ext");
+         pvalue->supportOfHandoverToGAN = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v680ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiModeRAT_Capability_v680ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v770ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MultiModeRAT-Capability-v770ext");
+   /* supportOfPSHandoverToGAN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfPSHandoverToGAN", -1, "MultiModeRAT-Capability-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfPSHandoverToGAN", -1, "MultiModeRAT-Capability-v770ext");
+         pvalue->supportOfPSHandoverToGAN = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v770ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiModeRAT_Capability_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiModeRAT_Capability_v860ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MultiModeRAT-Capability-v860ext");
+   /* supportOfEUTRAFDD */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+         pvalue->supportOfEUTRAFDD = ui;
+      }
+   }
+   /* supportOfInterRATHOToEUTRAFDD */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfInterRATHOToEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfInterRATHOToEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+         pvalue->supportOfInterRATHOToEUTRAFDD = ui;
+      }
+   }
+   /* supportOfEUTRATDD */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+         pvalue->supportOfEUTRATDD = ui;
+      }
+   }
+   /* supportOfInterRATHOToEUTRATDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfInterRATHOToEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfInterRATHOToEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+         pvalue->supportOfInterRATHOToEUTRATDD = ui;
+      }
+   }
+   /* eutraFeatureGroupIndicators */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      RT_SET_SIZE(ctx, 4, 4);
+      stat = pd_BitString32At(ctx, cur, &pvalue->eutraFeatureGroupIndicators, 4, 4);
+      RT_CHECK_AT(ctx, cur, stat, 0, "eutraFeatureGroupIndicators", -1, "MultiModeRAT-Capability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v860ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiModeRAT_Capability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_308(rtxContext* RT_RESTRICT ctx, N_308* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-308");
+   return 0;
+}
+
+int asn1PD_UMTS_N_308(rtxContext* RT_RESTRICT ctx, N_308* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_N_308, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_312_r5(rtxContext* RT_RESTRICT ctx, N_312_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-312-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_N_312_r5(rtxContext* RT_RESTRICT ctx, N_312_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_N_312_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_315_r5(rtxContext* RT_RESTRICT ctx, N_315_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-315-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_N_315_r5(rtxContext* RT_RESTRICT ctx, N_315_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_N_315_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO, pvalue);
+}
+
+RT_MERGED_BODY int dec_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO, pvalue);
+}
+
+RT_MERGED_BODY int dec_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO, pvalue);
+}
+
+RT_MERGED_BODY int dec_NeighCellSI_AcquisitionCapability(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NeighCellSI-AcquisitionCapability");
+   /* supportOfIntraFreqSIAcquisitionForHO */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfIntraFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfIntraFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+         pvalue->supportOfIntraFreqSIAcquisitionForHO = ui;
+      }
+   }
+   /* supportOfInterFreqSIAcquisitionForHO */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfInterFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfInterFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+         pvalue->supportOfInterFreqSIAcquisitionForHO = ui;
+      }
+   }
+   /* supportOfE-UtraSIAcquisitionForHO */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfE-UtraSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfE-UtraSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+         pvalue->supportOfE_UtraSIAcquisitionForHO = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NeighCellSI_AcquisitionCapability(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NeighCellSI_AcquisitionCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_NetworkAssistedGANSS_Supported_List_element_gANSS_Id(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element_gANSS_Id* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_element_gANSS_Id(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element_gANSS_Id* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NetworkAssistedGANSS_Supported_List_element_gANSS_Id, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_Signal_Id(rtxContext* RT_RESTRICT ctx, GANSS_Signal_Id* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSS-Signal-Id");
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_Signal_Id(rtxContext* RT_RESTRICT ctx, GANSS_Signal_Id* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_Signal_Id, pvalue);
+}
+
+RT_MERGED_BODY int dec_NetworkAssistedGANSS_Supported_List_element(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* gANSS-Id */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->gANSS_Id, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSS-Id", -1, 0);
+   }
+   /* gANSS-Mode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->gANSS_Mode, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "GANSS-Mode", "gANSS-Mode", -1, 0);
+   /* gANSS-SignalId */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->gANSS_SignalId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "GANSS-Signal-Id", "gANSS-SignalId", -1, 0);
+   }
+   /* supportForUE-GANSS-TimingOfCellFrames */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportForUE_GANSS_TimingOfCellFrames);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportForUE-GANSS-TimingOfCellFrames", -1, 0);
+   /* supportForUE-GANSS-CarrierPhaseMeasurement */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->supportForUE_GANSS_CarrierPhaseMeasurement);
+      RT_CHECK_AT(ctx, cur, stat, 0, "supportForUE-GANSS-CarrierPhaseMeasurement", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_element(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NetworkAssistedGANSS_Supported_List_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_NetworkAssistedGANSS_Supported_List(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NetworkAssistedGANSS-Supported-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NetworkAssistedGANSS_Supported_List_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NetworkAssistedGANSS_Supported_List_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List");
+      elem = (NetworkAssistedGANSS_Supported_List_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NetworkAssistedGANSS_Supported_List_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NetworkAssistedGANSS_Supported_List_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NetworkAssistedGANSS_Supported_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported, pvalue);
+}
+
+RT_MERGED_BODY int dec_NetworkAssistedGANSS_Supported_List_v860ext_element(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sbas-Ids */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->sbas_Ids, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "sbas-Ids", -1, 0);
+   }
+   /* gANSS-SignalIds */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->gANSS_SignalIds, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSS-SignalIds", -1, 0);
+   }
+   /* non-native-AD-choices-supported */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "non-native-AD-choices-supported", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "non-native-AD-choices-supported", -1, 0);
+         pvalue->non_native_AD_choices_supported = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NetworkAssistedGANSS_Supported_List_v860ext_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_NetworkAssistedGANSS_Supported_List_v860ext(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NetworkAssistedGANSS-Supported-List-v860ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NetworkAssistedGANSS_Supported_List_v860ext_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NetworkAssistedGANSS_Supported_List_v860ext_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List-v860ext");
+      elem = (NetworkAssistedGANSS_Supported_List_v860ext_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NetworkAssistedGANSS_Supported_List_v860ext_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NetworkAssistedGANSS_Supported_List_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_NetworkAssistedGPS_Supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGPS_Supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NetworkAssistedGPS-Supported");
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGPS_Supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGPS_Supported* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NetworkAssistedGPS_Supported, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingCause(rtxContext* RT_RESTRICT ctx, PagingCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PagingCause");
+   return 0;
+}
+
+int asn1PD_UMTS_PagingCause(rtxContext* RT_RESTRICT ctx, PagingCause* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingCause, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingRecord_cn_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord_cn_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pagingCause */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pagingCause, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "PagingCause", "pagingCause", -1, 0);
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   /* cn-pagedUE-Identity */
+   stat = dec_CN_PagedUE_Identity(ctx, &pvalue->cn_pagedUE_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "cn-pagedUE-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord_cn_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord_cn_Identity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingRecord_cn_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_SRNC_Identity(rtxContext* RT_RESTRICT ctx, SRNC_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pd_BitString32At(ctx, cur, pvalue, 12, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRNC-Identity");
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_Identity(rtxContext* RT_RESTRICT ctx, SRNC_Identity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRNC_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_S_RNTI(rtxContext* RT_RESTRICT ctx, S_RNTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 20, 20);
+   stat = pd_BitString32At(ctx, cur, pvalue, 20, 20);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "S-RNTI");
+   return 0;
+}
+
+int asn1PD_UMTS_S_RNTI(rtxContext* RT_RESTRICT ctx, S_RNTI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_S_RNTI, pvalue);
+}
+
+RT_MERGED_BODY int dec_U_RNTI(rtxContext* RT_RESTRICT ctx, U_RNTI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* srnc-Identity */
+   stat = dec_SRNC_Identity(ctx, &pvalue->srnc_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "srnc-Identity", -1, "U-RNTI");
+   /* s-RNTI */
+   stat = dec_S_RNTI(ctx, &pvalue->s_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "s-RNTI", -1, "U-RNTI");
+   return 0;
+}
+
+int asn1PD_UMTS_U_RNTI(rtxContext* RT_RESTRICT ctx, U_RNTI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_U_RNTI, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pagingCause */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pagingCause, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "PagingCause", "pagingCause", -1, 0);
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   /* pagingRecordTypeID */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pagingRecordTypeID, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingRecord_utran_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord_utran_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = dec_U_RNTI(ctx, &pvalue->u_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* cn-OriginatedPage-connectedMode-UE */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE, cur);
+      RT_CHECK(ctx, stat, 0, "cn-OriginatedPage-connectedMode-UE", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord_utran_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord_utran_Identity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingRecord_utran_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingRecord(rtxContext* RT_RESTRICT ctx, PagingRecord* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PagingRecord");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cn-Identity */
+         pvalue->u.cn_Identity = (PagingRecord_cn_Identity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord_cn_Identity));
+         if (pvalue->u.cn_Identity == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cn-Identity", -1, "PagingRecord");
+         asn1Init_UMTS_PagingRecord_cn_Identity(pvalue->u.cn_Identity);
+         stat = dec_PagingRecord_cn_Identity(ctx, pvalue->u.cn_Identity, cur);
+         RT_CHECK(ctx, stat, 0, "cn-Identity", -1, "PagingRecord");
+         break;
+      case 1: /* utran-Identity */
+         pvalue->u.utran_Identity = (PagingRecord_utran_Identity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord_utran_Identity));
+         if (pvalue->u.utran_Identity == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "utran-Identity", -1, "PagingRecord");
+         asn1Init_UMTS_PagingRecord_utran_Identity(pvalue->u.utran_Identity);
+         stat = dec_PagingRecord_utran_Identity(ctx, pvalue->u.utran_Identity, cur);
+         RT_CHECK(ctx, stat, 0, "utran-Identity", -1, "PagingRecord");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PagingRecord");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord(rtxContext* RT_RESTRICT ctx, PagingRecord* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingRecord, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pagingCause */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pagingCause, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "PagingCause", "pagingCause", -1, 0);
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   /* pagingRecordTypeID */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pagingRecordTypeID, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingRecord2_r5_utran_SingleUE_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_SingleUE_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = dec_U_RNTI(ctx, &pvalue->u_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* cn-OriginatedPage-connectedMode-UE */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE, cur);
+      RT_CHECK(ctx, stat, 0, "cn-OriginatedPage-connectedMode-UE", -1, 0);
+   }
+   /* rrc-ConnectionReleaseInformation */
+   stat = dec_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation, cur);
+   RT_CHECK(ctx, stat, 0, "rrc-ConnectionReleaseInformation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_SingleUE_Identity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingRecord2_r5_utran_SingleUE_Identity, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingRecord2_r5_utran_GroupIdentity(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_GroupIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GroupIdentityWithReleaseInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GroupIdentityWithReleaseInformation));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GroupIdentityWithReleaseInformation", (int32_t)i, 0);
+      elem = (GroupIdentityWithReleaseInformation*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GroupIdentityWithReleaseInformation(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GroupIdentityWithReleaseInformation(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GroupIdentityWithReleaseInformation", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord2_r5_utran_GroupIdentity(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_GroupIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingRecord2_r5_utran_GroupIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingRecord2_r5(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PagingRecord2-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* utran-SingleUE-Identity */
+         pvalue->u.utran_SingleUE_Identity = (PagingRecord2_r5_utran_SingleUE_Identity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord2_r5_utran_SingleUE_Identity));
+         if (pvalue->u.utran_SingleUE_Identity == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "utran-SingleUE-Identity", -1, "PagingRecord2-r5");
+         asn1Init_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(pvalue->u.utran_SingleUE_Identity);
+         stat = dec_PagingRecord2_r5_utran_SingleUE_Identity(ctx, pvalue->u.utran_SingleUE_Identity, cur);
+         RT_CHECK(ctx, stat, 0, "utran-SingleUE-Identity", -1, "PagingRecord2-r5");
+         break;
+      case 1: /* utran-GroupIdentity */
+         pvalue->u.utran_GroupIdentity = (PagingRecord2_r5_utran_GroupIdentity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord2_r5_utran_GroupIdentity));
+         if (pvalue->u.utran_GroupIdentity == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "utran-GroupIdentity", -1, "PagingRecord2-r5");
+         asn1Init_UMTS_PagingRecord2_r5_utran_GroupIdentity(pvalue->u.utran_GroupIdentity);
+         stat = dec_PagingRecord2_r5_utran_GroupIdentity(ctx, pvalue->u.utran_GroupIdentity, cur);
+         RT_CHECK(ctx, stat, 0, "utran-GroupIdentity", -1, "PagingRecord2-r5");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PagingRecord2-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord2_r5(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingRecord2_r5, pvalue);
+}
+
+static int dec_PagingRecordList(rtxContext* RT_RESTRICT ctx, PagingRecordList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PagingRecordList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PagingRecord* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PagingRecord));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PagingRecord", (int32_t)i, "PagingRecordList");
+      elem = (PagingRecord*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PagingRecord(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PagingRecord(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PagingRecord", (int32_t)i, "PagingRecordList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecordList(rtxContext* RT_RESTRICT ctx, PagingRecordList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingRecordList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PagingRecord2List_r5(rtxContext* RT_RESTRICT ctx, PagingRecord2List_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PagingRecord2List-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PagingRecord2_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PagingRecord2_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PagingRecord2-r5", (int32_t)i, "PagingRecord2List-r5");
+      elem = (PagingRecord2_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PagingRecord2_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PagingRecord2_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PagingRecord2-r5", (int32_t)i, "PagingRecord2List-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord2List_r5(rtxContext* RT_RESTRICT ctx, PagingRecord2List_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PagingRecord2List_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_Capability_supportForRfc2507(rtxContext* RT_RESTRICT ctx, PDCP_Capability_supportForRfc2507* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.supported, 0, 4);
+         RT_CHECK_AT(ctx, cur, stat, "MaxHcContextSpace", "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_supportForRfc2507(rtxContext* RT_RESTRICT ctx, PDCP_Capability_supportForRfc2507* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_Capability_supportForRfc2507, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_Capability(rtxContext* RT_RESTRICT ctx, PDCP_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* losslessSRNS-RelocationSupport */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->losslessSRNS_RelocationSupport);
+   RT_CHECK_AT(ctx, cur, stat, 0, "losslessSRNS-RelocationSupport", -1, "PDCP-Capability");
+   /* supportForRfc2507 */
+   stat = dec_PDCP_Capability_supportForRfc2507(ctx, &pvalue->supportForRfc2507, cur);
+   RT_CHECK(ctx, stat, 0, "supportForRfc2507", -1, "PDCP-Capability");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability(rtxContext* RT_RESTRICT ctx, PDCP_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_Capability_r4_ext_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext_supportForRfc3095_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* maxROHC-ContextSessions */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxROHC_ContextSessions, 0, 13);
+      RT_CHECK_AT(ctx, cur, stat, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+   }
+   else {
+      pvalue->maxROHC_ContextSessions = 4;
+   }
+   /* reverseCompressionDepth */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->reverseCompressionDepth, 0, 65535);
+      RT_CHECK_AT(ctx, cur, stat, 0, "reverseCompressionDepth", -1, 0);
+   }
+   else {
+      pvalue->reverseCompressionDepth = 0;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext_supportForRfc3095_supported* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_Capability_r4_ext_supportForRfc3095_supported, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_Capability_r4_ext_supportForRfc3095(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext_supportForRfc3095* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         pvalue->u.supported = (PDCP_Capability_r4_ext_supportForRfc3095_supported*)rtxMemHeapAlloc(ctx, sizeof(PDCP_Capability_r4_ext_supportForRfc3095_supported));
+         if (pvalue->u.supported == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         asn1Init_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(pvalue->u.supported);
+         stat = dec_PDCP_Capability_r4_ext_supportForRfc3095_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext_supportForRfc3095* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_Capability_r4_ext_supportForRfc3095, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* supportForRfc3095 */
+   stat = dec_PDCP_Capability_r4_ext_supportForRfc3095(ctx, &pvalue->supportForRfc3095, cur);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095", -1, "PDCP-Capability-r4-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_Capability_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDCP-Capability-r5-ext");
+   /* supportForRfc3095ContextRelocation */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportForRfc3095ContextRelocation);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportForRfc3095ContextRelocation", -1, "PDCP-Capability-r5-ext");
+   /* maxHcContextSpace */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxHcContextSpace, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "MaxHcContextSpace-r5-ext", "maxHcContextSpace", -1, "PDCP-Capability-r5-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_Capability_r5_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_Capability_r5_ext2(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDCP-Capability-r5-ext2");
+   /* losslessDLRLC-PDUSizeChange */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r5-ext2");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r5-ext2");
+         pvalue->losslessDLRLC_PDUSizeChange = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r5_ext2(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_Capability_r5_ext2, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_Capability_v770ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDCP-Capability-v770ext");
+   /* supportForCSVoiceoverHSPA */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForCSVoiceoverHSPA", -1, "PDCP-Capability-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForCSVoiceoverHSPA", -1, "PDCP-Capability-v770ext");
+         pvalue->supportForCSVoiceoverHSPA = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_v770ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_Capability_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxNoDPDCH-BitsTransmitted */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD");
+   /* dummy */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dummy);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dummy", -1, "UL-PhysChCapabilityFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_fddPhysChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = dec_DL_PhysChCapabilityFDD(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = dec_UL_PhysChCapabilityFDD(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_fddPhysChCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxTS-PerFrame */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK_AT(ctx, cur, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD");
+   /* maxPhysChPerTimeslot */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxPhysChPerTimeslot, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD");
+   /* minimumSF */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->minimumSF, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD");
+   /* supportOfPUSCH */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOfPUSCH);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_tddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_tddPhysChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = dec_DL_PhysChCapabilityTDD(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = dec_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_tddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_tddPhysChCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_tddPhysChCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PhysicalChannelCapability");
+   /* fddPhysChCapability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PhysicalChannelCapability_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability, cur);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability");
+   }
+   /* tddPhysChCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PhysicalChannelCapability_tddPhysChCapability(ctx, &pvalue->tddPhysChCapability, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability", -1, "PhysicalChannelCapability");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityFDD_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_slotFormat4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_slotFormat4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityFDD_v770ext_slotFormat4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-PhysChCapabilityFDD-v770ext");
+   /* edch-PhysicalLayerCategory-extension */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "edch-PhysicalLayerCategory-extension", -1, "UL-PhysChCapabilityFDD-v770ext");
+   }
+   /* discontinuousDpcchTransmission */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "discontinuousDpcchTransmission", -1, "UL-PhysChCapabilityFDD-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "discontinuousDpcchTransmission", -1, "UL-PhysChCapabilityFDD-v770ext");
+         pvalue->discontinuousDpcchTransmission = ui;
+      }
+   }
+   /* slotFormat4 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "slotFormat4", -1, "UL-PhysChCapabilityFDD-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "slotFormat4", -1, "UL-PhysChCapabilityFDD-v770ext");
+         pvalue->slotFormat4 = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityFDD_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v770ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_fddPhysChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = dec_DL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = dec_UL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_v770ext_fddPhysChCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tdd-edch-PhysicalLayerCategory */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         pvalue->u.supported = (UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported));
+         if (pvalue->u.supported == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         stat = dec_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_384_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tdd384-edch */
+   stat = dec_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(ctx, &pvalue->tdd384_edch, cur);
+   RT_CHECK(ctx, stat, 0, "tdd384-edch", -1, "UL-PhysChCapabilityTDD-384-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityTDD_384_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* uplinkPhysChCapability */
+   stat = dec_UL_PhysChCapabilityTDD_384_v770ext(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_v770ext_tddPhysChCapability_384, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768_tdd384_edch_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tdd-edch-PhysicalLayerCategory */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768_tdd384_edch_supported* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityTDD_768_tdd384_edch_supported, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_768_tdd384_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768_tdd384_edch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         pvalue->u.supported = (UL_PhysChCapabilityTDD_768_tdd384_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(UL_PhysChCapabilityTDD_768_tdd384_edch_supported));
+         if (pvalue->u.supported == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         stat = dec_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768_tdd384_edch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityTDD_768_tdd384_edch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxTS-PerFrame */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK_AT(ctx, cur, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD-768");
+   /* maxPhysChPerTimeslot */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxPhysChPerTimeslot, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-768");
+   /* minimumSF */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->minimumSF, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-768");
+   /* supportOfPUSCH */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOfPUSCH);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD-768");
+   /* tdd384-edch */
+   stat = dec_UL_PhysChCapabilityTDD_768_tdd384_edch(ctx, &pvalue->tdd384_edch, cur);
+   RT_CHECK(ctx, stat, 0, "tdd384-edch", -1, "UL-PhysChCapabilityTDD-768");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityTDD_768, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = dec_DL_PhysChCapabilityTDD_768(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = dec_UL_PhysChCapabilityTDD_768(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_v770ext_tddPhysChCapability_768, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tdd-edch-PhysicalLayerCategory */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         pvalue->u.supported = (UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported));
+         if (pvalue->u.supported == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         stat = dec_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxPhysChPerTimeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxPhysChPerTimeslot, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-128-v770ext");
+   /* tdd128-edch */
+   stat = dec_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(ctx, &pvalue->tdd128_edch, cur);
+   RT_CHECK(ctx, stat, 0, "tdd128-edch", -1, "UL-PhysChCapabilityTDD-128-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityTDD_128_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = dec_DL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = dec_UL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_v770ext_tddPhysChCapability_128, pvalue);
+}
+
+static int dec_PhysicalChannelCapability_v770ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PhysicalChannelCapability-v770ext");
+   /* fddPhysChCapability */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PhysicalChannelCapability_v770ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability, cur);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v770ext");
+   }
+   /* tddPhysChCapability-384 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(ctx, &pvalue->tddPhysChCapability_384, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-384", -1, "PhysicalChannelCapability-v770ext");
+   }
+   /* tddPhysChCapability-768 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-768", -1, "PhysicalChannelCapability-v770ext");
+   }
+   /* tddPhysChCapability-128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v770ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v860ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext_fddPhysChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = dec_DL_PhysChCapabilityFDD_v860ext(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_v860ext_fddPhysChCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext_tddPhysChCapability_128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = dec_DL_PhysChCapabilityTDD_128_v860ext(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_v860ext_tddPhysChCapability_128, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v860ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PhysicalChannelCapability-v860ext");
+   /* fddPhysChCapability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PhysicalChannelCapability_v860ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability, cur);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v860ext");
+   }
+   /* tddPhysChCapability-128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v860ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-PhysChCapabilityFDD-v920ext");
+   /* edch-PhysicalLayerCategory-extension2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
+      RT_CHECK_AT(ctx, cur, stat, 0, "edch-PhysicalLayerCategory-extension2", -1, "UL-PhysChCapabilityFDD-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityFDD_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v920ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v920ext_fddPhysChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = dec_DL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = dec_UL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v920ext_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_v920ext_fddPhysChCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_v920ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PhysicalChannelCapability-v920ext");
+   /* fddPhysChCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PhysicalChannelCapability_v920ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability, cur);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v920ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = dec_DL_PhysChCapabilityInfoTDD_768(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = dec_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityInfoTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityInfoTDD_128_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxPhysChPerTimeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxPhysChPerTimeslot, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityInfoTDD-128-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityInfoTDD_128_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityInfoTDD_128_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* uplinkPhysChCapability */
+   stat = dec_UL_PhysChCapabilityInfoTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PhysicalChannelCapabilityInfo-v770ext");
+   /* tddPhysChCapability-768 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-768", -1, "PhysicalChannelCapabilityInfo-v770ext");
+   }
+   /* tddPhysChCapability-128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapabilityInfo-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapabilityInfo_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxTS-PerSubFrame */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxTS_PerSubFrame, 1, 6);
+   RT_CHECK_AT(ctx, cur, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* maxPhysChPerTimeslot */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxPhysChPerTimeslot, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* minimumSF */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->minimumSF, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOfPUSCH */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOfPUSCH);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOf8PSK */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOf8PSK);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOf8PSK", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = dec_DL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = dec_UL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PhysicalChannelCapability-LCR-r4");
+   /* tdd128-PhysChCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(ctx, &pvalue->tdd128_PhysChCapability, cur);
+      RT_CHECK(ctx, stat, 0, "tdd128-PhysChCapability", -1, "PhysicalChannelCapability-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* hsdsch-physical-layer-category */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hsdsch_physical_layer_category, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category", "hsdsch-physical-layer-category", -1, 0);
+   /* dummy */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dummy);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dummy", -1, 0);
+   /* dummy2 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dummy2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dummy2", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         pvalue->u.supported = (PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported));
+         if (pvalue->u.supported == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         stat = dec_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.supported, 1, 64);
+         RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.supported, 1, 64);
+         RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_hspdsch_r5(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* fdd-hspdsch */
+   stat = dec_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(ctx, &pvalue->fdd_hspdsch, cur);
+   RT_CHECK(ctx, stat, 0, "fdd-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
+   /* tdd384-hspdsch */
+   stat = dec_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(ctx, &pvalue->tdd384_hspdsch, cur);
+   RT_CHECK(ctx, stat, 0, "tdd384-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
+   /* tdd128-hspdsch */
+   stat = dec_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(ctx, &pvalue->tdd128_hspdsch, cur);
+   RT_CHECK(ctx, stat, 0, "tdd128-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_hspdsch_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_Pre_RedirectionInfo(rtxContext* RT_RESTRICT ctx, Pre_RedirectionInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* supportEUTRA-FDD */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportEUTRA_FDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportEUTRA-FDD", -1, "Pre-RedirectionInfo");
+   /* supportEUTRA-TDD */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportEUTRA_TDD);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportEUTRA-TDD", -1, "Pre-RedirectionInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_Pre_RedirectionInfo(rtxContext* RT_RESTRICT ctx, Pre_RedirectionInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Pre_RedirectionInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_ProtocolErrorIndicator(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ProtocolErrorIndicator");
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorIndicator(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ProtocolErrorIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicatorWithMoreInfo_errorOccurred* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* protocolErrorInformation */
+   stat = dec_ProtocolErrorInformation(ctx, &pvalue->protocolErrorInformation, cur);
+   RT_CHECK(ctx, stat, 0, "protocolErrorInformation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicatorWithMoreInfo_errorOccurred* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ProtocolErrorIndicatorWithMoreInfo_errorOccurred, pvalue);
+}
+
+RT_MERGED_BODY int dec_ProtocolErrorIndicatorWithMoreInfo(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicatorWithMoreInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ProtocolErrorIndicatorWithMoreInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* noError */
+         break;
+      case 1: /* errorOccurred */
+         pvalue->u.errorOccurred = (ProtocolErrorIndicatorWithMoreInfo_errorOccurred*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorIndicatorWithMoreInfo_errorOccurred));
+         if (pvalue->u.errorOccurred == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "errorOccurred", -1, "ProtocolErrorIndicatorWithMoreInfo");
+         asn1Init_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(pvalue->u.errorOccurred);
+         stat = dec_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(ctx, pvalue->u.errorOccurred, cur);
+         RT_CHECK(ctx, stat, 0, "errorOccurred", -1, "ProtocolErrorIndicatorWithMoreInfo");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ProtocolErrorIndicatorWithMoreInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicatorWithMoreInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ProtocolErrorIndicatorWithMoreInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReceivedMessageType(rtxContext* RT_RESTRICT ctx, ReceivedMessageType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReceivedMessageType");
+   return 0;
+}
+
+int asn1PD_UMTS_ReceivedMessageType(rtxContext* RT_RESTRICT ctx, ReceivedMessageType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReceivedMessageType, pvalue);
+}
+
+RT_MERGED_BODY int dec_IdentificationOfReceivedMessage(rtxContext* RT_RESTRICT ctx, IdentificationOfReceivedMessage* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "IdentificationOfReceivedMessage");
+   /* receivedMessageType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->receivedMessageType, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "ReceivedMessageType", "receivedMessageType", -1, "IdentificationOfReceivedMessage");
+   return 0;
+}
+
+int asn1PD_UMTS_IdentificationOfReceivedMessage(rtxContext* RT_RESTRICT ctx, IdentificationOfReceivedMessage* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IdentificationOfReceivedMessage, pvalue);
+}
+
+RT_MERGED_BODY int dec_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation_diagnosticsType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* asn1-ViolationOrEncodingError */
+         break;
+      case 1: /* messageTypeNonexistent */
+         break;
+      case 2: /* messageNotCompatibleWithReceiverState */
+         pvalue->u.messageNotCompatibleWithReceiverState = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
+         if (pvalue->u.messageNotCompatibleWithReceiverState == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "messageNotCompatibleWithReceiverState", -1, 0);
+         stat = dec_IdentificationOfReceivedMessage(ctx, pvalue->u.messageNotCompatibleWithReceiverState, cur);
+         RT_CHECK(ctx, stat, 0, "messageNotCompatibleWithReceiverState", -1, 0);
+         break;
+      case 3: /* ie-ValueNotComprehended */
+         pvalue->u.ie_ValueNotComprehended = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
+         if (pvalue->u.ie_ValueNotComprehended == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ie-ValueNotComprehended", -1, 0);
+         stat = dec_IdentificationOfReceivedMessage(ctx, pvalue->u.ie_ValueNotComprehended, cur);
+         RT_CHECK(ctx, stat, 0, "ie-ValueNotComprehended", -1, 0);
+         break;
+      case 4: /* conditionalInformationElementError */
+         pvalue->u.conditionalInformationElementError = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
+         if (pvalue->u.conditionalInformationElementError == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "conditionalInformationElementError", -1, 0);
+         stat = dec_IdentificationOfReceivedMessage(ctx, pvalue->u.conditionalInformationElementError, cur);
+         RT_CHECK(ctx, stat, 0, "conditionalInformationElementError", -1, 0);
+         break;
+      case 5: /* messageExtensionNotComprehended */
+         pvalue->u.messageExtensionNotComprehended = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
+         if (pvalue->u.messageExtensionNotComprehended == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "messageExtensionNotComprehended", -1, 0);
+         stat = dec_IdentificationOfReceivedMessage(ctx, pvalue->u.messageExtensionNotComprehended, cur);
+         RT_CHECK(ctx, stat, 0, "messageExtensionNotComprehended", -1, 0);
+         break;
+      case 6: /* spare1 */
+         break;
+      case 7: /* spare2 */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation_diagnosticsType_type1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ProtocolErrorMoreInformation_diagnosticsType_type1, pvalue);
+}
+
+RT_MERGED_BODY int dec_ProtocolErrorMoreInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation_diagnosticsType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* type1 */
+         pvalue->u.type1 = (ProtocolErrorMoreInformation_diagnosticsType_type1*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorMoreInformation_diagnosticsType_type1));
+         if (pvalue->u.type1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         asn1Init_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(pvalue->u.type1);
+         stat = dec_ProtocolErrorMoreInformation_diagnosticsType_type1(ctx, pvalue->u.type1, cur);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 1: /* spare */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation_diagnosticsType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ProtocolErrorMoreInformation_diagnosticsType, pvalue);
+}
+
+RT_MERGED_BODY int dec_ProtocolErrorMoreInformation(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* diagnosticsType */
+   stat = dec_ProtocolErrorMoreInformation_diagnosticsType(ctx, &pvalue->diagnosticsType, cur);
+   RT_CHECK(ctx, stat, 0, "diagnosticsType", -1, "ProtocolErrorMoreInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorMoreInformation(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ProtocolErrorMoreInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_RadioFrequencyBandTDDList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandTDDList");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandTDDList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RadioFrequencyBandTDDList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RadioFrequencyBandTDDList_r7(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandTDDList-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandTDDList_r7(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RadioFrequencyBandTDDList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RadioFrequencyBandTDDext(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandTDDext");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandTDDext(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RadioFrequencyBandTDDext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RadioFrequencyBandTDDextList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDextList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandTDDextList");
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "RadioFrequencyBandTDDextList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RadioFrequencyBandTDDextList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "RadioFrequencyBandTDDext", "RadioFrequencyBandTDDext", (int32_t)i, "RadioFrequencyBandTDDextList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandTDDextList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDextList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RadioFrequencyBandTDDextList, pvalue);
+}
+
+RT_MERGED_BODY int dec_Rb_timer_indicator(rtxContext* RT_RESTRICT ctx, Rb_timer_indicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* t314-expired */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->t314_expired);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t314-expired", -1, "Rb-timer-indicator");
+   /* t315-expired */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->t315_expired);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t315-expired", -1, "Rb-timer-indicator");
+   return 0;
+}
+
+int asn1PD_UMTS_Rb_timer_indicator(rtxContext* RT_RESTRICT ctx, Rb_timer_indicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Rb_timer_indicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATInfo(rtxContext* RT_RESTRICT ctx, InterRATInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATInfo");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATInfo");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATInfo(rtxContext* RT_RESTRICT ctx, InterRATInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_RedirectionInfo(rtxContext* RT_RESTRICT ctx, RedirectionInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RedirectionInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* frequencyInfo */
+         pvalue->u.frequencyInfo = (FrequencyInfo*)rtxMemHeapAlloc(ctx, sizeof(FrequencyInfo));
+         if (pvalue->u.frequencyInfo == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "frequencyInfo", -1, "RedirectionInfo");
+         asn1Init_UMTS_FrequencyInfo(pvalue->u.frequencyInfo);
+         stat = dec_FrequencyInfo(ctx, pvalue->u.frequencyInfo, cur);
+         RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RedirectionInfo");
+         break;
+      case 1: /* interRATInfo */
+         {
+            uint32_t ui;
+            stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+            RT_CHECK_AT(ctx, cur, stat, "InterRATInfo", "interRATInfo", -1, "RedirectionInfo");
+            stat = ui != 0 ? RT_ERR_INVENUM : 0;
+            RT_CHECK_AT(ctx, cur, stat, "InterRATInfo", "interRATInfo", -1, "RedirectionInfo");
+            pvalue->u.interRATInfo = ui;
+         }
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RedirectionInfo(rtxContext* RT_RESTRICT ctx, RedirectionInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RedirectionInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_TargetCellInfo(rtxContext* RT_RESTRICT ctx, GSM_TargetCellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GSM-TargetCellInfo");
+   /* bcch-ARFCN */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, "GSM-TargetCellInfo");
+   /* frequency-band */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->frequency_band, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "Frequency-Band", "frequency-band", -1, "GSM-TargetCellInfo");
+   /* bsic */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_BSIC(ctx, &pvalue->bsic, cur);
+      RT_CHECK(ctx, stat, 0, "bsic", -1, "GSM-TargetCellInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_TargetCellInfo(rtxContext* RT_RESTRICT ctx, GSM_TargetCellInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_TargetCellInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_TargetCellInfoList(rtxContext* RT_RESTRICT ctx, GSM_TargetCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GSM-TargetCellInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GSM_TargetCellInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_TargetCellInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GSM-TargetCellInfo", (int32_t)i, "GSM-TargetCellInfoList");
+      elem = (GSM_TargetCellInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GSM_TargetCellInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GSM_TargetCellInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GSM-TargetCellInfo", (int32_t)i, "GSM-TargetCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_TargetCellInfoList(rtxContext* RT_RESTRICT ctx, GSM_TargetCellInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_TargetCellInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATInfo_r6(rtxContext* RT_RESTRICT ctx, InterRATInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATInfo-r6");
+   /* rat */
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, "InterRATInfo", "rat", -1, "InterRATInfo-r6");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, "InterRATInfo", "rat", -1, "InterRATInfo-r6");
+      pvalue->rat = ui;
+   }
+   /* gsm-TargetCellInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_GSM_TargetCellInfoList(ctx, &pvalue->gsm_TargetCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "gsm-TargetCellInfoList", -1, "InterRATInfo-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATInfo_r6(rtxContext* RT_RESTRICT ctx, InterRATInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RedirectionInfo_r6(rtxContext* RT_RESTRICT ctx, RedirectionInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RedirectionInfo-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* frequencyInfo */
+         pvalue->u.frequencyInfo = (FrequencyInfo*)rtxMemHeapAlloc(ctx, sizeof(FrequencyInfo));
+         if (pvalue->u.frequencyInfo == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "frequencyInfo", -1, "RedirectionInfo-r6");
+         asn1Init_UMTS_FrequencyInfo(pvalue->u.frequencyInfo);
+         stat = dec_FrequencyInfo(ctx, pvalue->u.frequencyInfo, cur);
+         RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RedirectionInfo-r6");
+         break;
+      case 1: /* interRATInfo */
+         pvalue->u.interRATInfo = (InterRATInfo_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATInfo_r6));
+         if (pvalue->u.interRATInfo == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATInfo", -1, "RedirectionInfo-r6");
+         asn1Init_UMTS_InterRATInfo_r6(pvalue->u.interRATInfo);
+         stat = dec_InterRATInfo_r6(ctx, pvalue->u.interRATInfo, cur);
+         RT_CHECK(ctx, stat, 0, "interRATInfo", -1, "RedirectionInfo-r6");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RedirectionInfo_r6(rtxContext* RT_RESTRICT ctx, RedirectionInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RedirectionInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_PhysicalCellIdentity(rtxContext* RT_RESTRICT ctx, EUTRA_PhysicalCellIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 503);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-PhysicalCellIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_PhysicalCellIdentity(rtxContext* RT_RESTRICT ctx, EUTRA_PhysicalCellIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_PhysicalCellIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_BlacklistedCell(rtxContext* RT_RESTRICT ctx, EUTRA_BlacklistedCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* physicalCellIdentity */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->physicalCellIdentity, 0, 503);
+   RT_CHECK_AT(ctx, cur, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-BlacklistedCell");
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_BlacklistedCell(rtxContext* RT_RESTRICT ctx, EUTRA_BlacklistedCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_BlacklistedCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_BlacklistedCellPerFreqList(rtxContext* RT_RESTRICT ctx, EUTRA_BlacklistedCellPerFreqList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-BlacklistedCellPerFreqList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      EUTRA_BlacklistedCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_BlacklistedCell));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "EUTRA-BlacklistedCell", (int32_t)i, "EUTRA-BlacklistedCellPerFreqList");
+      elem = (EUTRA_BlacklistedCell*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_EUTRA_BlacklistedCell(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-BlacklistedCell", (int32_t)i, "EUTRA-BlacklistedCellPerFreqList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_BlacklistedCellPerFreqList(rtxContext* RT_RESTRICT ctx, EUTRA_BlacklistedCellPerFreqList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_BlacklistedCellPerFreqList, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_TargetFreqInfo(rtxContext* RT_RESTRICT ctx, EUTRA_TargetFreqInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-TargetFreqInfo");
+   /* dlEUTRACarrierFreq */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->dlEUTRACarrierFreq, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, "EARFCN", "dlEUTRACarrierFreq", -1, "EUTRA-TargetFreqInfo");
+   /* eutraBlacklistedCellPerFreqList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutraBlacklistedCellPerFreqList, cur);
+      RT_CHECK(ctx, stat, 0, "eutraBlacklistedCellPerFreqList", -1, "EUTRA-TargetFreqInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_TargetFreqInfo(rtxContext* RT_RESTRICT ctx, EUTRA_TargetFreqInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_TargetFreqInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_TargetFreqInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_TargetFreqInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-TargetFreqInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      EUTRA_TargetFreqInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_TargetFreqInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "EUTRA-TargetFreqInfo", (int32_t)i, "EUTRA-TargetFreqInfoList");
+      elem = (EUTRA_TargetFreqInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_EUTRA_TargetFreqInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_EUTRA_TargetFreqInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-TargetFreqInfo", (int32_t)i, "EUTRA-TargetFreqInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_TargetFreqInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_TargetFreqInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_TargetFreqInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATInfo_v860ext_eutra(rtxContext* RT_RESTRICT ctx, InterRATInfo_v860ext_eutra* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* eutra-TargetFreqInfoList */
+   stat = dec_EUTRA_TargetFreqInfoList(ctx, &pvalue->eutra_TargetFreqInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "eutra-TargetFreqInfoList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATInfo_v860ext_eutra(rtxContext* RT_RESTRICT ctx, InterRATInfo_v860ext_eutra* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATInfo_v860ext_eutra, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATInfo_v860ext(rtxContext* RT_RESTRICT ctx, InterRATInfo_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATInfo-v860ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm */
+         break;
+      case 1: /* eutra */
+         pvalue->u.eutra = (InterRATInfo_v860ext_eutra*)rtxMemHeapAlloc(ctx, sizeof(InterRATInfo_v860ext_eutra));
+         if (pvalue->u.eutra == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "eutra", -1, "InterRATInfo-v860ext");
+         asn1Init_UMTS_InterRATInfo_v860ext_eutra(pvalue->u.eutra);
+         stat = dec_InterRATInfo_v860ext_eutra(ctx, pvalue->u.eutra, cur);
+         RT_CHECK(ctx, stat, 0, "eutra", -1, "InterRATInfo-v860ext");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterRATInfo-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATInfo_v860ext(rtxContext* RT_RESTRICT ctx, InterRATInfo_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATInfo_v860ext, pvalue);
+}
+
+static int dec_RedirectionInfo_v860ext(rtxContext* RT_RESTRICT ctx, RedirectionInfo_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RedirectionInfo-v860ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* frequencyInfo */
+         break;
+      case 1: /* interRATInfo */
+         pvalue->u.interRATInfo = (InterRATInfo_v860ext*)rtxMemHeapAlloc(ctx, sizeof(InterRATInfo_v860ext));
+         if (pvalue->u.interRATInfo == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATInfo", -1, "RedirectionInfo-v860ext");
+         asn1Init_UMTS_InterRATInfo_v860ext(pvalue->u.interRATInfo);
+         stat = dec_InterRATInfo_v860ext(ctx, pvalue->u.interRATInfo, cur);
+         RT_CHECK(ctx, stat, 0, "interRATInfo", -1, "RedirectionInfo-v860ext");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RedirectionInfo_v860ext(rtxContext* RT_RESTRICT ctx, RedirectionInfo_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RedirectionInfo_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RejectionCause(rtxContext* RT_RESTRICT ctx, RejectionCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RejectionCause");
+   return 0;
+}
+
+int asn1PD_UMTS_RejectionCause(rtxContext* RT_RESTRICT ctx, RejectionCause* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RejectionCause, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_PowerClass(rtxContext* RT_RESTRICT ctx, UE_PowerClass* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-PowerClass");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PowerClass(rtxContext* RT_RESTRICT ctx, UE_PowerClass* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_PowerClass, pvalue);
+}
+
+RT_MERGED_BODY int dec_TxRxFrequencySeparation(rtxContext* RT_RESTRICT ctx, TxRxFrequencySeparation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TxRxFrequencySeparation");
+   return 0;
+}
+
+int asn1PD_UMTS_TxRxFrequencySeparation(rtxContext* RT_RESTRICT ctx, TxRxFrequencySeparation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TxRxFrequencySeparation, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_Capability_fddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_fddRF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_fddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_fddRF_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_Capability_fddRF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_Capability_tddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_tddRF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* radioFrequencyTDDBandList */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyTDDBandList, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandTDDList", "radioFrequencyTDDBandList", -1, 0);
+   /* chipRateCapability */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->chipRateCapability, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_tddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_tddRF_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_Capability_tddRF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RF-Capability");
+   /* fddRF-Capability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RF_Capability_fddRF_Capability(ctx, &pvalue->fddRF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "RF-Capability");
+   }
+   /* tddRF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_RF_Capability_tddRF_Capability(ctx, &pvalue->tddRF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tddRF-Capability", -1, "RF-Capability");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_Capability_r4_ext_tddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_ext_tddRF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* radioFrequencyBandTDDList */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandTDDList, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
+   /* chipRateCapability */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->chipRateCapability, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_r4_ext_tddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_ext_tddRF_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_Capability_r4_ext_tddRF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RF-Capability-r4-ext");
+   /* tddRF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RF_Capability_r4_ext_tddRF_Capability(ctx, &pvalue->tddRF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tddRF-Capability", -1, "RF-Capability-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_Capability_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_Capability_v770ext_tdd768RF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_v770ext_tdd768RF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* radioFrequencyBandTDDList */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandTDDList, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandTDDList-r7", "radioFrequencyBandTDDList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_v770ext_tdd768RF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_v770ext_tdd768RF_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_Capability_v770ext_tdd768RF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_Capability_v770ext(rtxContext* RT_RESTRICT ctx, RF_Capability_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RF-Capability-v770ext");
+   /* tdd384RF-Capability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tdd384RF_Capability, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandTDDList-r7", "tdd384RF-Capability", -1, "RF-Capability-v770ext");
+   }
+   /* tdd768RF-Capability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_RF_Capability_v770ext_tdd768RF_Capability(ctx, &pvalue->tdd768RF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tdd768RF-Capability", -1, "RF-Capability-v770ext");
+   }
+   /* tdd128RF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tdd128RF_Capability, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandTDDList-r7", "tdd128RF-Capability", -1, "RF-Capability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_v770ext(rtxContext* RT_RESTRICT ctx, RF_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_Capability_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_Capability_v860ext(rtxContext* RT_RESTRICT ctx, RF_Capability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RF-Capability-v860ext");
+   /* tdd128RF-Capability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tdd128RF-Capability", -1, "RF-Capability-v860ext");
+   }
+   /* tdd384RF-Capability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd384RF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tdd384RF-Capability", -1, "RF-Capability-v860ext");
+   }
+   /* tdd768RF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd768RF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tdd768RF-Capability", -1, "RF-Capability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_v860ext(rtxContext* RT_RESTRICT ctx, RF_Capability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_Capability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_TotalRLC_AM_BufferSize(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TotalRLC-AM-BufferSize");
+   return 0;
+}
+
+int asn1PD_UMTS_TotalRLC_AM_BufferSize(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TotalRLC_AM_BufferSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_Capability(rtxContext* RT_RESTRICT ctx, RLC_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* totalRLC-AM-BufferSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->totalRLC_AM_BufferSize, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "TotalRLC-AM-BufferSize", "totalRLC-AM-BufferSize", -1, "RLC-Capability");
+   /* maximumRLC-WindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maximumRLC_WindowSize, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MaximumRLC-WindowSize", "maximumRLC-WindowSize", -1, "RLC-Capability");
+   /* maximumAM-EntityNumber */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maximumAM_EntityNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "MaximumAM-EntityNumberRLC-Cap", "maximumAM-EntityNumber", -1, "RLC-Capability");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Capability(rtxContext* RT_RESTRICT ctx, RLC_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_TotalRLC_AM_BufferSize_r5_ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_r5_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-r5-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_TotalRLC_AM_BufferSize_r5_ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_r5_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TotalRLC_AM_BufferSize_r5_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_r5_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-Capability-r5-ext");
+   /* totalRLC-AM-BufferSize */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->totalRLC_AM_BufferSize, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-r5-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_r5_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_Capability_r5_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_Capability_v770ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* supportOfTwoLogicalChannel */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportOfTwoLogicalChannel);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportOfTwoLogicalChannel", -1, "RLC-Capability-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Capability_v770ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_Capability_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_TotalRLC_AM_BufferSize_v920ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_TotalRLC_AM_BufferSize_v920ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TotalRLC_AM_BufferSize_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_Capability_v920ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-Capability-v920ext");
+   /* totalRLC-AM-BufferSize */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->totalRLC_AM_BufferSize, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "TotalRLC-AM-BufferSize-v920ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Capability_v920ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_Capability_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RRC_StateIndicator(rtxContext* RT_RESTRICT ctx, RRC_StateIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RRC-StateIndicator");
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_StateIndicator(rtxContext* RT_RESTRICT ctx, RRC_StateIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RRC_StateIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_S_RNTI_2(rtxContext* RT_RESTRICT ctx, S_RNTI_2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, pvalue, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "S-RNTI-2");
+   return 0;
+}
+
+int asn1PD_UMTS_S_RNTI_2(rtxContext* RT_RESTRICT ctx, S_RNTI_2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_S_RNTI_2, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecurityCapability_cipheringAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_cipheringAlgorithmCap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, pvalue, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityCapability_cipheringAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_cipheringAlgorithmCap* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecurityCapability_cipheringAlgorithmCap, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecurityCapability_integrityProtectionAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_integrityProtectionAlgorithmCap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, pvalue, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_integrityProtectionAlgorithmCap* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecurityCapability_integrityProtectionAlgorithmCap, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecurityCapability(rtxContext* RT_RESTRICT ctx, SecurityCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cipheringAlgorithmCap */
+   stat = dec_SecurityCapability_cipheringAlgorithmCap(ctx, &pvalue->cipheringAlgorithmCap, cur);
+   RT_CHECK(ctx, stat, 0, "cipheringAlgorithmCap", -1, "SecurityCapability");
+   /* integrityProtectionAlgorithmCap */
+   stat = dec_SecurityCapability_integrityProtectionAlgorithmCap(ctx, &pvalue->integrityProtectionAlgorithmCap, cur);
+   RT_CHECK(ctx, stat, 0, "integrityProtectionAlgorithmCap", -1, "SecurityCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityCapability(rtxContext* RT_RESTRICT ctx, SecurityCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecurityCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryServingEDCHCell_Info(rtxContext* RT_RESTRICT ctx, SecondaryServingEDCHCell_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SecondaryServingEDCHCell-Info");
+   /* primary-E-RNTI */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_RNTI(ctx, &pvalue->primary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "primary-E-RNTI", -1, "SecondaryServingEDCHCell-Info");
+   }
+   /* secondary-E-RNTI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_RNTI(ctx, &pvalue->secondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "secondary-E-RNTI", -1, "SecondaryServingEDCHCell-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryServingEDCHCell_Info(rtxContext* RT_RESTRICT ctx, SecondaryServingEDCHCell_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryServingEDCHCell_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryEDCH_Info_Common_servingGrant(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primary-Secondary-GrantSelector */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->primary_Secondary_GrantSelector, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryEDCH_Info_Common_servingGrant(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryEDCH_Info_Common_servingGrant, pvalue);
+}
+
+RT_MERGED_BODY int dec_PC_Preamble(rtxContext* RT_RESTRICT ctx, PC_Preamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PC-Preamble");
+   return 0;
+}
+
+int asn1PD_UMTS_PC_Preamble(rtxContext* RT_RESTRICT ctx, PC_Preamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PC_Preamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryEDCH_Info_Common(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SecondaryEDCH-Info-Common");
+   /* frequencyInfo */
+   stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "SecondaryEDCH-Info-Common");
+   /* scramblingCodeType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, "SecondaryEDCH-Info-Common");
+   /* scramblingCodeNumber */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->scramblingCodeNumber, 0, 16777215);
+   RT_CHECK_AT(ctx, cur, stat, "UL-ScramblingCode", "scramblingCodeNumber", -1, "SecondaryEDCH-Info-Common");
+   /* ms2-SchedTransmGrantHARQAlloc */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ms2-SchedTransmGrantHARQAlloc", -1, "SecondaryEDCH-Info-Common");
+   }
+   /* servingGrant */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SecondaryEDCH_Info_Common_servingGrant(ctx, &pvalue->servingGrant, cur);
+      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "SecondaryEDCH-Info-Common");
+   }
+   /* minReduced-E-DPDCH-GainFactor */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "SecondaryEDCH-Info-Common");
+   }
+   /* e-DCH-minimumSet-E-TFCI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_DCH_minimumSet_E_TFCI, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-minimumSet-E-TFCI", -1, "SecondaryEDCH-Info-Common");
+   }
+   /* dpcchPowerOffset-SecondaryULFrequency */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dpcchPowerOffset_SecondaryULFrequency, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dpcchPowerOffset-SecondaryULFrequency", -1, "SecondaryEDCH-Info-Common");
+   /* pc-Preamble */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, "SecondaryEDCH-Info-Common");
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryEDCH_Info_Common(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryEDCH_Info_Common, pvalue);
+}
+
+RT_MERGED_BODY int dec_HARQ_Preamble_Mode(rtxContext* RT_RESTRICT ctx, HARQ_Preamble_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HARQ-Preamble-Mode");
+   return 0;
+}
+
+int asn1PD_UMTS_HARQ_Preamble_Mode(rtxContext* RT_RESTRICT ctx, HARQ_Preamble_Mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HARQ_Preamble_Mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 127);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = dec_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Power_Control_Info_TDD384(rtxContext* RT_RESTRICT ctx, HS_SICH_Power_Control_Info_TDD384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-target-SIR */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->ul_target_SIR, -22, 40);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD384");
+   /* hs-sich-ConstantValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->hs_sich_ConstantValue, -35, -10);
+   RT_CHECK_AT(ctx, cur, stat, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD384");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(rtxContext* RT_RESTRICT ctx, HS_SICH_Power_Control_Info_TDD384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Power_Control_Info_TDD384, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD384_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD384_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD384(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD384");
+   /* channelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SICH-Configuration-TDD384");
+   /* midambleAllocationMode */
+   stat = dec_HS_SICH_Configuration_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD384");
+   /* midambleconfiguration */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD384");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD384(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD384, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_TDD384(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384");
+   /* channelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384");
+   /* midambleAllocationMode */
+   stat = dec_HS_SCCH_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD384");
+   /* midambleconfiguration */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384");
+   /* bler-target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD384");
+   /* hs-sich-configuration */
+   stat = dec_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD384");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD384(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD384, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD384* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HS-SCCH-TDD384", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD384*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD384(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_SCCH_TDD384(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = dec_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = dec_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD128_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD128_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_tpc_step_size* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD128_tpc_step_size, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128");
+   /* channelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128");
+   /* midambleAllocationMode */
+   stat = dec_HS_SICH_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD128");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128");
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, "HS-SICH-Configuration-TDD128");
+   /* power-level-HSSICH */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK_AT(ctx, cur, stat, 0, "power-level-HSSICH", -1, "HS-SICH-Configuration-TDD128");
+   /* tpc-step-size */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tpc_step_size, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tpc-step-size", -1, "HS-SICH-Configuration-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128");
+   /* firstChannelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128");
+   /* secondChannelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128");
+   /* midambleAllocationMode */
+   stat = dec_HS_SCCH_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128");
+   /* bler-target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128");
+   /* hs-sich-configuration */
+   stat = dec_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD128* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD128*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD128(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_SCCH_TDD128(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+static int dec_HS_SCCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* tdd384 */
-         pvalue->u.tdd384 = (HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         pvalue->u.tdd384 = (HS_SCCH_Info_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = dec_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
          RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (HS_SCCH_Info_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (HS_SCCH_Info_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (HS_SCCH_Info_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_HS_SCCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (HS_SCCH_Info_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (HS_SCCH_Info_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_HS_SCCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HS_SCCH_Info_r9(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r9");
+   stat = dec_HS_SCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info");
    return 0;
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info, pvalue);
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_Feedback_cycle(rtxContext* RT_RESTRICT ctx, Feedback_cycle* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Feedback-cycle");
    return 0;
 }
 
-int asn1PD_UMTS_OutofSyncWindow(rtxContext* RT_RESTRICT ctx, OutofSyncWindow* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Feedback_cycle(rtxContext* RT_RESTRICT ctx, Feedback_cycle* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "OutofSyncWindow");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_Feedback_cycle, pvalue);
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_Measurement_Feedback_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
-   }
-   /* dl-MultiCarrier-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
-      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
-   }
-   /* tS0-Indicator */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "tS0-Indicator", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "tS0-Indicator", -1, 0);
-         pvalue->tS0_Indicator = ui;
-      }
-   }
-   /* outofSyncWindow */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->outofSyncWindow, 0, 7);
-      RT_CHECK(ctx, stat, "OutofSyncWindow", "outofSyncWindow", -1, 0);
-   }
+   /* measurementPowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->measurementPowerOffset, -12, 26);
+   RT_CHECK_AT(ctx, cur, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   /* feedback-cycle */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->feedback_cycle, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, "Feedback-cycle", "feedback-cycle", -1, 0);
+   /* cqi-RepetitionFactor */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cqi_RepetitionFactor, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
+   /* deltaCQI */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaCQI, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, "DeltaCQI", "deltaCQI", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Measurement_Feedback_Info_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_Measurement_Feedback_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (Measurement_Feedback_Info_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(Measurement_Feedback_Info_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_Measurement_Feedback_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Measurement_Feedback_Info_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_Measurement_Feedback_Info(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_Measurement_Feedback_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Measurement-Feedback-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_Measurement_Feedback_Info(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Measurement_Feedback_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType1and3 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_burstType_type1, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftShort", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType2 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_burstType_type2, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* type1 */
+         pvalue->u.type1 = (MidambleShiftAndBurstType_DL_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type1));
+         if (pvalue->u.type1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(pvalue->u.type1);
+         stat = dec_MidambleShiftAndBurstType_DL_burstType_type1(ctx, pvalue->u.type1, cur);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 1: /* type2 */
+         pvalue->u.type2 = (MidambleShiftAndBurstType_DL_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type2));
+         if (pvalue->u.type2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type2", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(pvalue->u.type2);
+         stat = dec_MidambleShiftAndBurstType_DL_burstType_type2(ctx, pvalue->u.type2, cur);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_burstType, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* burstType */
+   stat = dec_MidambleShiftAndBurstType_DL_burstType(ctx, &pvalue->burstType, cur);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-DL");
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_TS_Configuration_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType_DL(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_TS_Configuration_element, pvalue);
+}
+
+static int dec_DL_HSPDSCH_TS_Configuration(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-TS-Configuration");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_HSPDSCH_TS_Configuration_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_HSPDSCH_TS_Configuration_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration");
+      elem = (DL_HSPDSCH_TS_Configuration_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_HSPDSCH_TS_Configuration_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_HSPDSCH_TS_Configuration_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_TS_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128, cur);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* tdd384 */
-         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         pvalue->u.tdd384 = (DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = dec_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
          RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_modeSpecificInfo_tdd, pvalue);
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-64QAM-Configured */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-         pvalue->dl_64QAM_Configured = ui;
-      }
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* tdd */
-         pvalue->u.tdd = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (DL_HSPDSCH_Information_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_HSPDSCH_Information_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       case 1: /* fdd */
-         pvalue->u.fdd = (DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_modeSpecificInfo, pvalue);
+}
+
+static int dec_DL_HSPDSCH_Information(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r9");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-Information");
    /* hs-scch-Info */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_SCCH_Info_r9(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r9");
+      stat = dec_HS_SCCH_Info(ctx, &pvalue->hs_scch_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information");
    }
    /* measurement-feedback-Info */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r9");
+      stat = dec_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information");
    }
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r9");
+   stat = dec_DL_HSPDSCH_Information_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information");
    return 0;
 }
 
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_Serving_HSDSCH_CellInformation_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    {
       uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r9(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Serving_HSDSCH_CellInformation_mac_hsResetIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_Serving_HSDSCH_CellInformation(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r9");
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation");
    /* deltaACK */
    if (present & ((uint32_t)1 << 5)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r9");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation");
    }
    /* deltaNACK */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r9");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation");
    }
    /* harq-Preamble-Mode */
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r9");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation");
    /* primaryCPICH-Info */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r9");
+      stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation");
    }
    /* dl-hspdsch-Information */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r9");
+      stat = dec_DL_HSPDSCH_Information(ctx, &pvalue->dl_hspdsch_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation");
    }
    /* harqInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r9");
+      stat = dec_HARQ_Info(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation");
    }
    /* mac-hsResetIndicator */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x20u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r9");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r9");
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation");
          pvalue->mac_hsResetIndicator = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_SR_VCC_Info_nonce(rtxContext* RT_RESTRICT ctx, SR_VCC_Info_nonce* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Serving_HSDSCH_CellInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   RT_SET_SIZE(ctx, 128, 128);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 127);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+   }
    return 0;
 }
 
-int asn1PD_UMTS_SR_VCC_Info(rtxContext* RT_RESTRICT ctx, SR_VCC_Info* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SR-VCC-Info");
-   /* nonce */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = dec_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SR_VCC_Info_nonce(ctx, &pvalue->nonce);
-      RT_CHECK(ctx, stat, 0, "nonce", -1, "SR-VCC-Info");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RAB_InfoReplace(rtxContext* RT_RESTRICT ctx, RAB_InfoReplace* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* rab-Identity */
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InfoReplace");
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InfoReplace");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r7_modeSpecificInfo_fdd, pvalue);
 }
 
-int asn1PD_UMTS_SR_VCC_SecurityRABInfo_v860ext(rtxContext* RT_RESTRICT ctx, SR_VCC_SecurityRABInfo_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* sr-vcc-Info */
-   stat = asn1PD_UMTS_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info);
-   RT_CHECK(ctx, stat, 0, "sr-vcc-Info", -1, "SR-VCC-SecurityRABInfo-v860ext");
-   /* rab-InfoReplace */
-   stat = asn1PD_UMTS_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace);
-   RT_CHECK(ctx, stat, 0, "rab-InfoReplace", -1, "SR-VCC-SecurityRABInfo-v860ext");
-   return 0;
-}
-
-int asn1PD_UMTS_START_Value(rtxContext* RT_RESTRICT ctx, START_Value* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DHS_Sync(rtxContext* RT_RESTRICT ctx, DHS_Sync* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   RT_SET_SIZE(ctx, 20, 20);
-   stat = pd_BitString32(ctx, pvalue, 20, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "START-Value");
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -20, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DHS-Sync");
    return 0;
 }
 
-int asn1PD_UMTS_STARTSingle(rtxContext* RT_RESTRICT ctx, STARTSingle* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DHS_Sync(rtxContext* RT_RESTRICT ctx, DHS_Sync* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DHS_Sync, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "STARTSingle");
-   /* start-Value */
-   stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_Value);
-   RT_CHECK(ctx, stat, 0, "start-Value", -1, "STARTSingle");
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_STARTList(rtxContext* RT_RESTRICT ctx, STARTList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_TDD384_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD384_r6_midambleAllocationMode, pvalue);
+}
+
+static int dec_HS_SCCH_TDD384_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384-r6");
+   /* channelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384-r6");
+   /* midambleAllocationMode */
+   stat = dec_HS_SCCH_TDD384_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD384-r6");
+   /* midambleconfiguration */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384-r6");
+   /* hs-sich-configuration */
+   stat = dec_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD384-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD384_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD384_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "STARTList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      STARTSingle* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(STARTSingle));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "STARTSingle", (int32_t)i, "STARTList");
-      elem = (STARTSingle*)(node + 1);
+      HS_SCCH_TDD384_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD384_r6*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_STARTSingle(elem);
+      asn1Init_UMTS_HS_SCCH_TDD384_r6(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_STARTSingle(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "STARTSingle", (int32_t)i, "STARTList");
+      stat = dec_HS_SCCH_TDD384_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_SystemSpecificCapUpdateReq_v590ext(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_v590ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-v590ext");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-v590ext");
-      *pvalue = ui;
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration, pvalue);
 }
 
-int asn1PD_UMTS_T_318(rtxContext* RT_RESTRICT ctx, T_318* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-318");
-   return 0;
-}
-
-int asn1PD_UMTS_T_319(rtxContext* RT_RESTRICT ctx, T_319* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-319");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_TransChCapability_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* maxSimultaneousCCTrCH-Count */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
-   RT_CHECK(ctx, stat, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, 0);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = dec_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK_AT(ctx, cur, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_TransChCapability_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Power_Control_Info_TDD768(rtxContext* RT_RESTRICT ctx, HS_SICH_Power_Control_Info_TDD768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-target-SIR */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->ul_target_SIR, -22, 40);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD768");
+   /* hs-sich-ConstantValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->hs_sich_ConstantValue, -35, -10);
+   RT_CHECK_AT(ctx, cur, stat, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD768");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD768(rtxContext* RT_RESTRICT ctx, HS_SICH_Power_Control_Info_TDD768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Power_Control_Info_TDD768, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD768_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD768_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_Configuration_TDD768(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD768");
+   /* channelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisationCode, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD768");
+   /* midambleAllocationMode */
+   stat = dec_HS_SICH_Configuration_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD768");
+   /* midambleconfiguration */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD768");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD768(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_Configuration_TDD768, pvalue);
+}
+
+static int dec_HS_SCCH_TDD768(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD768");
+   /* channelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisationCode, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SCCH-TDD768");
+   /* midambleAllocationMode */
+   stat = dec_HS_SCCH_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD768");
+   /* midambleconfiguration */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD768");
+   /* hs-sich-configuration */
+   stat = dec_HS_SICH_Configuration_TDD768(ctx, &pvalue->hs_sich_configuration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD768");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD768(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD768, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD768* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD768));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD768*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD768(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_SCCH_TDD768(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = dec_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK_AT(ctx, cur, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size, pvalue);
+}
+
+RT_MERGED_BODY int dec_PowerControlGAP(rtxContext* RT_RESTRICT ctx, PowerControlGAP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PowerControlGAP");
+   return 0;
+}
+
+int asn1PD_UMTS_PowerControlGAP(rtxContext* RT_RESTRICT ctx, PowerControlGAP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PowerControlGAP, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD128_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD128_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_SCCH_TDD128_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* power-level-HSSICH */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK_AT(ctx, cur, stat, 0, "power-level-HSSICH", -1, 0);
+   /* tpc-step-size */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tpc_step_size, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tpc-step-size", -1, 0);
+   /* bler-target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* powerControlGAP */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerControlGAP, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "PowerControlGAP", "powerControlGAP", -1, 0);
+   }
+   /* pathlossCompensationSwitch */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->pathlossCompensationSwitch);
+      RT_CHECK_AT(ctx, cur, stat, 0, "pathlossCompensationSwitch", -1, 0);
+   }
+   /* hS-SCCH-SetConfiguration */
+   stat = dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+static int dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_TransChCapability_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransChCapability_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TransChCapability(rtxContext* RT_RESTRICT ctx, UL_TransChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxNoBitsTransmitted */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoBitsTransmitted, 0, 12);
-   RT_CHECK(ctx, stat, "MaxNoBits", "maxNoBitsTransmitted", -1, "UL-TransChCapability");
-   /* maxConvCodeBitsTransmitted */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxConvCodeBitsTransmitted, 0, 12);
-   RT_CHECK(ctx, stat, "MaxNoBits", "maxConvCodeBitsTransmitted", -1, "UL-TransChCapability");
-   /* turboEncodingSupport */
-   stat = asn1PD_UMTS_TurboSupport(ctx, &pvalue->turboEncodingSupport);
-   RT_CHECK(ctx, stat, 0, "turboEncodingSupport", -1, "UL-TransChCapability");
-   /* maxSimultaneousTransChs */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxSimultaneousTransChs, 0, 4);
-   RT_CHECK(ctx, stat, "MaxSimultaneousTransChsUL", "maxSimultaneousTransChs", -1, "UL-TransChCapability");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-TransChCapability");
-   /* maxTransmittedBlocks */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxTransmittedBlocks, 0, 10);
-   RT_CHECK(ctx, stat, "MaxTransportBlocksUL", "maxTransmittedBlocks", -1, "UL-TransChCapability");
-   /* maxNumberOfTFC */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNumberOfTFC, 0, 10);
-   RT_CHECK(ctx, stat, "MaxNumberOfTFC-UL", "maxNumberOfTFC", -1, "UL-TransChCapability");
-   /* maxNumberOfTF */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNumberOfTF, 0, 5);
-   RT_CHECK(ctx, stat, "MaxNumberOfTF", "maxNumberOfTF", -1, "UL-TransChCapability");
-   return 0;
-}
-
-int asn1PD_UMTS_TransportChannelCapability(rtxContext* RT_RESTRICT ctx, TransportChannelCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dl-TransChCapability */
-   stat = asn1PD_UMTS_DL_TransChCapability(ctx, &pvalue->dl_TransChCapability);
-   RT_CHECK(ctx, stat, 0, "dl-TransChCapability", -1, "TransportChannelCapability");
-   /* ul-TransChCapability */
-   stat = asn1PD_UMTS_UL_TransChCapability(ctx, &pvalue->ul_TransChCapability);
-   RT_CHECK(ctx, stat, 0, "ul-TransChCapability", -1, "TransportChannelCapability");
-   return 0;
-}
-
-int asn1PD_UMTS_U_RNTI_Short(rtxContext* RT_RESTRICT ctx, U_RNTI_Short* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* srnc-Identity */
-   stat = asn1PD_UMTS_SRNC_Identity(ctx, &pvalue->srnc_Identity);
-   RT_CHECK(ctx, stat, 0, "srnc-Identity", -1, "U-RNTI-Short");
-   /* s-RNTI-2 */
-   stat = asn1PD_UMTS_S_RNTI_2(ctx, &pvalue->s_RNTI_2);
-   RT_CHECK(ctx, stat, 0, "s-RNTI-2", -1, "U-RNTI-Short");
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6_fdd_edch_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* edch-PhysicalLayerCategory */
-   stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory, 1, 16);
-   RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6_fdd_edch* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* supported */
-         pvalue->u.supported = (PhysicalChannelCapability_edch_r6_fdd_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalChannelCapability_edch_r6_fdd_edch_supported));
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
-         stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      case 1: /* unsupported */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_edch_r6(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* fdd-edch */
-   stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(ctx, &pvalue->fdd_edch);
-   RT_CHECK(ctx, stat, 0, "fdd-edch", -1, "PhysicalChannelCapability-edch-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v690ext_deviceType(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext_deviceType* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v690ext");
-   /* physicalchannelcapability-edch */
-   stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch);
-   RT_CHECK(ctx, stat, 0, "physicalchannelcapability-edch", -1, "UE-RadioAccessCapability-v690ext");
-   /* deviceType */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "deviceType", -1, "UE-RadioAccessCapability-v690ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "deviceType", -1, "UE-RadioAccessCapability-v690ext");
-         pvalue->deviceType = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_MS_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, GSM_MS_RadioAccessCapability* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-MS-RadioAccessCapability");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v690ext");
-   /* supportOfInter-RAT-PS-Handover */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfInter-RAT-PS-Handover", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfInter-RAT-PS-Handover", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
-         pvalue->supportOfInter_RAT_PS_Handover = ui;
-      }
-   }
-   /* gsm-MS-RadioAccessCapability */
-   stat = asn1PD_UMTS_GSM_MS_RadioAccessCapability(ctx, &pvalue->gsm_MS_RadioAccessCapability);
-   RT_CHECK(ctx, stat, 0, "gsm-MS-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v6b0ext-IEs");
-   /* supportForSIB11bis */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportForSIB11bis", -1, "UE-RadioAccessCapability-v6b0ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportForSIB11bis", -1, "UE-RadioAccessCapability-v6b0ext-IEs");
-         pvalue->supportForSIB11bis = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v6e0ext-IEs");
-   /* supportForFDPCH */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "UE-RadioAccessCapability-v6e0ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "UE-RadioAccessCapability-v6e0ext-IEs");
-         pvalue->supportForFDPCH = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_GANSSPositioning_Capability(rtxContext* RT_RESTRICT ctx, UE_GANSSPositioning_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-GANSSPositioning-Capability");
-   /* networkAssistedGANSS-supportedList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NetworkAssistedGANSS_Supported_List(ctx, &pvalue->networkAssistedGANSS_supportedList);
-      RT_CHECK(ctx, stat, 0, "networkAssistedGANSS-supportedList", -1, "UE-GANSSPositioning-Capability");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapability_v770ext(rtxContext* RT_RESTRICT ctx, UE_PositioningCapability_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PositioningCapability-v770ext");
-   /* ue-GANSSPositioning-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_GANSSPositioning_Capability(ctx, &pvalue->ue_GANSSPositioning_Capability);
-      RT_CHECK(ctx, stat, 0, "ue-GANSSPositioning-Capability", -1, "UE-PositioningCapability-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_SpecificCapabilityInformation_LCRTDD(rtxContext* RT_RESTRICT ctx, UE_SpecificCapabilityInformation_LCRTDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-SpecificCapabilityInformation-LCRTDD");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v770ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v770ext-IEs");
-   /* pdcp-Capability */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability);
-      RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   }
-   /* rlc-Capability */
-   stat = asn1PD_UMTS_RLC_Capability_v770ext(ctx, &pvalue->rlc_Capability);
-   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   /* rf-Capability */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RF_Capability_v770ext(ctx, &pvalue->rf_Capability);
-      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   }
-   /* physicalChannelCapability */
-   stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   /* multiModeRAT-Capability */
-   stat = asn1PD_UMTS_MultiModeRAT_Capability_v770ext(ctx, &pvalue->multiModeRAT_Capability);
-   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   /* ue-PositioningCapability */
-   stat = asn1PD_UMTS_UE_PositioningCapability_v770ext(ctx, &pvalue->ue_PositioningCapability);
-   RT_CHECK(ctx, stat, 0, "ue-PositioningCapability", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   /* mac-ehsSupport */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapability-v770ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapability-v770ext-IEs");
-         pvalue->mac_ehsSupport = ui;
-      }
-   }
-   /* ue-specificCapabilityInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->ue_specificCapabilityInformation, 0, 15);
-      RT_CHECK(ctx, stat, "UE-SpecificCapabilityInformation-LCRTDD", "ue-specificCapabilityInformation", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v790ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v790ext-IEs");
-   /* supportForEDPCCHPowerBoosting */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportForEDPCCHPowerBoosting", -1, "UE-RadioAccessCapability-v790ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportForEDPCCHPowerBoosting", -1, "UE-RadioAccessCapability-v790ext-IEs");
-         pvalue->supportForEDPCCHPowerBoosting = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, UE_GANSSPositioning_Capability_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
-   /* networkAssistedGANSS-supportedList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(ctx, &pvalue->networkAssistedGANSS_supportedList);
-      RT_CHECK(ctx, stat, 0, "networkAssistedGANSS-supportedList", -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapability_v860ext(rtxContext* RT_RESTRICT ctx, UE_PositioningCapability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PositioningCapability-v860ext");
-   /* ue-GANSSPositioning-Capability-v860ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(ctx, &pvalue->ue_GANSSPositioning_Capability_v860ext);
-      RT_CHECK(ctx, stat, 0, "ue-GANSSPositioning-Capability-v860ext", -1, "UE-PositioningCapability-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDD3(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD3");
-   /* radioFrequencyBandFDD */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD3");
-   }
-   /* radioFrequencyBandFDD2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD2, 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD3");
-   }
-   /* measurementCapability3 */
-   stat = asn1PD_UMTS_MeasurementCapabilityExt3(ctx, &pvalue->measurementCapability3);
-   RT_CHECK(ctx, stat, 0, "measurementCapability3", -1, "UE-RadioAccessCapabBandFDD3");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList3(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList3* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList3");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_RadioAccessCapabBandFDD3* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD3));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-RadioAccessCapabBandFDD3", (int32_t)i, "UE-RadioAccessCapabBandFDDList3");
-      elem = (UE_RadioAccessCapabBandFDD3*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_RadioAccessCapabBandFDD3(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD3(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD3", (int32_t)i, "UE-RadioAccessCapabBandFDDList3");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v860ext-IEs");
-   /* rf-Capability */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RF_Capability_v860ext(ctx, &pvalue->rf_Capability);
-      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   /* physicalChannelCapability */
-   stat = asn1PD_UMTS_PhysicalChannelCapability_v860ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   /* multiModeRAT-Capability */
-   stat = asn1PD_UMTS_MultiModeRAT_Capability_v860ext(ctx, &pvalue->multiModeRAT_Capability);
-   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   /* ue-PositioningCapability */
-   stat = asn1PD_UMTS_UE_PositioningCapability_v860ext(ctx, &pvalue->ue_PositioningCapability);
-   RT_CHECK(ctx, stat, 0, "ue-PositioningCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   /* measurementCapability */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementCapability_v860ext(ctx, &pvalue->measurementCapability);
-      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   /* measurementCapabilityTDD */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementCapabilityTDD(ctx, &pvalue->measurementCapabilityTDD);
-      RT_CHECK(ctx, stat, 0, "measurementCapabilityTDD", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   /* supportOfCommonEDCH */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapability-v860ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapability-v860ext-IEs");
-         pvalue->supportOfCommonEDCH = ui;
-      }
-   }
-   /* supportOfMACiis */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapability-v860ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapability-v860ext-IEs");
-         pvalue->supportOfMACiis = ui;
-      }
-   }
-   /* supportOfSPSOperation */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
-         pvalue->supportOfSPSOperation = ui;
-      }
-   }
-   /* supportOfControlChannelDRXOperation */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x40u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
-         pvalue->supportOfControlChannelDRXOperation = ui;
-      }
-   }
-   /* supportOfCSG */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x80u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfCSG", -1, "UE-RadioAccessCapability-v860ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfCSG", -1, "UE-RadioAccessCapability-v860ext-IEs");
-         pvalue->supportOfCSG = ui;
-      }
-   }
-   /* ue-RadioAccessCapabBandFDDList3 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList3", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, EUTRA_RadioAccessCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-EUTRA-Capability */
-   stat = pd_DynOctetString(ctx, &pvalue->ue_EUTRA_Capability);
-   RT_CHECK(ctx, stat, 0, "ue-EUTRA-Capability", -1, "EUTRA-RadioAccessCapability");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v860ext");
-   /* eutra-RadioAccessCapability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EUTRA_RadioAccessCapability(ctx, &pvalue->eutra_RadioAccessCapability);
-      RT_CHECK(ctx, stat, 0, "eutra-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v880ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v880ext-IEs");
-   /* supportForPriorityReselectionInUTRAN */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext-IEs");
-         pvalue->supportForPriorityReselectionInUTRAN = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v890ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v890ext-IEs");
-   /* supportCellSpecificTxDiversityinDC-Operation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext-IEs");
-         pvalue->supportCellSpecificTxDiversityinDC_Operation = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandCombList(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandCombList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandCombList");
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "UE-RadioAccessCapabBandCombList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-RadioAccessCapabBandCombList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 1, 256);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "BandComb", "BandComb", (int32_t)i, "UE-RadioAccessCapabBandCombList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v920ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v920ext-IEs");
-   /* ue-RadioAccessCapabBandCombList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandCombList(ctx, &pvalue->ue_RadioAccessCapabBandCombList);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandCombList", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   }
-   /* physicalChannelCapability */
-   stat = asn1PD_UMTS_PhysicalChannelCapability_v920ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   /* rlc-Capability */
-   stat = asn1PD_UMTS_RLC_Capability_v920ext(ctx, &pvalue->rlc_Capability);
-   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   /* supportOfenhancedTS0 */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext-IEs");
-         pvalue->supportOfenhancedTS0 = ui;
-      }
-   }
-   /* measurementCapability */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementCapability_v920ext(ctx, &pvalue->measurementCapability);
-      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   }
-   /* csgProximityIndicationCapability */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CSG_ProximityIndicationCapability(ctx, &pvalue->csgProximityIndicationCapability);
-      RT_CHECK(ctx, stat, 0, "csgProximityIndicationCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   }
-   /* neighCellSI-AcquisitionCapability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_NeighCellSI_AcquisitionCapability(ctx, &pvalue->neighCellSI_AcquisitionCapability);
-      RT_CHECK(ctx, stat, 0, "neighCellSI-AcquisitionCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v920ext */
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v920ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v920ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v890ext */
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v890ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v890ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v890ext", -1, 0);
-   /* v920NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v880ext */
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v880ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v880ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v880ext", -1, 0);
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v860ext */
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v860ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v860ext", -1, 0);
-   /* ue-RATSpecificCapability-v860ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RATSpecificCapability_v860ext);
-      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v860ext", -1, 0);
-   }
-   /* v880NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v880NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v790ext */
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v790ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v790ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v790ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v770ext */
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v770ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v770ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v770ext", -1, 0);
-   /* v790NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(ctx, &pvalue->v790NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v790NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v6e0ext */
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6e0ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v6e0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v6b0ext */
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v6b0ext", -1, 0);
-   /* v6e0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6e0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-CapabilityContainer-IEs");
-   /* ue-RadioAccessCapability-v690ext */
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RadioAccessCapability_v690ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v690ext", -1, "UE-CapabilityContainer-IEs");
-   /* ue-RATSpecificCapability-v690ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RATSpecificCapability_v690ext);
-      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v690ext", -1, "UE-CapabilityContainer-IEs");
-   }
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "UE-CapabilityContainer-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_ConnTimersAndConstants_r5(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 22);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants-r5");
-   /* t-301 */
-   if (present & ((uint32_t)1 << 21)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_301, 0, 15);
-      RT_CHECK(ctx, stat, "T-301", "t-301", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_301 = 10;
-   }
-   /* n-301 */
-   if (present & ((uint32_t)1 << 20)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->n_301, 0, 7);
-      RT_CHECK(ctx, stat, "N-301", "n-301", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->n_301 = 2;
-   }
-   /* t-302 */
-   if (present & ((uint32_t)1 << 19)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_302, 0, 15);
-      RT_CHECK(ctx, stat, "T-302", "t-302", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_302 = 12;
-   }
-   /* n-302 */
-   if (present & ((uint32_t)1 << 18)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->n_302, 0, 7);
-      RT_CHECK(ctx, stat, "N-302", "n-302", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->n_302 = 3;
-   }
-   /* t-304 */
-   if (present & ((uint32_t)1 << 17)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_304, 0, 7);
-      RT_CHECK(ctx, stat, "T-304", "t-304", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_304 = 4;
-   }
-   /* n-304 */
-   if (present & ((uint32_t)1 << 16)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->n_304, 0, 7);
-      RT_CHECK(ctx, stat, "N-304", "n-304", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->n_304 = 2;
-   }
-   /* t-305 */
-   if (present & ((uint32_t)1 << 15)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_305, 0, 7);
-      RT_CHECK(ctx, stat, "T-305", "t-305", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_305 = 3;
-   }
-   /* t-307 */
-   if (present & ((uint32_t)1 << 14)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_307, 0, 7);
-      RT_CHECK(ctx, stat, "T-307", "t-307", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_307 = 4;
-   }
-   /* t-308 */
-   if (present & ((uint32_t)1 << 13)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_308, 0, 3);
-      RT_CHECK(ctx, stat, "T-308", "t-308", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_308 = 2;
-   }
-   /* t-309 */
-   if (present & ((uint32_t)1 << 12)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->t_309, 1, 8);
-      RT_CHECK(ctx, stat, "T-309", "t-309", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_309 = 5;
-   }
-   /* t-310 */
-   if (present & ((uint32_t)1 << 11)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_310, 0, 7);
-      RT_CHECK(ctx, stat, "T-310", "t-310", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_310 = 3;
-   }
-   /* n-310 */
-   if (present & ((uint32_t)1 << 10)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->n_310, 0, 7);
-      RT_CHECK(ctx, stat, "N-310", "n-310", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->n_310 = 4;
-   }
-   /* t-311 */
-   if (present & ((uint32_t)1 << 9)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_311, 0, 7);
-      RT_CHECK(ctx, stat, "T-311", "t-311", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_311 = 7;
-   }
-   /* t-312 */
-   if (present & ((uint32_t)1 << 8)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->t_312, 0, 15);
-      RT_CHECK(ctx, stat, "T-312", "t-312", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_312 = 1;
-   }
-   /* n-312 */
-   if (present & ((uint32_t)1 << 7)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_312, 0, 11);
-      RT_CHECK(ctx, stat, "N-312-r5", "n-312", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->n_312 = 0;
-   }
-   /* t-313 */
-   if (present & ((uint32_t)1 << 6)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->t_313, 0, 15);
-      RT_CHECK(ctx, stat, "T-313", "t-313", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_313 = 3;
-   }
-   /* n-313 */
-   if (present & ((uint32_t)1 << 5)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_313, 0, 7);
-      RT_CHECK(ctx, stat, "N-313", "n-313", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->n_313 = 4;
-   }
-   /* t-314 */
-   if (present & ((uint32_t)1 << 4)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_314, 0, 7);
-      RT_CHECK(ctx, stat, "T-314", "t-314", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_314 = 5;
-   }
-   /* t-315 */
-   if (present & ((uint32_t)1 << 3)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_315, 0, 7);
-      RT_CHECK(ctx, stat, "T-315", "t-315", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_315 = 4;
-   }
-   /* n-315 */
-   if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_315, 0, 11);
-      RT_CHECK(ctx, stat, "N-315-r5", "n-315", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->n_315 = 0;
-   }
-   /* t-316 */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_316, 0, 7);
-      RT_CHECK(ctx, stat, "T-316", "t-316", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_316 = 3;
-   }
-   /* t-317 */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_317, 0, 7);
-      RT_CHECK(ctx, stat, "T-317", "t-317", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   else {
-      pvalue->t_317 = 4;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_HSPA_Identities_r6(rtxContext* RT_RESTRICT ctx, UE_HSPA_Identities_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-HSPA-Identities-r6");
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "UE-HSPA-Identities-r6");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "UE-HSPA-Identities-r6");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "UE-HSPA-Identities-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_MultiModeRAT_Capability(rtxContext* RT_RESTRICT ctx, UE_MultiModeRAT_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* multiRAT-CapabilityList */
-   stat = asn1PD_UMTS_MultiRAT_Capability(ctx, &pvalue->multiRAT_CapabilityList);
-   RT_CHECK(ctx, stat, 0, "multiRAT-CapabilityList", -1, "UE-MultiModeRAT-Capability");
-   /* multiModeCapability */
-   stat = pd_ConsUnsigned(ctx, &pvalue->multiModeCapability, 0, 2);
-   RT_CHECK(ctx, stat, "MultiModeCapability", "multiModeCapability", -1, "UE-MultiModeRAT-Capability");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PowerClassExt(rtxContext* RT_RESTRICT ctx, UE_PowerClassExt* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PowerClassExt");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Capability(rtxContext* RT_RESTRICT ctx, UE_Positioning_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* standaloneLocMethodsSupported */
-   stat = rtxDecBitInline(ctx, &pvalue->standaloneLocMethodsSupported);
-   RT_CHECK(ctx, stat, 0, "standaloneLocMethodsSupported", -1, "UE-Positioning-Capability");
-   /* ue-BasedOTDOA-Supported */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_BasedOTDOA_Supported);
-   RT_CHECK(ctx, stat, 0, "ue-BasedOTDOA-Supported", -1, "UE-Positioning-Capability");
-   /* networkAssistedGPS-Supported */
-   stat = pd_ConsUnsigned(ctx, &pvalue->networkAssistedGPS_Supported, 0, 3);
-   RT_CHECK(ctx, stat, "NetworkAssistedGPS-Supported", "networkAssistedGPS-Supported", -1, "UE-Positioning-Capability");
-   /* supportForUE-GPS-TimingOfCellFrames */
-   stat = rtxDecBitInline(ctx, &pvalue->supportForUE_GPS_TimingOfCellFrames);
-   RT_CHECK(ctx, stat, 0, "supportForUE-GPS-TimingOfCellFrames", -1, "UE-Positioning-Capability");
-   /* supportForIPDL */
-   stat = rtxDecBitInline(ctx, &pvalue->supportForIPDL);
-   RT_CHECK(ctx, stat, 0, "supportForIPDL", -1, "UE-Positioning-Capability");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability");
-   /* pdcp-Capability */
-   stat = asn1PD_UMTS_PDCP_Capability(ctx, &pvalue->pdcp_Capability);
-   RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability");
-   /* rlc-Capability */
-   stat = asn1PD_UMTS_RLC_Capability(ctx, &pvalue->rlc_Capability);
-   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability");
-   /* transportChannelCapability */
-   stat = asn1PD_UMTS_TransportChannelCapability(ctx, &pvalue->transportChannelCapability);
-   RT_CHECK(ctx, stat, 0, "transportChannelCapability", -1, "UE-RadioAccessCapability");
-   /* rf-Capability */
-   stat = asn1PD_UMTS_RF_Capability(ctx, &pvalue->rf_Capability);
-   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability");
-   /* physicalChannelCapability */
-   stat = asn1PD_UMTS_PhysicalChannelCapability(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability");
-   /* ue-MultiModeRAT-Capability */
-   stat = asn1PD_UMTS_UE_MultiModeRAT_Capability(ctx, &pvalue->ue_MultiModeRAT_Capability);
-   RT_CHECK(ctx, stat, 0, "ue-MultiModeRAT-Capability", -1, "UE-RadioAccessCapability");
-   /* securityCapability */
-   stat = asn1PD_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
-   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "UE-RadioAccessCapability");
-   /* ue-positioning-Capability */
-   stat = asn1PD_UMTS_UE_Positioning_Capability(ctx, &pvalue->ue_positioning_Capability);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-Capability", -1, "UE-RadioAccessCapability");
-   /* measurementCapability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementCapability(ctx, &pvalue->measurementCapability);
-      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD_fddRF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-PowerClass */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_PowerClass, 0, 7);
-   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
-   /* txRxFrequencySeparation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->txRxFrequencySeparation, 0, 2);
-   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDD(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD");
-   /* radioFrequencyBandFDD */
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD");
-   /* fddRF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
-      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "UE-RadioAccessCapabBandFDD");
-   }
-   /* measurementCapability */
-   stat = asn1PD_UMTS_MeasurementCapabilityExt(ctx, &pvalue->measurementCapability);
-   RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapabBandFDD");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_RadioAccessCapabBandFDD* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-RadioAccessCapabBandFDD", (int32_t)i, "UE-RadioAccessCapabBandFDDList");
-      elem = (UE_RadioAccessCapabBandFDD*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_RadioAccessCapabBandFDD(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD", (int32_t)i, "UE-RadioAccessCapabBandFDDList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v370ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v370ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-RadioAccessCapabBandFDDList */
-   stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapabBandFDDList);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList", -1, "UE-RadioAccessCapability-v370ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityInfo(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-RadioAccessCapability */
-   stat = asn1PD_UMTS_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "UE-RadioAccessCapabilityInfo");
-   /* ue-RadioAccessCapability-v370ext */
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v370ext", -1, "UE-RadioAccessCapabilityInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapabilityExt_v380(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v380* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rx-tx-TimeDifferenceType2Capable */
-   stat = rtxDecBitInline(ctx, &pvalue->rx_tx_TimeDifferenceType2Capable);
-   RT_CHECK(ctx, stat, 0, "rx-tx-TimeDifferenceType2Capable", -1, "UE-PositioningCapabilityExt-v380");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v380ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v380ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-PositioningCapabilityExt-v380 */
-   stat = asn1PD_UMTS_UE_PositioningCapabilityExt_v380(ctx, &pvalue->ue_PositioningCapabilityExt_v380);
-   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v380", -1, "UE-RadioAccessCapability-v380ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapabilityExt_v3a0(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* validity-CellPCH-UraPCH */
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, "validity-CellPCH-UraPCH", -1, "UE-PositioningCapabilityExt-v3a0");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, "validity-CellPCH-UraPCH", -1, "UE-PositioningCapabilityExt-v3a0");
-      pvalue->validity_CellPCH_UraPCH = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v3a0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-PositioningCapabilityExt-v3a0 */
-   stat = asn1PD_UMTS_UE_PositioningCapabilityExt_v3a0(ctx, &pvalue->ue_PositioningCapabilityExt_v3a0);
-   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v3a0", -1, "UE-RadioAccessCapability-v3a0ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapabilityExt_v3g0(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* sfn-sfnType2Capability */
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, "sfn-sfnType2Capability", -1, "UE-PositioningCapabilityExt-v3g0");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, "sfn-sfnType2Capability", -1, "UE-PositioningCapabilityExt-v3g0");
-      pvalue->sfn_sfnType2Capability = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v3g0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v3g0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-PositioningCapabilityExt-v3g0 */
-   stat = asn1PD_UMTS_UE_PositioningCapabilityExt_v3g0(ctx, &pvalue->ue_PositioningCapabilityExt_v3g0);
-   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v3g0", -1, "UE-RadioAccessCapability-v3g0ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDD2_fddRF_Capability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD2_fddRF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-PowerClass */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_PowerClass, 0, 7);
-   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
-   /* txRxFrequencySeparation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->txRxFrequencySeparation, 0, 2);
-   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDD2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD2");
-   /* radioFrequencyBandFDD2 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD2, 0, 15);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD2");
-   /* fddRF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD2_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
-      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "UE-RadioAccessCapabBandFDD2");
-   }
-   /* measurementCapability2 */
-   stat = asn1PD_UMTS_MeasurementCapabilityExt2(ctx, &pvalue->measurementCapability2);
-   RT_CHECK(ctx, stat, 0, "measurementCapability2", -1, "UE-RadioAccessCapabBandFDD2");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList2* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList2");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_RadioAccessCapabBandFDD2* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD2));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-RadioAccessCapabBandFDD2", (int32_t)i, "UE-RadioAccessCapabBandFDDList2");
-      elem = (UE_RadioAccessCapabBandFDD2*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_RadioAccessCapabBandFDD2(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD2(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD2", (int32_t)i, "UE-RadioAccessCapabBandFDDList2");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDD_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* radioFrequencyBandFDD */
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD-ext");
-   /* compressedModeMeasCapabFDDList-ext */
-   stat = asn1PD_UMTS_CompressedModeMeasCapabFDDList_ext(ctx, &pvalue->compressedModeMeasCapabFDDList_ext);
-   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList-ext", -1, "UE-RadioAccessCapabBandFDD-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList-ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_RadioAccessCapabBandFDD_ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD_ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-RadioAccessCapabBandFDD-ext", (int32_t)i, "UE-RadioAccessCapabBandFDDList-ext");
-      elem = (UE_RadioAccessCapabBandFDD_ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_RadioAccessCapabBandFDD_ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD_ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD-ext", (int32_t)i, "UE-RadioAccessCapabBandFDDList-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v650ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v650ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v650ext");
-   /* ue-RadioAccessCapabBandFDDList2 */
-   stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList2(ctx, &pvalue->ue_RadioAccessCapabBandFDDList2);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList2", -1, "UE-RadioAccessCapability-v650ext");
-   /* ue-RadioAccessCapabBandFDDList-ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList_ext(ctx, &pvalue->ue_RadioAccessCapabBandFDDList_ext);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList-ext", -1, "UE-RadioAccessCapability-v650ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v7e0ext");
-   /* supportForTwoDRXSchemesInPCH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "UE-RadioAccessCapability-v7e0ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "UE-RadioAccessCapability-v7e0ext");
-         pvalue->supportForTwoDRXSchemesInPCH = ui;
-      }
-   }
-   /* supportEDPDCHPowerInterpolation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportEDPDCHPowerInterpolation", -1, "UE-RadioAccessCapability-v7e0ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportEDPDCHPowerInterpolation", -1, "UE-RadioAccessCapability-v7e0ext");
-         pvalue->supportEDPDCHPowerInterpolation = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   /* hSDSCH-physical-layer-category */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->hSDSCH_physical_layer_category, 1, 64);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "hSDSCH-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   }
-   /* multiCarrier-physical-layer-category */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->multiCarrier_physical_layer_category, 1, 64);
-      RT_CHECK(ctx, stat, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   }
-   /* tdd-edch-PhysicalLayerCategory */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
-      RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   }
-   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
-      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   }
-   /* supportForCSVoiceoverHSPA */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-         pvalue->supportForCSVoiceoverHSPA = ui;
-      }
-   }
-   /* totalRLC-AM-BufferSize */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 3);
-      RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v7f0ext");
-   /* supportofTxDivOnNonMIMOChannel */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapability-v7f0ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapability-v7f0ext");
-         pvalue->supportofTxDivOnNonMIMOChannel = ui;
-      }
-   }
-   /* physicalChannelCapability-LCR */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR);
-      RT_CHECK(ctx, stat, 0, "physicalChannelCapability-LCR", -1, "UE-RadioAccessCapability-v7f0ext");
-   }
-   /* ue-RadioAccessCapabilityComp-TDD128 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(ctx, &pvalue->ue_RadioAccessCapabilityComp_TDD128);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp-TDD128", -1, "UE-RadioAccessCapability-v7f0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityInfo-v770ext");
-   /* rf-Capability */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RF_Capability_v770ext(ctx, &pvalue->rf_Capability);
-      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-   }
-   /* physicalChannelCapability */
-   stat = asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-   /* ganssSupportIndication */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-         pvalue->ganssSupportIndication = ui;
-      }
-   }
-   /* mac-ehsSupport */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-         pvalue->mac_ehsSupport = ui;
-      }
-   }
-   /* ue-SpecificCapabilityInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->ue_SpecificCapabilityInformation, 0, 15);
-      RT_CHECK(ctx, stat, "UE-SpecificCapabilityInformation-LCRTDD", "ue-SpecificCapabilityInformation", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-RadioAccessCapabBandFDDList3 */
-   stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList3", -1, "UE-RadioAccessCapability-v860ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v880ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v880ext");
-   /* supportForPriorityReselectionInUTRAN */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext");
-         pvalue->supportForPriorityReselectionInUTRAN = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v890ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v890ext");
-   /* supportCellSpecificTxDiversityinDC-Operation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext");
-         pvalue->supportCellSpecificTxDiversityinDC_Operation = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_supportOfenhancedTS0* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v920ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v920ext");
-   /* supportOfenhancedTS0 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext");
-         pvalue->supportOfenhancedTS0 = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rf-Capability */
-   stat = asn1PD_UMTS_RF_Capability_r4_ext(ctx, &pvalue->rf_Capability);
-   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, 0);
-   /* physicalChannelCapability-LCR */
-   stat = asn1PD_UMTS_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability-LCR", -1, 0);
-   /* measurementCapability-r4-ext */
-   stat = asn1PD_UMTS_MeasurementCapability_r4_ext(ctx, &pvalue->measurementCapability_r4_ext);
-   RT_CHECK(ctx, stat, 0, "measurementCapability-r4-ext", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v4b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v4b0ext");
-   /* pdcp-Capability-r4-ext */
-   stat = asn1PD_UMTS_PDCP_Capability_r4_ext(ctx, &pvalue->pdcp_Capability_r4_ext);
-   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r4-ext", -1, "UE-RadioAccessCapability-v4b0ext");
-   /* tdd-CapabilityExt */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(ctx, &pvalue->tdd_CapabilityExt);
-      RT_CHECK(ctx, stat, 0, "tdd-CapabilityExt", -1, "UE-RadioAccessCapability-v4b0ext");
-   }
-   /* accessStratumReleaseIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->accessStratumReleaseIndicator, 0, 15);
-      RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-v4b0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabBandFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandFDDComp* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RF-CapabBandFDDComp");
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabBandListFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandListFDDComp* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RF-CapabBandListFDDComp");
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "RF-CapabBandListFDDComp");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RF-CapabBandListFDDComp");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 3);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabilityComp_fdd(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_fdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* notSupported */
-         break;
-      case 1: /* supported */
-         pvalue->u.supported = (RF_CapabBandListFDDComp*)rtxMemHeapAlloc(ctx, sizeof(RF_CapabBandListFDDComp));
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
-         asn1Init_UMTS_RF_CapabBandListFDDComp(pvalue->u.supported);
-         stat = asn1PD_UMTS_RF_CapabBandListFDDComp(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabilityComp_tdd384_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_tdd384_RF_Capability* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* notSupported */
-         break;
-      case 1: /* supported */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 7);
-         RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "supported", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabilityComp_tdd128_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_tdd128_RF_Capability* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* notSupported */
-         break;
-      case 1: /* supported */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 7);
-         RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "supported", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabilityComp(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* fdd */
-   stat = asn1PD_UMTS_RF_CapabilityComp_fdd(ctx, &pvalue->fdd);
-   RT_CHECK(ctx, stat, 0, "fdd", -1, "RF-CapabilityComp");
-   /* tdd384-RF-Capability */
-   stat = asn1PD_UMTS_RF_CapabilityComp_tdd384_RF_Capability(ctx, &pvalue->tdd384_RF_Capability);
-   RT_CHECK(ctx, stat, 0, "tdd384-RF-Capability", -1, "RF-CapabilityComp");
-   /* tdd128-RF-Capability */
-   stat = asn1PD_UMTS_RF_CapabilityComp_tdd128_RF_Capability(ctx, &pvalue->tdd128_RF_Capability);
-   RT_CHECK(ctx, stat, 0, "tdd128-RF-Capability", -1, "RF-CapabilityComp");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* totalAM-RLCMemoryExceeds10kB */
-   stat = rtxDecBitInline(ctx, &pvalue->totalAM_RLCMemoryExceeds10kB);
-   RT_CHECK(ctx, stat, 0, "totalAM-RLCMemoryExceeds10kB", -1, "UE-RadioAccessCapabilityComp");
-   /* rf-CapabilityComp */
-   stat = asn1PD_UMTS_RF_CapabilityComp(ctx, &pvalue->rf_CapabilityComp);
-   RT_CHECK(ctx, stat, 0, "rf-CapabilityComp", -1, "UE-RadioAccessCapabilityComp");
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabBandListFDDComp_ext(rtxContext* RT_RESTRICT ctx, RF_CapabBandListFDDComp_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RF-CapabBandListFDDComp-ext");
-      pvalue->n = raw + 1;
-      if (raw > 14) {
-         rtxErrAddStrParm(ctx, "RF-CapabBandListFDDComp-ext");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RF-CapabBandListFDDComp-ext");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 3);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp-ext");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rf-CapabilityFDDComp */
-   stat = asn1PD_UMTS_RF_CapabBandListFDDComp_ext(ctx, &pvalue->rf_CapabilityFDDComp);
-   RT_CHECK(ctx, stat, 0, "rf-CapabilityFDDComp", -1, "UE-RadioAccessCapabilityComp-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabilityComp_v770ext_tdd768_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_v770ext_tdd768_RF_Capability* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* notSupported */
-         break;
-      case 1: /* supported */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 15);
-         RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "supported", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RF-CapabilityComp-v770ext");
-   /* tdd384-RF-Capability */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tdd384_RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd384-RF-Capability", -1, "RF-CapabilityComp-v770ext");
-   }
-   /* tdd768-RF-Capability */
-   stat = asn1PD_UMTS_RF_CapabilityComp_v770ext_tdd768_RF_Capability(ctx, &pvalue->tdd768_RF_Capability);
-   RT_CHECK(ctx, stat, 0, "tdd768-RF-Capability", -1, "RF-CapabilityComp-v770ext");
-   /* tdd128-RF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tdd128_RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd128-RF-Capability", -1, "RF-CapabilityComp-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-v770ext");
-   /* rf-CapabilityComp */
-   stat = asn1PD_UMTS_RF_CapabilityComp_v770ext(ctx, &pvalue->rf_CapabilityComp);
-   RT_CHECK(ctx, stat, 0, "rf-CapabilityComp", -1, "UE-RadioAccessCapabilityComp-v770ext");
-   /* securityCapabilityIndication */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "securityCapabilityIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "securityCapabilityIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
-         pvalue->securityCapabilityIndication = ui;
-      }
-   }
-   /* ganssSupportIndication */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
-         pvalue->ganssSupportIndication = ui;
-      }
-   }
-   /* mac-ehsSupport */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityComp-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityComp-v770ext");
-         pvalue->mac_ehsSupport = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
-      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, 0);
-   }
-   /* physicalChannelCapabComp-hspdsch-r6 */
-   stat = pd_ConsUInt8(ctx, &pvalue->physicalChannelCapabComp_hspdsch_r6, 1, 64);
-   RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "physicalChannelCapabComp-hspdsch-r6", -1, 0);
-   /* physicalChannelCapability-edch-r6 */
-   stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalChannelCapability_edch_r6);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability-edch-r6", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2");
-   /* fddPhysicalChannelCapab-hspdsch-edch */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(ctx, &pvalue->fddPhysicalChannelCapab_hspdsch_edch);
-      RT_CHECK(ctx, stat, 0, "fddPhysicalChannelCapab-hspdsch-edch", -1, "UE-RadioAccessCapabilityComp2");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_slotFormat4* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   /* hsdsch-physical-layer-category-ext */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext, 1, 20);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   }
-   /* edch-PhysicalLayerCategory-extension */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
-      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   }
-   /* hsscchlessHsdschOperation */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "hsscchlessHsdschOperation", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "hsscchlessHsdschOperation", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-         pvalue->hsscchlessHsdschOperation = ui;
-      }
-   }
-   /* enhancedFdpch */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "enhancedFdpch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "enhancedFdpch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-         pvalue->enhancedFdpch = ui;
-      }
-   }
-   /* hsdschReception-CellFach */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "hsdschReception-CellFach", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "hsdschReception-CellFach", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-         pvalue->hsdschReception_CellFach = ui;
-      }
-   }
-   /* hsdschReception-CellUraPch */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "hsdschReception-CellUraPch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "hsdschReception-CellUraPch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-         pvalue->hsdschReception_CellUraPch = ui;
-      }
-   }
-   /* discontinuousDpcchTransmission */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x40u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-         pvalue->discontinuousDpcchTransmission = ui;
-      }
-   }
-   /* slotFormat4 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x80u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "slotFormat4", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "slotFormat4", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-         pvalue->slotFormat4 = ui;
-      }
-   }
-   /* pdcp-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability);
-      RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
-   /* supportofTxDivOnNonMIMOChannel */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
-         pvalue->supportofTxDivOnNonMIMOChannel = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v860ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v860ext");
-   /* hsdsch-physical-layer-category-ext2 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "UE-RadioAccessCapabilityComp2-v860ext");
-   }
-   /* supportOfMACiis */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp2-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp2-v860ext");
-         pvalue->supportOfMACiis = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v920ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v920ext");
-   /* hsdsch-physical-layer-category-ext3 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "UE-RadioAccessCapabilityComp2-v920ext");
-   }
-   /* edch-PhysicalLayerCategory-extension2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
-      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension2", -1, "UE-RadioAccessCapabilityComp2-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128");
-   /* tdd128RF-Capability */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability);
-      RT_CHECK(ctx, stat, 0, "tdd128RF-Capability", -1, "UE-RadioAccessCapabilityComp-TDD128");
-   }
-   /* supportOfSFModeForHSPDSCHDualStream */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
-      RT_CHECK(ctx, stat, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "UE-RadioAccessCapabilityComp-TDD128");
-   }
-   /* supportOfCommonEDCH */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapabilityComp-TDD128");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapabilityComp-TDD128");
-         pvalue->supportOfCommonEDCH = ui;
-      }
-   }
-   /* supportOfMACiis */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp-TDD128");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp-TDD128");
-         pvalue->supportOfMACiis = ui;
-      }
-   }
-   /* supportOfSPSOperation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
-         pvalue->supportOfSPSOperation = ui;
-      }
-   }
-   /* supportOfControlChannelDRXOperation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
-         pvalue->supportOfControlChannelDRXOperation = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v590ext");
-   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
-      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-v590ext");
-   }
-   /* pdcp-Capability-r5-ext */
-   stat = asn1PD_UMTS_PDCP_Capability_r5_ext(ctx, &pvalue->pdcp_Capability_r5_ext);
-   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r5-ext", -1, "UE-RadioAccessCapability-v590ext");
-   /* rlc-Capability-r5-ext */
-   stat = asn1PD_UMTS_RLC_Capability_r5_ext(ctx, &pvalue->rlc_Capability_r5_ext);
-   RT_CHECK(ctx, stat, 0, "rlc-Capability-r5-ext", -1, "UE-RadioAccessCapability-v590ext");
-   /* physicalChannelCapability */
-   stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v590ext");
-   /* multiModeRAT-Capability-v590ext */
-   stat = asn1PD_UMTS_MultiModeRAT_Capability_v590ext(ctx, &pvalue->multiModeRAT_Capability_v590ext);
-   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability-v590ext", -1, "UE-RadioAccessCapability-v590ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v5c0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v5c0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pdcp-Capability-r5-ext2 */
-   stat = asn1PD_UMTS_PDCP_Capability_r5_ext2(ctx, &pvalue->pdcp_Capability_r5_ext2);
-   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r5-ext2", -1, "UE-RadioAccessCapability-v5c0ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v680ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v680ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* multiModeRAT-Capability-v680ext */
-   stat = asn1PD_UMTS_MultiModeRAT_Capability_v680ext(ctx, &pvalue->multiModeRAT_Capability_v680ext);
-   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability-v680ext", -1, "UE-RadioAccessCapability-v680ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityFDD_r6(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxNoDPDCH-BitsTransmitted */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
-   RT_CHECK(ctx, stat, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD-r6");
-   /* physicalchannelcapability-edch */
-   stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch);
-   RT_CHECK(ctx, stat, 0, "physicalchannelcapability-edch", -1, "UL-PhysChCapabilityFDD-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, UL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* secondaryServingEDCHCell-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SecondaryServingEDCHCell_Info(ctx, &pvalue->secondaryServingEDCHCell_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryServingEDCHCell-Info", -1, 0);
-   }
-   /* secondaryEDCH-Info-Common */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SecondaryEDCH_Info_Common(ctx, &pvalue->secondaryEDCH_Info_Common);
-      RT_CHECK(ctx, stat, 0, "secondaryEDCH-Info-Common", -1, 0);
-   }
-   /* dl-InformationPerSecondaryRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_InformationPerSecondaryRL_List(ctx, &pvalue->dl_InformationPerSecondaryRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerSecondaryRL-List", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, UL_SecondaryCellInfoFDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-SecondaryCellInfoFDD");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* continue */
-         break;
-      case 1: /* newConfiguration */
-         pvalue->u.newConfiguration = (UL_SecondaryCellInfoFDD_newConfiguration*)rtxMemHeapAlloc(ctx, sizeof(UL_SecondaryCellInfoFDD_newConfiguration));
-         if (pvalue->u.newConfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newConfiguration", -1, "UL-SecondaryCellInfoFDD");
-         asn1Init_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(pvalue->u.newConfiguration);
-         stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(ctx, pvalue->u.newConfiguration);
-         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "UL-SecondaryCellInfoFDD");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-SecondaryCellInfoFDD");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_SecurityInformation(rtxContext* RT_RESTRICT ctx, UE_SecurityInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* start-CS */
-   stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_CS);
-   RT_CHECK(ctx, stat, 0, "start-CS", -1, "UE-SecurityInformation");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_SecurityInformation2(rtxContext* RT_RESTRICT ctx, UE_SecurityInformation2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* start-PS */
-   stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_PS);
-   RT_CHECK(ctx, stat, 0, "start-PS", -1, "UE-SecurityInformation2");
-   return 0;
-}
-
-int asn1PD_UMTS_URA_UpdateCause(rtxContext* RT_RESTRICT ctx, URA_UpdateCause* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "URA-UpdateCause");
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 3, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient");
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
-   /* drx-CycleLengthCoefficient */
-   stat = pd_ConsUInt8(ctx, &pvalue->drx_CycleLengthCoefficient, 3, 9);
-   RT_CHECK(ctx, stat, 0, "drx-CycleLengthCoefficient", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
-   /* drx-CycleLengthCoefficient2 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->drx_CycleLengthCoefficient2, 3, 9);
-      RT_CHECK(ctx, stat, 0, "drx-CycleLengthCoefficient2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
-   }
-   /* timeForDRXCycle2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->timeForDRXCycle2, 0, 6);
-      RT_CHECK(ctx, stat, "T-319", "timeForDRXCycle2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_WaitTime(rtxContext* RT_RESTRICT ctx, WaitTime* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "WaitTime");
-   return 0;
-}
-
-int asn1PD_UMTS_ROHC_Profile_r4(rtxContext* RT_RESTRICT ctx, ROHC_Profile_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ROHC-Profile-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_ROHC_ProfileList_r4(rtxContext* RT_RESTRICT ctx, ROHC_ProfileList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "ROHC-ProfileList-r4");
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "ROHC-ProfileList-r4");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ROHC-ProfileList-r4");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 3);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "ROHC-Profile-r4", "ROHC-Profile-r4", (int32_t)i, "ROHC-ProfileList-r4");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CID_InclusionInfo_r4(rtxContext* RT_RESTRICT ctx, CID_InclusionInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CID-InclusionInfo-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_ROHC_PacketSize_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSize_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 2, 1500);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ROHC-PacketSize-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_ROHC_PacketSizeList_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSizeList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "ROHC-PacketSizeList-r4");
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "ROHC-PacketSizeList-r4");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ROHC-PacketSizeList-r4");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 2, 1500);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "ROHC-PacketSize-r4", "ROHC-PacketSize-r4", (int32_t)i, "ROHC-PacketSizeList-r4");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, UL_RFC3095_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-RFC3095-r4");
-   /* dummy1 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dummy1, 0, 1);
-   RT_CHECK(ctx, stat, "CID-InclusionInfo-r4", "dummy1", -1, "UL-RFC3095-r4");
-   /* max-CID */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt16(ctx, &pvalue->max_CID, 1, 16383);
-      RT_CHECK(ctx, stat, 0, "max-CID", -1, "UL-RFC3095-r4");
-   }
-   else {
-      pvalue->max_CID = 15;
-   }
-   /* dummy */
-   stat = asn1PD_UMTS_ROHC_PacketSizeList_r4(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-RFC3095-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, DL_RFC3095_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RFC3095-r4");
-   /* dummy */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-   RT_CHECK(ctx, stat, "CID-InclusionInfo-r4", "dummy", -1, "DL-RFC3095-r4");
-   /* max-CID */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt16(ctx, &pvalue->max_CID, 1, 16383);
-      RT_CHECK(ctx, stat, 0, "max-CID", -1, "DL-RFC3095-r4");
-   }
-   else {
-      pvalue->max_CID = 15;
-   }
-   /* reverseDecompressionDepth */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt16(ctx, &pvalue->reverseDecompressionDepth, 0, 65535);
-      RT_CHECK(ctx, stat, 0, "reverseDecompressionDepth", -1, "DL-RFC3095-r4");
-   }
-   else {
-      pvalue->reverseDecompressionDepth = 0;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RFC3095_Info_r4(rtxContext* RT_RESTRICT ctx, RFC3095_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RFC3095-Info-r4");
-   /* rohcProfileList */
-   stat = asn1PD_UMTS_ROHC_ProfileList_r4(ctx, &pvalue->rohcProfileList);
-   RT_CHECK(ctx, stat, 0, "rohcProfileList", -1, "RFC3095-Info-r4");
-   /* ul-RFC3095 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_RFC3095_r4(ctx, &pvalue->ul_RFC3095);
-      RT_CHECK(ctx, stat, 0, "ul-RFC3095", -1, "RFC3095-Info-r4");
-   }
-   /* dl-RFC3095 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_RFC3095_r4(ctx, &pvalue->dl_RFC3095);
-      RT_CHECK(ctx, stat, 0, "dl-RFC3095", -1, "RFC3095-Info-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AlgorithmSpecificInfo_r4(rtxContext* RT_RESTRICT ctx, AlgorithmSpecificInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AlgorithmSpecificInfo-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* rfc2507-Info */
-         pvalue->u.rfc2507_Info = (RFC2507_Info*)rtxMemHeapAlloc(ctx, sizeof(RFC2507_Info));
-         if (pvalue->u.rfc2507_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo-r4");
-         asn1Init_UMTS_RFC2507_Info(pvalue->u.rfc2507_Info);
-         stat = asn1PD_UMTS_RFC2507_Info(ctx, pvalue->u.rfc2507_Info);
-         RT_CHECK(ctx, stat, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo-r4");
-         break;
-      case 1: /* rfc3095-Info */
-         pvalue->u.rfc3095_Info = (RFC3095_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(RFC3095_Info_r4));
-         if (pvalue->u.rfc3095_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rfc3095-Info", -1, "AlgorithmSpecificInfo-r4");
-         asn1Init_UMTS_RFC3095_Info_r4(pvalue->u.rfc3095_Info);
-         stat = asn1PD_UMTS_RFC3095_Info_r4(ctx, pvalue->u.rfc3095_Info);
-         RT_CHECK(ctx, stat, 0, "rfc3095-Info", -1, "AlgorithmSpecificInfo-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "AlgorithmSpecificInfo-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_COUNT_C(rtxContext* RT_RESTRICT ctx, COUNT_C* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt32(ctx, pvalue, 0, 4294967295LL);
-   RT_CHECK(ctx, stat, 0, 0, -1, "COUNT-C");
-   return 0;
-}
-
-int asn1PD_UMTS_COUNT_C_MSB(rtxContext* RT_RESTRICT ctx, COUNT_C_MSB* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt32(ctx, pvalue, 0, 33554431);
-   RT_CHECK(ctx, stat, 0, 0, -1, "COUNT-C-MSB");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AMR_Rate(rtxContext* RT_RESTRICT ctx, UL_AMR_Rate* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AMR-Rate");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxCS_Delay(rtxContext* RT_RESTRICT ctx, MaxCS_Delay* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 18);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxCS-Delay");
-   return 0;
-}
-
-int asn1PD_UMTS_CS_HSPA_Information(rtxContext* RT_RESTRICT ctx, CS_HSPA_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CS-HSPA-Information");
-   /* ul-AMR-Rate */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->ul_AMR_Rate, 0, 15);
-      RT_CHECK(ctx, stat, "UL-AMR-Rate", "ul-AMR-Rate", -1, "CS-HSPA-Information");
-   }
-   /* maxCS-Delay */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxCS_Delay, 0, 18);
-   RT_CHECK(ctx, stat, "MaxCS-Delay", "maxCS-Delay", -1, "CS-HSPA-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigMode(rtxContext* RT_RESTRICT ctx, DefaultConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigMode");
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigIdForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigIdForCellFACH* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdForCellFACH");
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigForCellFACH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, "DefaultConfigForCellFACH");
-   /* defaultConfigIdForCellFACH */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdForCellFACH, 0, 15);
-   RT_CHECK(ctx, stat, "DefaultConfigIdForCellFACH", "defaultConfigIdForCellFACH", -1, "DefaultConfigForCellFACH");
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigIdentity(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigIdentity_r4(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigIdentity_r5(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigIdentity_r6(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_DDI(rtxContext* RT_RESTRICT ctx, DDI* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 62);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DDI");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dl-RLC-PDU-size */
-   stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, &pvalue->dl_RLC_PDU_size);
-   RT_CHECK(ctx, stat, 0, "dl-RLC-PDU-size", -1, "DL-AM-RLC-Mode-r5");
-   /* inSequenceDelivery */
-   stat = rtxDecBitInline(ctx, &pvalue->inSequenceDelivery);
-   RT_CHECK(ctx, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode-r5");
-   /* receivingWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->receivingWindowSize, 0, 15);
-   RT_CHECK(ctx, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r5");
-   /* dl-RLC-StatusInfo */
-   stat = asn1PD_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
-   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fixedSize */
-         pvalue->u.fixedSize = (OctetModeRLC_SizeInfoType1*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1));
-         if (pvalue->u.fixedSize == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fixedSize", -1, 0);
-         asn1Init_UMTS_OctetModeRLC_SizeInfoType1(pvalue->u.fixedSize);
-         stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.fixedSize);
-         RT_CHECK(ctx, stat, 0, "fixedSize", -1, 0);
-         break;
-      case 1: /* flexibleSize */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.flexibleSize, 0, 1);
-         RT_CHECK(ctx, stat, 0, "flexibleSize", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AM_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dl-RLC-PDU-size */
-   stat = asn1PD_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(ctx, &pvalue->dl_RLC_PDU_size);
-   RT_CHECK(ctx, stat, 0, "dl-RLC-PDU-size", -1, "DL-AM-RLC-Mode-r7");
-   /* inSequenceDelivery */
-   stat = rtxDecBitInline(ctx, &pvalue->inSequenceDelivery);
-   RT_CHECK(ctx, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode-r7");
-   /* receivingWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->receivingWindowSize, 0, 15);
-   RT_CHECK(ctx, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r7");
-   /* dl-RLC-StatusInfo */
-   stat = asn1PD_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
-   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_SN_Info(rtxContext* RT_RESTRICT ctx, PDCP_SN_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 65535);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-SN-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_WithPDCP_Info(rtxContext* RT_RESTRICT ctx, RB_WithPDCP_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-WithPDCP-Info");
-   /* pdcp-SN-Info */
-   stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
-   RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-WithPDCP-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_WithPDCP_InfoList(rtxContext* RT_RESTRICT ctx, RB_WithPDCP_InfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 27);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-WithPDCP-InfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_WithPDCP_Info* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_WithPDCP_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-WithPDCP-Info", (int32_t)i, "RB-WithPDCP-InfoList");
-      elem = (RB_WithPDCP_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_WithPDCP_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-WithPDCP-Info", (int32_t)i, "RB-WithPDCP-InfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, DL_CounterSynchronisationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CounterSynchronisationInfo");
-   /* rB-WithPDCP-InfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList);
-      RT_CHECK(ctx, stat, 0, "rB-WithPDCP-InfoList", -1, "DL-CounterSynchronisationInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_PDCPContextRelocation(rtxContext* RT_RESTRICT ctx, RB_PDCPContextRelocation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-PDCPContextRelocation");
-   /* dl-RFC3095-Context-Relocation */
-   stat = rtxDecBitInline(ctx, &pvalue->dl_RFC3095_Context_Relocation);
-   RT_CHECK(ctx, stat, 0, "dl-RFC3095-Context-Relocation", -1, "RB-PDCPContextRelocation");
-   /* ul-RFC3095-Context-Relocation */
-   stat = rtxDecBitInline(ctx, &pvalue->ul_RFC3095_Context_Relocation);
-   RT_CHECK(ctx, stat, 0, "ul-RFC3095-Context-Relocation", -1, "RB-PDCPContextRelocation");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_PDCPContextRelocationList(rtxContext* RT_RESTRICT ctx, RB_PDCPContextRelocationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 27);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-PDCPContextRelocationList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_PDCPContextRelocation* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_PDCPContextRelocation));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-PDCPContextRelocation", (int32_t)i, "RB-PDCPContextRelocationList");
-      elem = (RB_PDCPContextRelocation*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_PDCPContextRelocation(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-PDCPContextRelocation", (int32_t)i, "RB-PDCPContextRelocationList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(rtxContext* RT_RESTRICT ctx, DL_CounterSynchronisationInfo_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CounterSynchronisationInfo-r5");
-   /* rb-WithPDCP-InfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rb_WithPDCP_InfoList);
-      RT_CHECK(ctx, stat, 0, "rb-WithPDCP-InfoList", -1, "DL-CounterSynchronisationInfo-r5");
-   }
-   /* rb-PDCPContextRelocationList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, "DL-CounterSynchronisationInfo-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-d-FlowIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentityDCHandHSDSCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dch-transport-ch-id */
-   stat = pd_ConsUInt8(ctx, &pvalue->dch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
-   /* hsdsch-mac-d-flow-id */
-   stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_mac_d_flow_id, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "hsdsch-mac-d-flow-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransportChannelType_r5(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TransportChannelType-r5");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r5");
-         break;
-      case 1: /* fach */
-         break;
-      case 2: /* dsch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r5");
-         break;
-      case 3: /* dch-and-dsch */
-         pvalue->u.dch_and_dsch = (TransportChannelIdentityDCHandDSCH*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelIdentityDCHandDSCH));
-         if (pvalue->u.dch_and_dsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r5");
-         stat = asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
-         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r5");
-         break;
-      case 4: /* hsdsch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.hsdsch, 0, 7);
-         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TransportChannelType-r5");
-         break;
-      case 5: /* dch-and-hsdsch */
-         pvalue->u.dch_and_hsdsch = (MAC_d_FlowIdentityDCHandHSDSCH*)rtxMemHeapAllocZ(ctx, sizeof(MAC_d_FlowIdentityDCHandHSDSCH));
-         if (pvalue->u.dch_and_hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r5");
-         stat = asn1PD_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.dch_and_hsdsch);
-         RT_CHECK(ctx, stat, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r5");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_LogicalChannelMapping_r5(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMapping-r5");
-   /* dl-TransportChannelType */
-   stat = asn1PD_UMTS_DL_TransportChannelType_r5(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping-r5");
-   /* logicalChannelIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransportChannelType_r7_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7_hsdsch* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* mac-hs */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.mac_hs, 0, 7);
-         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
-         break;
-      case 1: /* mac-ehs */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.mac_ehs, 0, 7);
-         RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_ehs_QueueIdDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueIdDCHandHSDSCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dch-transport-ch-id */
-   stat = pd_ConsUInt8(ctx, &pvalue->dch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
-   /* hsdsch-mac-ehs-QueueId */
-   stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "hsdsch-mac-ehs-QueueId", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7_dch_and_hsdsch* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* mac-hs */
-         pvalue->u.mac_hs = (MAC_d_FlowIdentityDCHandHSDSCH*)rtxMemHeapAllocZ(ctx, sizeof(MAC_d_FlowIdentityDCHandHSDSCH));
-         if (pvalue->u.mac_hs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mac-hs", -1, 0);
-         stat = asn1PD_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.mac_hs);
-         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
-         break;
-      case 1: /* mac-ehs */
-         pvalue->u.mac_ehs = (MAC_ehs_QueueIdDCHandHSDSCH*)rtxMemHeapAllocZ(ctx, sizeof(MAC_ehs_QueueIdDCHandHSDSCH));
-         if (pvalue->u.mac_ehs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mac-ehs", -1, 0);
-         stat = asn1PD_UMTS_MAC_ehs_QueueIdDCHandHSDSCH(ctx, pvalue->u.mac_ehs);
-         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransportChannelType_r7(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TransportChannelType-r7");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r7");
-         break;
-      case 1: /* fach */
-         break;
-      case 2: /* dsch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r7");
-         break;
-      case 3: /* dch-and-dsch */
-         pvalue->u.dch_and_dsch = (TransportChannelIdentityDCHandDSCH*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelIdentityDCHandDSCH));
-         if (pvalue->u.dch_and_dsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r7");
-         stat = asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
-         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r7");
-         break;
-      case 4: /* hsdsch */
-         pvalue->u.hsdsch = (DL_TransportChannelType_r7_hsdsch*)rtxMemHeapAlloc(ctx, sizeof(DL_TransportChannelType_r7_hsdsch));
-         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hsdsch", -1, "DL-TransportChannelType-r7");
-         asn1Init_UMTS_DL_TransportChannelType_r7_hsdsch(pvalue->u.hsdsch);
-         stat = asn1PD_UMTS_DL_TransportChannelType_r7_hsdsch(ctx, pvalue->u.hsdsch);
-         RT_CHECK(ctx, stat, 0, "hsdsch", -1, "DL-TransportChannelType-r7");
-         break;
-      case 5: /* dch-and-hsdsch */
-         pvalue->u.dch_and_hsdsch = (DL_TransportChannelType_r7_dch_and_hsdsch*)rtxMemHeapAlloc(ctx, sizeof(DL_TransportChannelType_r7_dch_and_hsdsch));
-         if (pvalue->u.dch_and_hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r7");
-         asn1Init_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(pvalue->u.dch_and_hsdsch);
-         stat = asn1PD_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(ctx, pvalue->u.dch_and_hsdsch);
-         RT_CHECK(ctx, stat, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r7");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_LogicalChannelMapping_r7(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMapping-r7");
-   /* dl-TransportChannelType */
-   stat = asn1PD_UMTS_DL_TransportChannelType_r7(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping-r7");
-   /* logicalChannelIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_LogicalChannelMappingList_r5(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMappingList-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_LogicalChannelMapping_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_LogicalChannelMapping_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-LogicalChannelMapping-r5", (int32_t)i, "DL-LogicalChannelMappingList-r5");
-      elem = (DL_LogicalChannelMapping_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_LogicalChannelMapping_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_LogicalChannelMapping_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping-r5", (int32_t)i, "DL-LogicalChannelMappingList-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_LogicalChannelMappingList_r7(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMappingList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_LogicalChannelMapping_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_LogicalChannelMapping_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-LogicalChannelMapping-r7", (int32_t)i, "DL-LogicalChannelMappingList-r7");
-      elem = (DL_LogicalChannelMapping_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_LogicalChannelMapping_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_LogicalChannelMapping_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping-r7", (int32_t)i, "DL-LogicalChannelMappingList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_Reception_Window_Size_r6(rtxContext* RT_RESTRICT ctx, DL_Reception_Window_Size_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-Reception-Window-Size-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_UM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_Mode_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dl-UM-RLC-LI-size */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RLC-Mode-r5");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-AM-RLC-Mode */
-         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode_r5));
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r5");
-         asn1Init_UMTS_DL_AM_RLC_Mode_r5(pvalue->u.dl_AM_RLC_Mode);
-         stat = asn1PD_UMTS_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r5");
-         break;
-      case 1: /* dl-UM-RLC-Mode */
-         pvalue->u.dl_UM_RLC_Mode = (DL_UM_RLC_Mode_r5*)rtxMemHeapAllocZ(ctx, sizeof(DL_UM_RLC_Mode_r5));
-         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r5");
-         stat = asn1PD_UMTS_DL_UM_RLC_Mode_r5(ctx, pvalue->u.dl_UM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r5");
-         break;
-      case 2: /* dl-TM-RLC-Mode */
-         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r5");
-         stat = asn1PD_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r5");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_UM_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_Mode_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-UM-RLC-Mode-r6");
-   /* dl-UM-RLC-LI-size */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r6");
-   /* dl-Reception-Window-Size */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dl_Reception_Window_Size, 0, 5);
-      RT_CHECK(ctx, stat, "DL-Reception-Window-Size-r6", "dl-Reception-Window-Size", -1, "DL-UM-RLC-Mode-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RLC-Mode-r6");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-AM-RLC-Mode */
-         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode_r5));
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r6");
-         asn1Init_UMTS_DL_AM_RLC_Mode_r5(pvalue->u.dl_AM_RLC_Mode);
-         stat = asn1PD_UMTS_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r6");
-         break;
-      case 1: /* dl-UM-RLC-Mode */
-         pvalue->u.dl_UM_RLC_Mode = (DL_UM_RLC_Mode_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_UM_RLC_Mode_r6));
-         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r6");
-         asn1Init_UMTS_DL_UM_RLC_Mode_r6(pvalue->u.dl_UM_RLC_Mode);
-         stat = asn1PD_UMTS_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r6");
-         break;
-      case 2: /* dl-TM-RLC-Mode */
-         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r6");
-         stat = asn1PD_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r6");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RLC-Mode-r7");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-AM-RLC-Mode */
-         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode_r7));
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r7");
-         asn1Init_UMTS_DL_AM_RLC_Mode_r7(pvalue->u.dl_AM_RLC_Mode);
-         stat = asn1PD_UMTS_DL_AM_RLC_Mode_r7(ctx, pvalue->u.dl_AM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r7");
-         break;
-      case 1: /* dl-UM-RLC-Mode */
-         pvalue->u.dl_UM_RLC_Mode = (DL_UM_RLC_Mode_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_UM_RLC_Mode_r6));
-         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r7");
-         asn1Init_UMTS_DL_UM_RLC_Mode_r6(pvalue->u.dl_UM_RLC_Mode);
-         stat = asn1PD_UMTS_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r7");
-         break;
-      case 2: /* dl-TM-RLC-Mode */
-         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r7");
-         stat = asn1PD_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r7");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HeaderCompressionInfo_r4(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* algorithmSpecificInfo */
-   stat = asn1PD_UMTS_AlgorithmSpecificInfo_r4(ctx, &pvalue->algorithmSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "algorithmSpecificInfo", -1, "HeaderCompressionInfo-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_HeaderCompressionInfoList_r4(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfoList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HeaderCompressionInfoList-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HeaderCompressionInfo_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HeaderCompressionInfo_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HeaderCompressionInfo-r4", (int32_t)i, "HeaderCompressionInfoList-r4");
-      elem = (HeaderCompressionInfo_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HeaderCompressionInfo_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HeaderCompressionInfo_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HeaderCompressionInfo-r4", (int32_t)i, "HeaderCompressionInfoList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_d_HFN_initial_value(rtxContext* RT_RESTRICT ctx, MAC_d_HFN_initial_value* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, pvalue, 24, 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-d-HFN-initial-value");
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Info_r4(rtxContext* RT_RESTRICT ctx, PDCP_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Info-r4");
-   /* losslessSRNS-RelocSupport */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport);
-      RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocSupport", -1, "PDCP-Info-r4");
-   }
-   /* pdcp-PDU-Header */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_PDU_Header, 0, 1);
-   RT_CHECK(ctx, stat, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info-r4");
-   /* headerCompressionInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HeaderCompressionInfoList_r4(ctx, &pvalue->headerCompressionInfoList);
-      RT_CHECK(ctx, stat, 0, "headerCompressionInfoList", -1, "PDCP-Info-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_InfoReconfig(rtxContext* RT_RESTRICT ctx, PDCP_InfoReconfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pdcp-Info */
-   stat = asn1PD_UMTS_PDCP_Info(ctx, &pvalue->pdcp_Info);
-   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "PDCP-InfoReconfig");
-   /* dummy */
-   stat = pd_ConsUInt16(ctx, &pvalue->dummy, 0, 65535);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "PDCP-InfoReconfig");
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_InfoReconfig_r4(rtxContext* RT_RESTRICT ctx, PDCP_InfoReconfig_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pdcp-Info */
-   stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "PDCP-InfoReconfig-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_ROHC_TargetMode(rtxContext* RT_RESTRICT ctx, PDCP_ROHC_TargetMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-ROHC-TargetMode");
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigStatusInfo_other(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusInfo_other* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* notStored */
-         break;
-      case 1: /* storedWithDifferentValueTag */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.storedWithDifferentValueTag, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigValueTag", "storedWithDifferentValueTag", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigStatusInfo(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigStatusInfo");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* storedWithValueTagSameAsPrevius */
-         break;
-      case 1: /* other */
-         pvalue->u.other = (PredefinedConfigStatusInfo_other*)rtxMemHeapAlloc(ctx, sizeof(PredefinedConfigStatusInfo_other));
-         if (pvalue->u.other == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "other", -1, "PredefinedConfigStatusInfo");
-         asn1Init_UMTS_PredefinedConfigStatusInfo_other(pvalue->u.other);
-         stat = asn1PD_UMTS_PredefinedConfigStatusInfo_other(ctx, pvalue->u.other);
-         RT_CHECK(ctx, stat, 0, "other", -1, "PredefinedConfigStatusInfo");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PredefinedConfigStatusInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigStatusList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PredefinedConfigStatusInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PredefinedConfigStatusInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusList");
-      elem = (PredefinedConfigStatusInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PredefinedConfigStatusInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PredefinedConfigStatusInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigValueTagList(rtxContext* RT_RESTRICT ctx, PredefinedConfigValueTagList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigValueTagList");
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "PredefinedConfigValueTagList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PredefinedConfigValueTagList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "PredefinedConfigValueTag", "PredefinedConfigValueTag", (int32_t)i, "PredefinedConfigValueTagList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigSetWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigSetWithDifferentValueTag* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigSetWithDifferentValueTag");
-   /* startPosition */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->startPosition, 0, 10);
-      RT_CHECK(ctx, stat, 0, "startPosition", -1, "PredefinedConfigSetWithDifferentValueTag");
-   }
-   else {
-      pvalue->startPosition = 0;
-   }
-   /* valueTagList */
-   stat = asn1PD_UMTS_PredefinedConfigValueTagList(ctx, &pvalue->valueTagList);
-   RT_CHECK(ctx, stat, 0, "valueTagList", -1, "PredefinedConfigSetWithDifferentValueTag");
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigSetsWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigSetsWithDifferentValueTag* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigSetsWithDifferentValueTag");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PredefinedConfigSetWithDifferentValueTag* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PredefinedConfigSetWithDifferentValueTag));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PredefinedConfigSetWithDifferentValueTag", (int32_t)i, "PredefinedConfigSetsWithDifferentValueTag");
-      elem = (PredefinedConfigSetWithDifferentValueTag*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PredefinedConfigSetWithDifferentValueTag(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PredefinedConfigSetWithDifferentValueTag(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PredefinedConfigSetWithDifferentValueTag", (int32_t)i, "PredefinedConfigSetsWithDifferentValueTag");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigStatusListVarSz(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusListVarSz* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigStatusListVarSz");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PredefinedConfigStatusInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PredefinedConfigStatusInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusListVarSz");
-      elem = (PredefinedConfigStatusInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PredefinedConfigStatusInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PredefinedConfigStatusInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusListVarSz");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigStatusListComp(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusListComp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigStatusListComp");
-   /* setsWithDifferentValueTag */
-   stat = asn1PD_UMTS_PredefinedConfigSetsWithDifferentValueTag(ctx, &pvalue->setsWithDifferentValueTag);
-   RT_CHECK(ctx, stat, 0, "setsWithDifferentValueTag", -1, "PredefinedConfigStatusListComp");
-   /* otherEntries */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PredefinedConfigStatusListVarSz(ctx, &pvalue->otherEntries);
-      RT_CHECK(ctx, stat, 0, "otherEntries", -1, "PredefinedConfigStatusListComp");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info(rtxContext* RT_RESTRICT ctx, RAB_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info");
-   /* rab-Identity */
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info");
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info");
-   /* nas-Synchronisation-Indicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
-      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info");
-   }
-   /* re-EstablishmentTimer */
-   stat = pd_ConsUnsigned(ctx, &pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SessionIdentity(rtxContext* RT_RESTRICT ctx, MBMS_SessionIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SessionIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_Info_r6_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-r6-ext");
-   /* mbms-SessionIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r6-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_v6b0ext_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_Info_v6b0ext_mbms_ServiceIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_Info_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mbms-ServiceIdentity */
-   stat = asn1PD_UMTS_RAB_Info_v6b0ext_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
-   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-Info-v6b0ext");
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_r6(rtxContext* RT_RESTRICT ctx, RAB_Info_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-r6");
-   /* rab-Identity */
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-r6");
-   /* mbms-SessionIdentity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r6");
-   }
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r6");
-   /* nas-Synchronisation-Indicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
-      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-r6");
-   }
-   /* re-EstablishmentTimer */
-   stat = pd_ConsUnsigned(ctx, &pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_r7_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_Info_r7_mbms_ServiceIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_r7(rtxContext* RT_RESTRICT ctx, RAB_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-r7");
-   /* rab-Identity */
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-r7");
-   /* mbms-SessionIdentity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r7");
-   }
-   /* mbms-ServiceIdentity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_Info_r7_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
-      RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-Info-r7");
-   }
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r7");
-   /* nas-Synchronisation-Indicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
-      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-r7");
-   }
-   /* re-EstablishmentTimer */
-   stat = pd_ConsUnsigned(ctx, &pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationList(rtxContext* RT_RESTRICT ctx, RAB_InformationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_Info* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-Info", (int32_t)i, "RAB-InformationList");
-      elem = (RAB_Info*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_Info(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-Info", (int32_t)i, "RAB-InformationList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationList_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_Info_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_Info_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-Info-r6", (int32_t)i, "RAB-InformationList-r6");
-      elem = (RAB_Info_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_Info_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_Info_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-Info-r6", (int32_t)i, "RAB-InformationList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationReconfig(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rab-Identity */
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InformationReconfig");
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig");
-   /* nas-Synchronisation-Indicator */
-   stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
-   RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-InformationReconfig");
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfigList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationReconfigList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationReconfig* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationReconfig));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationReconfig", (int32_t)i, "RAB-InformationReconfigList");
-      elem = (RAB_InformationReconfig*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationReconfig(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationReconfig(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationReconfig", (int32_t)i, "RAB-InformationReconfigList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfig_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationReconfig-r8");
-   /* rab-Identity */
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InformationReconfig-r8");
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig-r8");
-   /* nas-Synchronisation-Indicator */
-   stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
-   RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-InformationReconfig-r8");
-   /* cs-HSPA-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
-      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationReconfig-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfigList_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationReconfigList-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationReconfig_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationReconfig_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationReconfig-r8", (int32_t)i, "RAB-InformationReconfigList-r8");
-      elem = (RAB_InformationReconfig_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationReconfig_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationReconfig_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationReconfig-r8", (int32_t)i, "RAB-InformationReconfigList-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_Post(rtxContext* RT_RESTRICT ctx, RAB_Info_Post* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-Post");
-   /* rab-Identity */
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-Post");
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-Post");
-   /* nas-Synchronisation-Indicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
-      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-Post");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationMBMSPtp_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtp_mbms_ServiceIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationMBMSPtp(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationMBMSPtp");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RAB-InformationMBMSPtp");
-   /* mbms-ServiceIdentity */
-   stat = asn1PD_UMTS_RAB_InformationMBMSPtp_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
-   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-InformationMBMSPtp");
-   /* mbms-SessionIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-InformationMBMSPtp");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationMBMSPtpList(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtpList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationMBMSPtpList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationMBMSPtp* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationMBMSPtp));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationMBMSPtp", (int32_t)i, "RAB-InformationMBMSPtpList");
-      elem = (RAB_InformationMBMSPtp*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationMBMSPtp(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationMBMSPtp(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationMBMSPtp", (int32_t)i, "RAB-InformationMBMSPtpList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rab-Info */
-   stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup");
-   /* rb-InformationSetupList */
-   stat = asn1PD_UMTS_RB_InformationSetupList(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r4");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r4");
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r4");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PD_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r4");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationSetup_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationSetup-r4", (int32_t)i, "RB-InformationSetupList-r4");
-      elem = (RB_InformationSetup_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationSetup_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationSetup_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r4", (int32_t)i, "RB-InformationSetupList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rab-Info */
-   stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r4");
-   /* rb-InformationSetupList */
-   stat = asn1PD_UMTS_RB_InformationSetupList_r4(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Info_r5(rtxContext* RT_RESTRICT ctx, RLC_Info_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-r5");
-   /* ul-RLC-Mode */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r5");
-   }
-   /* dl-RLC-Mode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_RLC_Mode_r5(ctx, &pvalue->dl_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r5");
-   }
-   /* rlc-OneSidedReEst */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_OneSidedReEst);
-   RT_CHECK(ctx, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_InfoChoice_r5(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-InfoChoice-r5");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* rlc-Info */
-         pvalue->u.rlc_Info = (RLC_Info_r5*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info_r5));
-         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rlc-Info", -1, "RLC-InfoChoice-r5");
-         asn1Init_UMTS_RLC_Info_r5(pvalue->u.rlc_Info);
-         stat = asn1PD_UMTS_RLC_Info_r5(ctx, pvalue->u.rlc_Info);
-         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r5");
-         break;
-      case 1: /* same-as-RB */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.same_as_RB, 1, 32);
-         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r5");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingOption_r5(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r5");
-   /* ul-LogicalChannelMappings */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r5");
-   }
-   /* dl-LogicalChannelMappingList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingInfo_r5(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingInfo-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_MappingOption_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-MappingOption-r5", (int32_t)i, "RB-MappingInfo-r5");
-      elem = (RB_MappingOption_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_MappingOption_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_MappingOption_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r5", (int32_t)i, "RB-MappingInfo-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r5");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r5");
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r5");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PD_UMTS_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r5");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationSetup_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationSetup-r5", (int32_t)i, "RB-InformationSetupList-r5");
-      elem = (RB_InformationSetup_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationSetup_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationSetup_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r5", (int32_t)i, "RB-InformationSetupList-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rab-Info */
-   stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r5");
-   /* rb-InformationSetupList */
-   stat = asn1PD_UMTS_RB_InformationSetupList_r5(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r6_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rab-Info-r6-ext */
-   stat = asn1PD_UMTS_RAB_Info_r6_ext(ctx, &pvalue->rab_Info_r6_ext);
-   RT_CHECK(ctx, stat, 0, "rab-Info-r6-ext", -1, "RAB-InformationSetup-r6-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Info_r6_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r6_altE_bitInterpretation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Info_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-r6");
-   /* ul-RLC-Mode */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r6");
-   }
-   /* dl-RLC-Mode */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_RLC_Mode_r6(ctx, &pvalue->dl_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r6");
-   }
-   /* rlc-OneSidedReEst */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_OneSidedReEst);
-   RT_CHECK(ctx, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r6");
-   /* altE-bitInterpretation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r6");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r6");
-         pvalue->altE_bitInterpretation = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_InfoChoice_r6(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-InfoChoice-r6");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* rlc-Info */
-         pvalue->u.rlc_Info = (RLC_Info_r6*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info_r6));
-         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rlc-Info", -1, "RLC-InfoChoice-r6");
-         asn1Init_UMTS_RLC_Info_r6(pvalue->u.rlc_Info);
-         stat = asn1PD_UMTS_RLC_Info_r6(ctx, pvalue->u.rlc_Info);
-         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r6");
-         break;
-      case 1: /* same-as-RB */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.same_as_RB, 1, 32);
-         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r6");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* allSizes */
-         break;
-      case 1: /* configured */
-         break;
-      case 2: /* explicitList */
-         pvalue->u.explicitList = (RLC_SizeExplicitList*)rtxMemHeapAlloc(ctx, sizeof(RLC_SizeExplicitList));
-         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicitList", -1, 0);
-         asn1Init_UMTS_RLC_SizeExplicitList(pvalue->u.explicitList);
-         stat = asn1PD_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
-         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TransportChannelType */
-   stat = asn1PD_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, 0);
-   /* logicalChannelIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
-   }
-   /* rlc-SizeList */
-   stat = asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
-   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_PDU_Size(rtxContext* RT_RESTRICT ctx, RLC_PDU_Size* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-PDU-Size");
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_PDU_SizeList(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-PDU-SizeList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RLC_PDU_Size* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RLC_PDU_Size));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RLC-PDU-Size", (int32_t)i, "RLC-PDU-SizeList");
-      elem = (RLC_PDU_Size*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RLC_PDU_Size(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RLC_PDU_Size(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RLC-PDU-Size", (int32_t)i, "RLC-PDU-SizeList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* logicalChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-   RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
-   /* e-DCH-MAC-d-FlowIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_DCH_MAC_d_FlowIdentity, 0, 7);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
-   /* ddi */
-   stat = pd_ConsUInt8(ctx, &pvalue->ddi, 0, 62);
-   RT_CHECK(ctx, stat, "DDI", "ddi", -1, 0);
-   /* rlc-PDU-SizeList */
-   stat = asn1PD_UMTS_RLC_PDU_SizeList(ctx, &pvalue->rlc_PDU_SizeList);
-   RT_CHECK(ctx, stat, 0, "rlc-PDU-SizeList", -1, 0);
-   /* includeInSchedulingInfo */
-   stat = rtxDecBitInline(ctx, &pvalue->includeInSchedulingInfo);
-   RT_CHECK(ctx, stat, 0, "includeInSchedulingInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch-rach-usch */
-         pvalue->u.dch_rach_usch = (UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch));
-         if (pvalue->u.dch_rach_usch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-rach-usch", -1, 0);
-         asn1Init_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(pvalue->u.dch_rach_usch);
-         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(ctx, pvalue->u.dch_rach_usch);
-         RT_CHECK(ctx, stat, 0, "dch-rach-usch", -1, 0);
-         break;
-      case 1: /* e-dch */
-         pvalue->u.e_dch = (UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch));
-         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-dch", -1, 0);
-         asn1Init_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(pvalue->u.e_dch);
-         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(ctx, pvalue->u.e_dch);
-         RT_CHECK(ctx, stat, 0, "e-dch", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TrCH-Type */
-   stat = asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type(ctx, &pvalue->ul_TrCH_Type);
-   RT_CHECK(ctx, stat, 0, "ul-TrCH-Type", -1, "UL-LogicalChannelMapping-r6");
-   /* mac-LogicalChannelPriority */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_LogicalChannelPriority, 1, 8);
-   RT_CHECK(ctx, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_LogicalChannelMapping_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_LogicalChannelMapping_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-LogicalChannelMapping-r6", (int32_t)i, 0);
-      elem = (UL_LogicalChannelMapping_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_LogicalChannelMapping_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_LogicalChannelMapping_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMappingList_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rlc-LogicalChannelMappingIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_LogicalChannelMappingIndicator);
-   RT_CHECK(ctx, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList-r6");
-   /* ul-LogicalChannelMapping */
-   stat = asn1PD_UMTS_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
-   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMappings_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-LogicalChannelMappings-r6");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* oneLogicalChannel */
-         pvalue->u.oneLogicalChannel = (UL_LogicalChannelMapping_r6*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r6));
-         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r6");
-         asn1Init_UMTS_UL_LogicalChannelMapping_r6(pvalue->u.oneLogicalChannel);
-         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r6(ctx, pvalue->u.oneLogicalChannel);
-         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r6");
-         break;
-      case 1: /* twoLogicalChannels */
-         pvalue->u.twoLogicalChannels = (UL_LogicalChannelMappingList_r6*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMappingList_r6));
-         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r6");
-         asn1Init_UMTS_UL_LogicalChannelMappingList_r6(pvalue->u.twoLogicalChannels);
-         stat = asn1PD_UMTS_UL_LogicalChannelMappingList_r6(ctx, pvalue->u.twoLogicalChannels);
-         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r6");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingOption_r6(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r6");
-   /* ul-LogicalChannelMappings */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_LogicalChannelMappings_r6(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r6");
-   }
-   /* dl-LogicalChannelMappingList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingInfo_r6(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingInfo-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_MappingOption_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-MappingOption-r6", (int32_t)i, "RB-MappingInfo-r6");
-      elem = (RB_MappingOption_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_MappingOption_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_MappingOption_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r6", (int32_t)i, "RB-MappingInfo-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r6");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r6");
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r6");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PD_UMTS_RLC_InfoChoice_r6(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r6");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationSetup_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationSetup-r6", (int32_t)i, "RB-InformationSetupList-r6");
-      elem = (RB_InformationSetup_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationSetup_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationSetup_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r6", (int32_t)i, "RB-InformationSetupList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rab-Info */
-   stat = asn1PD_UMTS_RAB_Info_r6(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r6");
-   /* rb-InformationSetupList */
-   stat = asn1PD_UMTS_RB_InformationSetupList_r6(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetup-v6b0ext");
-   /* rab-Info-v6b0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_v6b0ext(ctx, &pvalue->rab_Info_v6b0ext);
-      RT_CHECK(ctx, stat, 0, "rab-Info-v6b0ext", -1, "RAB-InformationSetup-v6b0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Info_r7_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_altE_bitInterpretation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Info_r7_useSpecialValueOfHEField(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_useSpecialValueOfHEField* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Info_r7(rtxContext* RT_RESTRICT ctx, RLC_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-r7");
-   /* ul-RLC-Mode */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r7");
-   }
-   /* dl-RLC-Mode */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_RLC_Mode_r7(ctx, &pvalue->dl_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r7");
-   }
-   /* rlc-OneSidedReEst */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_OneSidedReEst);
-   RT_CHECK(ctx, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r7");
-   /* altE-bitInterpretation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r7");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r7");
-         pvalue->altE_bitInterpretation = ui;
-      }
-   }
-   /* useSpecialValueOfHEField */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "useSpecialValueOfHEField", -1, "RLC-Info-r7");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "useSpecialValueOfHEField", -1, "RLC-Info-r7");
-         pvalue->useSpecialValueOfHEField = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_InfoChoice_r7(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-InfoChoice-r7");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* rlc-Info */
-         pvalue->u.rlc_Info = (RLC_Info_r7*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info_r7));
-         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rlc-Info", -1, "RLC-InfoChoice-r7");
-         asn1Init_UMTS_RLC_Info_r7(pvalue->u.rlc_Info);
-         stat = asn1PD_UMTS_RLC_Info_r7(ctx, pvalue->u.rlc_Info);
-         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r7");
-         break;
-      case 1: /* same-as-RB */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.same_as_RB, 1, 32);
-         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r7");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingOption_r7(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r7");
-   /* ul-LogicalChannelMappings */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_LogicalChannelMappings_r6(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r7");
-   }
-   /* dl-LogicalChannelMappingList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_LogicalChannelMappingList_r7(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingInfo_r7(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingInfo-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_MappingOption_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-MappingOption-r7", (int32_t)i, "RB-MappingInfo-r7");
-      elem = (RB_MappingOption_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_MappingOption_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_MappingOption_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r7", (int32_t)i, "RB-MappingInfo-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r7");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r7");
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r7");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PD_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r7");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationSetup_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationSetup-r7", (int32_t)i, "RB-InformationSetupList-r7");
-      elem = (RB_InformationSetup_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationSetup_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationSetup_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r7", (int32_t)i, "RB-InformationSetupList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rab-Info */
-   stat = asn1PD_UMTS_RAB_Info_r7(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r7");
-   /* rb-InformationSetupList */
-   stat = asn1PD_UMTS_RB_InformationSetupList_r7(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* allSizes */
-         break;
-      case 1: /* configured */
-         break;
-      case 2: /* explicitList */
-         pvalue->u.explicitList = (RLC_SizeExplicitList*)rtxMemHeapAlloc(ctx, sizeof(RLC_SizeExplicitList));
-         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicitList", -1, 0);
-         asn1Init_UMTS_RLC_SizeExplicitList(pvalue->u.explicitList);
-         stat = asn1PD_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
-         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TransportChannelType */
-   stat = asn1PD_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, 0);
-   /* logicalChannelIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
-   }
-   /* rlc-SizeList */
-   stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
-   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ddi */
-   stat = pd_ConsUInt8(ctx, &pvalue->ddi, 0, 62);
-   RT_CHECK(ctx, stat, "DDI", "ddi", -1, 0);
-   /* rlc-PDU-SizeList */
-   stat = asn1PD_UMTS_RLC_PDU_SizeList(ctx, &pvalue->rlc_PDU_SizeList);
-   RT_CHECK(ctx, stat, 0, "rlc-PDU-SizeList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_PDU_SizeConstraint_lengthIndicatorSize(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint_lengthIndicatorSize* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_PDU_SizeConstraint(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-PDU-SizeConstraint");
-   /* lengthIndicatorSize */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->lengthIndicatorSize, 0, 1);
-      RT_CHECK(ctx, stat, 0, "lengthIndicatorSize", -1, "RLC-PDU-SizeConstraint");
-   }
-   /* minRLC-PDU-Size */
-   stat = pd_ConsUInt16(ctx, &pvalue->minRLC_PDU_Size, 0, 1503);
-   RT_CHECK(ctx, stat, 0, "minRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
-   /* largestRLC-PDU-Size */
-   stat = pd_ConsUInt16(ctx, &pvalue->largestRLC_PDU_Size, 0, 1503);
-   RT_CHECK(ctx, stat, 0, "largestRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fixedSize */
-         pvalue->u.fixedSize = (UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize));
-         if (pvalue->u.fixedSize == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fixedSize", -1, 0);
-         asn1Init_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(pvalue->u.fixedSize);
-         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(ctx, pvalue->u.fixedSize);
-         RT_CHECK(ctx, stat, 0, "fixedSize", -1, 0);
-         break;
-      case 1: /* flexibleSize */
-         pvalue->u.flexibleSize = (RLC_PDU_SizeConstraint*)rtxMemHeapAlloc(ctx, sizeof(RLC_PDU_SizeConstraint));
-         if (pvalue->u.flexibleSize == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "flexibleSize", -1, 0);
-         asn1Init_UMTS_RLC_PDU_SizeConstraint(pvalue->u.flexibleSize);
-         stat = asn1PD_UMTS_RLC_PDU_SizeConstraint(ctx, pvalue->u.flexibleSize);
-         RT_CHECK(ctx, stat, 0, "flexibleSize", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* logicalChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-   RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
-   /* e-DCH-MAC-d-FlowIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_DCH_MAC_d_FlowIdentity, 0, 7);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
-   /* rlc-PDU-Size */
-   stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(ctx, &pvalue->rlc_PDU_Size);
-   RT_CHECK(ctx, stat, 0, "rlc-PDU-Size", -1, 0);
-   /* includeInSchedulingInfo */
-   stat = rtxDecBitInline(ctx, &pvalue->includeInSchedulingInfo);
-   RT_CHECK(ctx, stat, 0, "includeInSchedulingInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch-rach-usch */
-         pvalue->u.dch_rach_usch = (UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch));
-         if (pvalue->u.dch_rach_usch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-rach-usch", -1, 0);
-         asn1Init_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(pvalue->u.dch_rach_usch);
-         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(ctx, pvalue->u.dch_rach_usch);
-         RT_CHECK(ctx, stat, 0, "dch-rach-usch", -1, 0);
-         break;
-      case 1: /* e-dch */
-         pvalue->u.e_dch = (UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch));
-         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-dch", -1, 0);
-         asn1Init_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(pvalue->u.e_dch);
-         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(ctx, pvalue->u.e_dch);
-         RT_CHECK(ctx, stat, 0, "e-dch", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TrCH-Type */
-   stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type(ctx, &pvalue->ul_TrCH_Type);
-   RT_CHECK(ctx, stat, 0, "ul-TrCH-Type", -1, "UL-LogicalChannelMapping-r8");
-   /* mac-LogicalChannelPriority */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_LogicalChannelPriority, 1, 8);
-   RT_CHECK(ctx, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_LogicalChannelMapping_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_LogicalChannelMapping_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-LogicalChannelMapping-r8", (int32_t)i, 0);
-      elem = (UL_LogicalChannelMapping_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_LogicalChannelMapping_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping-r8", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMappingList_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rlc-LogicalChannelMappingIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_LogicalChannelMappingIndicator);
-   RT_CHECK(ctx, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList-r8");
-   /* ul-LogicalChannelMapping */
-   stat = asn1PD_UMTS_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
-   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMappings_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-LogicalChannelMappings-r8");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* oneLogicalChannel */
-         pvalue->u.oneLogicalChannel = (UL_LogicalChannelMapping_r8*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r8));
-         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r8");
-         asn1Init_UMTS_UL_LogicalChannelMapping_r8(pvalue->u.oneLogicalChannel);
-         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8(ctx, pvalue->u.oneLogicalChannel);
-         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r8");
-         break;
-      case 1: /* twoLogicalChannels */
-         pvalue->u.twoLogicalChannels = (UL_LogicalChannelMappingList_r8*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMappingList_r8));
-         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r8");
-         asn1Init_UMTS_UL_LogicalChannelMappingList_r8(pvalue->u.twoLogicalChannels);
-         stat = asn1PD_UMTS_UL_LogicalChannelMappingList_r8(ctx, pvalue->u.twoLogicalChannels);
-         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r8");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingOption_r8(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r8");
-   /* ul-LogicalChannelMappings */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_LogicalChannelMappings_r8(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r8");
-   }
-   /* dl-LogicalChannelMappingList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_LogicalChannelMappingList_r7(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingInfo_r8(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingInfo-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_MappingOption_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-MappingOption-r8", (int32_t)i, "RB-MappingInfo-r8");
-      elem = (RB_MappingOption_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_MappingOption_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_MappingOption_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r8", (int32_t)i, "RB-MappingInfo-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r8");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r8");
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r8");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PD_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r8");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationSetup_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationSetup-r8", (int32_t)i, "RB-InformationSetupList-r8");
-      elem = (RB_InformationSetup_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationSetup_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationSetup_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r8", (int32_t)i, "RB-InformationSetupList-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetup-r8");
-   /* rab-Info */
-   stat = asn1PD_UMTS_RAB_Info_r7(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r8");
-   /* cs-HSPA-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
-      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationSetup-r8");
-   }
-   /* rab-InfoReplace */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace);
-      RT_CHECK(ctx, stat, 0, "rab-InfoReplace", -1, "RAB-InformationSetup-r8");
-   }
-   /* rb-InformationSetupList */
-   stat = asn1PD_UMTS_RB_InformationSetupList_r8(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup_v820ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_v820ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetup-v820ext");
-   /* cs-HSPA-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
-      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationSetup-v820ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetupList(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationSetup* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup", (int32_t)i, "RAB-InformationSetupList");
-      elem = (RAB_InformationSetup*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationSetup(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationSetup(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup", (int32_t)i, "RAB-InformationSetupList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationSetup_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r4", (int32_t)i, "RAB-InformationSetupList-r4");
-      elem = (RAB_InformationSetup_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationSetup_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationSetup_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r4", (int32_t)i, "RAB-InformationSetupList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationSetup_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r5", (int32_t)i, "RAB-InformationSetupList-r5");
-      elem = (RAB_InformationSetup_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationSetup_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationSetup_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r5", (int32_t)i, "RAB-InformationSetupList-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationSetup_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r6", (int32_t)i, "RAB-InformationSetupList-r6");
-      elem = (RAB_InformationSetup_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationSetup_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationSetup_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r6", (int32_t)i, "RAB-InformationSetupList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetupList_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r6_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r6-ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationSetup_r6_ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r6_ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r6-ext", (int32_t)i, "RAB-InformationSetupList-r6-ext");
-      elem = (RAB_InformationSetup_r6_ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationSetup_r6_ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationSetup_r6_ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r6-ext", (int32_t)i, "RAB-InformationSetupList-r6-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetupList_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-v6b0ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationSetup_v6b0ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_v6b0ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-v6b0ext", (int32_t)i, "RAB-InformationSetupList-v6b0ext");
-      elem = (RAB_InformationSetup_v6b0ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationSetup_v6b0ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationSetup_v6b0ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-v6b0ext", (int32_t)i, "RAB-InformationSetupList-v6b0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationSetup_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r7", (int32_t)i, "RAB-InformationSetupList-r7");
-      elem = (RAB_InformationSetup_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationSetup_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationSetup_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r7", (int32_t)i, "RAB-InformationSetupList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationSetup_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r8", (int32_t)i, "RAB-InformationSetupList-r8");
-      elem = (RAB_InformationSetup_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationSetup_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationSetup_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r8", (int32_t)i, "RAB-InformationSetupList-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetupList_v820ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_v820ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-v820ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationSetup_v820ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_v820ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-v820ext", (int32_t)i, "RAB-InformationSetupList-v820ext");
-      elem = (RAB_InformationSetup_v820ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationSetup_v820ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationSetup_v820ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-v820ext", (int32_t)i, "RAB-InformationSetupList-v820ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_COUNT_C_Information(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-Information");
-   /* count-C-UL */
-   stat = pd_ConsUInt32(ctx, &pvalue->count_C_UL, 0, 4294967295LL);
-   RT_CHECK(ctx, stat, "COUNT-C", "count-C-UL", -1, "RB-COUNT-C-Information");
-   /* count-C-DL */
-   stat = pd_ConsUInt32(ctx, &pvalue->count_C_DL, 0, 4294967295LL);
-   RT_CHECK(ctx, stat, "COUNT-C", "count-C-DL", -1, "RB-COUNT-C-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_COUNT_C_InformationList(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_InformationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 27);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-COUNT-C-InformationList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_COUNT_C_Information* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_COUNT_C_Information));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-COUNT-C-Information", (int32_t)i, "RB-COUNT-C-InformationList");
-      elem = (RB_COUNT_C_Information*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_COUNT_C_Information(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-COUNT-C-Information", (int32_t)i, "RB-COUNT-C-InformationList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_COUNT_C_MSB_Information(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_MSB_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-MSB-Information");
-   /* count-C-MSB-UL */
-   stat = pd_ConsUInt32(ctx, &pvalue->count_C_MSB_UL, 0, 33554431);
-   RT_CHECK(ctx, stat, "COUNT-C-MSB", "count-C-MSB-UL", -1, "RB-COUNT-C-MSB-Information");
-   /* count-C-MSB-DL */
-   stat = pd_ConsUInt32(ctx, &pvalue->count_C_MSB_DL, 0, 33554431);
-   RT_CHECK(ctx, stat, "COUNT-C-MSB", "count-C-MSB-DL", -1, "RB-COUNT-C-MSB-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_COUNT_C_MSB_InformationList(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_MSB_InformationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 27);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-COUNT-C-MSB-InformationList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_COUNT_C_MSB_Information* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_COUNT_C_MSB_Information));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-COUNT-C-MSB-Information", (int32_t)i, "RB-COUNT-C-MSB-InformationList");
-      elem = (RB_COUNT_C_MSB_Information*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_COUNT_C_MSB_Information(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-COUNT-C-MSB-Information", (int32_t)i, "RB-COUNT-C-MSB-InformationList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_IdentityList(rtxContext* RT_RESTRICT ctx, RB_IdentityList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RB-IdentityList");
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "RB-IdentityList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RB-IdentityList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "RB-Identity", "RB-Identity", (int32_t)i, "RB-IdentityList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationAffected(rtxContext* RT_RESTRICT ctx, RB_InformationAffected* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationAffected_r5(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r5");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationAffected_r6(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r6");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationAffected_r7(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r7");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationAffected_r8(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r8");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationAffectedList(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationAffectedList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationAffected* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationAffected", (int32_t)i, "RB-InformationAffectedList");
-      elem = (RB_InformationAffected*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationAffected(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationAffected(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationAffected", (int32_t)i, "RB-InformationAffectedList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationAffectedList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationAffected_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationAffected-r5", (int32_t)i, "RB-InformationAffectedList-r5");
-      elem = (RB_InformationAffected_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationAffected_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationAffected_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r5", (int32_t)i, "RB-InformationAffectedList-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationAffectedList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationAffected_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationAffected-r6", (int32_t)i, "RB-InformationAffectedList-r6");
-      elem = (RB_InformationAffected_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationAffected_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationAffected_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r6", (int32_t)i, "RB-InformationAffectedList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationAffectedList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationAffected_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationAffected-r7", (int32_t)i, "RB-InformationAffectedList-r7");
-      elem = (RB_InformationAffected_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationAffected_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationAffected_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r7", (int32_t)i, "RB-InformationAffectedList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationAffectedList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationAffected_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationAffected-r8", (int32_t)i, "RB-InformationAffectedList-r8");
-      elem = (RB_InformationAffected_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationAffected_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationAffected_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r8", (int32_t)i, "RB-InformationAffectedList-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationChanged_r6_rb_Change(rtxContext* RT_RESTRICT ctx, RB_InformationChanged_r6_rb_Change* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* release */
-         break;
-      case 1: /* re-mapToDefaultRb */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.re_mapToDefaultRb, 1, 32);
-         RT_CHECK(ctx, stat, "RB-Identity", "re-mapToDefaultRb", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationChanged_r6(rtxContext* RT_RESTRICT ctx, RB_InformationChanged_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationChanged-r6");
-   /* rb-Change */
-   stat = asn1PD_UMTS_RB_InformationChanged_r6_rb_Change(ctx, &pvalue->rb_Change);
-   RT_CHECK(ctx, stat, 0, "rb-Change", -1, "RB-InformationChanged-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationChangedList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationChangedList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationChangedList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationChanged_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationChanged_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationChanged-r6", (int32_t)i, "RB-InformationChangedList-r6");
-      elem = (RB_InformationChanged_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationChanged_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationChanged_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationChanged-r6", (int32_t)i, "RB-InformationChangedList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_StopContinue(rtxContext* RT_RESTRICT ctx, RB_StopContinue* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-StopContinue");
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReconfig(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig");
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_InfoReconfig(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig");
-   }
-   /* pdcp-SN-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
-      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig");
-   }
-   /* rlc-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RLC_Info(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig");
-   }
-   /* rb-MappingInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig");
-   }
-   /* rb-StopContinue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->rb_StopContinue, 0, 1);
-      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReconfig_r4(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r4");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r4");
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r4");
-   }
-   /* pdcp-SN-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
-      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r4");
-   }
-   /* rlc-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RLC_Info(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r4");
-   }
-   /* rb-MappingInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r4");
-   }
-   /* rb-StopContinue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->rb_StopContinue, 0, 1);
-      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReconfig_r5(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r5");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r5");
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r5");
-   }
-   /* pdcp-SN-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
-      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r5");
-   }
-   /* rlc-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RLC_Info_r5(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r5");
-   }
-   /* rb-MappingInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r5");
-   }
-   /* rb-StopContinue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->rb_StopContinue, 0, 1);
-      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReconfig_r6(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r6");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r6");
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r6");
-   }
-   /* pdcp-SN-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
-      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r6");
-   }
-   /* rlc-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RLC_Info_r6(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r6");
-   }
-   /* rb-MappingInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r6");
-   }
-   /* rb-StopContinue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->rb_StopContinue, 0, 1);
-      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReconfig_r7(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r7");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r7");
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r7");
-   }
-   /* pdcp-SN-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
-      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r7");
-   }
-   /* rlc-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RLC_Info_r7(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r7");
-   }
-   /* rb-MappingInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r7");
-   }
-   /* rb-StopContinue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->rb_StopContinue, 0, 1);
-      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r8");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r8");
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r8");
-   }
-   /* pdcp-SN-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
-      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r8");
-   }
-   /* rlc-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RLC_Info_r7(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r8");
-   }
-   /* rb-MappingInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r8");
-   }
-   /* rb-StopContinue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->rb_StopContinue, 0, 1);
-      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfigList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationReconfig* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationReconfig", (int32_t)i, "RB-InformationReconfigList");
-      elem = (RB_InformationReconfig*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationReconfig(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationReconfig(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig", (int32_t)i, "RB-InformationReconfigList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReconfigList_r4(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationReconfig_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r4", (int32_t)i, "RB-InformationReconfigList-r4");
-      elem = (RB_InformationReconfig_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationReconfig_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationReconfig_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r4", (int32_t)i, "RB-InformationReconfigList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReconfigList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationReconfig_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r5", (int32_t)i, "RB-InformationReconfigList-r5");
-      elem = (RB_InformationReconfig_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationReconfig_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationReconfig_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r5", (int32_t)i, "RB-InformationReconfigList-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReconfigList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationReconfig_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r6", (int32_t)i, "RB-InformationReconfigList-r6");
-      elem = (RB_InformationReconfig_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationReconfig_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationReconfig_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r6", (int32_t)i, "RB-InformationReconfigList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReconfigList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationReconfig_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r7", (int32_t)i, "RB-InformationReconfigList-r7");
-      elem = (RB_InformationReconfig_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationReconfig_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationReconfig_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r7", (int32_t)i, "RB-InformationReconfigList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationReconfig_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r8", (int32_t)i, "RB-InformationReconfigList-r8");
-      elem = (RB_InformationReconfig_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationReconfig_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationReconfig_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r8", (int32_t)i, "RB-InformationReconfigList-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationReleaseList(rtxContext* RT_RESTRICT ctx, RB_InformationReleaseList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReleaseList");
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "RB-InformationReleaseList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RB-InformationReleaseList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "RB-Identity", "RB-Identity", (int32_t)i, "RB-InformationReleaseList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TimerDAR_r6(rtxContext* RT_RESTRICT ctx, TimerDAR_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerDAR-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_WindowSizeDAR_r6(rtxContext* RT_RESTRICT ctx, WindowSizeDAR_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "WindowSizeDAR-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_UM_RLC_DuplAvoid_Reord_Info_r6(rtxContext* RT_RESTRICT ctx, UM_RLC_DuplAvoid_Reord_Info_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timer-DAR */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timer_DAR, 0, 13);
-   RT_CHECK(ctx, stat, "TimerDAR-r6", "timer-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
-   /* widowSize-DAR */
-   stat = pd_ConsUnsigned(ctx, &pvalue->widowSize_DAR, 0, 7);
-   RT_CHECK(ctx, stat, "WindowSizeDAR-r6", "widowSize-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Info_MTCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MTCH_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-MTCH-r6");
-   /* dl-UM-RLC-LI-size */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MTCH-r6");
-   /* dl-UM-RLC-DuplAvoid-Reord-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UM_RLC_DuplAvoid_Reord_Info_r6(ctx, &pvalue->dl_UM_RLC_DuplAvoid_Reord_Info);
-      RT_CHECK(ctx, stat, 0, "dl-UM-RLC-DuplAvoid-Reord-Info", -1, "RLC-Info-MTCH-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r5");
-   /* rb-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r5");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PD_UMTS_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r5");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r6");
-   /* rb-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r6");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PD_UMTS_RLC_InfoChoice_r6(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r6");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r7");
-   /* rb-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r7");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PD_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r7");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r8");
-   /* rb-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r8");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PD_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r8");
-   /* rb-MappingInfo */
-   stat = asn1PD_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SRB_InformationSetup_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r5", (int32_t)i, "SRB-InformationSetupList-r5");
-      elem = (SRB_InformationSetup_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SRB_InformationSetup_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SRB_InformationSetup_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r5", (int32_t)i, "SRB-InformationSetupList-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SRB_InformationSetup_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList-r6");
-      elem = (SRB_InformationSetup_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SRB_InformationSetup_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SRB_InformationSetup_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SRB_InformationSetup_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList-r7");
-      elem = (SRB_InformationSetup_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SRB_InformationSetup_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SRB_InformationSetup_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SRB_InformationSetup_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList-r8");
-      elem = (SRB_InformationSetup_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SRB_InformationSetup_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SRB_InformationSetup_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetupList2(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 3, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SRB_InformationSetup* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList2");
-      elem = (SRB_InformationSetup*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SRB_InformationSetup(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SRB_InformationSetup(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList2");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetupList2_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 3, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SRB_InformationSetup_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList2-r6");
-      elem = (SRB_InformationSetup_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SRB_InformationSetup_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SRB_InformationSetup_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList2-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetupList2_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 3, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SRB_InformationSetup_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList2-r7");
-      elem = (SRB_InformationSetup_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SRB_InformationSetup_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SRB_InformationSetup_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList2-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetupList2_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 3, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SRB_InformationSetup_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList2-r8");
-      elem = (SRB_InformationSetup_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SRB_InformationSetup_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SRB_InformationSetup_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList2-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, UL_CounterSynchronisationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CounterSynchronisationInfo");
-   /* rB-WithPDCP-InfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList);
-      RT_CHECK(ctx, stat, 0, "rB-WithPDCP-InfoList", -1, "UL-CounterSynchronisationInfo");
-   }
-   /* startList */
-   stat = asn1PD_UMTS_STARTList(ctx, &pvalue->startList);
-   RT_CHECK(ctx, stat, 0, "startList", -1, "UL-CounterSynchronisationInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_d_PDUsizeInfo(rtxContext* RT_RESTRICT ctx, MAC_d_PDUsizeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mac-d-PDU-Size */
-   stat = pd_ConsUInt16(ctx, &pvalue->mac_d_PDU_Size, 1, 5000);
-   RT_CHECK(ctx, stat, 0, "mac-d-PDU-Size", -1, "MAC-d-PDUsizeInfo");
-   /* mac-d-PDU-Index */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_PDU_Index, 0, 7);
-   RT_CHECK(ctx, stat, 0, "mac-d-PDU-Index", -1, "MAC-d-PDUsizeInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_d_PDU_SizeInfo_List(rtxContext* RT_RESTRICT ctx, MAC_d_PDU_SizeInfo_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-d-PDU-SizeInfo-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MAC_d_PDUsizeInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_d_PDUsizeInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MAC-d-PDUsizeInfo", (int32_t)i, "MAC-d-PDU-SizeInfo-List");
-      elem = (MAC_d_PDUsizeInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MAC_d_PDUsizeInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MAC-d-PDUsizeInfo", (int32_t)i, "MAC-d-PDU-SizeInfo-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_hs_AddReconfQueue(rtxContext* RT_RESTRICT ctx, MAC_hs_AddReconfQueue* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-AddReconfQueue");
-   /* mac-hsQueueId */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_hsQueueId, 0, 7);
-   RT_CHECK(ctx, stat, 0, "mac-hsQueueId", -1, "MAC-hs-AddReconfQueue");
-   /* mac-dFlowId */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_dFlowId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "mac-dFlowId", -1, "MAC-hs-AddReconfQueue");
-   /* reorderingReleaseTimer */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reorderingReleaseTimer, 0, 15);
-   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-hs-AddReconfQueue");
-   /* mac-hsWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mac_hsWindowSize, 0, 6);
-   RT_CHECK(ctx, stat, "MAC-hs-WindowSize", "mac-hsWindowSize", -1, "MAC-hs-AddReconfQueue");
-   /* mac-d-PDU-SizeInfo-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MAC_d_PDU_SizeInfo_List(ctx, &pvalue->mac_d_PDU_SizeInfo_List);
-      RT_CHECK(ctx, stat, 0, "mac-d-PDU-SizeInfo-List", -1, "MAC-hs-AddReconfQueue");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_hs_AddReconfQueue_List(rtxContext* RT_RESTRICT ctx, MAC_hs_AddReconfQueue_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-AddReconfQueue-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MAC_hs_AddReconfQueue* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_hs_AddReconfQueue));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MAC-hs-AddReconfQueue", (int32_t)i, "MAC-hs-AddReconfQueue-List");
-      elem = (MAC_hs_AddReconfQueue*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MAC_hs_AddReconfQueue(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MAC_hs_AddReconfQueue(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MAC-hs-AddReconfQueue", (int32_t)i, "MAC-hs-AddReconfQueue-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_hs_DelQueue(rtxContext* RT_RESTRICT ctx, MAC_hs_DelQueue* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mac-hsQueueId */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_hsQueueId, 0, 7);
-   RT_CHECK(ctx, stat, 0, "mac-hsQueueId", -1, "MAC-hs-DelQueue");
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_hs_DelQueue_List(rtxContext* RT_RESTRICT ctx, MAC_hs_DelQueue_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-DelQueue-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MAC_hs_DelQueue* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_hs_DelQueue));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MAC-hs-DelQueue", (int32_t)i, "MAC-hs-DelQueue-List");
-      elem = (MAC_hs_DelQueue*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MAC_hs_DelQueue(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MAC-hs-DelQueue", (int32_t)i, "MAC-hs-DelQueue-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AddOrReconfMAC_dFlow(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_dFlow* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AddOrReconfMAC-dFlow");
-   /* mac-hs-AddReconfQueue-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MAC_hs_AddReconfQueue_List(ctx, &pvalue->mac_hs_AddReconfQueue_List);
-      RT_CHECK(ctx, stat, 0, "mac-hs-AddReconfQueue-List", -1, "AddOrReconfMAC-dFlow");
-   }
-   /* mac-hs-DelQueue-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MAC_hs_DelQueue_List(ctx, &pvalue->mac_hs_DelQueue_List);
-      RT_CHECK(ctx, stat, 0, "mac-hs-DelQueue-List", -1, "AddOrReconfMAC-dFlow");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_ehs_AddReconfReordQ(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ");
-   /* mac-ehs-QueueId */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ");
-   /* reorderingReleaseTimer */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reorderingReleaseTimer, 0, 15);
-   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ");
-   /* reorderingResetTimer */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->reorderingResetTimer, 0, 3);
-      RT_CHECK(ctx, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ");
-   }
-   /* mac-ehsWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mac_ehsWindowSize, 0, 6);
-   RT_CHECK(ctx, stat, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ");
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_ehs_AddReconfReordQ_List(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MAC_ehs_AddReconfReordQ* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_ehs_AddReconfReordQ));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MAC-ehs-AddReconfReordQ", (int32_t)i, "MAC-ehs-AddReconfReordQ-List");
-      elem = (MAC_ehs_AddReconfReordQ*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MAC_ehs_AddReconfReordQ(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MAC_ehs_AddReconfReordQ(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MAC-ehs-AddReconfReordQ", (int32_t)i, "MAC-ehs-AddReconfReordQ-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_ehs_DelReordQ(rtxContext* RT_RESTRICT ctx, MAC_ehs_DelReordQ* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mac-ehs-QueueId */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-DelReordQ");
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_ehs_DelReordQ_List(rtxContext* RT_RESTRICT ctx, MAC_ehs_DelReordQ_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-DelReordQ-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MAC_ehs_DelReordQ* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_ehs_DelReordQ));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MAC-ehs-DelReordQ", (int32_t)i, "MAC-ehs-DelReordQ-List");
-      elem = (MAC_ehs_DelReordQ*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MAC_ehs_DelReordQ(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MAC-ehs-DelReordQ", (int32_t)i, "MAC-ehs-DelReordQ-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AddOrReconfMAC_ehs_ReordQ(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_ehs_ReordQ* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ");
-   /* mac-ehs-AddReconfQueue-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MAC_ehs_AddReconfReordQ_List(ctx, &pvalue->mac_ehs_AddReconfQueue_List);
-      RT_CHECK(ctx, stat, 0, "mac-ehs-AddReconfQueue-List", -1, "AddOrReconfMAC-ehs-ReordQ");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MAC_ehs_DelReordQ_List(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "AddOrReconfMAC-ehs-ReordQ");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_ehs_AddReconfReordQ_r9(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-r9");
-   /* mac-ehs-QueueId */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ-r9");
-   /* reorderingReleaseTimer */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reorderingReleaseTimer, 0, 15);
-   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
-   /* reorderingResetTimer */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->reorderingResetTimer, 0, 3);
-      RT_CHECK(ctx, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
-   }
-   /* mac-ehsWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mac_ehsWindowSize, 0, 8);
-   RT_CHECK(ctx, stat, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ-r9");
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_ehs_AddReconfReordQ_List_r9(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_List_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List-r9");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MAC_ehs_AddReconfReordQ_r9* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_ehs_AddReconfReordQ_r9));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MAC-ehs-AddReconfReordQ-r9", (int32_t)i, "MAC-ehs-AddReconfReordQ-List-r9");
-      elem = (MAC_ehs_AddReconfReordQ_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MAC_ehs_AddReconfReordQ_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MAC_ehs_AddReconfReordQ_r9(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MAC-ehs-AddReconfReordQ-r9", (int32_t)i, "MAC-ehs-AddReconfReordQ-List-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_ehs_ReordQ_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ-r9");
-   /* mac-ehs-AddReconfQueue-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MAC_ehs_AddReconfReordQ_List_r9(ctx, &pvalue->mac_ehs_AddReconfQueue_List);
-      RT_CHECK(ctx, stat, 0, "mac-ehs-AddReconfQueue-List", -1, "AddOrReconfMAC-ehs-ReordQ-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CPCH_SetID(rtxContext* RT_RESTRICT ctx, CPCH_SetID* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-SetID");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation2_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation2_tfs_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* explicit-config */
-         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
-         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
-         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 1: /* sameAsULTrCH */
-         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
-         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
-         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation2(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation2");
-   /* dl-TransportChannelType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation2");
-   /* transportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "DL-AddReconfTransChInformation2");
-   /* tfs-SignallingMode */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInformation2_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation2");
-   /* qualityTarget */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->qualityTarget);
-      RT_CHECK(ctx, stat, 0, "qualityTarget", -1, "DL-AddReconfTransChInformation2");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInfo2List(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfo2List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfo2List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_AddReconfTransChInformation2* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation2));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation2", (int32_t)i, "DL-AddReconfTransChInfo2List");
-      elem = (DL_AddReconfTransChInformation2*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_AddReconfTransChInformation2(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_AddReconfTransChInformation2(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation2", (int32_t)i, "DL-AddReconfTransChInfo2List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r4_tfs_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* explicit-config */
-         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
-         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
-         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 1: /* sameAsULTrCH */
-         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
-         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
-         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation_r4(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r4");
-   /* dl-TransportChannelType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r4");
-   /* dl-transportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation-r4");
-   /* tfs-SignallingMode */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r4");
-   /* dch-QualityTarget */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
-      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_AddReconfTransChInformation_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation-r4", (int32_t)i, "DL-AddReconfTransChInfoList-r4");
-      elem = (DL_AddReconfTransChInformation_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_AddReconfTransChInformation_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r4", (int32_t)i, "DL-AddReconfTransChInfoList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TrCH_TypeId1_r5(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId1_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TrCH-TypeId1-r5");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId1-r5");
-         break;
-      case 1: /* dsch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId1-r5");
-         break;
-      case 2: /* hsdsch */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId1-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_Info(rtxContext* RT_RESTRICT ctx, HSDSCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-Info");
-   /* harqInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info");
-   }
-   /* addOrReconfMAC-dFlow */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AddOrReconfMAC_dFlow(ctx, &pvalue->addOrReconfMAC_dFlow);
-      RT_CHECK(ctx, stat, 0, "addOrReconfMAC-dFlow", -1, "HSDSCH-Info");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r5_tfs_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* explicit-config */
-         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
-         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
-         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 1: /* sameAsULTrCH */
-         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
-         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
-         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
-         break;
-      case 2: /* hsdsch */
-         pvalue->u.hsdsch = (HSDSCH_Info*)rtxMemHeapAlloc(ctx, sizeof(HSDSCH_Info));
-         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hsdsch", -1, 0);
-         asn1Init_UMTS_HSDSCH_Info(pvalue->u.hsdsch);
-         stat = asn1PD_UMTS_HSDSCH_Info(ctx, pvalue->u.hsdsch);
-         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation_r5(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r5");
-   /* dl-TransportChannelType */
-   stat = asn1PD_UMTS_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r5");
-   /* tfs-SignallingMode */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r5");
-   /* dch-QualityTarget */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
-      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_AddReconfTransChInformation_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation-r5", (int32_t)i, "DL-AddReconfTransChInfoList-r5");
-      elem = (DL_AddReconfTransChInformation_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_AddReconfTransChInformation_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r5", (int32_t)i, "DL-AddReconfTransChInfoList-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_Info_r7_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r7_dl_MAC_HeaderType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* mac-hs */
-         pvalue->u.mac_hs = (AddOrReconfMAC_dFlow*)rtxMemHeapAlloc(ctx, sizeof(AddOrReconfMAC_dFlow));
-         if (pvalue->u.mac_hs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mac-hs", -1, 0);
-         asn1Init_UMTS_AddOrReconfMAC_dFlow(pvalue->u.mac_hs);
-         stat = asn1PD_UMTS_AddOrReconfMAC_dFlow(ctx, pvalue->u.mac_hs);
-         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
-         break;
-      case 1: /* mac-ehs */
-         pvalue->u.mac_ehs = (AddOrReconfMAC_ehs_ReordQ*)rtxMemHeapAlloc(ctx, sizeof(AddOrReconfMAC_ehs_ReordQ));
-         if (pvalue->u.mac_ehs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mac-ehs", -1, 0);
-         asn1Init_UMTS_AddOrReconfMAC_ehs_ReordQ(pvalue->u.mac_ehs);
-         stat = asn1PD_UMTS_AddOrReconfMAC_ehs_ReordQ(ctx, pvalue->u.mac_ehs);
-         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-Info-r7");
-   /* harqInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info-r7");
-   }
-   /* dl-MAC-HeaderType */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HSDSCH_Info_r7_dl_MAC_HeaderType(ctx, &pvalue->dl_MAC_HeaderType);
-      RT_CHECK(ctx, stat, 0, "dl-MAC-HeaderType", -1, "HSDSCH-Info-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r7_tfs_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* explicit-config */
-         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
-         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
-         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 1: /* sameAsULTrCH */
-         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
-         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
-         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
-         break;
-      case 2: /* hsdsch */
-         pvalue->u.hsdsch = (HSDSCH_Info_r7*)rtxMemHeapAlloc(ctx, sizeof(HSDSCH_Info_r7));
-         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hsdsch", -1, 0);
-         asn1Init_UMTS_HSDSCH_Info_r7(pvalue->u.hsdsch);
-         stat = asn1PD_UMTS_HSDSCH_Info_r7(ctx, pvalue->u.hsdsch);
-         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r7");
-   /* dl-TransportChannelType */
-   stat = asn1PD_UMTS_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r7");
-   /* tfs-SignallingMode */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r7");
-   /* dch-QualityTarget */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
-      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_AddReconfTransChInformation_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation-r7", (int32_t)i, "DL-AddReconfTransChInfoList-r7");
-      elem = (DL_AddReconfTransChInformation_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_AddReconfTransChInformation_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r7", (int32_t)i, "DL-AddReconfTransChInfoList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_Info_r9_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r9_dl_MAC_HeaderType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* mac-hs */
-         pvalue->u.mac_hs = (AddOrReconfMAC_dFlow*)rtxMemHeapAlloc(ctx, sizeof(AddOrReconfMAC_dFlow));
-         if (pvalue->u.mac_hs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mac-hs", -1, 0);
-         asn1Init_UMTS_AddOrReconfMAC_dFlow(pvalue->u.mac_hs);
-         stat = asn1PD_UMTS_AddOrReconfMAC_dFlow(ctx, pvalue->u.mac_hs);
-         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
-         break;
-      case 1: /* mac-ehs */
-         pvalue->u.mac_ehs = (AddOrReconfMAC_ehs_ReordQ_r9*)rtxMemHeapAlloc(ctx, sizeof(AddOrReconfMAC_ehs_ReordQ_r9));
-         if (pvalue->u.mac_ehs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mac-ehs", -1, 0);
-         asn1Init_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(pvalue->u.mac_ehs);
-         stat = asn1PD_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(ctx, pvalue->u.mac_ehs);
-         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_Info_r9(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-Info-r9");
-   /* harqInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info-r9");
-   }
-   /* dl-MAC-HeaderType */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HSDSCH_Info_r9_dl_MAC_HeaderType(ctx, &pvalue->dl_MAC_HeaderType);
-      RT_CHECK(ctx, stat, 0, "dl-MAC-HeaderType", -1, "HSDSCH-Info-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r9_tfs_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* explicit-config */
-         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
-         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
-         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 1: /* sameAsULTrCH */
-         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
-         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
-         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
-         break;
-      case 2: /* hsdsch */
-         pvalue->u.hsdsch = (HSDSCH_Info_r9*)rtxMemHeapAlloc(ctx, sizeof(HSDSCH_Info_r9));
-         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hsdsch", -1, 0);
-         asn1Init_UMTS_HSDSCH_Info_r9(pvalue->u.hsdsch);
-         stat = asn1PD_UMTS_HSDSCH_Info_r9(ctx, pvalue->u.hsdsch);
-         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation_r9(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r9");
-   /* dl-TransportChannelType */
-   stat = asn1PD_UMTS_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r9");
-   /* tfs-SignallingMode */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r9");
-   /* dch-QualityTarget */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
-      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r9");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_AddReconfTransChInformation_r9* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation_r9));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation-r9", (int32_t)i, "DL-AddReconfTransChInfoList-r9");
-      elem = (DL_AddReconfTransChInformation_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_AddReconfTransChInformation_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r9(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r9", (int32_t)i, "DL-AddReconfTransChInfoList-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->tfcs);
-      RT_CHECK(ctx, stat, 0, "tfcs", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-DCH-TFCS */
-         pvalue->u.dl_DCH_TFCS = (DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS));
-         if (pvalue->u.dl_DCH_TFCS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DCH-TFCS", -1, 0);
-         asn1Init_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(pvalue->u.dl_DCH_TFCS);
-         stat = asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(ctx, pvalue->u.dl_DCH_TFCS);
-         RT_CHECK(ctx, stat, 0, "dl-DCH-TFCS", -1, 0);
-         break;
-      case 1: /* sameAsUL */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-Parameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters);
-      RT_CHECK(ctx, stat, 0, "dl-Parameters", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* individualDL-CCTrCH-InfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList);
-      RT_CHECK(ctx, stat, 0, "individualDL-CCTrCH-InfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_CommonTransChInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (HS_SCCH_Info_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_HS_SCCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (DL_CommonTransChInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (HS_SCCH_Info_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_HS_SCCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r7_modeSpecificInfo, pvalue);
+}
+
+static int dec_HS_SCCH_Info_r7(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_HS_SCCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonTransChInfo-r4");
-   /* sccpch-TFCS */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType1and3 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type1, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType2 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type2, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* type1 */
+         pvalue->u.type1 = (MidambleShiftAndBurstType_DL_VHCR_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type1));
+         if (pvalue->u.type1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(pvalue->u.type1);
+         stat = dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(ctx, pvalue->u.type1, cur);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 1: /* type2 */
+         pvalue->u.type2 = (MidambleShiftAndBurstType_DL_VHCR_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type2));
+         if (pvalue->u.type2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type2", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(pvalue->u.type2);
+         stat = dec_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(ctx, pvalue->u.type2, cur);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_VHCR_burstType, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_DL_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* burstType */
+   stat = dec_MidambleShiftAndBurstType_DL_VHCR_burstType(ctx, &pvalue->burstType, cur);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-DL-VHCR");
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_DL_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_TS_Configuration_VHCR_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_VHCR_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType_DL_VHCR(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_VHCR_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_TS_Configuration_VHCR_element, pvalue);
+}
+
+static int dec_DL_HSPDSCH_TS_Configuration_VHCR(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-TS-Configuration-VHCR");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_HSPDSCH_TS_Configuration_VHCR_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_HSPDSCH_TS_Configuration_VHCR_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration-VHCR");
+      elem = (DL_HSPDSCH_TS_Configuration_VHCR_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_HSPDSCH_TS_Configuration_VHCR_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration-VHCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_VHCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_TS_Configuration_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_MultiCarrier_Information_tsn_Length(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information_tsn_Length* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_MultiCarrier_Information_tsn_Length(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information_tsn_Length* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_MultiCarrier_Information_tsn_Length, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* uarfcn-HS-SCCH-Rx */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->uarfcn_HS_SCCH_Rx, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, "UARFCN", "uarfcn-HS-SCCH-Rx", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* firstChannelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* secondChannelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* midambleAllocationMode */
+   stat = dec_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* bler-target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* hs-sich-configuration */
+   stat = dec_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128-MultiCarrier");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_TDD128_MultiCarrier, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD128_MultiCarrier* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_MultiCarrier));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-MultiCarrier", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD128_MultiCarrier*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD128_MultiCarrier(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_SCCH_TDD128_MultiCarrier(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-MultiCarrier", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_MultiCarrier_Information_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* uarfcn-Carrier */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->uarfcn_Carrier, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, "UARFCN", "uarfcn-Carrier", -1, 0);
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HARQ_Info(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, 0);
+   }
+   /* hs-PDSCH-Midamble-Configuration */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration", -1, 0);
+   }
+   /* hs-SCCH-TDD128-MultiCarrier */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(ctx, &pvalue->hs_SCCH_TDD128_MultiCarrier, cur);
+      RT_CHECK(ctx, stat, 0, "hs-SCCH-TDD128-MultiCarrier", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_MultiCarrier_Information_element, pvalue);
+}
+
+static int dec_DL_HSPDSCH_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-MultiCarrier-Information");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_HSPDSCH_MultiCarrier_Information_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_HSPDSCH_MultiCarrier_Information_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "DL-HSPDSCH-MultiCarrier-Information");
+      elem = (DL_HSPDSCH_MultiCarrier_Information_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_HSPDSCH_MultiCarrier_Information_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-MultiCarrier-Information");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_MultiCarrier_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-MultiCarrier-Information");
+   /* tsn-Length */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tsn_Length, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, 0, "tsn-Length", -1, "DL-MultiCarrier-Information");
+   }
+   /* multiCarrierNumber */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->multiCarrierNumber, 1, 6);
+      RT_CHECK_AT(ctx, cur, stat, 0, "multiCarrierNumber", -1, "DL-MultiCarrier-Information");
+   }
+   /* dl-HSPDSCH-MultiCarrier-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_DL_HSPDSCH_MultiCarrier_Information(ctx, &pvalue->dl_HSPDSCH_MultiCarrier_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-MultiCarrier-Information", -1, "DL-MultiCarrier-Information");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_MultiCarrier_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->sccpch_TFCS);
-      RT_CHECK(ctx, stat, 0, "sccpch-TFCS", -1, "DL-CommonTransChInfo-r4");
+      stat = dec_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128, cur);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
    }
-   /* modeSpecificInfo */
+   /* dl-MultiCarrier-Information */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonTransChInfo-r4");
+      stat = dec_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* dl-TransportChannelType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-TransportChannelIdentity");
-   /* dl-TransportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_TransportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dl-TransportChannelIdentity", -1, "DL-TransportChannelIdentity");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128, pvalue);
 }
 
-int asn1PD_UMTS_DL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DeletedTransChInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_TransportChannelIdentity* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_TransportChannelIdentity));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-TransportChannelIdentity", (int32_t)i, "DL-DeletedTransChInfoList");
-      elem = (DL_TransportChannelIdentity*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_TransportChannelIdentity(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity", (int32_t)i, "DL-DeletedTransChInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TrCH_TypeId2_r5(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r5* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TrCH-TypeId2-r5");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* dch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r5");
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
-      case 1: /* dsch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r5");
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
-      case 2: /* hsdsch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.hsdsch, 0, 7);
-         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TrCH-TypeId2-r5");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId2-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransportChannelIdentity_r5(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dl-TransportChannelType */
-   stat = asn1PD_UMTS_DL_TrCH_TypeId2_r5(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-TransportChannelIdentity-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DeletedTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DeletedTransChInfoList-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_TransportChannelIdentity_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_TransportChannelIdentity_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-TransportChannelIdentity-r5", (int32_t)i, "DL-DeletedTransChInfoList-r5");
-      elem = (DL_TransportChannelIdentity_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_TransportChannelIdentity_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_TransportChannelIdentity_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity-r5", (int32_t)i, "DL-DeletedTransChInfoList-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TrCH_TypeId2_r7_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r7_hsdsch* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* mac-hs */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.mac_hs, 0, 7);
-         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
-         break;
-      case 1: /* mac-ehs */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.mac_ehs, 0, 7);
-         RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_TrCH_TypeId2_r7(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TrCH-TypeId2-r7");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r7");
-         break;
-      case 1: /* dsch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r7");
-         break;
-      case 2: /* hsdsch */
-         pvalue->u.hsdsch = (DL_TrCH_TypeId2_r7_hsdsch*)rtxMemHeapAlloc(ctx, sizeof(DL_TrCH_TypeId2_r7_hsdsch));
-         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hsdsch", -1, "DL-TrCH-TypeId2-r7");
-         asn1Init_UMTS_DL_TrCH_TypeId2_r7_hsdsch(pvalue->u.hsdsch);
-         stat = asn1PD_UMTS_DL_TrCH_TypeId2_r7_hsdsch(ctx, pvalue->u.hsdsch);
-         RT_CHECK(ctx, stat, 0, "hsdsch", -1, "DL-TrCH-TypeId2-r7");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId2-r7");
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_TransportChannelIdentity_r7(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* dl-TransportChannelType */
-   stat = asn1PD_UMTS_DL_TrCH_TypeId2_r7(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-TransportChannelIdentity-r7");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured, pvalue);
 }
 
-int asn1PD_UMTS_DL_DeletedTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DeletedTransChInfoList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_TransportChannelIdentity_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_TransportChannelIdentity_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-TransportChannelIdentity-r7", (int32_t)i, "DL-DeletedTransChInfoList-r7");
-      elem = (DL_TransportChannelIdentity_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_TransportChannelIdentity_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_TransportChannelIdentity_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity-r7", (int32_t)i, "DL-DeletedTransChInfoList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DRAC_ClassIdentity(rtxContext* RT_RESTRICT ctx, DRAC_ClassIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DRAC-ClassIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_TransmissionTimeValidity(rtxContext* RT_RESTRICT ctx, TransmissionTimeValidity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 1, 256);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionTimeValidity");
-   return 0;
-}
-
-int asn1PD_UMTS_TimeDurationBeforeRetry(rtxContext* RT_RESTRICT ctx, TimeDurationBeforeRetry* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 1, 256);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeDurationBeforeRetry");
-   return 0;
-}
-
-int asn1PD_UMTS_DRAC_StaticInformation(rtxContext* RT_RESTRICT ctx, DRAC_StaticInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* transmissionTimeValidity */
-   stat = pd_ConsUInt16(ctx, &pvalue->transmissionTimeValidity, 1, 256);
-   RT_CHECK(ctx, stat, "TransmissionTimeValidity", "transmissionTimeValidity", -1, "DRAC-StaticInformation");
-   /* timeDurationBeforeRetry */
-   stat = pd_ConsUInt16(ctx, &pvalue->timeDurationBeforeRetry, 1, 256);
-   RT_CHECK(ctx, stat, "TimeDurationBeforeRetry", "timeDurationBeforeRetry", -1, "DRAC-StaticInformation");
-   /* drac-ClassIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->drac_ClassIdentity, 1, 8);
-   RT_CHECK(ctx, stat, "DRAC-ClassIdentity", "drac-ClassIdentity", -1, "DRAC-StaticInformation");
-   return 0;
-}
-
-int asn1PD_UMTS_DRAC_StaticInformationList(rtxContext* RT_RESTRICT ctx, DRAC_StaticInformationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DRAC-StaticInformationList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DRAC_StaticInformation* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DRAC_StaticInformation));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DRAC-StaticInformation", (int32_t)i, "DRAC-StaticInformationList");
-      elem = (DRAC_StaticInformation*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DRAC_StaticInformation(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DRAC-StaticInformation", (int32_t)i, "DRAC-StaticInformationList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* maxMAC-e-PDUContents */
-   stat = pd_ConsUInt16(ctx, &pvalue->maxMAC_e_PDUContents, 1, 19982);
-   RT_CHECK(ctx, stat, 0, "maxMAC-e-PDUContents", -1, 0);
-   /* ms2-NonSchedTransmGrantHARQAlloc */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-64QAM-Configured */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->ms2_NonSchedTransmGrantHARQAlloc, 8, 8);
-      RT_CHECK(ctx, stat, 0, "ms2-NonSchedTransmGrantHARQAlloc", -1, 0);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
+         pvalue->dl_64QAM_Configured = ui;
+      }
    }
    return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd */
+         pvalue->u.tdd = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 1: /* fdd */
+         pvalue->u.fdd = (DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r7_modeSpecificInfo, pvalue);
 }
 

@@ -6,9003 +6,9451 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* non-ScheduledTransGrantInfo */
-         pvalue->u.non_ScheduledTransGrantInfo = (E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo*)rtxMemHeapAlloc(ctx, sizeof(E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo));
-         if (pvalue->u.non_ScheduledTransGrantInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "non-ScheduledTransGrantInfo", -1, 0);
-         asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(pvalue->u.non_ScheduledTransGrantInfo);
-         stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(ctx, pvalue->u.non_ScheduledTransGrantInfo);
-         RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
-         break;
-      case 1: /* scheduledTransmissionGrantInfo */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
+/* The bodies of this unit. */
+static int dec_DL_HSPDSCH_Information_r7(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HARQ_Info_r7_numberOfProcesses(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_numberOfProcesses* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit__memorySize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HARQ_Info_r7_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit_* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HARQ_Info_r7_memoryPartitioning(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HARQ_Info_r7(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Serving_HSDSCH_CellInformation_r7(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_TBSizeTable(rtxContext* RT_RESTRICT ctx, HS_DSCH_TBSizeTable* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_HSPDSCH_Information_r8(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_Serving_HSDSCH_CellInformation_r8(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_OutofSyncWindow(rtxContext* RT_RESTRICT ctx, OutofSyncWindow* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_HSPDSCH_Information_r9(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_Serving_HSDSCH_CellInformation_r9(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SR_VCC_Info_nonce(rtxContext* RT_RESTRICT ctx, SR_VCC_Info_nonce* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SR_VCC_Info(rtxContext* RT_RESTRICT ctx, SR_VCC_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InfoReplace(rtxContext* RT_RESTRICT ctx, RAB_InfoReplace* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SR_VCC_SecurityRABInfo_v860ext(rtxContext* RT_RESTRICT ctx, SR_VCC_SecurityRABInfo_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_START_Value(rtxContext* RT_RESTRICT ctx, START_Value* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_STARTSingle(rtxContext* RT_RESTRICT ctx, STARTSingle* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_STARTList(rtxContext* RT_RESTRICT ctx, STARTList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReq_v590ext(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_318(rtxContext* RT_RESTRICT ctx, T_318* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_319(rtxContext* RT_RESTRICT ctx, T_319* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TransChCapability_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_TransChCapability_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TransChCapability_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_TransChCapability_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TransChCapability(rtxContext* RT_RESTRICT ctx, UL_TransChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TransportChannelCapability(rtxContext* RT_RESTRICT ctx, TransportChannelCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_U_RNTI_Short(rtxContext* RT_RESTRICT ctx, U_RNTI_Short* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_edch_r6_fdd_edch_supported(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6_fdd_edch_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_edch_r6_fdd_edch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6_fdd_edch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PhysicalChannelCapability_edch_r6(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v690ext_deviceType(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext_deviceType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_MS_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, GSM_MS_RadioAccessCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_GANSSPositioning_Capability(rtxContext* RT_RESTRICT ctx, UE_GANSSPositioning_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_PositioningCapability_v770ext(rtxContext* RT_RESTRICT ctx, UE_PositioningCapability_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_SpecificCapabilityInformation_LCRTDD(rtxContext* RT_RESTRICT ctx, UE_SpecificCapabilityInformation_LCRTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v770ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v790ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_GANSSPositioning_Capability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, UE_GANSSPositioning_Capability_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_PositioningCapability_v860ext(rtxContext* RT_RESTRICT ctx, UE_PositioningCapability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDD3(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_RadioAccessCapabBandFDDList3(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_RadioAccessCapability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, EUTRA_RadioAccessCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v880ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v890ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandCombList(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandCombList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v920ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_CapabilityContainer_IEs(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_ConnTimersAndConstants_r5(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_HSPA_Identities_r6(rtxContext* RT_RESTRICT ctx, UE_HSPA_Identities_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_MultiModeRAT_Capability(rtxContext* RT_RESTRICT ctx, UE_MultiModeRAT_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_PowerClassExt(rtxContext* RT_RESTRICT ctx, UE_PowerClassExt* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_Capability(rtxContext* RT_RESTRICT ctx, UE_Positioning_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDD_fddRF_Capability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD_fddRF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDD(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_RadioAccessCapabBandFDDList(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v370ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v370ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityInfo(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_PositioningCapabilityExt_v380(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v380* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v380ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v380ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_PositioningCapabilityExt_v3a0(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v3a0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_PositioningCapabilityExt_v3g0(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v3g0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v3g0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDD2_fddRF_Capability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD2_fddRF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDD2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDDList2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDD_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDDList_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_RadioAccessCapability_v650ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v650ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v7e0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_RadioAccessCapability_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v880ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v890ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_supportOfenhancedTS0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v920ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_RadioAccessCapability_v4b0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v4b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_CapabBandFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandFDDComp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_CapabBandListFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandListFDDComp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_CapabilityComp_fdd(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_CapabilityComp_tdd384_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_tdd384_RF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_CapabilityComp_tdd128_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_tdd128_RF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_CapabilityComp(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_CapabBandListFDDComp_ext(rtxContext* RT_RESTRICT ctx, RF_CapabBandListFDDComp_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_CapabilityComp_v770ext_tdd768_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_v770ext_tdd768_RF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RF_CapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_slotFormat4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v860ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v920ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v5c0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v5c0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v680ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v680ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_PhysChCapabilityFDD_r6(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, UL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, UL_SecondaryCellInfoFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_SecurityInformation(rtxContext* RT_RESTRICT ctx, UE_SecurityInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_SecurityInformation2(rtxContext* RT_RESTRICT ctx, UE_SecurityInformation2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_URA_UpdateCause(rtxContext* RT_RESTRICT ctx, URA_UpdateCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_DRX_CycleLengthCoefficient_r7(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_WaitTime(rtxContext* RT_RESTRICT ctx, WaitTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ROHC_Profile_r4(rtxContext* RT_RESTRICT ctx, ROHC_Profile_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ROHC_ProfileList_r4(rtxContext* RT_RESTRICT ctx, ROHC_ProfileList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CID_InclusionInfo_r4(rtxContext* RT_RESTRICT ctx, CID_InclusionInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ROHC_PacketSize_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSize_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ROHC_PacketSizeList_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSizeList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, UL_RFC3095_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, DL_RFC3095_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RFC3095_Info_r4(rtxContext* RT_RESTRICT ctx, RFC3095_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AlgorithmSpecificInfo_r4(rtxContext* RT_RESTRICT ctx, AlgorithmSpecificInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_COUNT_C(rtxContext* RT_RESTRICT ctx, COUNT_C* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_COUNT_C_MSB(rtxContext* RT_RESTRICT ctx, COUNT_C_MSB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AMR_Rate(rtxContext* RT_RESTRICT ctx, UL_AMR_Rate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxCS_Delay(rtxContext* RT_RESTRICT ctx, MaxCS_Delay* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CS_HSPA_Information(rtxContext* RT_RESTRICT ctx, CS_HSPA_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DefaultConfigMode(rtxContext* RT_RESTRICT ctx, DefaultConfigMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DefaultConfigIdForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigIdForCellFACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DefaultConfigForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigForCellFACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DefaultConfigIdentity(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DefaultConfigIdentity_r4(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DefaultConfigIdentity_r5(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DefaultConfigIdentity_r6(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DDI(rtxContext* RT_RESTRICT ctx, DDI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AM_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_SN_Info(rtxContext* RT_RESTRICT ctx, PDCP_SN_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_WithPDCP_Info(rtxContext* RT_RESTRICT ctx, RB_WithPDCP_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_WithPDCP_InfoList(rtxContext* RT_RESTRICT ctx, RB_WithPDCP_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, DL_CounterSynchronisationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_PDCPContextRelocation(rtxContext* RT_RESTRICT ctx, RB_PDCPContextRelocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_PDCPContextRelocationList(rtxContext* RT_RESTRICT ctx, RB_PDCPContextRelocationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_CounterSynchronisationInfo_r5(rtxContext* RT_RESTRICT ctx, DL_CounterSynchronisationInfo_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_d_FlowIdentityDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentityDCHandHSDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TransportChannelType_r5(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_LogicalChannelMapping_r5(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TransportChannelType_r7_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7_hsdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_ehs_QueueIdDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueIdDCHandHSDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TransportChannelType_r7_dch_and_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7_dch_and_hsdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TransportChannelType_r7(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_LogicalChannelMapping_r7(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_LogicalChannelMappingList_r5(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_LogicalChannelMappingList_r7(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_Reception_Window_Size_r6(rtxContext* RT_RESTRICT ctx, DL_Reception_Window_Size_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_UM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_Mode_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_UM_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_Mode_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HeaderCompressionInfo_r4(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HeaderCompressionInfoList_r4(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfoList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_d_HFN_initial_value(rtxContext* RT_RESTRICT ctx, MAC_d_HFN_initial_value* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PDCP_Info_r4(rtxContext* RT_RESTRICT ctx, PDCP_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_InfoReconfig(rtxContext* RT_RESTRICT ctx, PDCP_InfoReconfig* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_InfoReconfig_r4(rtxContext* RT_RESTRICT ctx, PDCP_InfoReconfig_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDCP_ROHC_TargetMode(rtxContext* RT_RESTRICT ctx, PDCP_ROHC_TargetMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PredefinedConfigStatusInfo_other(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusInfo_other* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PredefinedConfigStatusInfo(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PredefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PredefinedConfigValueTagList(rtxContext* RT_RESTRICT ctx, PredefinedConfigValueTagList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PredefinedConfigSetWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigSetWithDifferentValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PredefinedConfigSetsWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigSetsWithDifferentValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PredefinedConfigStatusListVarSz(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusListVarSz* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PredefinedConfigStatusListComp(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusListComp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RAB_Info(rtxContext* RT_RESTRICT ctx, RAB_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_SessionIdentity(rtxContext* RT_RESTRICT ctx, MBMS_SessionIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_Info_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_Info_r6_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_Info_v6b0ext_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_Info_v6b0ext_mbms_ServiceIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_Info_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_Info_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RAB_Info_r6(rtxContext* RT_RESTRICT ctx, RAB_Info_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_Info_r7_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_Info_r7_mbms_ServiceIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RAB_Info_r7(rtxContext* RT_RESTRICT ctx, RAB_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationList(rtxContext* RT_RESTRICT ctx, RAB_InformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationList_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationReconfig(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfig* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RAB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfigList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfig_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RAB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfigList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_Info_Post(rtxContext* RT_RESTRICT ctx, RAB_Info_Post* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationMBMSPtp_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtp_mbms_ServiceIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationMBMSPtp(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationMBMSPtpList(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtpList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetup(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RLC_Info_r5(rtxContext* RT_RESTRICT ctx, RLC_Info_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_InfoChoice_r5(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_MappingOption_r5(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_MappingInfo_r5(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetup_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r6_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_Info_r6_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r6_altE_bitInterpretation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RLC_Info_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_InfoChoice_r6(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_PDU_Size(rtxContext* RT_RESTRICT ctx, RLC_PDU_Size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_PDU_SizeList(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_LogicalChannelMapping_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMappingList_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_LogicalChannelMappings_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_MappingOption_r6(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_MappingInfo_r6(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetup_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_Info_r7_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_altE_bitInterpretation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_Info_r7_useSpecialValueOfHEField(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_useSpecialValueOfHEField* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RLC_Info_r7(rtxContext* RT_RESTRICT ctx, RLC_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_InfoChoice_r7(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_MappingOption_r7(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_MappingInfo_r7(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RAB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_PDU_SizeConstraint_lengthIndicatorSize(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint_lengthIndicatorSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_PDU_SizeConstraint(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMappingList_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_LogicalChannelMappings_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_MappingOption_r8(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RB_MappingInfo_r8(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RAB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetup_v820ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_v820ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetupList(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RAB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RAB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RAB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetupList_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r6_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetupList_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RAB_InformationSetupList_v820ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_v820ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_COUNT_C_Information(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_COUNT_C_InformationList(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_InformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_COUNT_C_MSB_Information(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_MSB_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
 
-int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow* RT_RESTRICT pvalue)
+/* Bodies held by other units. */
+RT_DECODE_EXTERN(HS_SCCH_Info_r7)
+RT_DECODE_EXTERN(Measurement_Feedback_Info_r7)
+RT_DECODE_EXTERN(DL_HSPDSCH_Information_r7_modeSpecificInfo)
+RT_DECODE_EXTERN(PrimaryCPICH_Info)
+RT_DECODE_EXTERN(DL_HSPDSCH_TS_Configuration)
+RT_DECODE_EXTERN(DL_HSPDSCH_TS_Configuration_VHCR)
+RT_DECODE_EXTERN(HS_PDSCH_Midamble_Configuration_TDD128)
+RT_DECODE_EXTERN(DL_MultiCarrier_Information)
+RT_DECODE_EXTERN(HS_SCCH_TDD384_r6)
+RT_DECODE_EXTERN(HS_SICH_Power_Control_Info_TDD384)
+RT_DECODE_EXTERN(HS_SCCH_TDD768)
+RT_DECODE_EXTERN(HS_SICH_Power_Control_Info_TDD768)
+RT_DECODE_EXTERN(HS_SCCH_TDD128_r6)
+RT_DECODE_EXTERN(RAB_Identity)
+RT_DECODE_EXTERN(TurboSupport)
+RT_DECODE_EXTERN(DL_TransChCapability)
+RT_DECODE_EXTERN(SRNC_Identity)
+RT_DECODE_EXTERN(S_RNTI_2)
+RT_DECODE_EXTERN(NetworkAssistedGANSS_Supported_List)
+RT_DECODE_EXTERN(PDCP_Capability_v770ext)
+RT_DECODE_EXTERN(RLC_Capability_v770ext)
+RT_DECODE_EXTERN(RF_Capability_v770ext)
+RT_DECODE_EXTERN(PhysicalChannelCapability_v770ext)
+RT_DECODE_EXTERN(MultiModeRAT_Capability_v770ext)
+RT_DECODE_EXTERN(NetworkAssistedGANSS_Supported_List_v860ext)
+RT_DECODE_EXTERN(MeasurementCapabilityExt3)
+RT_DECODE_EXTERN(RF_Capability_v860ext)
+RT_DECODE_EXTERN(PhysicalChannelCapability_v860ext)
+RT_DECODE_EXTERN(MultiModeRAT_Capability_v860ext)
+RT_DECODE_EXTERN(MeasurementCapability_v860ext)
+RT_DECODE_EXTERN(MeasurementCapabilityTDD)
+RT_DECODE_EXTERN(PhysicalChannelCapability_v920ext)
+RT_DECODE_EXTERN(RLC_Capability_v920ext)
+RT_DECODE_EXTERN(MeasurementCapability_v920ext)
+RT_DECODE_EXTERN(CSG_ProximityIndicationCapability)
+RT_DECODE_EXTERN(NeighCellSI_AcquisitionCapability)
+RT_DECODE_EXTERN(H_RNTI)
+RT_DECODE_EXTERN(E_RNTI)
+RT_DECODE_EXTERN(MultiRAT_Capability)
+RT_DECODE_EXTERN(PDCP_Capability)
+RT_DECODE_EXTERN(RLC_Capability)
+RT_DECODE_EXTERN(RF_Capability)
+RT_DECODE_EXTERN(PhysicalChannelCapability)
+RT_DECODE_EXTERN(SecurityCapability)
+RT_DECODE_EXTERN(MeasurementCapability)
+RT_DECODE_EXTERN(MeasurementCapabilityExt)
+RT_DECODE_EXTERN(MeasurementCapabilityExt2)
+RT_DECODE_EXTERN(CompressedModeMeasCapabFDDList_ext)
+RT_DECODE_EXTERN(PhysicalChannelCapability_LCR_r4)
+RT_DECODE_EXTERN(PhysicalChannelCapabilityInfo_v770ext)
+RT_DECODE_EXTERN(RF_Capability_r4_ext)
+RT_DECODE_EXTERN(MeasurementCapability_r4_ext)
+RT_DECODE_EXTERN(PDCP_Capability_r4_ext)
+RT_DECODE_EXTERN(RadioFrequencyBandTDDextList)
+RT_DECODE_EXTERN(PDCP_Capability_r5_ext)
+RT_DECODE_EXTERN(RLC_Capability_r5_ext)
+RT_DECODE_EXTERN(PhysicalChannelCapability_hspdsch_r5)
+RT_DECODE_EXTERN(MultiModeRAT_Capability_v590ext)
+RT_DECODE_EXTERN(PDCP_Capability_r5_ext2)
+RT_DECODE_EXTERN(MultiModeRAT_Capability_v680ext)
+RT_DECODE_EXTERN(SecondaryServingEDCHCell_Info)
+RT_DECODE_EXTERN(SecondaryEDCH_Info_Common)
+RT_DECODE_EXTERN(DL_InformationPerSecondaryRL_List)
+RT_DECODE_EXTERN(RFC2507_Info)
+RT_DECODE_EXTERN(OctetModeRLC_SizeInfoType1)
+RT_DECODE_EXTERN(DL_RLC_StatusInfo)
+RT_DECODE_EXTERN(TransportChannelIdentityDCHandDSCH)
+RT_DECODE_EXTERN(DL_TM_RLC_Mode)
+RT_DECODE_EXTERN(LosslessSRNS_RelocSupport)
+RT_DECODE_EXTERN(PDCP_Info)
+RT_DECODE_EXTERN(NAS_Synchronisation_Indicator)
+RT_DECODE_EXTERN(RB_InformationSetupList)
+RT_DECODE_EXTERN(RLC_InfoChoice)
+RT_DECODE_EXTERN(RB_MappingInfo)
+RT_DECODE_EXTERN(UL_RLC_Mode)
+RT_DECODE_EXTERN(UL_LogicalChannelMappings)
+RT_DECODE_EXTERN(RLC_SizeExplicitList)
+RT_DECODE_EXTERN(UL_TransportChannelType)
+
+static int dec_DL_HSPDSCH_Information_r7(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow");
-   /* mac-d-FlowIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowIdentity, 0, 7);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow");
-   /* mac-d-FlowPowerOffset */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowPowerOffset, 0, 6);
-      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow");
-   }
-   /* mac-d-FlowMaxRetrans */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowMaxRetrans, 0, 15);
-      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow");
-   }
-   /* mac-d-FlowMultiplexingList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, &pvalue->mac_d_FlowMultiplexingList);
-      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "E-DCH-AddReconf-MAC-d-Flow");
-   }
-   /* transmissionGrantType */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(ctx, &pvalue->transmissionGrantType);
-      RT_CHECK(ctx, stat, 0, "transmissionGrantType", -1, "E-DCH-AddReconf-MAC-d-Flow");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* maxMAC-e-PDUContents */
-   stat = pd_ConsUInt16(ctx, &pvalue->maxMAC_e_PDUContents, 1, 19982);
-   RT_CHECK(ctx, stat, 0, "maxMAC-e-PDUContents", -1, 0);
-   /* ms2-NonSchedTransmGrantHARQAlloc */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->ms2_NonSchedTransmGrantHARQAlloc, 8, 8);
-      RT_CHECK(ctx, stat, 0, "ms2-NonSchedTransmGrantHARQAlloc", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* non-ScheduledTransGrantInfo */
-         pvalue->u.non_ScheduledTransGrantInfo = (E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo*)rtxMemHeapAlloc(ctx, sizeof(E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo));
-         if (pvalue->u.non_ScheduledTransGrantInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "non-ScheduledTransGrantInfo", -1, 0);
-         asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(pvalue->u.non_ScheduledTransGrantInfo);
-         stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(ctx, pvalue->u.non_ScheduledTransGrantInfo);
-         RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
-         break;
-      case 1: /* scheduledTransmissionGrantInfo */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   /* mac-d-FlowIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowIdentity, 0, 7);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   /* mac-d-FlowPowerOffset */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowPowerOffset, 0, 6);
-      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   }
-   /* mac-d-FlowMaxRetrans */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowMaxRetrans, 0, 15);
-      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   }
-   /* mac-d-FlowRetransTimer */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->mac_d_FlowRetransTimer, 0, 29);
-      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowRetransTimer", "mac-d-FlowRetransTimer", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   }
-   /* mac-d-FlowMultiplexingList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, &pvalue->mac_d_FlowMultiplexingList);
-      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   }
-   /* transmissionGrantType */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(ctx, &pvalue->transmissionGrantType);
-      RT_CHECK(ctx, stat, 0, "transmissionGrantType", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_FlowList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_DCH_AddReconf_MAC_d_Flow* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_AddReconf_MAC_d_Flow));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-DCH-AddReconf-MAC-d-Flow", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList");
-      elem = (E_DCH_AddReconf_MAC_d_Flow*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-DCH-AddReconf-MAC-d-Flow", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_FlowList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_DCH_AddReconf_MAC_d_Flow_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_AddReconf_MAC_d_Flow_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-DCH-AddReconf-MAC-d-Flow-r7", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList-r7");
-      elem = (E_DCH_AddReconf_MAC_d_Flow_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-DCH-AddReconf-MAC-d-Flow-r7", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PowerOffsetInfoShort_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gainFactorBetaC */
-   stat = pd_ConsUInt8(ctx, &pvalue->gainFactorBetaC, 0, 15);
-   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaC", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PowerOffsetInfoShort_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (PowerOffsetInfoShort_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(PowerOffsetInfoShort_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_PowerOffsetInfoShort_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PowerOffsetInfoShort(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* referenceTFC */
-   stat = pd_ConsUInt16(ctx, &pvalue->referenceTFC, 0, 1023);
-   RT_CHECK(ctx, stat, "TFC-Value", "referenceTFC", -1, "PowerOffsetInfoShort");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_PowerOffsetInfoShort_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PowerOffsetInfoShort");
-   /* gainFactorBetaD */
-   stat = pd_ConsUInt8(ctx, &pvalue->gainFactorBetaD, 0, 15);
-   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaD", -1, "PowerOffsetInfoShort");
-   return 0;
-}
-
-int asn1PD_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_ID);
-      RT_CHECK(ctx, stat, 0, "tfcs-ID", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TFC_SubsetList_element_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (TFC_SubsetList_element_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(TFC_SubsetList_element_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TFC_SubsetList_element(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_TFC_SubsetList_element_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   /* tfc-Subset */
-   stat = asn1PD_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
-   RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_TFC_SubsetList(rtxContext* RT_RESTRICT ctx, TFC_SubsetList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFC-SubsetList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TFC_SubsetList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFC_SubsetList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "TFC-SubsetList");
-      elem = (TFC_SubsetList_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TFC_SubsetList_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TFC_SubsetList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "TFC-SubsetList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_dch_usch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TransportChannelType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
-   /* transportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
-   /* transportFormatSet */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r6_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch_harq_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r6_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tti */
-   stat = pd_ConsUnsigned(ctx, &pvalue->tti, 0, 1);
-   RT_CHECK(ctx, stat, "E-DCH-TTI", "tti", -1, 0);
-   /* harq-Info */
-   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
-   /* addReconf-MAC-d-FlowList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_FlowList(ctx, &pvalue->addReconf_MAC_d_FlowList);
-      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r6(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInformation-r6");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch-usch */
-         pvalue->u.dch_usch = (UL_AddReconfTransChInformation_r6_dch_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r6_dch_usch));
-         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r6");
-         asn1Init_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(pvalue->u.dch_usch);
-         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(ctx, pvalue->u.dch_usch);
-         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r6");
-         break;
-      case 1: /* e-dch */
-         pvalue->u.e_dch = (UL_AddReconfTransChInformation_r6_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r6_e_dch));
-         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r6");
-         asn1Init_UMTS_UL_AddReconfTransChInformation_r6_e_dch(pvalue->u.e_dch);
-         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r6_e_dch(ctx, pvalue->u.e_dch);
-         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r6");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_AddReconfTransChInformation_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-AddReconfTransChInformation-r6", (int32_t)i, "UL-AddReconfTransChInfoList-r6");
-      elem = (UL_AddReconfTransChInformation_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_AddReconfTransChInformation_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r6", (int32_t)i, "UL-AddReconfTransChInfoList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_dch_usch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TransportChannelType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
-   /* transportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
-   /* transportFormatSet */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tti */
-   stat = pd_ConsUnsigned(ctx, &pvalue->tti, 0, 1);
-   RT_CHECK(ctx, stat, "E-DCH-TTI", "tti", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_modeSpecific* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_harq_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* modeSpecific */
-   stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(ctx, &pvalue->modeSpecific);
-   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, 0);
-   /* harq-Info */
-   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
-   /* addReconf-MAC-d-FlowList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(ctx, &pvalue->addReconf_MAC_d_FlowList);
-      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInformation-r7");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch-usch */
-         pvalue->u.dch_usch = (UL_AddReconfTransChInformation_r7_dch_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r7_dch_usch));
-         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r7");
-         asn1Init_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(pvalue->u.dch_usch);
-         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(ctx, pvalue->u.dch_usch);
-         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r7");
-         break;
-      case 1: /* e-dch */
-         pvalue->u.e_dch = (UL_AddReconfTransChInformation_r7_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r7_e_dch));
-         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r7");
-         asn1Init_UMTS_UL_AddReconfTransChInformation_r7_e_dch(pvalue->u.e_dch);
-         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch(ctx, pvalue->u.e_dch);
-         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r7");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_AddReconfTransChInformation_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-AddReconfTransChInformation-r7", (int32_t)i, "UL-AddReconfTransChInfoList-r7");
-      elem = (UL_AddReconfTransChInformation_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_AddReconfTransChInformation_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r7", (int32_t)i, "UL-AddReconfTransChInfoList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_dch_usch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TransportChannelType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
-   /* transportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
-   /* transportFormatSet */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tti */
-   stat = pd_ConsUnsigned(ctx, &pvalue->tti, 0, 1);
-   RT_CHECK(ctx, stat, "E-DCH-TTI", "tti", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_modeSpecific* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_harq_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-MAC-HeaderType */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-Information-r7");
+   /* hs-scch-Info */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "ul-MAC-HeaderType", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "ul-MAC-HeaderType", -1, 0);
-         pvalue->ul_MAC_HeaderType = ui;
-      }
+      stat = dec_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r7");
    }
-   /* modeSpecific */
-   stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(ctx, &pvalue->modeSpecific);
-   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, 0);
-   /* harq-Info */
-   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
-   /* addReconf-MAC-d-FlowList */
+   /* measurement-feedback-Info */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(ctx, &pvalue->addReconf_MAC_d_FlowList);
-      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation_r8(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInformation-r8");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch-usch */
-         pvalue->u.dch_usch = (UL_AddReconfTransChInformation_r8_dch_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r8_dch_usch));
-         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r8");
-         asn1Init_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(pvalue->u.dch_usch);
-         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(ctx, pvalue->u.dch_usch);
-         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r8");
-         break;
-      case 1: /* e-dch */
-         pvalue->u.e_dch = (UL_AddReconfTransChInformation_r8_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r8_e_dch));
-         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r8");
-         asn1Init_UMTS_UL_AddReconfTransChInformation_r8_e_dch(pvalue->u.e_dch);
-         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch(ctx, pvalue->u.e_dch);
-         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r8");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_AddReconfTransChInformation_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-AddReconfTransChInformation-r8", (int32_t)i, "UL-AddReconfTransChInfoList-r8");
-      elem = (UL_AddReconfTransChInformation_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_AddReconfTransChInformation_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r8", (int32_t)i, "UL-AddReconfTransChInfoList-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TFCS */
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
-   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* individualUL-CCTrCH-InfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList);
-      RT_CHECK(ctx, stat, 0, "individualUL-CCTrCH-InfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_CommonTransChInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_CommonTransChInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CommonTransChInfo-r4");
-   /* tfc-Subset */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
-      RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "UL-CommonTransChInfo-r4");
-   }
-   /* prach-TFCS */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->prach_TFCS);
-      RT_CHECK(ctx, stat, 0, "prach-TFCS", -1, "UL-CommonTransChInfo-r4");
+      stat = dec_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r7");
    }
    /* modeSpecificInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-CommonTransChInfo-r4");
-   }
-   /* tfc-SubsetList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TFC_SubsetList(ctx, &pvalue->tfc_SubsetList);
-      RT_CHECK(ctx, stat, 0, "tfc-SubsetList", -1, "UL-CommonTransChInfo-r4");
-   }
+   stat = dec_DL_HSPDSCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r7");
    return 0;
 }
 
-int asn1PD_UMTS_UL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, UL_DeletedTransChInfoList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_HARQ_Info_r7_numberOfProcesses(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_numberOfProcesses* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DeletedTransChInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_TransportChannelIdentity* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_TransportChannelIdentity));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-TransportChannelIdentity", (int32_t)i, "UL-DeletedTransChInfoList");
-      elem = (UL_TransportChannelIdentity*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-TransportChannelIdentity", (int32_t)i, "UL-DeletedTransChInfoList");
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UL_TransportChannelIdentity_r6_dch_usch(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity_r6_dch_usch* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HARQ_Info_r7_numberOfProcesses(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_numberOfProcesses* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* ul-TransportChannelType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
-   /* ul-TransportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->ul_TransportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HARQ_Info_r7_numberOfProcesses, pvalue);
 }
 
-int asn1PD_UMTS_UL_TransportChannelIdentity_r6(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity_r6* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit__memorySize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TransportChannelIdentity-r6");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dch-usch */
-         pvalue->u.dch_usch = (UL_TransportChannelIdentity_r6_dch_usch*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity_r6_dch_usch));
-         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-usch", -1, "UL-TransportChannelIdentity-r6");
-         stat = asn1PD_UMTS_UL_TransportChannelIdentity_r6_dch_usch(ctx, pvalue->u.dch_usch);
-         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-TransportChannelIdentity-r6");
-         break;
-      case 1: /* e-dch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.e_dch, 0, 7);
-         RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "e-dch", -1, "UL-TransportChannelIdentity-r6");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TransportChannelIdentity-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DeletedTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, UL_DeletedTransChInfoList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DeletedTransChInfoList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_TransportChannelIdentity_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_TransportChannelIdentity_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-TransportChannelIdentity-r6", (int32_t)i, "UL-DeletedTransChInfoList-r6");
-      elem = (UL_TransportChannelIdentity_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_TransportChannelIdentity_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_TransportChannelIdentity_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-TransportChannelIdentity-r6", (int32_t)i, "UL-DeletedTransChInfoList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActivationTimeOffset(rtxContext* RT_RESTRICT ctx, ActivationTimeOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActivationTimeOffset");
-   return 0;
-}
-
-int asn1PD_UMTS_AllocationPeriodInfo(rtxContext* RT_RESTRICT ctx, AllocationPeriodInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* allocationActivationTime */
-   stat = pd_ConsUInt8(ctx, &pvalue->allocationActivationTime, 0, 255);
-   RT_CHECK(ctx, stat, 0, "allocationActivationTime", -1, "AllocationPeriodInfo");
-   /* allocationDuration */
-   stat = pd_ConsUInt16(ctx, &pvalue->allocationDuration, 1, 256);
-   RT_CHECK(ctx, stat, 0, "allocationDuration", -1, "AllocationPeriodInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_AP_AICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, AP_AICH_ChannelisationCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AP-AICH-ChannelisationCode");
-   return 0;
-}
-
-int asn1PD_UMTS_AP_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, AP_PreambleScramblingCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 79);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AP-PreambleScramblingCode");
-   return 0;
-}
-
-int asn1PD_UMTS_AP_Signature(rtxContext* RT_RESTRICT ctx, AP_Signature* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AP-Signature");
-   return 0;
-}
-
-int asn1PD_UMTS_AP_Subchannel(rtxContext* RT_RESTRICT ctx, AP_Subchannel* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AP-Subchannel");
-   return 0;
-}
-
-int asn1PD_UMTS_AvailableAP_SubchannelList(rtxContext* RT_RESTRICT ctx, AvailableAP_SubchannelList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
+   uint32_t i, n;
    {
       uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "AvailableAP-SubchannelList");
-      pvalue->n = raw + 1;
-      if (raw > 11) {
-         rtxErrAddStrParm(ctx, "AvailableAP-SubchannelList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AvailableAP-SubchannelList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 11);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "AP-Subchannel", "AP-Subchannel", (int32_t)i, "AvailableAP-SubchannelList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AP_Signature_VCAM(rtxContext* RT_RESTRICT ctx, AP_Signature_VCAM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AP-Signature-VCAM");
-   /* ap-Signature */
-   stat = pd_ConsUInt8(ctx, &pvalue->ap_Signature, 0, 15);
-   RT_CHECK(ctx, stat, "AP-Signature", "ap-Signature", -1, "AP-Signature-VCAM");
-   /* availableAP-SubchannelList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AvailableAP_SubchannelList(ctx, &pvalue->availableAP_SubchannelList);
-      RT_CHECK(ctx, stat, 0, "availableAP-SubchannelList", -1, "AP-Signature-VCAM");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AvailableAP_Signature_VCAMList(rtxContext* RT_RESTRICT ctx, AvailableAP_Signature_VCAMList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AvailableAP-Signature-VCAMList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      AP_Signature_VCAM* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AP_Signature_VCAM));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "AP-Signature-VCAM", (int32_t)i, "AvailableAP-Signature-VCAMList");
-      elem = (AP_Signature_VCAM*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_AP_Signature_VCAM(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_AP_Signature_VCAM(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "AP-Signature-VCAM", (int32_t)i, "AvailableAP-Signature-VCAMList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AvailableAP_SignatureList(rtxContext* RT_RESTRICT ctx, AvailableAP_SignatureList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "AvailableAP-SignatureList");
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "AvailableAP-SignatureList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AvailableAP-SignatureList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "AP-Signature", "AP-Signature", (int32_t)i, "AvailableAP-SignatureList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MinimumSpreadingFactor(rtxContext* RT_RESTRICT ctx, MinimumSpreadingFactor* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSpreadingFactor");
-   return 0;
-}
-
-int asn1PD_UMTS_NF_Max(rtxContext* RT_RESTRICT ctx, NF_Max* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NF-Max");
-   return 0;
-}
-
-int asn1PD_UMTS_MaxAvailablePCPCH_Number(rtxContext* RT_RESTRICT ctx, MaxAvailablePCPCH_Number* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxAvailablePCPCH-Number");
-   return 0;
-}
-
-int asn1PD_UMTS_AvailableMinimumSF_VCAM(rtxContext* RT_RESTRICT ctx, AvailableMinimumSF_VCAM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* minimumSpreadingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSpreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "AvailableMinimumSF-VCAM");
-   /* nf-Max */
-   stat = pd_ConsUInt8(ctx, &pvalue->nf_Max, 1, 64);
-   RT_CHECK(ctx, stat, "NF-Max", "nf-Max", -1, "AvailableMinimumSF-VCAM");
-   /* maxAvailablePCPCH-Number */
-   stat = pd_ConsUInt8(ctx, &pvalue->maxAvailablePCPCH_Number, 1, 64);
-   RT_CHECK(ctx, stat, "MaxAvailablePCPCH-Number", "maxAvailablePCPCH-Number", -1, "AvailableMinimumSF-VCAM");
-   /* availableAP-Signature-VCAMList */
-   stat = asn1PD_UMTS_AvailableAP_Signature_VCAMList(ctx, &pvalue->availableAP_Signature_VCAMList);
-   RT_CHECK(ctx, stat, 0, "availableAP-Signature-VCAMList", -1, "AvailableMinimumSF-VCAM");
-   return 0;
-}
-
-int asn1PD_UMTS_AvailableMinimumSF_ListVCAM(rtxContext* RT_RESTRICT ctx, AvailableMinimumSF_ListVCAM* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AvailableMinimumSF-ListVCAM");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      AvailableMinimumSF_VCAM* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AvailableMinimumSF_VCAM));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "AvailableMinimumSF-VCAM", (int32_t)i, "AvailableMinimumSF-ListVCAM");
-      elem = (AvailableMinimumSF_VCAM*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_AvailableMinimumSF_VCAM(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_AvailableMinimumSF_VCAM(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "AvailableMinimumSF-VCAM", (int32_t)i, "AvailableMinimumSF-ListVCAM");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_BEACON_PL_Est(rtxContext* RT_RESTRICT ctx, BEACON_PL_Est* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "BEACON-PL-Est");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "BEACON-PL-Est");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -82, -3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DPCCH-PowerOffset");
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_delay(rtxContext* RT_RESTRICT ctx, SRB_delay* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-delay");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dpcch-PowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->dpcch_PowerOffset, -82, -3);
-   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   /* pc-Preamble */
-   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
-   /* sRB-delay */
-   stat = pd_ConsUInt8(ctx, &pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
-   /* powerControlAlgorithm */
-   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TargetSIR(rtxContext* RT_RESTRICT ctx, UL_TargetSIR* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 62);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TargetSIR");
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_UL_Interference(rtxContext* RT_RESTRICT ctx, TDD_UL_Interference* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -110, -52);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-UL-Interference");
-   return 0;
-}
-
-int asn1PD_UMTS_IndividualTS_Interference(rtxContext* RT_RESTRICT ctx, IndividualTS_Interference* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "IndividualTS-Interference");
-   /* ul-TimeslotInterference */
-   stat = pd_ConsInt8(ctx, &pvalue->ul_TimeslotInterference, -110, -52);
-   RT_CHECK(ctx, stat, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "IndividualTS-Interference");
-   return 0;
-}
-
-int asn1PD_UMTS_IndividualTS_InterferenceList(rtxContext* RT_RESTRICT ctx, IndividualTS_InterferenceList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IndividualTS-InterferenceList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IndividualTS_Interference* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IndividualTS_Interference));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IndividualTS-Interference", (int32_t)i, "IndividualTS-InterferenceList");
-      elem = (IndividualTS_Interference*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IndividualTS_Interference(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "IndividualTS-Interference", (int32_t)i, "IndividualTS-InterferenceList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* individualTS-InterferenceList */
-   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
-   /* dpch-ConstantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* broadcast-UL-OL-PC-info */
-         break;
-      case 1: /* individuallySignalled */
-         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled));
-         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
-         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TargetSIR */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
-      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
-   }
-   /* ul-OL-PC-Signalling */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
-      RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo");
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo");
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CCTrCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo");
-   /* tfcs-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
-      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo");
-   }
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dpcch-PowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->dpcch_PowerOffset, -82, -3);
-   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   /* pc-Preamble */
-   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
-   /* sRB-delay */
-   stat = pd_ConsUInt8(ctx, &pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
-   /* powerControlAlgorithm */
-   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* individualTS-InterferenceList */
-   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
-   /* dpch-ConstantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tpc-StepSize */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tddOption */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* broadcast-UL-OL-PC-info */
-         break;
-      case 1: /* individuallySignalled */
-         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled));
-         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
-         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TargetSIR */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
-      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
-   }
-   /* ul-OL-PC-Signalling */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
-   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_r4_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r4");
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r4");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_r4_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r4");
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CCTrCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r4");
-   /* tfcs-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
-      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r4");
-   }
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dpcch-PowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->dpcch_PowerOffset, -82, -3);
-   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   /* pc-Preamble */
-   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
-   /* sRB-delay */
-   stat = pd_ConsUInt8(ctx, &pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
-   /* powerControlAlgorithm */
-   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
-   /* deltaACK */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, 0);
-   }
-   /* deltaNACK */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, 0);
-   }
-   /* ack-NACK-repetition-factor */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ack_NACK_repetition_factor, 1, 4);
-      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* individualTS-InterferenceList */
-   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
-   /* dpch-ConstantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tpc-StepSize */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tddOption */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* broadcast-UL-OL-PC-info */
-         break;
-      case 1: /* individuallySignalled */
-         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled));
-         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
-         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TargetSIR */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
-      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
-   }
-   /* ul-OL-PC-Signalling */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
-   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo-r5");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_r5_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r5");
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r5");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_r5_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r5");
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r5");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CCTrCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r5");
-   /* tfcs-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
-      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r5");
-   }
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dpcch-PowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->dpcch_PowerOffset, -82, -3);
-   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   /* pc-Preamble */
-   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
-   /* sRB-delay */
-   stat = pd_ConsUInt8(ctx, &pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
-   /* powerControlAlgorithm */
-   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
-   /* deltaACK */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, 0);
-   }
-   /* deltaNACK */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, 0);
-   }
-   /* ack-NACK-repetition-factor */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ack_NACK_repetition_factor, 1, 4);
-      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
-   }
-   /* harq-Preamble-Mode */
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* individualTS-InterferenceList */
-   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
-   /* dpch-ConstantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* individualTS-InterferenceList */
-   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
-   /* dpch-ConstantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
-         pvalue->beaconPLEst = ui;
-      }
-   }
-   /* tpc-StepSize */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tddOption */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* broadcast-UL-OL-PC-info */
-         break;
-      case 1: /* individuallySignalled */
-         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled));
-         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
-         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TargetSIR */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
-      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
-   }
-   /* ul-OL-PC-Signalling */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
-   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo-r7");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_r7_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r7");
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r7");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_r7_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r7");
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r7");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CCTrCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r7");
-   /* tfcs-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
-      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r7");
-   }
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_CD_AccessSlotSubchannel(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannel* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CD-AccessSlotSubchannel");
-   return 0;
-}
-
-int asn1PD_UMTS_CD_AccessSlotSubchannelList(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannelList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CD-AccessSlotSubchannelList");
-      pvalue->n = raw + 1;
-      if (raw > 11) {
-         rtxErrAddStrParm(ctx, "CD-AccessSlotSubchannelList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CD-AccessSlotSubchannelList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 11);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "CD-AccessSlotSubchannel", "CD-AccessSlotSubchannel", (int32_t)i, "CD-AccessSlotSubchannelList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CD_CA_ICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, CD_CA_ICH_ChannelisationCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CD-CA-ICH-ChannelisationCode");
-   return 0;
-}
-
-int asn1PD_UMTS_CD_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, CD_PreambleScramblingCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 79);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CD-PreambleScramblingCode");
-   return 0;
-}
-
-int asn1PD_UMTS_CD_SignatureCode(rtxContext* RT_RESTRICT ctx, CD_SignatureCode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CD-SignatureCode");
-   return 0;
-}
-
-int asn1PD_UMTS_CD_SignatureCodeList(rtxContext* RT_RESTRICT ctx, CD_SignatureCodeList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CD-SignatureCodeList");
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "CD-SignatureCodeList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CD-SignatureCodeList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "CD-SignatureCode", "CD-SignatureCode", (int32_t)i, "CD-SignatureCodeList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellAndChannelIdentity(rtxContext* RT_RESTRICT ctx, CellAndChannelIdentity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* burstType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->burstType, 0, 1);
-   RT_CHECK(ctx, stat, "BurstType", "burstType", -1, "CellAndChannelIdentity");
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, "CellAndChannelIdentity");
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "CellAndChannelIdentity");
-   /* cellParametersID */
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "CellAndChannelIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_Cfntargetsfnframeoffset(rtxContext* RT_RESTRICT ctx, Cfntargetsfnframeoffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Cfntargetsfnframeoffset");
-   return 0;
-}
-
-int asn1PD_UMTS_ChannelAssignmentActive(rtxContext* RT_RESTRICT ctx, ChannelAssignmentActive* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ChannelAssignmentActive");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* notActive */
-         break;
-      case 1: /* isActive */
-         pvalue->u.isActive = (AvailableMinimumSF_ListVCAM*)rtxMemHeapAlloc(ctx, sizeof(AvailableMinimumSF_ListVCAM));
-         if (pvalue->u.isActive == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "isActive", -1, "ChannelAssignmentActive");
-         asn1Init_UMTS_AvailableMinimumSF_ListVCAM(pvalue->u.isActive);
-         stat = asn1PD_UMTS_AvailableMinimumSF_ListVCAM(ctx, pvalue->u.isActive);
-         RT_CHECK(ctx, stat, 0, "isActive", -1, "ChannelAssignmentActive");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ChannelAssignmentActive");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ChannelReqParamsForUCSM(rtxContext* RT_RESTRICT ctx, ChannelReqParamsForUCSM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ChannelReqParamsForUCSM");
-   /* availableAP-SignatureList */
-   stat = asn1PD_UMTS_AvailableAP_SignatureList(ctx, &pvalue->availableAP_SignatureList);
-   RT_CHECK(ctx, stat, 0, "availableAP-SignatureList", -1, "ChannelReqParamsForUCSM");
-   /* availableAP-SubchannelList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AvailableAP_SubchannelList(ctx, &pvalue->availableAP_SubchannelList);
-      RT_CHECK(ctx, stat, 0, "availableAP-SubchannelList", -1, "ChannelReqParamsForUCSM");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ClosedLoopTimingAdjMode(rtxContext* RT_RESTRICT ctx, ClosedLoopTimingAdjMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ClosedLoopTimingAdjMode");
-   return 0;
-}
-
-int asn1PD_UMTS_CodeNumberDSCH(rtxContext* RT_RESTRICT ctx, CodeNumberDSCH* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CodeNumberDSCH");
-   return 0;
-}
-
-int asn1PD_UMTS_SF_PDSCH(rtxContext* RT_RESTRICT ctx, SF_PDSCH* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF-PDSCH");
-   return 0;
-}
-
-int asn1PD_UMTS_MultiCodeInfo(rtxContext* RT_RESTRICT ctx, MultiCodeInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiCodeInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CodeMap(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMap* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* spreadingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeMap");
-   /* multiCodeInfo */
-   stat = pd_ConsUInt8(ctx, &pvalue->multiCodeInfo, 1, 16);
-   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeMap");
-   /* codeNumberStart */
-   stat = pd_ConsUInt8(ctx, &pvalue->codeNumberStart, 0, 255);
-   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumberStart", -1, "PDSCH-CodeMap");
-   /* codeNumberStop */
-   stat = pd_ConsUInt8(ctx, &pvalue->codeNumberStop, 0, 255);
-   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumberStop", -1, "PDSCH-CodeMap");
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CodeMapList(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 256);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-CodeMapList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PDSCH_CodeMap* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_CodeMap));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PDSCH-CodeMap", (int32_t)i, "PDSCH-CodeMapList");
-      elem = (PDSCH_CodeMap*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PDSCH_CodeMap(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PDSCH-CodeMap", (int32_t)i, "PDSCH-CodeMapList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CodeRange(rtxContext* RT_RESTRICT ctx, CodeRange* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pdsch-CodeMapList */
-   stat = asn1PD_UMTS_PDSCH_CodeMapList(ctx, &pvalue->pdsch_CodeMapList);
-   RT_CHECK(ctx, stat, 0, "pdsch-CodeMapList", -1, "CodeRange");
-   return 0;
-}
-
-int asn1PD_UMTS_CodeWordSet(rtxContext* RT_RESTRICT ctx, CodeWordSet* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CodeWordSet");
-   return 0;
-}
-
-int asn1PD_UMTS_ControlChannelDRXCycle_TDD128(rtxContext* RT_RESTRICT ctx, ControlChannelDRXCycle_TDD128* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ControlChannelDRXCycle-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_EnablingDelay_TDD128(rtxContext* RT_RESTRICT ctx, EnablingDelay_TDD128* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EnablingDelay-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* enablingDelay */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->enablingDelay, 0, 15);
-      RT_CHECK(ctx, stat, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_DRX_InactivityThreshold_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_InactivityThreshold_TDD128* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-DRX-InactivityThreshold-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_Info_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-DRX-Info-TDD128");
-   /* hS-SCCH-DRX-Cycle */
-   stat = pd_ConsUnsigned(ctx, &pvalue->hS_SCCH_DRX_Cycle, 0, 7);
-   RT_CHECK(ctx, stat, "ControlChannelDRXCycle-TDD128", "hS-SCCH-DRX-Cycle", -1, "HS-SCCH-DRX-Info-TDD128");
-   /* hS-SCCH-DRX-InactivityThreshold */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->hS_SCCH_DRX_InactivityThreshold, 0, 15);
-      RT_CHECK(ctx, stat, "HS-SCCH-DRX-InactivityThreshold-TDD128", "hS-SCCH-DRX-InactivityThreshold", -1, "HS-SCCH-DRX-Info-TDD128");
-   }
-   /* hS-SCCH-DRX-Offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->hS_SCCH_DRX_Offset, 0, 63);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-DRX-Offset", -1, "HS-SCCH-DRX-Info-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_InactivityMonitorThreshold_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_InactivityMonitorThreshold_TDD128* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-InactivityMonitorThreshold-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-AGCH-DRX-Cycle */
-   stat = pd_ConsUnsigned(ctx, &pvalue->e_AGCH_DRX_Cycle, 0, 7);
-   RT_CHECK(ctx, stat, "ControlChannelDRXCycle-TDD128", "e-AGCH-DRX-Cycle", -1, 0);
-   /* e-AGCH-InactivityMonitorThreshold */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->e_AGCH_InactivityMonitorThreshold, 0, 15);
-      RT_CHECK(ctx, stat, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
-   }
-   /* e-AGCH-DRX-Offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_AGCH_DRX_Offset, 0, 63);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-Offset", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sameAsHS-SCCH */
-         break;
-      case 1: /* e-AGCH-DRX-Parameters */
-         pvalue->u.e_AGCH_DRX_Parameters = (E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters));
-         if (pvalue->u.e_AGCH_DRX_Parameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-AGCH-DRX-Parameters", -1, 0);
-         asn1Init_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(pvalue->u.e_AGCH_DRX_Parameters);
-         stat = asn1PD_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(ctx, pvalue->u.e_AGCH_DRX_Parameters);
-         RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-Parameters", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* e-AGCH-DRX-InfoType */
-   stat = asn1PD_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(ctx, &pvalue->e_AGCH_DRX_InfoType);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-InfoType", -1, "E-AGCH-DRX-Info-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hS-SCCH-Drx-Info */
-   stat = asn1PD_UMTS_HS_SCCH_DRX_Info_TDD128(ctx, &pvalue->hS_SCCH_Drx_Info);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-Drx-Info", -1, 0);
-   /* e-AGCH-Drx-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_AGCH_DRX_Info_TDD128(ctx, &pvalue->e_AGCH_Drx_Info);
-      RT_CHECK(ctx, stat, 0, "e-AGCH-Drx-Info", -1, 0);
-   }
-   /* enablingDelay */
-   stat = pd_ConsUnsigned(ctx, &pvalue->enablingDelay, 0, 15);
-   RT_CHECK(ctx, stat, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* continue */
-         pvalue->u.continue_ = (ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_*)rtxMemHeapAlloc(ctx, sizeof(ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_));
-         if (pvalue->u.continue_ == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "continue", -1, 0);
-         asn1Init_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(pvalue->u.continue_);
-         stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(ctx, pvalue->u.continue_);
-         RT_CHECK(ctx, stat, 0, "continue", -1, 0);
-         break;
-      case 1: /* newOperation */
-         pvalue->u.newOperation = (ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation*)rtxMemHeapAlloc(ctx, sizeof(ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation));
-         if (pvalue->u.newOperation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newOperation", -1, 0);
-         asn1Init_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(pvalue->u.newOperation);
-         stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(ctx, pvalue->u.newOperation);
-         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* controlChannelDrxOperation */
-   stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(ctx, &pvalue->controlChannelDrxOperation);
-   RT_CHECK(ctx, stat, 0, "controlChannelDrxOperation", -1, "ControlChannelDRXInfo-TDD128-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_DynamicPersistenceLevelTF_List(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevelTF_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "DynamicPersistenceLevelTF-List");
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "DynamicPersistenceLevelTF-List");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DynamicPersistenceLevelTF-List");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 8);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelTF-List");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CPCH_PersistenceLevels(rtxContext* RT_RESTRICT ctx, CPCH_PersistenceLevels* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cpch-SetID */
-   stat = pd_ConsUInt8(ctx, &pvalue->cpch_SetID, 1, 16);
-   RT_CHECK(ctx, stat, "CPCH-SetID", "cpch-SetID", -1, "CPCH-PersistenceLevels");
-   /* dynamicPersistenceLevelTF-List */
-   stat = asn1PD_UMTS_DynamicPersistenceLevelTF_List(ctx, &pvalue->dynamicPersistenceLevelTF_List);
-   RT_CHECK(ctx, stat, 0, "dynamicPersistenceLevelTF-List", -1, "CPCH-PersistenceLevels");
-   return 0;
-}
-
-int asn1PD_UMTS_CPCH_PersistenceLevelsList(rtxContext* RT_RESTRICT ctx, CPCH_PersistenceLevelsList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-PersistenceLevelsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CPCH_PersistenceLevels* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CPCH_PersistenceLevels));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CPCH-PersistenceLevels", (int32_t)i, "CPCH-PersistenceLevelsList");
-      elem = (CPCH_PersistenceLevels*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CPCH_PersistenceLevels(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CPCH_PersistenceLevels(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CPCH-PersistenceLevels", (int32_t)i, "CPCH-PersistenceLevelsList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaPp_m(rtxContext* RT_RESTRICT ctx, DeltaPp_m* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -10, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaPp-m");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCCH_SlotFormat(rtxContext* RT_RESTRICT ctx, UL_DPCCH_SlotFormat* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCCH-SlotFormat");
-   return 0;
-}
-
-int asn1PD_UMTS_N_StartMessage(rtxContext* RT_RESTRICT ctx, N_StartMessage* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-StartMessage");
-   return 0;
-}
-
-int asn1PD_UMTS_N_EOT(rtxContext* RT_RESTRICT ctx, N_EOT* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-EOT");
-   return 0;
-}
-
-int asn1PD_UMTS_CPCH_StatusIndicationMode(rtxContext* RT_RESTRICT ctx, CPCH_StatusIndicationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-StatusIndicationMode");
-   return 0;
-}
-
-int asn1PD_UMTS_PCP_Length(rtxContext* RT_RESTRICT ctx, PCP_Length* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PCP-Length");
-   return 0;
-}
-
-int asn1PD_UMTS_UCSM_Info(rtxContext* RT_RESTRICT ctx, UCSM_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* minimumSpreadingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSpreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "UCSM-Info");
-   /* nf-Max */
-   stat = pd_ConsUInt8(ctx, &pvalue->nf_Max, 1, 64);
-   RT_CHECK(ctx, stat, "NF-Max", "nf-Max", -1, "UCSM-Info");
-   /* channelReqParamsForUCSM */
-   stat = asn1PD_UMTS_ChannelReqParamsForUCSM(ctx, &pvalue->channelReqParamsForUCSM);
-   RT_CHECK(ctx, stat, 0, "channelReqParamsForUCSM", -1, "UCSM-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_PCPCH_ChannelInfo(rtxContext* RT_RESTRICT ctx, PCPCH_ChannelInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PCPCH-ChannelInfo");
-   /* pcpch-UL-ScramblingCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->pcpch_UL_ScramblingCode, 0, 79);
-   RT_CHECK(ctx, stat, 0, "pcpch-UL-ScramblingCode", -1, "PCPCH-ChannelInfo");
-   /* pcpch-DL-ChannelisationCode */
-   stat = pd_ConsUInt16(ctx, &pvalue->pcpch_DL_ChannelisationCode, 0, 511);
-   RT_CHECK(ctx, stat, 0, "pcpch-DL-ChannelisationCode", -1, "PCPCH-ChannelInfo");
-   /* pcpch-DL-ScramblingCode */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pcpch_DL_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "pcpch-DL-ScramblingCode", -1, "PCPCH-ChannelInfo");
-   }
-   /* pcp-Length */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pcp_Length, 0, 1);
-   RT_CHECK(ctx, stat, "PCP-Length", "pcp-Length", -1, "PCPCH-ChannelInfo");
-   /* ucsm-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UCSM_Info(ctx, &pvalue->ucsm_Info);
-      RT_CHECK(ctx, stat, 0, "ucsm-Info", -1, "PCPCH-ChannelInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PCPCH_ChannelInfoList(rtxContext* RT_RESTRICT ctx, PCPCH_ChannelInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PCPCH-ChannelInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PCPCH_ChannelInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PCPCH_ChannelInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PCPCH-ChannelInfo", (int32_t)i, "PCPCH-ChannelInfoList");
-      elem = (PCPCH_ChannelInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PCPCH_ChannelInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PCPCH_ChannelInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PCPCH-ChannelInfo", (int32_t)i, "PCPCH-ChannelInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CPCH_SetInfo(rtxContext* RT_RESTRICT ctx, CPCH_SetInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-SetInfo");
-   /* cpch-SetID */
-   stat = pd_ConsUInt8(ctx, &pvalue->cpch_SetID, 1, 16);
-   RT_CHECK(ctx, stat, "CPCH-SetID", "cpch-SetID", -1, "CPCH-SetInfo");
-   /* transportFormatSet */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "CPCH-SetInfo");
-   /* tfcs */
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->tfcs);
-   RT_CHECK(ctx, stat, 0, "tfcs", -1, "CPCH-SetInfo");
-   /* ap-PreambleScramblingCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->ap_PreambleScramblingCode, 0, 79);
-   RT_CHECK(ctx, stat, "AP-PreambleScramblingCode", "ap-PreambleScramblingCode", -1, "CPCH-SetInfo");
-   /* ap-AICH-ChannelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->ap_AICH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "AP-AICH-ChannelisationCode", "ap-AICH-ChannelisationCode", -1, "CPCH-SetInfo");
-   /* cd-PreambleScramblingCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->cd_PreambleScramblingCode, 0, 79);
-   RT_CHECK(ctx, stat, "CD-PreambleScramblingCode", "cd-PreambleScramblingCode", -1, "CPCH-SetInfo");
-   /* cd-CA-ICH-ChannelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->cd_CA_ICH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "CD-CA-ICH-ChannelisationCode", "cd-CA-ICH-ChannelisationCode", -1, "CPCH-SetInfo");
-   /* cd-AccessSlotSubchannelList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CD_AccessSlotSubchannelList(ctx, &pvalue->cd_AccessSlotSubchannelList);
-      RT_CHECK(ctx, stat, 0, "cd-AccessSlotSubchannelList", -1, "CPCH-SetInfo");
-   }
-   /* cd-SignatureCodeList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CD_SignatureCodeList(ctx, &pvalue->cd_SignatureCodeList);
-      RT_CHECK(ctx, stat, 0, "cd-SignatureCodeList", -1, "CPCH-SetInfo");
-   }
-   /* deltaPp-m */
-   stat = pd_ConsInt8(ctx, &pvalue->deltaPp_m, -10, 10);
-   RT_CHECK(ctx, stat, "DeltaPp-m", "deltaPp-m", -1, "CPCH-SetInfo");
-   /* ul-DPCCH-SlotFormat */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_DPCCH_SlotFormat, 0, 2);
-   RT_CHECK(ctx, stat, "UL-DPCCH-SlotFormat", "ul-DPCCH-SlotFormat", -1, "CPCH-SetInfo");
-   /* n-StartMessage */
-   stat = pd_ConsUInt8(ctx, &pvalue->n_StartMessage, 1, 8);
-   RT_CHECK(ctx, stat, "N-StartMessage", "n-StartMessage", -1, "CPCH-SetInfo");
-   /* n-EOT */
-   stat = pd_ConsUInt8(ctx, &pvalue->n_EOT, 0, 7);
-   RT_CHECK(ctx, stat, "N-EOT", "n-EOT", -1, "CPCH-SetInfo");
-   /* channelAssignmentActive */
-   stat = asn1PD_UMTS_ChannelAssignmentActive(ctx, &pvalue->channelAssignmentActive);
-   RT_CHECK(ctx, stat, 0, "channelAssignmentActive", -1, "CPCH-SetInfo");
-   /* cpch-StatusIndicationMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cpch_StatusIndicationMode, 0, 1);
-   RT_CHECK(ctx, stat, "CPCH-StatusIndicationMode", "cpch-StatusIndicationMode", -1, "CPCH-SetInfo");
-   /* pcpch-ChannelInfoList */
-   stat = asn1PD_UMTS_PCPCH_ChannelInfoList(ctx, &pvalue->pcpch_ChannelInfoList);
-   RT_CHECK(ctx, stat, 0, "pcpch-ChannelInfoList", -1, "CPCH-SetInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_CPCH_SetInfoList(rtxContext* RT_RESTRICT ctx, CPCH_SetInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-SetInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CPCH_SetInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CPCH_SetInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CPCH-SetInfo", (int32_t)i, "CPCH-SetInfoList");
-      elem = (CPCH_SetInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CPCH_SetInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CPCH_SetInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CPCH-SetInfo", (int32_t)i, "CPCH-SetInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CQI_DTX_Timer(rtxContext* RT_RESTRICT ctx, CQI_DTX_Timer* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CQI-DTX-Timer");
-   return 0;
-}
-
-int asn1PD_UMTS_CSICH_PowerOffset(rtxContext* RT_RESTRICT ctx, CSICH_PowerOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -10, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSICH-PowerOffset");
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultDPCH_OffsetValueFDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueFDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 599);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultDPCH-OffsetValueFDD");
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultDPCH_OffsetValueTDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueTDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultDPCH-OffsetValueTDD");
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaSIR(rtxContext* RT_RESTRICT ctx, DeltaSIR* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 30);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaSIR");
-   return 0;
-}
-
-int asn1PD_UMTS_TimeInfo(rtxContext* RT_RESTRICT ctx, TimeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeInfo");
-   /* activationTime */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TimeInfo");
-   }
-   /* durationTimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt16(ctx, &pvalue->durationTimeInfo, 1, 4096);
-      RT_CHECK(ctx, stat, "DurationTimeInfo", "durationTimeInfo", -1, "TimeInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrChTPCList(rtxContext* RT_RESTRICT ctx, UL_CCTrChTPCList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 0, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCTrChTPCList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TFCS_Identity* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_Identity));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TFCS-Identity", (int32_t)i, "UL-CCTrChTPCList");
-      elem = (TFCS_Identity*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TFCS_Identity(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TFCS_Identity(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "TFCS-Identity", (int32_t)i, "UL-CCTrChTPCList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrCh(rtxContext* RT_RESTRICT ctx, DL_CCTrCh* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrCh");
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 3)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh");
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* timeInfo */
-   stat = asn1PD_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh");
-   /* commonTimeslotInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh");
-   }
-   /* dl-CCTrCH-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, "DL-CCTrCh");
-   }
-   /* ul-CCTrChTPCList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrCh_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrCH-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrCh_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrCH-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrCh_r4_tddOption(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (DL_CCTrCh_r4_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r4_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_DL_CCTrCh_r4_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_DL_CCTrCh_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (DL_CCTrCh_r4_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r4_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_DL_CCTrCh_r4_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_CCTrCh_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrCh_r4(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrCh-r4");
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r4");
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* timeInfo */
-   stat = asn1PD_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh-r4");
-   /* commonTimeslotInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh-r4");
-   }
-   /* tddOption */
-   stat = asn1PD_UMTS_DL_CCTrCh_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "DL-CCTrCh-r4");
-   /* ul-CCTrChTPCList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrCH-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes_r7(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrCH-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrCH-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrCh_r7_tddOption(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (DL_CCTrCh_r7_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r7_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_DL_CCTrCh_r7_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (DL_CCTrCh_r7_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r7_tddOption_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_DL_CCTrCh_r7_tddOption_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (DL_CCTrCh_r7_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r7_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_DL_CCTrCh_r7_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrCh_r7(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrCh-r7");
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r7");
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* timeInfo */
-   stat = asn1PD_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh-r7");
-   /* commonTimeslotInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh-r7");
-   }
-   /* tddOption */
-   stat = asn1PD_UMTS_DL_CCTrCh_r7_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "DL-CCTrCh-r7");
-   /* ul-CCTrChTPCList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrChList(rtxContext* RT_RESTRICT ctx, DL_CCTrChList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrChList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_CCTrCh* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_CCTrCh));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-CCTrCh", (int32_t)i, "DL-CCTrChList");
-      elem = (DL_CCTrCh*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_CCTrCh(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_CCTrCh(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-CCTrCh", (int32_t)i, "DL-CCTrChList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrChList_r7(rtxContext* RT_RESTRICT ctx, DL_CCTrChList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrChList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_CCTrCh_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_CCTrCh_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-CCTrCh-r7", (int32_t)i, "DL-CCTrChList-r7");
-      elem = (DL_CCTrCh_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_CCTrCh_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_CCTrCh_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-CCTrCh-r7", (int32_t)i, "DL-CCTrChList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrChList_r4(rtxContext* RT_RESTRICT ctx, DL_CCTrChList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrChList-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_CCTrCh_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_CCTrCh_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-CCTrCh-r4", (int32_t)i, "DL-CCTrChList-r4");
-      elem = (DL_CCTrCh_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_CCTrCh_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_CCTrCh_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-CCTrCh-r4", (int32_t)i, "DL-CCTrChList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CCTrChListToRemove(rtxContext* RT_RESTRICT ctx, DL_CCTrChListToRemove* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrChListToRemove");
-      pvalue->n = raw + 1;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
       if (raw > 7) {
-         rtxErrAddStrParm(ctx, "DL-CCTrChListToRemove");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DL-CCTrChListToRemove");
+         rtxErrAddStrParm(ctx, "memorySize");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
       }
    }
-   for (i = 0; i < pvalue->n; i++) {
+   for (i = 0; i < n; i++) {
       pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 8);
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 60);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "DL-CCTrChListToRemove");
+         RT_FAIL_AT(ctx, cur, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_SF512_AndCodeNumber(rtxContext* RT_RESTRICT ctx, SF512_AndCodeNumber* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit__memorySize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HARQ_Info_r7_memoryPartitioning_explicit__memorySize, pvalue);
+}
+
+RT_MERGED_BODY int dec_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "additionalMemorySizesForMIMO");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 60);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO, pvalue);
+}
+
+RT_MERGED_BODY int dec_HARQ_Info_r7_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit_* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* memorySize */
+   stat = dec_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(ctx, &pvalue->memorySize, cur);
+   RT_CHECK(ctx, stat, 0, "memorySize", -1, 0);
+   /* additionalMemorySizesForMIMO */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(ctx, &pvalue->additionalMemorySizesForMIMO, cur);
+      RT_CHECK(ctx, stat, 0, "additionalMemorySizesForMIMO", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit_* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HARQ_Info_r7_memoryPartitioning_explicit_, pvalue);
+}
+
+RT_MERGED_BODY int dec_HARQ_Info_r7_memoryPartitioning(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF512-AndCodeNumber");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* sf4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf4, 0, 3);
-         RT_CHECK(ctx, stat, 0, "sf4", -1, "SF512-AndCodeNumber");
+      case 0: /* implicit */
          break;
-      case 1: /* sf8 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf8, 0, 7);
-         RT_CHECK(ctx, stat, 0, "sf8", -1, "SF512-AndCodeNumber");
-         break;
-      case 2: /* sf16 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf16, 0, 15);
-         RT_CHECK(ctx, stat, 0, "sf16", -1, "SF512-AndCodeNumber");
-         break;
-      case 3: /* sf32 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf32, 0, 31);
-         RT_CHECK(ctx, stat, 0, "sf32", -1, "SF512-AndCodeNumber");
-         break;
-      case 4: /* sf64 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf64, 0, 63);
-         RT_CHECK(ctx, stat, 0, "sf64", -1, "SF512-AndCodeNumber");
-         break;
-      case 5: /* sf128 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf128, 0, 127);
-         RT_CHECK(ctx, stat, 0, "sf128", -1, "SF512-AndCodeNumber");
-         break;
-      case 6: /* sf256 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf256, 0, 255);
-         RT_CHECK(ctx, stat, 0, "sf256", -1, "SF512-AndCodeNumber");
-         break;
-      case 7: /* sf512 */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.sf512, 0, 511);
-         RT_CHECK(ctx, stat, 0, "sf512", -1, "SF512-AndCodeNumber");
+      case 1: /* explicit */
+         pvalue->u.explicit_ = (HARQ_Info_r7_memoryPartitioning_explicit_*)rtxMemHeapAlloc(ctx, sizeof(HARQ_Info_r7_memoryPartitioning_explicit_));
+         if (pvalue->u.explicit_ == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit", -1, 0);
+         asn1Init_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(pvalue->u.explicit_);
+         stat = dec_HARQ_Info_r7_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_, cur);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SF512-AndCodeNumber");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_ScramblingCodeChange(rtxContext* RT_RESTRICT ctx, ScramblingCodeChange* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ScramblingCodeChange");
+   RT_DECODE_ENTRY(ctx, dec_HARQ_Info_r7_memoryPartitioning, pvalue);
+}
+
+RT_MERGED_BODY int dec_HARQ_Info_r7(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* numberOfProcesses */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->numberOfProcesses, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numberOfProcesses", -1, "HARQ-Info-r7");
+   /* memoryPartitioning */
+   stat = dec_HARQ_Info_r7_memoryPartitioning(ctx, &pvalue->memoryPartitioning, cur);
+   RT_CHECK(ctx, stat, 0, "memoryPartitioning", -1, "HARQ-Info-r7");
    return 0;
 }
 
-int asn1PD_UMTS_DL_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_ChannelisationCode* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HARQ_Info_r7(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HARQ_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_Serving_HSDSCH_CellInformation_r7(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-ChannelisationCode");
-   /* secondaryScramblingCode */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-ChannelisationCode");
-   }
-   /* sf-AndCodeNumber */
-   stat = asn1PD_UMTS_SF512_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, "DL-ChannelisationCode");
-   /* scramblingCodeChange */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->scramblingCodeChange, 0, 1);
-      RT_CHECK(ctx, stat, "ScramblingCodeChange", "scramblingCodeChange", -1, "DL-ChannelisationCode");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, DL_ChannelisationCodeList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-ChannelisationCodeList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_ChannelisationCode* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_ChannelisationCode));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-ChannelisationCode", (int32_t)i, "DL-ChannelisationCodeList");
-      elem = (DL_ChannelisationCode*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_ChannelisationCode(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_ChannelisationCode(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-ChannelisationCode", (int32_t)i, "DL-ChannelisationCodeList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_cfnHandling_initialise* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 0, 255);
-      RT_CHECK(ctx, stat, "Cfntargetsfnframeoffset", "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_cfnHandling* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* maintain */
-         break;
-      case 1: /* initialise */
-         pvalue->u.initialise = (DL_DPCH_InfoCommon_cfnHandling_initialise*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_cfnHandling_initialise));
-         if (pvalue->u.initialise == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "initialise", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(pvalue->u.initialise);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(ctx, pvalue->u.initialise);
-         RT_CHECK(ctx, stat, 0, "initialise", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DPC_Mode(rtxContext* RT_RESTRICT ctx, DPC_Mode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DPC-Mode");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dpc-Mode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tpc-StepSizeTDD */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSizeTDD, 1, 3);
-      RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-PowerControlInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_PowerOffsetPilot_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetPilot_pdpdch* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetPilot-pdpdch");
-   return 0;
-}
-
-int asn1PD_UMTS_RestrictedTrCH(rtxContext* RT_RESTRICT ctx, RestrictedTrCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dl-restrictedTrCh-Type */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_restrictedTrCh_Type, 0, 1);
-   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-restrictedTrCh-Type", -1, "RestrictedTrCH");
-   /* restrictedDL-TrCH-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->restrictedDL_TrCH_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "restrictedDL-TrCH-Identity", -1, "RestrictedTrCH");
-   /* allowedTFIList */
-   stat = asn1PD_UMTS_AllowedTFI_List(ctx, &pvalue->allowedTFIList);
-   RT_CHECK(ctx, stat, 0, "allowedTFIList", -1, "RestrictedTrCH");
-   return 0;
-}
-
-int asn1PD_UMTS_RestrictedTrCH_InfoList(rtxContext* RT_RESTRICT ctx, RestrictedTrCH_InfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RestrictedTrCH-InfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RestrictedTrCH* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RestrictedTrCH));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RestrictedTrCH", (int32_t)i, "RestrictedTrCH-InfoList");
-      elem = (RestrictedTrCH*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RestrictedTrCH(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RestrictedTrCH(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RestrictedTrCH", (int32_t)i, "RestrictedTrCH-InfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Dl_rate_matching_restriction(rtxContext* RT_RESTRICT ctx, Dl_rate_matching_restriction* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Dl-rate-matching-restriction");
-   /* restrictedTrCH-InfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RestrictedTrCH_InfoList(ctx, &pvalue->restrictedTrCH_InfoList);
-      RT_CHECK(ctx, stat, 0, "restrictedTrCH-InfoList", -1, "Dl-rate-matching-restriction");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-DPCH-PowerControlInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
-   }
-   /* powerOffsetPilot-pdpdch */
-   stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetPilot_pdpdch, 0, 24);
-   RT_CHECK(ctx, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
-   /* dl-rate-matching-restriction */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction);
-      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
-   }
-   /* spreadingFactorAndPilot */
-   stat = asn1PD_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
-   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
-   /* positionFixedOrFlexible */
-   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-DPCH-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_DPCH_InfoCommon_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_DPCH_InfoCommon_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cfnHandling */
-   stat = asn1PD_UMTS_DL_DPCH_InfoCommon_cfnHandling(ctx, &pvalue->cfnHandling);
-   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon");
-   return 0;
-}
-
-int asn1PD_UMTS_TGCFN(rtxContext* RT_RESTRICT ctx, TGCFN* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGCFN");
-   return 0;
-}
-
-int asn1PD_UMTS_TGP_Sequence_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_Sequence_tgps_Status_activate* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tgcfn */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgcfn, 0, 255);
-   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_TGP_Sequence_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_Sequence_tgps_Status* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* activate */
-         pvalue->u.activate = (TGP_Sequence_tgps_Status_activate*)rtxMemHeapAllocZ(ctx, sizeof(TGP_Sequence_tgps_Status_activate));
-         if (pvalue->u.activate == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "activate", -1, 0);
-         stat = asn1PD_UMTS_TGP_Sequence_tgps_Status_activate(ctx, pvalue->u.activate);
-         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
-         break;
-      case 1: /* deactivate */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TGMP(rtxContext* RT_RESTRICT ctx, TGMP* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGMP");
-   return 0;
-}
-
-int asn1PD_UMTS_TGPRC(rtxContext* RT_RESTRICT ctx, TGPRC* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 511);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGPRC");
-   return 0;
-}
-
-int asn1PD_UMTS_TGSN(rtxContext* RT_RESTRICT ctx, TGSN* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGSN");
-   return 0;
-}
-
-int asn1PD_UMTS_TGL(rtxContext* RT_RESTRICT ctx, TGL* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGL");
-   return 0;
-}
-
-int asn1PD_UMTS_TGD(rtxContext* RT_RESTRICT ctx, TGD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 15, 270);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGD");
-   return 0;
-}
-
-int asn1PD_UMTS_TGPL(rtxContext* RT_RESTRICT ctx, TGPL* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 144);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGPL");
-   return 0;
-}
-
-int asn1PD_UMTS_RPP(rtxContext* RT_RESTRICT ctx, RPP* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RPP");
-   return 0;
-}
-
-int asn1PD_UMTS_ITP(rtxContext* RT_RESTRICT ctx, ITP* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ITP");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, UL_CompressedModeMethod* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CompressedModeMethod");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, DL_CompressedModeMethod* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CompressedModeMethod");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DL_Mode_ul_and_dl(rtxContext* RT_RESTRICT ctx, UL_DL_Mode_ul_and_dl* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul, 0, 1);
-   RT_CHECK(ctx, stat, "UL-CompressedModeMethod", "ul", -1, 0);
-   /* dl */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl, 0, 2);
-   RT_CHECK(ctx, stat, "DL-CompressedModeMethod", "dl", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DL_Mode(rtxContext* RT_RESTRICT ctx, UL_DL_Mode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DL-Mode");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ul */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.ul, 0, 1);
-         RT_CHECK(ctx, stat, "UL-CompressedModeMethod", "ul", -1, "UL-DL-Mode");
-         break;
-      case 1: /* dl */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.dl, 0, 2);
-         RT_CHECK(ctx, stat, "DL-CompressedModeMethod", "dl", -1, "UL-DL-Mode");
-         break;
-      case 2: /* ul-and-dl */
-         pvalue->u.ul_and_dl = (UL_DL_Mode_ul_and_dl*)rtxMemHeapAllocZ(ctx, sizeof(UL_DL_Mode_ul_and_dl));
-         if (pvalue->u.ul_and_dl == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-and-dl", -1, "UL-DL-Mode");
-         stat = asn1PD_UMTS_UL_DL_Mode_ul_and_dl(ctx, pvalue->u.ul_and_dl);
-         RT_CHECK(ctx, stat, 0, "ul-and-dl", -1, "UL-DL-Mode");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DL-Mode");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_FrameType(rtxContext* RT_RESTRICT ctx, DL_FrameType* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FrameType");
-   return 0;
-}
-
-int asn1PD_UMTS_NidentifyAbort(rtxContext* RT_RESTRICT ctx, NidentifyAbort* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 128);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NidentifyAbort");
-   return 0;
-}
-
-int asn1PD_UMTS_TreconfirmAbort(rtxContext* RT_RESTRICT ctx, TreconfirmAbort* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TreconfirmAbort");
-   return 0;
-}
-
-int asn1PD_UMTS_TGPS_ConfigurationParams(rtxContext* RT_RESTRICT ctx, TGPS_ConfigurationParams* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGPS-ConfigurationParams");
-   /* tgmp */
-   stat = pd_ConsUnsigned(ctx, &pvalue->tgmp, 0, 5);
-   RT_CHECK(ctx, stat, "TGMP", "tgmp", -1, "TGPS-ConfigurationParams");
-   /* tgprc */
-   stat = pd_ConsUInt16(ctx, &pvalue->tgprc, 0, 511);
-   RT_CHECK(ctx, stat, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams");
-   /* tgsn */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgsn, 0, 14);
-   RT_CHECK(ctx, stat, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams");
-   /* tgl1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgl1, 1, 14);
-   RT_CHECK(ctx, stat, "TGL", "tgl1", -1, "TGPS-ConfigurationParams");
-   /* tgl2 */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r7");
+   /* deltaACK */
    if (present & ((uint32_t)1 << 5)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->tgl2, 1, 14);
-      RT_CHECK(ctx, stat, "TGL", "tgl2", -1, "TGPS-ConfigurationParams");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r7");
    }
-   /* tgd */
-   stat = pd_ConsUInt16(ctx, &pvalue->tgd, 15, 270);
-   RT_CHECK(ctx, stat, "TGD", "tgd", -1, "TGPS-ConfigurationParams");
-   /* tgpl1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgpl1, 1, 144);
-   RT_CHECK(ctx, stat, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams");
-   /* dummy */
+   /* deltaNACK */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 1, 144);
-      RT_CHECK(ctx, stat, "TGPL", "dummy", -1, "TGPS-ConfigurationParams");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r7");
    }
-   /* rpp */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rpp, 0, 1);
-   RT_CHECK(ctx, stat, "RPP", "rpp", -1, "TGPS-ConfigurationParams");
-   /* itp */
-   stat = pd_ConsUnsigned(ctx, &pvalue->itp, 0, 1);
-   RT_CHECK(ctx, stat, "ITP", "itp", -1, "TGPS-ConfigurationParams");
-   /* ul-DL-Mode */
-   stat = asn1PD_UMTS_UL_DL_Mode(ctx, &pvalue->ul_DL_Mode);
-   RT_CHECK(ctx, stat, 0, "ul-DL-Mode", -1, "TGPS-ConfigurationParams");
-   /* dl-FrameType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_FrameType, 0, 1);
-   RT_CHECK(ctx, stat, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams");
-   /* deltaSIR1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->deltaSIR1, 0, 30);
-   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams");
-   /* deltaSIRAfter1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->deltaSIRAfter1, 0, 30);
-   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams");
-   /* deltaSIR2 */
+   /* harq-Preamble-Mode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r7");
+   /* primaryCPICH-Info */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaSIR2, 0, 30);
-      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams");
+      stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r7");
    }
-   /* deltaSIRAfter2 */
+   /* dl-hspdsch-Information */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaSIRAfter2, 0, 30);
-      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams");
+      stat = dec_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_hspdsch_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r7");
    }
-   /* nidentifyAbort */
+   /* harqInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->nidentifyAbort, 1, 128);
-      RT_CHECK(ctx, stat, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams");
+      stat = dec_HARQ_Info_r7(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r7");
    }
-   /* treconfirmAbort */
+   /* mac-hsResetIndicator */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->treconfirmAbort, 1, 20);
-      RT_CHECK(ctx, stat, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TGP_Sequence(rtxContext* RT_RESTRICT ctx, TGP_Sequence* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGP-Sequence");
-   /* tgpsi */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgpsi, 1, 6);
-   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "TGP-Sequence");
-   /* tgps-Status */
-   stat = asn1PD_UMTS_TGP_Sequence_tgps_Status(ctx, &pvalue->tgps_Status);
-   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-Sequence");
-   /* tgps-ConfigurationParams */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TGPS_ConfigurationParams(ctx, &pvalue->tgps_ConfigurationParams);
-      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "TGP-Sequence");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TGP_SequenceList(rtxContext* RT_RESTRICT ctx, TGP_SequenceList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGP-SequenceList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TGP_Sequence* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TGP_Sequence));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TGP-Sequence", (int32_t)i, "TGP-SequenceList");
-      elem = (TGP_Sequence*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TGP_Sequence(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TGP_Sequence(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "TGP-Sequence", (int32_t)i, "TGP-SequenceList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DPCH_CompressedModeInfo(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tgp-SequenceList */
-   stat = asn1PD_UMTS_TGP_SequenceList(ctx, &pvalue->tgp_SequenceList);
-   RT_CHECK(ctx, stat, 0, "tgp-SequenceList", -1, "DPCH-CompressedModeInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_TX_DiversityMode(rtxContext* RT_RESTRICT ctx, TX_DiversityMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TX-DiversityMode");
-   return 0;
-}
-
-int asn1PD_UMTS_S_Field(rtxContext* RT_RESTRICT ctx, S_Field* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "S-Field");
-   return 0;
-}
-
-int asn1PD_UMTS_SSDT_Information(rtxContext* RT_RESTRICT ctx, SSDT_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* s-Field */
-   stat = pd_ConsUnsigned(ctx, &pvalue->s_Field, 0, 1);
-   RT_CHECK(ctx, stat, "S-Field", "s-Field", -1, "SSDT-Information");
-   /* codeWordSet */
-   stat = pd_ConsUnsigned(ctx, &pvalue->codeWordSet, 0, 3);
-   RT_CHECK(ctx, stat, "CodeWordSet", "codeWordSet", -1, "SSDT-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 599);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   /* dpch-CompressedModeInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_SSDT_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 7);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_CommonInformation_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_CommonInformation_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation(rtxContext* RT_RESTRICT ctx, DL_CommonInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation");
-   /* dl-DPCH-InfoCommon */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_InfoCommon(ctx, &pvalue->dl_DPCH_InfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_cfnHandling_initialise* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 0, 255);
-      RT_CHECK(ctx, stat, "Cfntargetsfnframeoffset", "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_cfnHandling* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* maintain */
-         break;
-      case 1: /* initialise */
-         pvalue->u.initialise = (DL_DPCH_InfoCommon_r4_cfnHandling_initialise*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r4_cfnHandling_initialise));
-         if (pvalue->u.initialise == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "initialise", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(pvalue->u.initialise);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(ctx, pvalue->u.initialise);
-         RT_CHECK(ctx, stat, 0, "initialise", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-DPCH-PowerControlInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
-   }
-   /* powerOffsetPilot-pdpdch */
-   stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetPilot_pdpdch, 0, 24);
-   RT_CHECK(ctx, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
-   /* dl-rate-matching-restriction */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction);
-      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
-   }
-   /* spreadingFactorAndPilot */
-   stat = asn1PD_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
-   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
-   /* positionFixedOrFlexible */
-   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-DPCH-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoCommon-r4");
-   /* cfnHandling */
-   stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling(ctx, &pvalue->cfnHandling);
-   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon-r4");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon-r4");
-   /* mac-d-HFN-initial-value */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MAC_d_HFN_initial_value(ctx, &pvalue->mac_d_HFN_initial_value);
-      RT_CHECK(ctx, stat, 0, "mac-d-HFN-initial-value", -1, "DL-DPCH-InfoCommon-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SSDT_UL(rtxContext* RT_RESTRICT ctx, SSDT_UL* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SSDT-UL");
-   return 0;
-}
-
-int asn1PD_UMTS_SSDT_Information_r4(rtxContext* RT_RESTRICT ctx, SSDT_Information_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SSDT-Information-r4");
-   /* s-Field */
-   stat = pd_ConsUnsigned(ctx, &pvalue->s_Field, 0, 1);
-   RT_CHECK(ctx, stat, "S-Field", "s-Field", -1, "SSDT-Information-r4");
-   /* codeWordSet */
-   stat = pd_ConsUnsigned(ctx, &pvalue->codeWordSet, 0, 3);
-   RT_CHECK(ctx, stat, "CodeWordSet", "codeWordSet", -1, "SSDT-Information-r4");
-   /* ssdt-UL-r4 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->ssdt_UL_r4, 0, 1);
-      RT_CHECK(ctx, stat, "SSDT-UL", "ssdt-UL-r4", -1, "SSDT-Information-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 599);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   /* dpch-CompressedModeInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_SSDT_Information_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tstd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         stat = asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 7);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_CommonInformation_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_CommonInformation_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r4(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r4");
-   /* dl-DPCH-InfoCommon */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4(ctx, &pvalue->dl_DPCH_InfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation-r4");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 599);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   /* dpch-CompressedModeInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_SSDT_Information_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tstd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         stat = asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 7);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_CommonInformation_r5_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r5_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_CommonInformation_r5_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r5_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r5_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_mac_hsResetIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r5(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r5");
-   /* dl-DPCH-InfoCommon */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4(ctx, &pvalue->dl_DPCH_InfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation-r5");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r5");
-   /* mac-hsResetIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r5");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r7");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r5");
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r7");
          pvalue->mac_hsResetIndicator = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_TimingMaintainedSynchInd(rtxContext* RT_RESTRICT ctx, TimingMaintainedSynchInd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r7(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "TimingMaintainedSynchInd");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "TimingMaintainedSynchInd");
-      *pvalue = ui;
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_Serving_HSDSCH_CellInformation_r7, pvalue);
 }
 
-int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timingmaintainedsynchind */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
-         pvalue->timingmaintainedsynchind = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* maintain */
-         pvalue->u.maintain = (DL_DPCH_InfoCommon_r6_cfnHandling_maintain*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6_cfnHandling_maintain));
-         if (pvalue->u.maintain == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "maintain", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(pvalue->u.maintain);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(ctx, pvalue->u.maintain);
-         RT_CHECK(ctx, stat, 0, "maintain", -1, 0);
-         break;
-      case 1: /* initialise */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-DPCH-PowerControlInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
-   }
-   /* powerOffsetPilot-pdpdch */
-   stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetPilot_pdpdch, 0, 24);
-   RT_CHECK(ctx, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
-   /* dl-rate-matching-restriction */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction);
-      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
-   }
-   /* spreadingFactorAndPilot */
-   stat = asn1PD_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
-   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
-   /* positionFixedOrFlexible */
-   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-DPCH-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoCommon-r6");
-   /* cfnHandling */
-   stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling(ctx, &pvalue->cfnHandling);
-   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon-r6");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon-r6");
-   /* mac-d-HFN-initial-value */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MAC_d_HFN_initial_value(ctx, &pvalue->mac_d_HFN_initial_value);
-      RT_CHECK(ctx, stat, 0, "mac-d-HFN-initial-value", -1, "DL-DPCH-InfoCommon-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timingmaintainedsynchind */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
-         pvalue->timingmaintainedsynchind = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* maintain */
-         pvalue->u.maintain = (DL_FDPCH_InfoCommon_r6_cfnHandling_maintain*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoCommon_r6_cfnHandling_maintain));
-         if (pvalue->u.maintain == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "maintain", -1, 0);
-         asn1Init_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(pvalue->u.maintain);
-         stat = asn1PD_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(ctx, pvalue->u.maintain);
-         RT_CHECK(ctx, stat, 0, "maintain", -1, 0);
-         break;
-      case 1: /* initialise */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_FDPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FDPCH-InfoCommon-r6");
-   /* cfnHandling */
-   stat = asn1PD_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling(ctx, &pvalue->cfnHandling);
-   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-FDPCH-InfoCommon-r6");
-   /* dl-FDPCH-PowerControlInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_FDPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-FDPCH-PowerControlInfo", -1, "DL-FDPCH-InfoCommon-r6");
-   }
-   /* dl-FDPCH-TPCcommandErrorRate */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 16);
-      RT_CHECK(ctx, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "DL-FDPCH-InfoCommon-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r6_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_dl_dpchInfoCommon* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-DPCH-InfoCommon */
-         pvalue->u.dl_DPCH_InfoCommon = (DL_DPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6));
-         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoCommon", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommon_r6(pvalue->u.dl_DPCH_InfoCommon);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
-         break;
-      case 1: /* dl-FDPCH-InfoCommon */
-         pvalue->u.dl_FDPCH_InfoCommon = (DL_FDPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoCommon_r6));
-         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoCommon", -1, 0);
-         asn1Init_UMTS_DL_FDPCH_InfoCommon_r6(pvalue->u.dl_FDPCH_InfoCommon);
-         stat = asn1PD_UMTS_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 599);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   /* dpch-CompressedModeInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tstd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         stat = asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 7);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_CommonInformation_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r6_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_CommonInformation_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r6_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r6_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_mac_hsResetIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r6_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_postVerificationPeriod* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r6(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r6");
-   /* dl-dpchInfoCommon */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r6_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r6");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r6");
-   /* mac-hsResetIndicator */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r6");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r6");
-         pvalue->mac_hsResetIndicator = ui;
-      }
-   }
-   /* postVerificationPeriod */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r6");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r6");
-         pvalue->postVerificationPeriod = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r7_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_dl_dpchInfoCommon* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-DPCH-InfoCommon */
-         pvalue->u.dl_DPCH_InfoCommon = (DL_DPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6));
-         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoCommon", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommon_r6(pvalue->u.dl_DPCH_InfoCommon);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
-         break;
-      case 1: /* dl-FDPCH-InfoCommon */
-         pvalue->u.dl_FDPCH_InfoCommon = (DL_FDPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoCommon_r6));
-         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoCommon", -1, 0);
-         asn1Init_UMTS_DL_FDPCH_InfoCommon_r6(pvalue->u.dl_FDPCH_InfoCommon);
-         stat = asn1PD_UMTS_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 599);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   /* dpch-CompressedModeInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tstd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         break;
-      case 1: /* tdd768 */
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         stat = asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 7);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_CommonInformation_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_CommonInformation_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_CommonInformation_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r7_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_mac_hsResetIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r7_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_postVerificationPeriod* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r7(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r7");
-   /* dl-dpchInfoCommon */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r7_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r7");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r7");
-   /* mac-hsResetIndicator */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r7");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r7");
-         pvalue->mac_hsResetIndicator = ui;
-      }
-   }
-   /* postVerificationPeriod */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r7");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r7");
-         pvalue->postVerificationPeriod = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r8_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_dl_dpchInfoCommon* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-DPCH-InfoCommon */
-         pvalue->u.dl_DPCH_InfoCommon = (DL_DPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6));
-         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoCommon", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoCommon_r6(pvalue->u.dl_DPCH_InfoCommon);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
-         break;
-      case 1: /* dl-FDPCH-InfoCommon */
-         pvalue->u.dl_FDPCH_InfoCommon = (DL_FDPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoCommon_r6));
-         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoCommon", -1, 0);
-         asn1Init_UMTS_DL_FDPCH_InfoCommon_r6(pvalue->u.dl_FDPCH_InfoCommon);
-         stat = asn1PD_UMTS_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TGP_Sequence_r8_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8_tgps_Status_activate* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tgcfn */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgcfn, 0, 255);
-   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_TGP_Sequence_r8_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8_tgps_Status* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* activate */
-         pvalue->u.activate = (TGP_Sequence_r8_tgps_Status_activate*)rtxMemHeapAllocZ(ctx, sizeof(TGP_Sequence_r8_tgps_Status_activate));
-         if (pvalue->u.activate == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "activate", -1, 0);
-         stat = asn1PD_UMTS_TGP_Sequence_r8_tgps_Status_activate(ctx, pvalue->u.activate);
-         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
-         break;
-      case 1: /* deactivate */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TGMP_r8(rtxContext* RT_RESTRICT ctx, TGMP_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGMP-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_TGPS_ConfigurationParams_r8(rtxContext* RT_RESTRICT ctx, TGPS_ConfigurationParams_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGPS-ConfigurationParams-r8");
-   /* tgmp */
-   stat = pd_ConsUnsigned(ctx, &pvalue->tgmp, 0, 7);
-   RT_CHECK(ctx, stat, "TGMP-r8", "tgmp", -1, "TGPS-ConfigurationParams-r8");
-   /* tgprc */
-   stat = pd_ConsUInt16(ctx, &pvalue->tgprc, 0, 511);
-   RT_CHECK(ctx, stat, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams-r8");
-   /* tgsn */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgsn, 0, 14);
-   RT_CHECK(ctx, stat, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams-r8");
-   /* tgl1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgl1, 1, 14);
-   RT_CHECK(ctx, stat, "TGL", "tgl1", -1, "TGPS-ConfigurationParams-r8");
-   /* tgl2 */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->tgl2, 1, 14);
-      RT_CHECK(ctx, stat, "TGL", "tgl2", -1, "TGPS-ConfigurationParams-r8");
-   }
-   /* tgd */
-   stat = pd_ConsUInt16(ctx, &pvalue->tgd, 15, 270);
-   RT_CHECK(ctx, stat, "TGD", "tgd", -1, "TGPS-ConfigurationParams-r8");
-   /* tgpl1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgpl1, 1, 144);
-   RT_CHECK(ctx, stat, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams-r8");
-   /* rpp */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rpp, 0, 1);
-   RT_CHECK(ctx, stat, "RPP", "rpp", -1, "TGPS-ConfigurationParams-r8");
-   /* itp */
-   stat = pd_ConsUnsigned(ctx, &pvalue->itp, 0, 1);
-   RT_CHECK(ctx, stat, "ITP", "itp", -1, "TGPS-ConfigurationParams-r8");
-   /* ul-DL-Mode */
-   stat = asn1PD_UMTS_UL_DL_Mode(ctx, &pvalue->ul_DL_Mode);
-   RT_CHECK(ctx, stat, 0, "ul-DL-Mode", -1, "TGPS-ConfigurationParams-r8");
-   /* dl-FrameType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_FrameType, 0, 1);
-   RT_CHECK(ctx, stat, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams-r8");
-   /* deltaSIR1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->deltaSIR1, 0, 30);
-   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams-r8");
-   /* deltaSIRAfter1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->deltaSIRAfter1, 0, 30);
-   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams-r8");
-   /* deltaSIR2 */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaSIR2, 0, 30);
-      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams-r8");
-   }
-   /* deltaSIRAfter2 */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaSIRAfter2, 0, 30);
-      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams-r8");
-   }
-   /* nidentifyAbort */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->nidentifyAbort, 1, 128);
-      RT_CHECK(ctx, stat, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams-r8");
-   }
-   /* treconfirmAbort */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->treconfirmAbort, 1, 20);
-      RT_CHECK(ctx, stat, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TGP_Sequence_r8(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGP-Sequence-r8");
-   /* tgpsi */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgpsi, 1, 6);
-   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "TGP-Sequence-r8");
-   /* tgps-Status */
-   stat = asn1PD_UMTS_TGP_Sequence_r8_tgps_Status(ctx, &pvalue->tgps_Status);
-   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-Sequence-r8");
-   /* tgps-ConfigurationParams */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TGPS_ConfigurationParams_r8(ctx, &pvalue->tgps_ConfigurationParams);
-      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "TGP-Sequence-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TGP_SequenceList_r8(rtxContext* RT_RESTRICT ctx, TGP_SequenceList_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGP-SequenceList-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TGP_Sequence_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TGP_Sequence_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TGP-Sequence-r8", (int32_t)i, "TGP-SequenceList-r8");
-      elem = (TGP_Sequence_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TGP_Sequence_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TGP_Sequence_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "TGP-Sequence-r8", (int32_t)i, "TGP-SequenceList-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DPCH_CompressedModeInfo_r8(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeInfo_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tgp-SequenceList */
-   stat = asn1PD_UMTS_TGP_SequenceList_r8(ctx, &pvalue->tgp_SequenceList);
-   RT_CHECK(ctx, stat, 0, "tgp-SequenceList", -1, "DPCH-CompressedModeInfo-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 599);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   /* dpch-CompressedModeInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeInfo_r8(ctx, &pvalue->dpch_CompressedModeInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tstd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         break;
-      case 1: /* tdd768 */
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         stat = asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 7);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_CommonInformation_r8_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r8_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_CommonInformation_r8_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_CommonInformation_r8_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r8_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_mac_hsResetIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r8_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_postVerificationPeriod* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformation_r8(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r8");
-   /* dl-dpchInfoCommon */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r8");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r8");
-   /* mac-hsResetIndicator */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r8");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r8");
-         pvalue->mac_hsResetIndicator = ui;
-      }
-   }
-   /* postVerificationPeriod */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r8");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r8");
-         pvalue->postVerificationPeriod = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommonPost(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPost* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoCommonPost");
-   /* dl-DPCH-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, "DL-DPCH-InfoCommonPost");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformationPost(rtxContext* RT_RESTRICT ctx, DL_CommonInformationPost* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dl-DPCH-InfoCommon */
-   stat = asn1PD_UMTS_DL_DPCH_InfoCommonPost(ctx, &pvalue->dl_DPCH_InfoCommon);
-   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformationPost");
-   return 0;
-}
-
-int asn1PD_UMTS_SSDT_CellIdentity(rtxContext* RT_RESTRICT ctx, SSDT_CellIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SSDT-CellIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pCPICH-UsageForChannelEst */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   /* dpch-FrameOffset */
-   stat = pd_ConsUInt8(ctx, &pvalue->dpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   /* secondaryCPICH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
-   }
-   /* dl-ChannelisationCodeList */
-   stat = asn1PD_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
-   /* tpc-CombinationIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 7);
-      RT_CHECK(ctx, stat, "SSDT-CellIdentity", "dummy", -1, 0);
-   }
-   /* closedLoopTimingAdjMode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->closedLoopTimingAdjMode, 0, 1);
-      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrChListToEstablish */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CCTrChList(ctx, &pvalue->dl_CCTrChListToEstablish);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
-   }
-   /* dl-CCTrChListToRemove */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoPerRL");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_DPCH_InfoPerRL_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL");
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_DPCH_InfoPerRL_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL");
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_r4_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pCPICH-UsageForChannelEst */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   /* dpch-FrameOffset */
-   stat = pd_ConsUInt8(ctx, &pvalue->dpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   /* secondaryCPICH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
-   }
-   /* dl-ChannelisationCodeList */
-   stat = asn1PD_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
-   /* tpc-CombinationIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 7);
-      RT_CHECK(ctx, stat, "SSDT-CellIdentity", "dummy", -1, 0);
-   }
-   /* closedLoopTimingAdjMode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->closedLoopTimingAdjMode, 0, 1);
-      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_r4_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrChListToEstablish */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
-   }
-   /* dl-CCTrChListToRemove */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoPerRL-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_DPCH_InfoPerRL_r4_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r4_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r4");
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r4_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r4_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r4");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_DPCH_InfoPerRL_r4_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r4_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r4");
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r4_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r4_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PowerOffsetTPC_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetTPC_pdpdch* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetTPC-pdpdch");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_r5_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pCPICH-UsageForChannelEst */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   /* dpch-FrameOffset */
-   stat = pd_ConsUInt8(ctx, &pvalue->dpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   /* secondaryCPICH-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
-   }
-   /* dl-ChannelisationCodeList */
-   stat = asn1PD_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
-   /* tpc-CombinationIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   /* powerOffsetTPC-pdpdch */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetTPC_pdpdch, 0, 24);
-      RT_CHECK(ctx, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 7);
-      RT_CHECK(ctx, stat, "SSDT-CellIdentity", "dummy", -1, 0);
-   }
-   /* closedLoopTimingAdjMode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->closedLoopTimingAdjMode, 0, 1);
-      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_r5_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrChListToEstablish */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
-   }
-   /* dl-CCTrChListToRemove */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_r5(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoPerRL-r5");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_DPCH_InfoPerRL_r5_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r5");
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r5_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r5");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_DPCH_InfoPerRL_r5_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r5");
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r5_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r5");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_r6_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pCPICH-UsageForChannelEst */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   /* dpch-FrameOffset */
-   stat = pd_ConsUInt8(ctx, &pvalue->dpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   /* secondaryCPICH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
-   }
-   /* dl-ChannelisationCodeList */
-   stat = asn1PD_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
-   /* tpc-CombinationIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   /* powerOffsetTPC-pdpdch */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetTPC_pdpdch, 0, 24);
-      RT_CHECK(ctx, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
-   }
-   /* closedLoopTimingAdjMode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->closedLoopTimingAdjMode, 0, 1);
-      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_r6_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrChListToEstablish */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
-   }
-   /* dl-CCTrChListToRemove */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoPerRL-r6");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_DPCH_InfoPerRL_r6_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r6_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r6");
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r6_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r6_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r6");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_DPCH_InfoPerRL_r6_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r6_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r6");
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r6_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r6_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r6");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_r7_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pCPICH-UsageForChannelEst */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   /* dpch-FrameOffset */
-   stat = pd_ConsUInt8(ctx, &pvalue->dpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   /* secondaryCPICH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
-   }
-   /* dl-ChannelisationCodeList */
-   stat = asn1PD_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
-   /* tpc-CombinationIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   /* powerOffsetTPC-pdpdch */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetTPC_pdpdch, 0, 24);
-      RT_CHECK(ctx, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
-   }
-   /* closedLoopTimingAdjMode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->closedLoopTimingAdjMode, 0, 1);
-      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_r7_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrChListToEstablish */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CCTrChList_r7(ctx, &pvalue->dl_CCTrChListToEstablish);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
-   }
-   /* dl-CCTrChListToRemove */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoPerRL-r7");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_DPCH_InfoPerRL_r7_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r7_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r7");
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r7_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r7_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r7");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_DPCH_InfoPerRL_r7_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r7_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r7");
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r7_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r7_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r7");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_FDPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoPerRL_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FDPCH-InfoPerRL-r6");
-   /* pCPICH-UsageForChannelEst */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r6");
-   /* fdpch-FrameOffset */
-   stat = pd_ConsUInt8(ctx, &pvalue->fdpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r6");
-   /* secondaryCPICH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, "DL-FDPCH-InfoPerRL-r6");
-   }
-   /* secondaryScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r6");
-   }
-   /* dl-ChannelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCode", -1, "DL-FDPCH-InfoPerRL-r6");
-   /* tpc-CombinationIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pCPICH-UsageForChannelEst */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-DPCH-InfoPerRL-PostFDD");
-   /* dl-ChannelisationCode */
-   stat = asn1PD_UMTS_DL_ChannelisationCode(ctx, &pvalue->dl_ChannelisationCode);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCode", -1, "DL-DPCH-InfoPerRL-PostFDD");
-   /* tpc-CombinationIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-DPCH-InfoPerRL-PostFDD");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dl-DPCH-TimeslotsCodes */
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->dl_DPCH_TimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "dl-DPCH-TimeslotsCodes", -1, "DL-DPCH-InfoPerRL-PostTDD");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dl-CCTrCH-TimeslotsCodes */
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, "DL-DPCH-InfoPerRL-PostTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
-   /* dl-ScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD384_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
-      elem = (HS_SCCH_TDD384_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD384_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD384_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* hs-SICH-PowerControl-Info */
-   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
-   }
-   /* bler-target */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD128_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-      elem = (HS_SCCH_TDD128_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD128_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* nack-ack-power-offset */
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* power-level-HSSICH */
-   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, 0);
-   /* tpc-step-size */
-   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, 0);
-   /* bler-target */
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HS_SCCH_Info_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r6_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (HS_SCCH_Info_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r6_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* dl-HSPDSCH-TS-Configuration */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      stat = dec_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
       RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
+      stat = dec_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128, cur);
       RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
    }
+   /* dl-MultiCarrier-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* tdd384 */
-         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
          RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd */
-         pvalue->u.tdd = (DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 1: /* fdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r6(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r6");
-   /* hs-scch-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_SCCH_Info_r6(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r6");
-   }
-   /* measurement-feedback-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r6");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* outofSyncWindow */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->outofSyncWindow, 0, 7);
-      RT_CHECK(ctx, stat, "OutofSyncWindow", "outofSyncWindow", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         break;
       case 1: /* tdd768 */
+         pvalue->u.tdd768 = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
       case 2: /* tdd128 */
-         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd */
-         pvalue->u.tdd = (DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 1: /* fdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r8-ext");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured, pvalue);
 }
 
-int asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HS_DSCH_TBSizeTable(rtxContext* RT_RESTRICT ctx, HS_DSCH_TBSizeTable* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hS-SCCH-tpc-step-size */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->hS_SCCH_tpc_step_size, 0, 3);
-      RT_CHECK(ctx, stat, 0, "hS-SCCH-tpc-step-size", -1, 0);
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-TBSizeTable");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-TBSizeTable");
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_DSCH_TBSizeTable(rtxContext* RT_RESTRICT ctx, HS_DSCH_TBSizeTable* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         break;
-      case 1: /* tdd768 */
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_TBSizeTable, pvalue);
 }
 
-int asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r8_ext(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r8-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext2* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r8-ext2");
-   /* hs-scch-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_SCCH_Info_r8_ext(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r8-ext2");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DSCH_RadioLinkIdentifier(rtxContext* RT_RESTRICT ctx, DSCH_RadioLinkIdentifier* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 511);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DSCH-RadioLinkIdentifier");
-   return 0;
-}
-
-int asn1PD_UMTS_RL_IdentifierList(rtxContext* RT_RESTRICT ctx, RL_IdentifierList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-IdentifierList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCPICH_Info* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-IdentifierList");
-      elem = (PrimaryCPICH_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-IdentifierList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_SHO_DCH_Info(rtxContext* RT_RESTRICT ctx, PDSCH_SHO_DCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SHO-DCH-Info");
-   /* dsch-RadioLinkIdentifier */
-   stat = pd_ConsUInt16(ctx, &pvalue->dsch_RadioLinkIdentifier, 0, 511);
-   RT_CHECK(ctx, stat, "DSCH-RadioLinkIdentifier", "dsch-RadioLinkIdentifier", -1, "PDSCH-SHO-DCH-Info");
-   /* rl-IdentifierList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RL_IdentifierList(ctx, &pvalue->rl_IdentifierList);
-      RT_CHECK(ctx, stat, 0, "rl-IdentifierList", -1, "PDSCH-SHO-DCH-Info");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MaxTFCI_Field2Value(rtxContext* RT_RESTRICT ctx, MaxTFCI_Field2Value* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 1, 1023);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTFCI-Field2Value");
-   return 0;
-}
-
-int asn1PD_UMTS_DSCH_Mapping(rtxContext* RT_RESTRICT ctx, DSCH_Mapping* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* maxTFCI-Field2Value */
-   stat = pd_ConsUInt16(ctx, &pvalue->maxTFCI_Field2Value, 1, 1023);
-   RT_CHECK(ctx, stat, "MaxTFCI-Field2Value", "maxTFCI-Field2Value", -1, "DSCH-Mapping");
-   /* spreadingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "DSCH-Mapping");
-   /* codeNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->codeNumber, 0, 255);
-   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumber", -1, "DSCH-Mapping");
-   /* multiCodeInfo */
-   stat = pd_ConsUInt8(ctx, &pvalue->multiCodeInfo, 1, 16);
-   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "DSCH-Mapping");
-   return 0;
-}
-
-int asn1PD_UMTS_DSCH_MappingList(rtxContext* RT_RESTRICT ctx, DSCH_MappingList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 256);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DSCH-MappingList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DSCH_Mapping* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DSCH_Mapping));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DSCH-Mapping", (int32_t)i, "DSCH-MappingList");
-      elem = (DSCH_Mapping*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DSCH_Mapping(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DSCH-Mapping", (int32_t)i, "DSCH-MappingList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, PDSCH_CodeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* spreadingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeInfo");
-   /* codeNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->codeNumber, 0, 255);
-   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumber", -1, "PDSCH-CodeInfo");
-   /* multiCodeInfo */
-   stat = pd_ConsUInt8(ctx, &pvalue->multiCodeInfo, 1, 16);
-   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, PDSCH_CodeInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-CodeInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PDSCH_CodeInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_CodeInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PDSCH-CodeInfo", (int32_t)i, "PDSCH-CodeInfoList");
-      elem = (PDSCH_CodeInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PDSCH_CodeInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PDSCH-CodeInfo", (int32_t)i, "PDSCH-CodeInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ReplacedPDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, ReplacedPDSCH_CodeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tfci-Field2 */
-   stat = pd_ConsUInt16(ctx, &pvalue->tfci_Field2, 1, 1023);
-   RT_CHECK(ctx, stat, "MaxTFCI-Field2Value", "tfci-Field2", -1, "ReplacedPDSCH-CodeInfo");
-   /* spreadingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "ReplacedPDSCH-CodeInfo");
-   /* codeNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->codeNumber, 0, 255);
-   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumber", -1, "ReplacedPDSCH-CodeInfo");
-   /* multiCodeInfo */
-   stat = pd_ConsUInt8(ctx, &pvalue->multiCodeInfo, 1, 16);
-   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "ReplacedPDSCH-CodeInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_ReplacedPDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, ReplacedPDSCH_CodeInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReplacedPDSCH-CodeInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ReplacedPDSCH_CodeInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ReplacedPDSCH_CodeInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ReplacedPDSCH-CodeInfo", (int32_t)i, "ReplacedPDSCH-CodeInfoList");
-      elem = (ReplacedPDSCH_CodeInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ReplacedPDSCH_CodeInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "ReplacedPDSCH-CodeInfo", (int32_t)i, "ReplacedPDSCH-CodeInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CodeMapping_signallingMethod(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapping_signallingMethod* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* codeRange */
-         pvalue->u.codeRange = (CodeRange*)rtxMemHeapAlloc(ctx, sizeof(CodeRange));
-         if (pvalue->u.codeRange == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "codeRange", -1, 0);
-         asn1Init_UMTS_CodeRange(pvalue->u.codeRange);
-         stat = asn1PD_UMTS_CodeRange(ctx, pvalue->u.codeRange);
-         RT_CHECK(ctx, stat, 0, "codeRange", -1, 0);
-         break;
-      case 1: /* tfci-Range */
-         pvalue->u.tfci_Range = (DSCH_MappingList*)rtxMemHeapAlloc(ctx, sizeof(DSCH_MappingList));
-         if (pvalue->u.tfci_Range == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tfci-Range", -1, 0);
-         asn1Init_UMTS_DSCH_MappingList(pvalue->u.tfci_Range);
-         stat = asn1PD_UMTS_DSCH_MappingList(ctx, pvalue->u.tfci_Range);
-         RT_CHECK(ctx, stat, 0, "tfci-Range", -1, 0);
-         break;
-      case 2: /* explicit-config */
-         pvalue->u.explicit_config = (PDSCH_CodeInfoList*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CodeInfoList));
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
-         asn1Init_UMTS_PDSCH_CodeInfoList(pvalue->u.explicit_config);
-         stat = asn1PD_UMTS_PDSCH_CodeInfoList(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 3: /* replace */
-         pvalue->u.replace = (ReplacedPDSCH_CodeInfoList*)rtxMemHeapAlloc(ctx, sizeof(ReplacedPDSCH_CodeInfoList));
-         if (pvalue->u.replace == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "replace", -1, 0);
-         asn1Init_UMTS_ReplacedPDSCH_CodeInfoList(pvalue->u.replace);
-         stat = asn1PD_UMTS_ReplacedPDSCH_CodeInfoList(ctx, pvalue->u.replace);
-         RT_CHECK(ctx, stat, 0, "replace", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CodeMapping(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapping* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-CodeMapping");
-   /* dl-ScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "PDSCH-CodeMapping");
-   }
-   /* signallingMethod */
-   stat = asn1PD_UMTS_PDSCH_CodeMapping_signallingMethod(ctx, &pvalue->signallingMethod);
-   RT_CHECK(ctx, stat, 0, "signallingMethod", -1, "PDSCH-CodeMapping");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* dummy1 */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-64QAM-Configured */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_InformationPerRL_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PrimaryCCPCH_Info*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_PrimaryCCPCH_Info(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SIB_ReferenceListFACH(rtxContext* RT_RESTRICT ctx, SIB_ReferenceListFACH* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-ReferenceListFACH");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SchedulingInformationSIB* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SchedulingInformationSIB));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceListFACH");
-      elem = (SchedulingInformationSIB*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SchedulingInformationSIB(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SchedulingInformationSIB(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceListFACH");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* fach-PCH-InformationList */
-   stat = asn1PD_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, 0);
-   /* sib-ReferenceListFACH */
-   stat = asn1PD_UMTS_SIB_ReferenceListFACH(ctx, &pvalue->sib_ReferenceListFACH);
-   RT_CHECK(ctx, stat, 0, "sib-ReferenceListFACH", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* fach-PCH-InformationList */
-   stat = asn1PD_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (SCCPCH_InfoForFACH_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_InfoForFACH_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (SCCPCH_InfoForFACH_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_InfoForFACH_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_InfoForFACH(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* secondaryCCPCH-Info */
-   stat = asn1PD_UMTS_SecondaryCCPCH_Info(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-InfoForFACH");
-   /* tfcs */
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->tfcs);
-   RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-InfoForFACH");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SCCPCH-InfoForFACH");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_InformationPerRL_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL");
-   /* dl-DPCH-InfoPerRL */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_InfoPerRL(ctx, &pvalue->dl_DPCH_InfoPerRL);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SCCPCH_InfoForFACH(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_r4_fdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tx-DiversityIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotSync2 */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotSync2, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* syncCase1 */
-         pvalue->u.syncCase1 = (PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1));
-         if (pvalue->u.syncCase1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "syncCase1", -1, 0);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
-         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
-         break;
-      case 1: /* syncCase2 */
-         pvalue->u.syncCase2 = (PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2));
-         if (pvalue->u.syncCase2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "syncCase2", -1, 0);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
-         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* syncCase */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(ctx, &pvalue->syncCase);
-      RT_CHECK(ctx, stat, 0, "syncCase", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tstd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384-tdd768 */
-         pvalue->u.tdd384_tdd768 = (PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768));
-         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384-tdd768", -1, 0);
-         asn1Init_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(pvalue->u.tdd384_tdd768);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* cellParametersID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
-   }
-   /* sctd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCCPCH-Info-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (PrimaryCCPCH_Info_r4_fdd*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_r4_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "PrimaryCCPCH-Info-r4");
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "PrimaryCCPCH-Info-r4");
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PrimaryCCPCH_Info_r4_tdd*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "PrimaryCCPCH-Info-r4");
-         asn1Init_UMTS_PrimaryCCPCH_Info_r4_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "PrimaryCCPCH-Info-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PrimaryCCPCH-Info-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_InformationPerRL_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* secondaryScramblingCode */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
-   }
-   /* sttd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
-   /* sf-AndCodeNumber */
-   stat = asn1PD_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
-   /* pilotSymbolExistence */
-   stat = rtxDecBitInline(ctx, &pvalue->pilotSymbolExistence);
-   RT_CHECK(ctx, stat, 0, "pilotSymbolExistence", -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* positionFixedOrFlexible */
-   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   /* timingOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
-   }
-   else {
-      pvalue->timingOffset = 0;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* commonTimeslotInfo */
-   stat = asn1PD_UMTS_CommonTimeslotInfoSCCPCH(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
-   /* tddOption */
-   stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* channelisationCode */
-   stat = asn1PD_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* sib-ReferenceListFACH */
-   stat = asn1PD_UMTS_SIB_ReferenceListFACH(ctx, &pvalue->sib_ReferenceListFACH);
-   RT_CHECK(ctx, stat, 0, "sib-ReferenceListFACH", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_InfoForFACH_r4(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* secondaryCCPCH-Info */
-   stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-InfoForFACH-r4");
-   /* tfcs */
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->tfcs);
-   RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-InfoForFACH-r4");
-   /* fach-PCH-InformationList */
-   stat = asn1PD_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-InfoForFACH-r4");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SCCPCH-InfoForFACH-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r4");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_InformationPerRL_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r4");
-   /* dl-DPCH-InfoPerRL */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r4(ctx, &pvalue->dl_DPCH_InfoPerRL);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r4");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r4");
-   }
-   /* cell-id */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   /* servingHSDSCH-RL-indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->servingHSDSCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_InformationPerRL_r5_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r5_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r5(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r5");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_InformationPerRL_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r5");
-   /* dl-DPCH-InfoPerRL */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r5(ctx, &pvalue->dl_DPCH_InfoPerRL);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r5");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r5");
-   }
-   /* cell-id */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_InformationPerRL_r5bis_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r5bis_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r5bis(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r5bis");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r5bis");
-   /* dl-DPCH-InfoPerRL */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r5(ctx, &pvalue->dl_DPCH_InfoPerRL);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r5bis");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r5bis");
-   }
-   /* cell-id */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r5bis");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* servingHSDSCH-RL-indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->servingHSDSCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
-   /* servingEDCH-RL-indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->servingEDCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingEDCH-RL-indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_InformationPerRL_r6_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DL_InformationPerRL_r6_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_dl_dpchInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-DPCH-InfoPerRL */
-         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r6));
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r6(pvalue->u.dl_DPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r6(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 1: /* dl-FDPCH-InfoPerRL */
-         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r6));
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r6(pvalue->u.dl_FDPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r6(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r6_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_e_HICH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-HICH-Information */
-         pvalue->u.e_HICH_Information = (E_HICH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_HICH_Information));
-         if (pvalue->u.e_HICH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-HICH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
-         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r6_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-RGCH-Information */
-         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r6");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_InformationPerRL_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r6");
-   /* dl-dpchInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_r6_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r6");
-   }
-   /* e-AGCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r6");
-   }
-   /* e-HICH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_r6_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, "DL-InformationPerRL-r6");
-   }
-   /* e-RGCH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_r6_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "DL-InformationPerRL-r6");
-   }
-   /* cell-id */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_v6b0ext(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-v6b0ext");
-   /* sttdIndication */
-   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "DL-InformationPerRL-v6b0ext");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "DL-InformationPerRL-v6b0ext");
-         pvalue->sttdIndication = ui;
+         RT_CHECK_AT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
+         pvalue->dl_64QAM_Configured = ui;
+      }
+   }
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+         pvalue->hs_DSCH_TBSizeTable = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* servingHSDSCH-RL-indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->servingHSDSCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
-   /* servingEDCH-RL-indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->servingEDCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingEDCH-RL-indicator", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd, pvalue);
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_InformationPerRL_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
+      case 0: /* tdd */
+         pvalue->u.tdd = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
+      case 1: /* fdd */
+         pvalue->u.fdd = (DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_dl_dpchInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8_modeSpecificInfo, pvalue);
+}
+
+static int dec_DL_HSPDSCH_Information_r8(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-Information-r8");
+   /* hs-scch-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r8");
+   }
+   /* measurement-feedback-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r8");
+   }
+   /* modeSpecificInfo */
+   stat = dec_DL_HSPDSCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-DPCH-InfoPerRL */
-         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r7));
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r7(pvalue->u.dl_DPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r7(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 1: /* dl-FDPCH-InfoPerRL */
-         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r7));
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r7(pvalue->u.dl_FDPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator, pvalue);
+}
+
+static int dec_Serving_HSDSCH_CellInformation_r8(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* e-AGCH-ChannelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_AGCH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleConfigurationBurstType1(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType1");
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r8");
+   /* deltaACK */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* deltaNACK */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* harq-Preamble-Mode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r8");
+   /* primaryCPICH-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* dl-hspdsch-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = dec_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_hspdsch_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = dec_HARQ_Info_r7(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r8");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r8");
+         pvalue->mac_hsResetIndicator = ui;
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r8(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleConfigurationBurstType1 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1", "midambleConfigurationBurstType1", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_Serving_HSDSCH_CellInformation_r8, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* commonMidamble */
-         break;
-      case 2: /* ueSpecificMidamble */
-         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 127);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* midambleConfigurationBurstType2 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo, pvalue);
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* type1 */
-         pvalue->u.type1 = (MidambleShiftAndBurstType_EDCH_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_EDCH_burstType_type1));
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
-         asn1Init_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(pvalue->u.type1);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
-         break;
-      case 1: /* type2 */
-         pvalue->u.type2 = (MidambleShiftAndBurstType_EDCH_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_EDCH_burstType_type2));
-         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type2", -1, 0);
-         asn1Init_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(pvalue->u.type2);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = dec_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* burstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-EDCH");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9_modeSpecificInfo_fdd, pvalue);
 }
 
-int asn1PD_UMTS_E_AGCH_Individual(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tS-number */
-   stat = pd_ConsUInt8(ctx, &pvalue->tS_number, 0, 14);
-   RT_CHECK(ctx, stat, 0, "tS-number", -1, "E-AGCH-Individual");
-   /* channelisation-code */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisation_code, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisation-code", -1, "E-AGCH-Individual");
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-AGCH-Individual");
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Set_Config(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-Set-Config");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      E_AGCH_Individual* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_AGCH_Individual));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-AGCH-Individual", (int32_t)i, "E-AGCH-Set-Config");
-      elem = (E_AGCH_Individual*)(node + 1);
+      HS_SCCH_TDD384_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD384_r6*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_E_AGCH_Individual(elem);
+      asn1Init_UMTS_HS_SCCH_TDD384_r6(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_AGCH_Individual(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual", (int32_t)i, "E-AGCH-Set-Config");
+      stat = dec_HS_SCCH_TDD384_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* long-Term-Grant-Indicator */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = dec_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = rtxDecBitInline(ctx, &pvalue->long_Term_Grant_Indicator);
-      RT_CHECK(ctx, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK_AT(ctx, cur, stat, "DHS-Sync", "dhs-sync", -1, 0);
    }
-   /* length-of-TTRI-field */
-   stat = pd_ConsUInt8(ctx, &pvalue->length_of_TTRI_field, 1, 12);
-   RT_CHECK(ctx, stat, 0, "length-of-TTRI-field", -1, 0);
-   /* e-AGCH-Set-Config */
-   stat = asn1PD_UMTS_E_AGCH_Set_Config(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
-   /* e-AGCH-BLER-Target */
-   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   /* bler-target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_E_AGCH_Individual_VHCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_VHCR* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* tS-number */
-   stat = pd_ConsUInt8(ctx, &pvalue->tS_number, 0, 14);
-   RT_CHECK(ctx, stat, 0, "tS-number", -1, "E-AGCH-Individual-VHCR");
-   /* channelisation-code */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisation_code, 0, 31);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "channelisation-code", -1, "E-AGCH-Individual-VHCR");
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-AGCH-Individual-VHCR");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384, pvalue);
 }
 
-int asn1PD_UMTS_E_AGCH_Set_Config_VHCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config_VHCR* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-Set-Config-VHCR");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      E_AGCH_Individual_VHCR* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_AGCH_Individual_VHCR));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-AGCH-Individual-VHCR", (int32_t)i, "E-AGCH-Set-Config-VHCR");
-      elem = (E_AGCH_Individual_VHCR*)(node + 1);
+      HS_SCCH_TDD768* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD768));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD768*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_E_AGCH_Individual_VHCR(elem);
+      asn1Init_UMTS_HS_SCCH_TDD768(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_AGCH_Individual_VHCR(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual-VHCR", (int32_t)i, "E-AGCH-Set-Config-VHCR");
+      stat = dec_HS_SCCH_TDD768(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* long-Term-Grant-Indicator */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = dec_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = rtxDecBitInline(ctx, &pvalue->long_Term_Grant_Indicator);
-      RT_CHECK(ctx, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK_AT(ctx, cur, stat, "DHS-Sync", "dhs-sync", -1, 0);
    }
-   /* length-of-TTRI-field */
-   stat = pd_ConsUInt8(ctx, &pvalue->length_of_TTRI_field, 1, 12);
-   RT_CHECK(ctx, stat, 0, "length-of-TTRI-field", -1, 0);
-   /* e-AGCH-Set-Config */
-   stat = asn1PD_UMTS_E_AGCH_Set_Config_VHCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
-   /* e-AGCH-BLER-Target */
-   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   /* bler-target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD128_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD128_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_SCCH_TDD128_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* rdi-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->rdi_Indicator);
-   RT_CHECK(ctx, stat, 0, "rdi-Indicator", -1, 0);
-   /* tpc-StepSize */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   /* e-AGCH-Set-Config */
-   stat = asn1PD_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
-   /* e-AGCH-BLER-Target */
-   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* power-level-HSSICH */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK_AT(ctx, cur, stat, 0, "power-level-HSSICH", -1, 0);
+   /* tpc-step-size */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tpc_step_size, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tpc-step-size", -1, 0);
+   /* bler-target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-tpc-step-size */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->hS_SCCH_tpc_step_size, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, 0, "hS-SCCH-tpc-step-size", -1, 0);
+   }
+   /* powerControlGAP */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerControlGAP, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "PowerControlGAP", "powerControlGAP", -1, 0);
+   }
+   /* pathlossCompensationSwitch */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->pathlossCompensationSwitch);
+      RT_CHECK_AT(ctx, cur, stat, 0, "pathlossCompensationSwitch", -1, 0);
+   }
+   /* hS-SCCH-SetConfiguration */
+   stat = dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+static int dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* tdd384 */
-         pvalue->u.tdd384 = (E_AGCH_Information_r7_modeSpecific_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(ctx, pvalue->u.tdd384);
+         pvalue->u.tdd384 = (HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
          RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 1: /* tdd768 */
-         pvalue->u.tdd768 = (E_AGCH_Information_r7_modeSpecific_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(ctx, pvalue->u.tdd768);
+         pvalue->u.tdd768 = (HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
          RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
       case 2: /* tdd128 */
-         pvalue->u.tdd128 = (E_AGCH_Information_r7_modeSpecific_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(ctx, pvalue->u.tdd128);
+         pvalue->u.tdd128 = (HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (E_AGCH_Information_r7_modeSpecific_fdd*)rtxMemHeapAllocZ(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (HS_SCCH_Info_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_HS_SCCH_Info_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (E_AGCH_Information_r7_modeSpecific_tdd*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (HS_SCCH_Info_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_HS_SCCH_Info_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_E_AGCH_Information_r7(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r9(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* modeSpecific */
-   stat = asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific(ctx, &pvalue->modeSpecific);
-   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, "E-AGCH-Information-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-HICH-Information */
-         pvalue->u.e_HICH_Information = (E_HICH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_HICH_Information));
-         if (pvalue->u.e_HICH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-HICH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
-         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-RGCH-Information */
-         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-HICH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   }
-   /* e-RGCH-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_TDD384_768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.tdd384, 0, 15);
-         RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.tdd768, 0, 31);
-         RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "tdd768", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_TDD384_768_burst_Type(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_burst_Type* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_TDD384_768_midamble_Allocation_Mode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_midamble_Allocation_Mode* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_TDD384_768(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* n-E-HICH */
-   stat = pd_ConsUInt8(ctx, &pvalue->n_E_HICH, 4, 44);
-   RT_CHECK(ctx, stat, 0, "n-E-HICH", -1, "E-HICH-Information-TDD384-768");
-   /* tS-Number */
-   stat = pd_ConsUInt8(ctx, &pvalue->tS_Number, 0, 14);
-   RT_CHECK(ctx, stat, 0, "tS-Number", -1, "E-HICH-Information-TDD384-768");
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_E_HICH_Information_TDD384_768_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-HICH-Information-TDD384-768");
-   /* burst-Type */
-   stat = pd_ConsUnsigned(ctx, &pvalue->burst_Type, 0, 1);
-   RT_CHECK(ctx, stat, 0, "burst-Type", -1, "E-HICH-Information-TDD384-768");
-   /* midamble-Allocation-Mode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->midamble_Allocation_Mode, 0, 1);
-   RT_CHECK(ctx, stat, 0, "midamble-Allocation-Mode", -1, "E-HICH-Information-TDD384-768");
+   stat = dec_HS_SCCH_Info_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r9");
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-HICH-Info */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_HICH_Information_TDD384_768(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+      stat = dec_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-HICH-Info */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+      stat = dec_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384-tdd768 */
-         pvalue->u.tdd384_tdd768 = (DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768));
-         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384-tdd768", -1, 0);
-         asn1Init_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(pvalue->u.tdd384_tdd768);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_OutofSyncWindow(rtxContext* RT_RESTRICT ctx, OutofSyncWindow* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_InformationPerRL_r7_modeSpecificInfo2_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo2_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (DL_InformationPerRL_r7_modeSpecificInfo2_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo2_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "OutofSyncWindow");
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_OutofSyncWindow(rtxContext* RT_RESTRICT ctx, OutofSyncWindow* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_OutofSyncWindow, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r7");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r7");
-   /* dl-dpchInfo */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128, cur);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   /* dl-MultiCarrier-Information */
    if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_r7_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r7");
-   }
-   /* e-AGCH-Information */
-   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_AGCH_Information_r7(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r7");
+      stat = dec_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
    }
-   /* modeSpecificInfo2 */
-   stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2(ctx, &pvalue->modeSpecificInfo2);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo2", -1, "DL-InformationPerRL-r7");
-   /* cell-id */
-   if (present & ((uint32_t)1 << 0)) {
+   /* tS0-Indicator */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r7");
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "tS0-Indicator", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "tS0-Indicator", -1, 0);
+         pvalue->tS0_Indicator = ui;
+      }
+   }
+   /* outofSyncWindow */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->outofSyncWindow, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "OutofSyncWindow", "outofSyncWindow", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* servingHSDSCH-RL-indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->servingHSDSCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
-   /* servingEDCH-RL-indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->servingEDCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingEDCH-RL-indicator", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128, pvalue);
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (DL_InformationPerRL_r8_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_dl_dpchInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-DPCH-InfoPerRL */
-         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r7));
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r7(pvalue->u.dl_DPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r7(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 1: /* dl-FDPCH-InfoPerRL */
-         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r7));
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r7(pvalue->u.dl_FDPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* e-AGCH-ChannelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_AGCH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* long-Term-Grant-Indicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = rtxDecBitInline(ctx, &pvalue->long_Term_Grant_Indicator);
-      RT_CHECK(ctx, stat, 0, "long-Term-Grant-Indicator", -1, 0);
-   }
-   /* length-of-TTRI-field */
-   stat = pd_ConsUInt8(ctx, &pvalue->length_of_TTRI_field, 1, 12);
-   RT_CHECK(ctx, stat, 0, "length-of-TTRI-field", -1, 0);
-   /* e-AGCH-Set-Config */
-   stat = asn1PD_UMTS_E_AGCH_Set_Config(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
-   /* e-AGCH-BLER-Target */
-   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* long-Term-Grant-Indicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = rtxDecBitInline(ctx, &pvalue->long_Term_Grant_Indicator);
-      RT_CHECK(ctx, stat, 0, "long-Term-Grant-Indicator", -1, 0);
-   }
-   /* length-of-TTRI-field */
-   stat = pd_ConsUInt8(ctx, &pvalue->length_of_TTRI_field, 1, 12);
-   RT_CHECK(ctx, stat, 0, "length-of-TTRI-field", -1, 0);
-   /* e-AGCH-Set-Config */
-   stat = asn1PD_UMTS_E_AGCH_Set_Config_VHCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
-   /* e-AGCH-BLER-Target */
-   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rdi-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->rdi_Indicator);
-   RT_CHECK(ctx, stat, 0, "rdi-Indicator", -1, 0);
-   /* tpc-StepSize */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   /* e-AGCH-Set-Config */
-   stat = asn1PD_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
-   /* e-AGCH-BLER-Target */
-   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   /* e-AGCH-InactivityMonitorThreshold */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->e_AGCH_InactivityMonitorThreshold, 0, 15);
-      RT_CHECK(ctx, stat, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* tdd384 */
-         pvalue->u.tdd384 = (E_AGCH_Information_r8_modeSpecific_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(ctx, pvalue->u.tdd384);
+         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
          RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 1: /* tdd768 */
-         pvalue->u.tdd768 = (E_AGCH_Information_r8_modeSpecific_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(ctx, pvalue->u.tdd768);
+         pvalue->u.tdd768 = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
          RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
       case 2: /* tdd128 */
-         pvalue->u.tdd128 = (E_AGCH_Information_r8_modeSpecific_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(ctx, pvalue->u.tdd128);
+         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (E_AGCH_Information_r8_modeSpecific_fdd*)rtxMemHeapAllocZ(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (E_AGCH_Information_r8_modeSpecific_tdd*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_E_AGCH_Information_r8(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* modeSpecific */
-   stat = asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific(ctx, &pvalue->modeSpecific);
-   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, "E-AGCH-Information-r8");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured, pvalue);
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-HICH-Information */
-         pvalue->u.e_HICH_Information = (E_HICH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_HICH_Information));
-         if (pvalue->u.e_HICH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-HICH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
-         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-RGCH-Information */
-         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-HICH-Info */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-64QAM-Configured */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
+         pvalue->dl_64QAM_Configured = ui;
+      }
    }
-   /* e-RGCH-Info */
+   /* hs-DSCH-TBSizeTable */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, 0);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-HICH-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_HICH_Information_TDD384_768(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd, pvalue);
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-HICH-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* tdd384-tdd768 */
-         pvalue->u.tdd384_tdd768 = (DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768));
-         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384-tdd768", -1, 0);
-         asn1Init_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(pvalue->u.tdd384_tdd768);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
+      case 0: /* tdd */
+         pvalue->u.tdd = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+      case 1: /* fdd */
+         pvalue->u.fdd = (DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r9_modeSpecificInfo, pvalue);
+}
+
+static int dec_DL_HSPDSCH_Information_r9(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-Information-r9");
+   /* hs-scch-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HS_SCCH_Info_r9(ctx, &pvalue->hs_scch_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r9");
+   }
+   /* measurement-feedback-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r9");
+   }
+   /* modeSpecificInfo */
+   stat = dec_DL_HSPDSCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator, pvalue);
+}
+
+static int dec_Serving_HSDSCH_CellInformation_r9(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r9");
+   /* deltaACK */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* deltaNACK */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* harq-Preamble-Mode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r9");
+   /* primaryCPICH-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* dl-hspdsch-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = dec_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_hspdsch_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = dec_HARQ_Info_r7(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r9");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r9");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r9(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Serving_HSDSCH_CellInformation_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_SR_VCC_Info_nonce(rtxContext* RT_RESTRICT ctx, SR_VCC_Info_nonce* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 128, 128);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SR_VCC_Info_nonce(rtxContext* RT_RESTRICT ctx, SR_VCC_Info_nonce* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SR_VCC_Info_nonce, pvalue);
+}
+
+RT_MERGED_BODY int dec_SR_VCC_Info(rtxContext* RT_RESTRICT ctx, SR_VCC_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SR-VCC-Info");
+   /* nonce */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SR_VCC_Info_nonce(ctx, &pvalue->nonce, cur);
+      RT_CHECK(ctx, stat, 0, "nonce", -1, "SR-VCC-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SR_VCC_Info(rtxContext* RT_RESTRICT ctx, SR_VCC_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SR_VCC_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InfoReplace(rtxContext* RT_RESTRICT ctx, RAB_InfoReplace* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rab-Identity */
+   stat = dec_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InfoReplace");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InfoReplace");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InfoReplace(rtxContext* RT_RESTRICT ctx, RAB_InfoReplace* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InfoReplace, pvalue);
+}
+
+RT_MERGED_BODY int dec_SR_VCC_SecurityRABInfo_v860ext(rtxContext* RT_RESTRICT ctx, SR_VCC_SecurityRABInfo_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sr-vcc-Info */
+   stat = dec_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info, cur);
+   RT_CHECK(ctx, stat, 0, "sr-vcc-Info", -1, "SR-VCC-SecurityRABInfo-v860ext");
+   /* rab-InfoReplace */
+   stat = dec_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace, cur);
+   RT_CHECK(ctx, stat, 0, "rab-InfoReplace", -1, "SR-VCC-SecurityRABInfo-v860ext");
+   return 0;
+}
+
+int asn1PD_UMTS_SR_VCC_SecurityRABInfo_v860ext(rtxContext* RT_RESTRICT ctx, SR_VCC_SecurityRABInfo_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SR_VCC_SecurityRABInfo_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_START_Value(rtxContext* RT_RESTRICT ctx, START_Value* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 20, 20);
+   stat = pd_BitString32At(ctx, cur, pvalue, 20, 20);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "START-Value");
+   return 0;
+}
+
+int asn1PD_UMTS_START_Value(rtxContext* RT_RESTRICT ctx, START_Value* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_START_Value, pvalue);
+}
+
+RT_MERGED_BODY int dec_STARTSingle(rtxContext* RT_RESTRICT ctx, STARTSingle* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "STARTSingle");
+   /* start-Value */
+   stat = dec_START_Value(ctx, &pvalue->start_Value, cur);
+   RT_CHECK(ctx, stat, 0, "start-Value", -1, "STARTSingle");
+   return 0;
+}
+
+int asn1PD_UMTS_STARTSingle(rtxContext* RT_RESTRICT ctx, STARTSingle* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_STARTSingle, pvalue);
+}
+
+RT_MERGED_BODY int dec_STARTList(rtxContext* RT_RESTRICT ctx, STARTList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "STARTList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      STARTSingle* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(STARTSingle));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "STARTSingle", (int32_t)i, "STARTList");
+      elem = (STARTSingle*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_STARTSingle(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_STARTSingle(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "STARTSingle", (int32_t)i, "STARTList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_STARTList(rtxContext* RT_RESTRICT ctx, STARTList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_STARTList, pvalue);
+}
+
+RT_MERGED_BODY int dec_SystemSpecificCapUpdateReq_v590ext(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-v590ext");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-v590ext");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SystemSpecificCapUpdateReq_v590ext(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SystemSpecificCapUpdateReq_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_318(rtxContext* RT_RESTRICT ctx, T_318* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-318");
+   return 0;
+}
+
+int asn1PD_UMTS_T_318(rtxContext* RT_RESTRICT ctx, T_318* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_T_318, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_319(rtxContext* RT_RESTRICT ctx, T_319* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "T-319");
+   return 0;
+}
+
+int asn1PD_UMTS_T_319(rtxContext* RT_RESTRICT ctx, T_319* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_T_319, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TransChCapability_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_TransChCapability_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxSimultaneousCCTrCH-Count */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_TransChCapability_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TransChCapability_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TransChCapability_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_TransChCapability_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (DL_InformationPerRL_r8_modeSpecificInfo2_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo2_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (DL_InformationPerRL_r8_modeSpecificInfo2_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo2_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (UL_TransChCapability_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransChCapability_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UL_TransChCapability_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_r8(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_TransChCapability_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TransChCapability_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TransChCapability(rtxContext* RT_RESTRICT ctx, UL_TransChCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxNoBitsTransmitted */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxNoBitsTransmitted, 0, 12);
+   RT_CHECK_AT(ctx, cur, stat, "MaxNoBits", "maxNoBitsTransmitted", -1, "UL-TransChCapability");
+   /* maxConvCodeBitsTransmitted */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxConvCodeBitsTransmitted, 0, 12);
+   RT_CHECK_AT(ctx, cur, stat, "MaxNoBits", "maxConvCodeBitsTransmitted", -1, "UL-TransChCapability");
+   /* turboEncodingSupport */
+   stat = dec_TurboSupport(ctx, &pvalue->turboEncodingSupport, cur);
+   RT_CHECK(ctx, stat, 0, "turboEncodingSupport", -1, "UL-TransChCapability");
+   /* maxSimultaneousTransChs */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxSimultaneousTransChs, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "MaxSimultaneousTransChsUL", "maxSimultaneousTransChs", -1, "UL-TransChCapability");
+   /* modeSpecificInfo */
+   stat = dec_UL_TransChCapability_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-TransChCapability");
+   /* maxTransmittedBlocks */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxTransmittedBlocks, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, "MaxTransportBlocksUL", "maxTransmittedBlocks", -1, "UL-TransChCapability");
+   /* maxNumberOfTFC */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxNumberOfTFC, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfTFC-UL", "maxNumberOfTFC", -1, "UL-TransChCapability");
+   /* maxNumberOfTF */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxNumberOfTF, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "MaxNumberOfTF", "maxNumberOfTF", -1, "UL-TransChCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TransChCapability(rtxContext* RT_RESTRICT ctx, UL_TransChCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TransChCapability, pvalue);
+}
+
+static int dec_TransportChannelCapability(rtxContext* RT_RESTRICT ctx, TransportChannelCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-TransChCapability */
+   stat = dec_DL_TransChCapability(ctx, &pvalue->dl_TransChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransChCapability", -1, "TransportChannelCapability");
+   /* ul-TransChCapability */
+   stat = dec_UL_TransChCapability(ctx, &pvalue->ul_TransChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TransChCapability", -1, "TransportChannelCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelCapability(rtxContext* RT_RESTRICT ctx, TransportChannelCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TransportChannelCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_U_RNTI_Short(rtxContext* RT_RESTRICT ctx, U_RNTI_Short* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* srnc-Identity */
+   stat = dec_SRNC_Identity(ctx, &pvalue->srnc_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "srnc-Identity", -1, "U-RNTI-Short");
+   /* s-RNTI-2 */
+   stat = dec_S_RNTI_2(ctx, &pvalue->s_RNTI_2, cur);
+   RT_CHECK(ctx, stat, 0, "s-RNTI-2", -1, "U-RNTI-Short");
+   return 0;
+}
+
+int asn1PD_UMTS_U_RNTI_Short(rtxContext* RT_RESTRICT ctx, U_RNTI_Short* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_U_RNTI_Short, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_edch_r6_fdd_edch_supported(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6_fdd_edch_supported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* edch-PhysicalLayerCategory */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->edch_PhysicalLayerCategory, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6_fdd_edch_supported* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_edch_r6_fdd_edch_supported, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_edch_r6_fdd_edch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6_fdd_edch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         pvalue->u.supported = (PhysicalChannelCapability_edch_r6_fdd_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalChannelCapability_edch_r6_fdd_edch_supported));
+         if (pvalue->u.supported == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         stat = dec_PhysicalChannelCapability_edch_r6_fdd_edch_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6_fdd_edch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_edch_r6_fdd_edch, pvalue);
+}
+
+RT_MERGED_BODY int dec_PhysicalChannelCapability_edch_r6(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* fdd-edch */
+   stat = dec_PhysicalChannelCapability_edch_r6_fdd_edch(ctx, &pvalue->fdd_edch, cur);
+   RT_CHECK(ctx, stat, 0, "fdd-edch", -1, "PhysicalChannelCapability-edch-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_edch_r6(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PhysicalChannelCapability_edch_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v690ext_deviceType(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext_deviceType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v690ext_deviceType(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext_deviceType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v690ext_deviceType, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r8");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r8");
-   /* dl-dpchInfo */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v690ext");
+   /* physicalchannelcapability-edch */
+   stat = dec_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch, cur);
+   RT_CHECK(ctx, stat, 0, "physicalchannelcapability-edch", -1, "UE-RadioAccessCapability-v690ext");
+   /* deviceType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "deviceType", -1, "UE-RadioAccessCapability-v690ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "deviceType", -1, "UE-RadioAccessCapability-v690ext");
+         pvalue->deviceType = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v690ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_MS_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, GSM_MS_RadioAccessCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GSM-MS-RadioAccessCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_MS_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, GSM_MS_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_MS_RadioAccessCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+   /* supportOfInter-RAT-PS-Handover */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfInter-RAT-PS-Handover", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfInter-RAT-PS-Handover", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+         pvalue->supportOfInter_RAT_PS_Handover = ui;
+      }
+   }
+   /* gsm-MS-RadioAccessCapability */
+   stat = dec_GSM_MS_RadioAccessCapability(ctx, &pvalue->gsm_MS_RadioAccessCapability, cur);
+   RT_CHECK(ctx, stat, 0, "gsm-MS-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_UE_RadioAccessCapability_v690ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+   /* supportForSIB11bis */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForSIB11bis", -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForSIB11bis", -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+         pvalue->supportForSIB11bis = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v6b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+   /* supportForFDPCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForFDPCH", -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForFDPCH", -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+         pvalue->supportForFDPCH = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v6e0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_GANSSPositioning_Capability(rtxContext* RT_RESTRICT ctx, UE_GANSSPositioning_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-GANSSPositioning-Capability");
+   /* networkAssistedGANSS-supportedList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NetworkAssistedGANSS_Supported_List(ctx, &pvalue->networkAssistedGANSS_supportedList, cur);
+      RT_CHECK(ctx, stat, 0, "networkAssistedGANSS-supportedList", -1, "UE-GANSSPositioning-Capability");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_GANSSPositioning_Capability(rtxContext* RT_RESTRICT ctx, UE_GANSSPositioning_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_GANSSPositioning_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_PositioningCapability_v770ext(rtxContext* RT_RESTRICT ctx, UE_PositioningCapability_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-PositioningCapability-v770ext");
+   /* ue-GANSSPositioning-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_GANSSPositioning_Capability(ctx, &pvalue->ue_GANSSPositioning_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "ue-GANSSPositioning-Capability", -1, "UE-PositioningCapability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapability_v770ext(rtxContext* RT_RESTRICT ctx, UE_PositioningCapability_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_PositioningCapability_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_SpecificCapabilityInformation_LCRTDD(rtxContext* RT_RESTRICT ctx, UE_SpecificCapabilityInformation_LCRTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-SpecificCapabilityInformation-LCRTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_SpecificCapabilityInformation_LCRTDD(rtxContext* RT_RESTRICT ctx, UE_SpecificCapabilityInformation_LCRTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_SpecificCapabilityInformation_LCRTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v770ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* pdcp-Capability */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   /* rlc-Capability */
+   stat = dec_RLC_Capability_v770ext(ctx, &pvalue->rlc_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* rf-Capability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_RF_Capability_v770ext(ctx, &pvalue->rf_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   /* physicalChannelCapability */
+   stat = dec_PhysicalChannelCapability_v770ext(ctx, &pvalue->physicalChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* multiModeRAT-Capability */
+   stat = dec_MultiModeRAT_Capability_v770ext(ctx, &pvalue->multiModeRAT_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* ue-PositioningCapability */
+   stat = dec_UE_PositioningCapability_v770ext(ctx, &pvalue->ue_PositioningCapability, cur);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* mac-ehsSupport */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapability-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapability-v770ext-IEs");
+         pvalue->mac_ehsSupport = ui;
+      }
+   }
+   /* ue-specificCapabilityInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_specificCapabilityInformation, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "UE-SpecificCapabilityInformation-LCRTDD", "ue-specificCapabilityInformation", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v770ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v790ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v790ext-IEs");
+   /* supportForEDPCCHPowerBoosting */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForEDPCCHPowerBoosting", -1, "UE-RadioAccessCapability-v790ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForEDPCCHPowerBoosting", -1, "UE-RadioAccessCapability-v790ext-IEs");
+         pvalue->supportForEDPCCHPowerBoosting = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v790ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v790ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_GANSSPositioning_Capability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, UE_GANSSPositioning_Capability_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
+   /* networkAssistedGANSS-supportedList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NetworkAssistedGANSS_Supported_List_v860ext(ctx, &pvalue->networkAssistedGANSS_supportedList, cur);
+      RT_CHECK(ctx, stat, 0, "networkAssistedGANSS-supportedList", -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, UE_GANSSPositioning_Capability_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_GANSSPositioning_Capability_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_PositioningCapability_v860ext(rtxContext* RT_RESTRICT ctx, UE_PositioningCapability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-PositioningCapability-v860ext");
+   /* ue-GANSSPositioning-Capability-v860ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_GANSSPositioning_Capability_v860ext_IEs(ctx, &pvalue->ue_GANSSPositioning_Capability_v860ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-GANSSPositioning-Capability-v860ext", -1, "UE-PositioningCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapability_v860ext(rtxContext* RT_RESTRICT ctx, UE_PositioningCapability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_PositioningCapability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDD3(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD3");
+   /* radioFrequencyBandFDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandFDD, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD3");
+   }
+   /* radioFrequencyBandFDD2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandFDD2, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD3");
+   }
+   /* measurementCapability3 */
+   stat = dec_MeasurementCapabilityExt3(ctx, &pvalue->measurementCapability3, cur);
+   RT_CHECK(ctx, stat, 0, "measurementCapability3", -1, "UE-RadioAccessCapabBandFDD3");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDD3(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabBandFDD3, pvalue);
+}
+
+static int dec_UE_RadioAccessCapabBandFDDList3(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList3");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_RadioAccessCapabBandFDD3* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD3));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-RadioAccessCapabBandFDD3", (int32_t)i, "UE-RadioAccessCapabBandFDDList3");
+      elem = (UE_RadioAccessCapabBandFDD3*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_RadioAccessCapabBandFDD3(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_RadioAccessCapabBandFDD3(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD3", (int32_t)i, "UE-RadioAccessCapabBandFDDList3");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList3(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabBandFDDList3, pvalue);
+}
+
+static int dec_UE_RadioAccessCapability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 9, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* rf-Capability */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RF_Capability_v860ext(ctx, &pvalue->rf_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* physicalChannelCapability */
+   stat = dec_PhysicalChannelCapability_v860ext(ctx, &pvalue->physicalChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* multiModeRAT-Capability */
+   stat = dec_MultiModeRAT_Capability_v860ext(ctx, &pvalue->multiModeRAT_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* ue-PositioningCapability */
+   stat = dec_UE_PositioningCapability_v860ext(ctx, &pvalue->ue_PositioningCapability, cur);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* measurementCapability */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MeasurementCapability_v860ext(ctx, &pvalue->measurementCapability, cur);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* measurementCapabilityTDD */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4u;
+      stat = dec_MeasurementCapabilityTDD(ctx, &pvalue->measurementCapabilityTDD, cur);
+      RT_CHECK(ctx, stat, 0, "measurementCapabilityTDD", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* supportOfCommonEDCH */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         pvalue->supportOfCommonEDCH = ui;
+      }
+   }
+   /* supportOfMACiis */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         pvalue->supportOfMACiis = ui;
+      }
+   }
+   /* supportOfSPSOperation */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         pvalue->supportOfSPSOperation = ui;
+      }
+   }
+   /* supportOfControlChannelDRXOperation */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         pvalue->supportOfControlChannelDRXOperation = ui;
+      }
+   }
+   /* supportOfCSG */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfCSG", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfCSG", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         pvalue->supportOfCSG = ui;
+      }
+   }
+   /* ue-RadioAccessCapabBandFDDList3 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100u;
+      stat = dec_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList3", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, EUTRA_RadioAccessCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-EUTRA-Capability */
+   stat = pd_DynOctetStringAt(ctx, cur, &pvalue->ue_EUTRA_Capability);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-EUTRA-Capability", -1, "EUTRA-RadioAccessCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, EUTRA_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_RadioAccessCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v860ext");
+   /* eutra-RadioAccessCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_EUTRA_RadioAccessCapability(ctx, &pvalue->eutra_RadioAccessCapability, cur);
+      RT_CHECK(ctx, stat, 0, "eutra-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_UE_RadioAccessCapability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v880ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v880ext-IEs");
+   /* supportForPriorityReselectionInUTRAN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext-IEs");
+         pvalue->supportForPriorityReselectionInUTRAN = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v880ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v880ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v890ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v890ext-IEs");
+   /* supportCellSpecificTxDiversityinDC-Operation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext-IEs");
+         pvalue->supportCellSpecificTxDiversityinDC_Operation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v890ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v890ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandCombList(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandCombList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandCombList");
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "UE-RadioAccessCapabBandCombList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UE-RadioAccessCapabBandCombList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->elem[i], 1, 256);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "BandComb", "BandComb", (int32_t)i, "UE-RadioAccessCapabBandCombList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandCombList(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandCombList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabBandCombList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v920ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* ue-RadioAccessCapabBandCombList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_RadioAccessCapabBandCombList(ctx, &pvalue->ue_RadioAccessCapabBandCombList, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandCombList", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   /* physicalChannelCapability */
+   stat = dec_PhysicalChannelCapability_v920ext(ctx, &pvalue->physicalChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* rlc-Capability */
+   stat = dec_RLC_Capability_v920ext(ctx, &pvalue->rlc_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* supportOfenhancedTS0 */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext-IEs");
+         pvalue->supportOfenhancedTS0 = ui;
+      }
+   }
+   /* measurementCapability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_MeasurementCapability_v920ext(ctx, &pvalue->measurementCapability, cur);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   /* csgProximityIndicationCapability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_CSG_ProximityIndicationCapability(ctx, &pvalue->csgProximityIndicationCapability, cur);
+      RT_CHECK(ctx, stat, 0, "csgProximityIndicationCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   /* neighCellSI-AcquisitionCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_NeighCellSI_AcquisitionCapability(ctx, &pvalue->neighCellSI_AcquisitionCapability, cur);
+      RT_CHECK(ctx, stat, 0, "neighCellSI-AcquisitionCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v920ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v920ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v920ext */
+   stat = dec_UE_RadioAccessCapability_v920ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v890ext */
+   stat = dec_UE_RadioAccessCapability_v890ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v890ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v890ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v880ext */
+   stat = dec_UE_RadioAccessCapability_v880ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v880ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v880ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v860ext */
+   stat = dec_UE_RadioAccessCapability_v860ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v860ext", -1, 0);
+   /* ue-RATSpecificCapability-v860ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterRAT_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RATSpecificCapability_v860ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v860ext", -1, 0);
+   }
+   /* v880NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v880NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v790ext */
+   stat = dec_UE_RadioAccessCapability_v790ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v790ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v790ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions, pvalue);
+}
+
+static int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v770ext */
+   stat = dec_UE_RadioAccessCapability_v770ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v770ext", -1, 0);
+   /* v790NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(ctx, &pvalue->v790NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v790NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v6e0ext */
+   stat = dec_UE_RadioAccessCapability_v6e0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6e0ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v6e0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v6b0ext */
+   stat = dec_UE_RadioAccessCapability_v6b0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v6b0ext", -1, 0);
+   /* v6e0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions, pvalue);
+}
+
+static int dec_UE_CapabilityContainer_IEs(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-CapabilityContainer-IEs");
+   /* ue-RadioAccessCapability-v690ext */
+   stat = dec_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RadioAccessCapability_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v690ext", -1, "UE-CapabilityContainer-IEs");
+   /* ue-RATSpecificCapability-v690ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterRAT_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RATSpecificCapability_v690ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v690ext", -1, "UE-CapabilityContainer-IEs");
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "UE-CapabilityContainer-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_CapabilityContainer_IEs, pvalue);
+}
+
+static int dec_UE_ConnTimersAndConstants_r5(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 22, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-ConnTimersAndConstants-r5");
+   /* t-301 */
+   if (present & ((uint32_t)1 << 21)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_301, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "T-301", "t-301", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_301 = 10;
+   }
+   /* n-301 */
+   if (present & ((uint32_t)1 << 20)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_301, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "N-301", "n-301", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_301 = 2;
+   }
+   /* t-302 */
+   if (present & ((uint32_t)1 << 19)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_302, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "T-302", "t-302", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_302 = 12;
+   }
+   /* n-302 */
+   if (present & ((uint32_t)1 << 18)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_302, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "N-302", "n-302", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_302 = 3;
+   }
+   /* t-304 */
+   if (present & ((uint32_t)1 << 17)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_304, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-304", "t-304", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_304 = 4;
+   }
+   /* n-304 */
+   if (present & ((uint32_t)1 << 16)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_304, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "N-304", "n-304", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_304 = 2;
+   }
+   /* t-305 */
+   if (present & ((uint32_t)1 << 15)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_305, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-305", "t-305", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_305 = 3;
+   }
+   /* t-307 */
+   if (present & ((uint32_t)1 << 14)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_307, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-307", "t-307", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_307 = 4;
+   }
+   /* t-308 */
+   if (present & ((uint32_t)1 << 13)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_308, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "T-308", "t-308", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_308 = 2;
+   }
+   /* t-309 */
+   if (present & ((uint32_t)1 << 12)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_309, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "T-309", "t-309", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_309 = 5;
+   }
+   /* t-310 */
+   if (present & ((uint32_t)1 << 11)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_310, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-310", "t-310", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_310 = 3;
+   }
+   /* n-310 */
+   if (present & ((uint32_t)1 << 10)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_310, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "N-310", "n-310", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_310 = 4;
+   }
+   /* t-311 */
+   if (present & ((uint32_t)1 << 9)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_311, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-311", "t-311", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_311 = 7;
+   }
+   /* t-312 */
+   if (present & ((uint32_t)1 << 8)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_312, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "T-312", "t-312", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_312 = 1;
+   }
+   /* n-312 */
+   if (present & ((uint32_t)1 << 7)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_312, 0, 11);
+      RT_CHECK_AT(ctx, cur, stat, "N-312-r5", "n-312", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_312 = 0;
+   }
+   /* t-313 */
+   if (present & ((uint32_t)1 << 6)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_313, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "T-313", "t-313", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_313 = 3;
+   }
+   /* n-313 */
+   if (present & ((uint32_t)1 << 5)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_313, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "N-313", "n-313", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_313 = 4;
+   }
+   /* t-314 */
+   if (present & ((uint32_t)1 << 4)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_314, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-314", "t-314", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_314 = 5;
+   }
+   /* t-315 */
+   if (present & ((uint32_t)1 << 3)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_315, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-315", "t-315", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_315 = 4;
+   }
+   /* n-315 */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->n_315, 0, 11);
+      RT_CHECK_AT(ctx, cur, stat, "N-315-r5", "n-315", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_315 = 0;
+   }
+   /* t-316 */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_316, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-316", "t-316", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_316 = 3;
+   }
+   /* t-317 */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_317, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "T-317", "t-317", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_317 = 4;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_ConnTimersAndConstants_r5(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_ConnTimersAndConstants_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_HSPA_Identities_r6(rtxContext* RT_RESTRICT ctx, UE_HSPA_Identities_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-HSPA-Identities-r6");
+   /* new-H-RNTI */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_r8_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r8");
+      stat = dec_H_RNTI(ctx, &pvalue->new_H_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "UE-HSPA-Identities-r6");
    }
-   /* e-AGCH-Information */
+   /* newPrimary-E-RNTI */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_AGCH_Information_r8(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r8");
+      stat = dec_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "UE-HSPA-Identities-r6");
    }
-   /* modeSpecificInfo2 */
-   stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2(ctx, &pvalue->modeSpecificInfo2);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo2", -1, "DL-InformationPerRL-r8");
-   /* cell-id */
+   /* newSecondary-E-RNTI */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r8");
+      stat = dec_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "UE-HSPA-Identities-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_List(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_HSPA_Identities_r6(rtxContext* RT_RESTRICT ctx, UE_HSPA_Identities_r6* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_InformationPerRL* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL", (int32_t)i, "DL-InformationPerRL-List");
-      elem = (DL_InformationPerRL*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_InformationPerRL(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_InformationPerRL(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL", (int32_t)i, "DL-InformationPerRL-List");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UE_HSPA_Identities_r6, pvalue);
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_List_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_InformationPerRL_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r4", (int32_t)i, "DL-InformationPerRL-List-r4");
-      elem = (DL_InformationPerRL_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_InformationPerRL_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_InformationPerRL_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r4", (int32_t)i, "DL-InformationPerRL-List-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_List_r5(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_InformationPerRL_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r5", (int32_t)i, "DL-InformationPerRL-List-r5");
-      elem = (DL_InformationPerRL_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_InformationPerRL_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_InformationPerRL_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r5", (int32_t)i, "DL-InformationPerRL-List-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_List_r6(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_InformationPerRL_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r6", (int32_t)i, "DL-InformationPerRL-List-r6");
-      elem = (DL_InformationPerRL_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_InformationPerRL_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_InformationPerRL_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r6", (int32_t)i, "DL-InformationPerRL-List-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-v6b0ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_InformationPerRL_v6b0ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_v6b0ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-v6b0ext", (int32_t)i, "DL-InformationPerRL-List-v6b0ext");
-      elem = (DL_InformationPerRL_v6b0ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_InformationPerRL_v6b0ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_InformationPerRL_v6b0ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-v6b0ext", (int32_t)i, "DL-InformationPerRL-List-v6b0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_List_r5bis(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r5bis* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r5bis");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_InformationPerRL_r5bis* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r5bis));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r5bis", (int32_t)i, "DL-InformationPerRL-List-r5bis");
-      elem = (DL_InformationPerRL_r5bis*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_InformationPerRL_r5bis(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_InformationPerRL_r5bis(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r5bis", (int32_t)i, "DL-InformationPerRL-List-r5bis");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_List_r7(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_InformationPerRL_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r7", (int32_t)i, "DL-InformationPerRL-List-r7");
-      elem = (DL_InformationPerRL_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_InformationPerRL_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_InformationPerRL_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r7", (int32_t)i, "DL-InformationPerRL-List-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_List_r8(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_InformationPerRL_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r8", (int32_t)i, "DL-InformationPerRL-List-r8");
-      elem = (DL_InformationPerRL_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_InformationPerRL_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_InformationPerRL_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r8", (int32_t)i, "DL-InformationPerRL-List-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostFDD* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UE_MultiModeRAT_Capability(rtxContext* RT_RESTRICT ctx, UE_MultiModeRAT_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "DL-InformationPerRL-PostFDD");
-   /* dl-DPCH-InfoPerRL */
-   stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_PostFDD(ctx, &pvalue->dl_DPCH_InfoPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostFDD");
+   /* multiRAT-CapabilityList */
+   stat = dec_MultiRAT_Capability(ctx, &pvalue->multiRAT_CapabilityList, cur);
+   RT_CHECK(ctx, stat, 0, "multiRAT-CapabilityList", -1, "UE-MultiModeRAT-Capability");
+   /* multiModeCapability */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->multiModeCapability, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MultiModeCapability", "multiModeCapability", -1, "UE-MultiModeRAT-Capability");
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_ListPostFDD* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_MultiModeRAT_Capability(rtxContext* RT_RESTRICT ctx, UE_MultiModeRAT_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_MultiModeRAT_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_PowerClassExt(rtxContext* RT_RESTRICT ctx, UE_PowerClassExt* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-ListPostFDD");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_InformationPerRL_PostFDD* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_PostFDD));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-PostFDD", (int32_t)i, "DL-InformationPerRL-ListPostFDD");
-      elem = (DL_InformationPerRL_PostFDD*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_InformationPerRL_PostFDD(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_InformationPerRL_PostFDD(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-PostFDD", (int32_t)i, "DL-InformationPerRL-ListPostFDD");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-PowerClassExt");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PowerClassExt(rtxContext* RT_RESTRICT ctx, UE_PowerClassExt* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_PowerClassExt, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_Capability(rtxContext* RT_RESTRICT ctx, UE_Positioning_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* standaloneLocMethodsSupported */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->standaloneLocMethodsSupported);
+   RT_CHECK_AT(ctx, cur, stat, 0, "standaloneLocMethodsSupported", -1, "UE-Positioning-Capability");
+   /* ue-BasedOTDOA-Supported */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_BasedOTDOA_Supported);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-BasedOTDOA-Supported", -1, "UE-Positioning-Capability");
+   /* networkAssistedGPS-Supported */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->networkAssistedGPS_Supported, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "NetworkAssistedGPS-Supported", "networkAssistedGPS-Supported", -1, "UE-Positioning-Capability");
+   /* supportForUE-GPS-TimingOfCellFrames */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportForUE_GPS_TimingOfCellFrames);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportForUE-GPS-TimingOfCellFrames", -1, "UE-Positioning-Capability");
+   /* supportForIPDL */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->supportForIPDL);
+   RT_CHECK_AT(ctx, cur, stat, 0, "supportForIPDL", -1, "UE-Positioning-Capability");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Capability(rtxContext* RT_RESTRICT ctx, UE_Positioning_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_Capability, pvalue);
+}
+
+static int dec_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability");
+   /* pdcp-Capability */
+   stat = dec_PDCP_Capability(ctx, &pvalue->pdcp_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability");
+   /* rlc-Capability */
+   stat = dec_RLC_Capability(ctx, &pvalue->rlc_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability");
+   /* transportChannelCapability */
+   stat = dec_TransportChannelCapability(ctx, &pvalue->transportChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "transportChannelCapability", -1, "UE-RadioAccessCapability");
+   /* rf-Capability */
+   stat = dec_RF_Capability(ctx, &pvalue->rf_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability");
+   /* physicalChannelCapability */
+   stat = dec_PhysicalChannelCapability(ctx, &pvalue->physicalChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability");
+   /* ue-MultiModeRAT-Capability */
+   stat = dec_UE_MultiModeRAT_Capability(ctx, &pvalue->ue_MultiModeRAT_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "ue-MultiModeRAT-Capability", -1, "UE-RadioAccessCapability");
+   /* securityCapability */
+   stat = dec_SecurityCapability(ctx, &pvalue->securityCapability, cur);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "UE-RadioAccessCapability");
+   /* ue-positioning-Capability */
+   stat = dec_UE_Positioning_Capability(ctx, &pvalue->ue_positioning_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-Capability", -1, "UE-RadioAccessCapability");
+   /* measurementCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasurementCapability(ctx, &pvalue->measurementCapability, cur);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase_syncCase1* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDD_fddRF_Capability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD_fddRF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* ue-PowerClass */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase_syncCase2* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD_fddRF_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabBandFDD_fddRF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDD(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* timeslotSync2 */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotSync2, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD");
+   /* radioFrequencyBandFDD */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandFDD, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD");
+   /* fddRF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_RadioAccessCapabBandFDD_fddRF_Capability(ctx, &pvalue->fddRF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "UE-RadioAccessCapabBandFDD");
+   }
+   /* measurementCapability */
+   stat = dec_MeasurementCapabilityExt(ctx, &pvalue->measurementCapability, cur);
+   RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapabBandFDD");
    return 0;
 }
 
-int asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDD(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabBandFDD, pvalue);
+}
+
+static int dec_UE_RadioAccessCapabBandFDDList(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_RadioAccessCapabBandFDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-RadioAccessCapabBandFDD", (int32_t)i, "UE-RadioAccessCapabBandFDDList");
+      elem = (UE_RadioAccessCapabBandFDD*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_RadioAccessCapabBandFDD(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_RadioAccessCapabBandFDD(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD", (int32_t)i, "UE-RadioAccessCapabBandFDDList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabBandFDDList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v370ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v370ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapabBandFDDList */
+   stat = dec_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapabBandFDDList, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList", -1, "UE-RadioAccessCapability-v370ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v370ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v370ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v370ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityInfo(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapability */
+   stat = dec_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "UE-RadioAccessCapabilityInfo");
+   /* ue-RadioAccessCapability-v370ext */
+   stat = dec_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v370ext", -1, "UE-RadioAccessCapabilityInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityInfo(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_PositioningCapabilityExt_v380(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v380* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rx-tx-TimeDifferenceType2Capable */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rx_tx_TimeDifferenceType2Capable);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rx-tx-TimeDifferenceType2Capable", -1, "UE-PositioningCapabilityExt-v380");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapabilityExt_v380(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v380* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_PositioningCapabilityExt_v380, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v380ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v380ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-PositioningCapabilityExt-v380 */
+   stat = dec_UE_PositioningCapabilityExt_v380(ctx, &pvalue->ue_PositioningCapabilityExt_v380, cur);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v380", -1, "UE-RadioAccessCapability-v380ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v380ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v380ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v380ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_PositioningCapabilityExt_v3a0(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* validity-CellPCH-UraPCH */
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, "validity-CellPCH-UraPCH", -1, "UE-PositioningCapabilityExt-v3a0");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, "validity-CellPCH-UraPCH", -1, "UE-PositioningCapabilityExt-v3a0");
+      pvalue->validity_CellPCH_UraPCH = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapabilityExt_v3a0(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_PositioningCapabilityExt_v3a0, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v3a0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-PositioningCapabilityExt-v3a0 */
+   stat = dec_UE_PositioningCapabilityExt_v3a0(ctx, &pvalue->ue_PositioningCapabilityExt_v3a0, cur);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v3a0", -1, "UE-RadioAccessCapability-v3a0ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v3a0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v3a0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v3a0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_PositioningCapabilityExt_v3g0(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sfn-sfnType2Capability */
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, "sfn-sfnType2Capability", -1, "UE-PositioningCapabilityExt-v3g0");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, "sfn-sfnType2Capability", -1, "UE-PositioningCapabilityExt-v3g0");
+      pvalue->sfn_sfnType2Capability = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapabilityExt_v3g0(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_PositioningCapabilityExt_v3g0, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v3g0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v3g0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-PositioningCapabilityExt-v3g0 */
+   stat = dec_UE_PositioningCapabilityExt_v3g0(ctx, &pvalue->ue_PositioningCapabilityExt_v3g0, cur);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v3g0", -1, "UE-RadioAccessCapability-v3g0ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v3g0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v3g0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v3g0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDD2_fddRF_Capability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD2_fddRF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDD2_fddRF_Capability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD2_fddRF_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabBandFDD2_fddRF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDD2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD2");
+   /* radioFrequencyBandFDD2 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandFDD2, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD2");
+   /* fddRF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_RadioAccessCapabBandFDD2_fddRF_Capability(ctx, &pvalue->fddRF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "UE-RadioAccessCapabBandFDD2");
+   }
+   /* measurementCapability2 */
+   stat = dec_MeasurementCapabilityExt2(ctx, &pvalue->measurementCapability2, cur);
+   RT_CHECK(ctx, stat, 0, "measurementCapability2", -1, "UE-RadioAccessCapabBandFDD2");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDD2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabBandFDD2, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDDList2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList2");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_RadioAccessCapabBandFDD2* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD2));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-RadioAccessCapabBandFDD2", (int32_t)i, "UE-RadioAccessCapabBandFDDList2");
+      elem = (UE_RadioAccessCapabBandFDD2*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_RadioAccessCapabBandFDD2(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_RadioAccessCapabBandFDD2(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD2", (int32_t)i, "UE-RadioAccessCapabBandFDDList2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabBandFDDList2, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDD_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* radioFrequencyBandFDD */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->radioFrequencyBandFDD, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD-ext");
+   /* compressedModeMeasCapabFDDList-ext */
+   stat = dec_CompressedModeMeasCapabFDDList_ext(ctx, &pvalue->compressedModeMeasCapabFDDList_ext, cur);
+   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList-ext", -1, "UE-RadioAccessCapabBandFDD-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDD_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabBandFDD_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabBandFDDList_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_RadioAccessCapabBandFDD_ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD_ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-RadioAccessCapabBandFDD-ext", (int32_t)i, "UE-RadioAccessCapabBandFDDList-ext");
+      elem = (UE_RadioAccessCapabBandFDD_ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_RadioAccessCapabBandFDD_ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_RadioAccessCapabBandFDD_ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD-ext", (int32_t)i, "UE-RadioAccessCapabBandFDDList-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabBandFDDList_ext, pvalue);
+}
+
+static int dec_UE_RadioAccessCapability_v650ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v650ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v650ext");
+   /* ue-RadioAccessCapabBandFDDList2 */
+   stat = dec_UE_RadioAccessCapabBandFDDList2(ctx, &pvalue->ue_RadioAccessCapabBandFDDList2, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList2", -1, "UE-RadioAccessCapability-v650ext");
+   /* ue-RadioAccessCapabBandFDDList-ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_RadioAccessCapabBandFDDList_ext(ctx, &pvalue->ue_RadioAccessCapabBandFDDList_ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList-ext", -1, "UE-RadioAccessCapability-v650ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v650ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v650ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v650ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v7e0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v7e0ext");
+   /* supportForTwoDRXSchemesInPCH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "UE-RadioAccessCapability-v7e0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "UE-RadioAccessCapability-v7e0ext");
+         pvalue->supportForTwoDRXSchemesInPCH = ui;
+      }
+   }
+   /* supportEDPDCHPowerInterpolation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportEDPDCHPowerInterpolation", -1, "UE-RadioAccessCapability-v7e0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportEDPDCHPowerInterpolation", -1, "UE-RadioAccessCapability-v7e0ext");
+         pvalue->supportEDPDCHPowerInterpolation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v7e0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   /* hSDSCH-physical-layer-category */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->hSDSCH_physical_layer_category, 1, 64);
+      RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category", "hSDSCH-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* multiCarrier-physical-layer-category */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->multiCarrier_physical_layer_category, 1, 64);
+      RT_CHECK_AT(ctx, cur, stat, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* tdd-edch-PhysicalLayerCategory */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
+      RT_CHECK_AT(ctx, cur, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* supportForCSVoiceoverHSPA */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForCSVoiceoverHSPA", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForCSVoiceoverHSPA", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+         pvalue->supportForCSVoiceoverHSPA = ui;
+      }
+   }
+   /* totalRLC-AM-BufferSize */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->totalRLC_AM_BufferSize, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_TDD128_v7f0ext, pvalue);
+}
+
+static int dec_UE_RadioAccessCapability_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v7f0ext");
+   /* supportofTxDivOnNonMIMOChannel */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapability-v7f0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapability-v7f0ext");
+         pvalue->supportofTxDivOnNonMIMOChannel = ui;
+      }
+   }
+   /* physicalChannelCapability-LCR */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR, cur);
+      RT_CHECK(ctx, stat, 0, "physicalChannelCapability-LCR", -1, "UE-RadioAccessCapability-v7f0ext");
+   }
+   /* ue-RadioAccessCapabilityComp-TDD128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(ctx, &pvalue->ue_RadioAccessCapabilityComp_TDD128, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp-TDD128", -1, "UE-RadioAccessCapability-v7f0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v7f0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   /* rf-Capability */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RF_Capability_v770ext(ctx, &pvalue->rf_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   }
+   /* physicalChannelCapability */
+   stat = dec_PhysicalChannelCapabilityInfo_v770ext(ctx, &pvalue->physicalChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   /* ganssSupportIndication */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+         pvalue->ganssSupportIndication = ui;
+      }
+   }
+   /* mac-ehsSupport */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+         pvalue->mac_ehsSupport = ui;
+      }
+   }
+   /* ue-SpecificCapabilityInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_SpecificCapabilityInformation, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "UE-SpecificCapabilityInformation-LCRTDD", "ue-SpecificCapabilityInformation", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityInfo_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapabBandFDDList3 */
+   stat = dec_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList3", -1, "UE-RadioAccessCapability-v860ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v880ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v880ext");
+   /* supportForPriorityReselectionInUTRAN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext");
+         pvalue->supportForPriorityReselectionInUTRAN = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v880ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v880ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v890ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v890ext");
+   /* supportCellSpecificTxDiversityinDC-Operation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext");
+         pvalue->supportCellSpecificTxDiversityinDC_Operation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v890ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v890ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_supportOfenhancedTS0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_supportOfenhancedTS0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v920ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v920ext");
+   /* supportOfenhancedTS0 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext");
+         pvalue->supportOfenhancedTS0 = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v920ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rf-Capability */
+   stat = dec_RF_Capability_r4_ext(ctx, &pvalue->rf_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, 0);
+   /* physicalChannelCapability-LCR */
+   stat = dec_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability-LCR", -1, 0);
+   /* measurementCapability-r4-ext */
+   stat = dec_MeasurementCapability_r4_ext(ctx, &pvalue->measurementCapability_r4_ext, cur);
+   RT_CHECK(ctx, stat, 0, "measurementCapability-r4-ext", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt, pvalue);
+}
+
+static int dec_UE_RadioAccessCapability_v4b0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v4b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v4b0ext");
+   /* pdcp-Capability-r4-ext */
+   stat = dec_PDCP_Capability_r4_ext(ctx, &pvalue->pdcp_Capability_r4_ext, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r4-ext", -1, "UE-RadioAccessCapability-v4b0ext");
+   /* tdd-CapabilityExt */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(ctx, &pvalue->tdd_CapabilityExt, cur);
+      RT_CHECK(ctx, stat, 0, "tdd-CapabilityExt", -1, "UE-RadioAccessCapability-v4b0ext");
+   }
+   /* accessStratumReleaseIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->accessStratumReleaseIndicator, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-v4b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v4b0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v4b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_CapabBandFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandFDDComp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RF-CapabBandFDDComp");
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabBandFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandFDDComp* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_CapabBandFDDComp, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_CapabBandListFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandListFDDComp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RF-CapabBandListFDDComp");
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "RF-CapabBandListFDDComp");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RF-CapabBandListFDDComp");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 3);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabBandListFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandListFDDComp* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_CapabBandListFDDComp, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_CapabilityComp_fdd(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* syncCase1 */
-         pvalue->u.syncCase1 = (PrimaryCCPCH_InfoPost_syncCase_syncCase1*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_InfoPost_syncCase_syncCase1));
-         if (pvalue->u.syncCase1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "syncCase1", -1, 0);
-         stat = asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
-         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
+      case 0: /* notSupported */
          break;
-      case 1: /* syncCase2 */
-         pvalue->u.syncCase2 = (PrimaryCCPCH_InfoPost_syncCase_syncCase2*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_InfoPost_syncCase_syncCase2));
-         if (pvalue->u.syncCase2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "syncCase2", -1, 0);
-         stat = asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
-         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
+      case 1: /* supported */
+         pvalue->u.supported = (RF_CapabBandListFDDComp*)rtxMemHeapAlloc(ctx, sizeof(RF_CapabBandListFDDComp));
+         if (pvalue->u.supported == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         asn1Init_UMTS_RF_CapabBandListFDDComp(pvalue->u.supported);
+         stat = dec_RF_CapabBandListFDDComp(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
+}
+
+int asn1PD_UMTS_RF_CapabilityComp_fdd(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_CapabilityComp_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_CapabilityComp_tdd384_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_tdd384_RF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.supported, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandTDDList", "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabilityComp_tdd384_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_tdd384_RF_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_CapabilityComp_tdd384_RF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_CapabilityComp_tdd128_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_tdd128_RF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.supported, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandTDDList", "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabilityComp_tdd128_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_tdd128_RF_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_CapabilityComp_tdd128_RF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_CapabilityComp(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* fdd */
+   stat = dec_RF_CapabilityComp_fdd(ctx, &pvalue->fdd, cur);
+   RT_CHECK(ctx, stat, 0, "fdd", -1, "RF-CapabilityComp");
+   /* tdd384-RF-Capability */
+   stat = dec_RF_CapabilityComp_tdd384_RF_Capability(ctx, &pvalue->tdd384_RF_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "tdd384-RF-Capability", -1, "RF-CapabilityComp");
+   /* tdd128-RF-Capability */
+   stat = dec_RF_CapabilityComp_tdd128_RF_Capability(ctx, &pvalue->tdd128_RF_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "tdd128-RF-Capability", -1, "RF-CapabilityComp");
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabilityComp(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_CapabilityComp, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* totalAM-RLCMemoryExceeds10kB */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->totalAM_RLCMemoryExceeds10kB);
+   RT_CHECK_AT(ctx, cur, stat, 0, "totalAM-RLCMemoryExceeds10kB", -1, "UE-RadioAccessCapabilityComp");
+   /* rf-CapabilityComp */
+   stat = dec_RF_CapabilityComp(ctx, &pvalue->rf_CapabilityComp, cur);
+   RT_CHECK(ctx, stat, 0, "rf-CapabilityComp", -1, "UE-RadioAccessCapabilityComp");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_CapabBandListFDDComp_ext(rtxContext* RT_RESTRICT ctx, RF_CapabBandListFDDComp_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RF-CapabBandListFDDComp-ext");
+      pvalue->n = n = raw + 1;
+      if (raw > 14) {
+         rtxErrAddStrParm(ctx, "RF-CapabBandListFDDComp-ext");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RF-CapabBandListFDDComp-ext");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 3);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp-ext");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabBandListFDDComp_ext(rtxContext* RT_RESTRICT ctx, RF_CapabBandListFDDComp_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_CapabBandListFDDComp_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rf-CapabilityFDDComp */
+   stat = dec_RF_CapabBandListFDDComp_ext(ctx, &pvalue->rf_CapabilityFDDComp, cur);
+   RT_CHECK(ctx, stat, 0, "rf-CapabilityFDDComp", -1, "UE-RadioAccessCapabilityComp-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_CapabilityComp_v770ext_tdd768_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_v770ext_tdd768_RF_Capability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.supported, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandTDDList-r7", "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabilityComp_v770ext_tdd768_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_v770ext_tdd768_RF_Capability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_CapabilityComp_v770ext_tdd768_RF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int dec_RF_CapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RF-CapabilityComp-v770ext");
+   /* tdd384-RF-Capability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tdd384_RF_Capability, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandTDDList-r7", "tdd384-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+   }
+   /* tdd768-RF-Capability */
+   stat = dec_RF_CapabilityComp_v770ext_tdd768_RF_Capability(ctx, &pvalue->tdd768_RF_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "tdd768-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+   /* tdd128-RF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tdd128_RF_Capability, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandTDDList-r7", "tdd128-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RF_CapabilityComp_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-v770ext");
+   /* rf-CapabilityComp */
+   stat = dec_RF_CapabilityComp_v770ext(ctx, &pvalue->rf_CapabilityComp, cur);
+   RT_CHECK(ctx, stat, 0, "rf-CapabilityComp", -1, "UE-RadioAccessCapabilityComp-v770ext");
+   /* securityCapabilityIndication */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "securityCapabilityIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "securityCapabilityIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+         pvalue->securityCapabilityIndication = ui;
+      }
+   }
+   /* ganssSupportIndication */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+         pvalue->ganssSupportIndication = ui;
+      }
+   }
+   /* mac-ehsSupport */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityComp-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityComp-v770ext");
+         pvalue->mac_ehsSupport = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, 0);
+   }
+   /* physicalChannelCapabComp-hspdsch-r6 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->physicalChannelCapabComp_hspdsch_r6, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category", "physicalChannelCapabComp-hspdsch-r6", -1, 0);
+   /* physicalChannelCapability-edch-r6 */
+   stat = dec_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalChannelCapability_edch_r6, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability-edch-r6", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2");
+   /* fddPhysicalChannelCapab-hspdsch-edch */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(ctx, &pvalue->fddPhysicalChannelCapab_hspdsch_edch, cur);
+      RT_CHECK(ctx, stat, 0, "fddPhysicalChannelCapab-hspdsch-edch", -1, "UE-RadioAccessCapabilityComp2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_slotFormat4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_slotFormat4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 9, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   /* hsdsch-physical-layer-category-ext */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->hsdsch_physical_layer_category_ext, 1, 20);
+      RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* edch-PhysicalLayerCategory-extension */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "edch-PhysicalLayerCategory-extension", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* hsscchlessHsdschOperation */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsscchlessHsdschOperation", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsscchlessHsdschOperation", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         pvalue->hsscchlessHsdschOperation = ui;
+      }
+   }
+   /* enhancedFdpch */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "enhancedFdpch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "enhancedFdpch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         pvalue->enhancedFdpch = ui;
+      }
+   }
+   /* hsdschReception-CellFach */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsdschReception-CellFach", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsdschReception-CellFach", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         pvalue->hsdschReception_CellFach = ui;
+      }
+   }
+   /* hsdschReception-CellUraPch */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsdschReception-CellUraPch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "hsdschReception-CellUraPch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         pvalue->hsdschReception_CellUraPch = ui;
+      }
+   }
+   /* discontinuousDpcchTransmission */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "discontinuousDpcchTransmission", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "discontinuousDpcchTransmission", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         pvalue->discontinuousDpcchTransmission = ui;
+      }
+   }
+   /* slotFormat4 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "slotFormat4", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "slotFormat4", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         pvalue->slotFormat4 = ui;
+      }
+   }
+   /* pdcp-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100u;
+      stat = dec_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+   /* supportofTxDivOnNonMIMOChannel */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+         pvalue->supportofTxDivOnNonMIMOChannel = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_v7f0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v860ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v860ext");
+   /* hsdsch-physical-layer-category-ext2 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
+      RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+   }
+   /* supportOfMACiis */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+         pvalue->supportOfMACiis = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v860ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp2_v920ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   /* hsdsch-physical-layer-category-ext3 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
+      RT_CHECK_AT(ctx, cur, stat, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   }
+   /* edch-PhysicalLayerCategory-extension2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
+      RT_CHECK_AT(ctx, cur, stat, 0, "edch-PhysicalLayerCategory-extension2", -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v920ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp2_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapabilityComp_TDD128(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128");
+   /* tdd128RF-Capability */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tdd128RF-Capability", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfSFModeForHSPDSCHDualStream */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfCommonEDCH */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         pvalue->supportOfCommonEDCH = ui;
+      }
+   }
+   /* supportOfMACiis */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         pvalue->supportOfMACiis = ui;
+      }
+   }
+   /* supportOfSPSOperation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         pvalue->supportOfSPSOperation = ui;
+      }
+   }
+   /* supportOfControlChannelDRXOperation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         pvalue->supportOfControlChannelDRXOperation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapabilityComp_TDD128, pvalue);
+}
+
+static int dec_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v590ext");
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-v590ext");
+   }
+   /* pdcp-Capability-r5-ext */
+   stat = dec_PDCP_Capability_r5_ext(ctx, &pvalue->pdcp_Capability_r5_ext, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r5-ext", -1, "UE-RadioAccessCapability-v590ext");
+   /* rlc-Capability-r5-ext */
+   stat = dec_RLC_Capability_r5_ext(ctx, &pvalue->rlc_Capability_r5_ext, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability-r5-ext", -1, "UE-RadioAccessCapability-v590ext");
+   /* physicalChannelCapability */
+   stat = dec_PhysicalChannelCapability_hspdsch_r5(ctx, &pvalue->physicalChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v590ext");
+   /* multiModeRAT-Capability-v590ext */
+   stat = dec_MultiModeRAT_Capability_v590ext(ctx, &pvalue->multiModeRAT_Capability_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability-v590ext", -1, "UE-RadioAccessCapability-v590ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v5c0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v5c0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pdcp-Capability-r5-ext2 */
+   stat = dec_PDCP_Capability_r5_ext2(ctx, &pvalue->pdcp_Capability_r5_ext2, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r5-ext2", -1, "UE-RadioAccessCapability-v5c0ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v5c0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v5c0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v5c0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RadioAccessCapability_v680ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v680ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* multiModeRAT-Capability-v680ext */
+   stat = dec_MultiModeRAT_Capability_v680ext(ctx, &pvalue->multiModeRAT_Capability_v680ext, cur);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability-v680ext", -1, "UE-RadioAccessCapability-v680ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v680ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v680ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RadioAccessCapability_v680ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_PhysChCapabilityFDD_r6(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxNoDPDCH-BitsTransmitted */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD-r6");
+   /* physicalchannelcapability-edch */
+   stat = dec_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch, cur);
+   RT_CHECK(ctx, stat, 0, "physicalchannelcapability-edch", -1, "UL-PhysChCapabilityFDD-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityFDD_r6(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_PhysChCapabilityFDD_r6, pvalue);
+}
+
+static int dec_UL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, UL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* secondaryServingEDCHCell-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SecondaryServingEDCHCell_Info(ctx, &pvalue->secondaryServingEDCHCell_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryServingEDCHCell-Info", -1, 0);
+   }
+   /* secondaryEDCH-Info-Common */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SecondaryEDCH_Info_Common(ctx, &pvalue->secondaryEDCH_Info_Common, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryEDCH-Info-Common", -1, 0);
+   }
+   /* dl-InformationPerSecondaryRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_DL_InformationPerSecondaryRL_List(ctx, &pvalue->dl_InformationPerSecondaryRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerSecondaryRL-List", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, UL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_SecondaryCellInfoFDD_newConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, UL_SecondaryCellInfoFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-SecondaryCellInfoFDD");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* continue */
+         break;
+      case 1: /* newConfiguration */
+         pvalue->u.newConfiguration = (UL_SecondaryCellInfoFDD_newConfiguration*)rtxMemHeapAlloc(ctx, sizeof(UL_SecondaryCellInfoFDD_newConfiguration));
+         if (pvalue->u.newConfiguration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newConfiguration", -1, "UL-SecondaryCellInfoFDD");
+         asn1Init_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(pvalue->u.newConfiguration);
+         stat = dec_UL_SecondaryCellInfoFDD_newConfiguration(ctx, pvalue->u.newConfiguration, cur);
+         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "UL-SecondaryCellInfoFDD");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-SecondaryCellInfoFDD");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, UL_SecondaryCellInfoFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_SecondaryCellInfoFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_SecurityInformation(rtxContext* RT_RESTRICT ctx, UE_SecurityInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* start-CS */
+   stat = dec_START_Value(ctx, &pvalue->start_CS, cur);
+   RT_CHECK(ctx, stat, 0, "start-CS", -1, "UE-SecurityInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_SecurityInformation(rtxContext* RT_RESTRICT ctx, UE_SecurityInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_SecurityInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_SecurityInformation2(rtxContext* RT_RESTRICT ctx, UE_SecurityInformation2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* start-PS */
+   stat = dec_START_Value(ctx, &pvalue->start_PS, cur);
+   RT_CHECK(ctx, stat, 0, "start-PS", -1, "UE-SecurityInformation2");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_SecurityInformation2(rtxContext* RT_RESTRICT ctx, UE_SecurityInformation2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_SecurityInformation2, pvalue);
+}
+
+RT_MERGED_BODY int dec_URA_UpdateCause(rtxContext* RT_RESTRICT ctx, URA_UpdateCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "URA-UpdateCause");
+   return 0;
+}
+
+int asn1PD_UMTS_URA_UpdateCause(rtxContext* RT_RESTRICT ctx, URA_UpdateCause* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_URA_UpdateCause, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 3, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient");
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_DRX_CycleLengthCoefficient, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_DRX_CycleLengthCoefficient_r7(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   /* drx-CycleLengthCoefficient */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->drx_CycleLengthCoefficient, 3, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, "drx-CycleLengthCoefficient", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   /* drx-CycleLengthCoefficient2 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->drx_CycleLengthCoefficient2, 3, 9);
+      RT_CHECK_AT(ctx, cur, stat, 0, "drx-CycleLengthCoefficient2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   }
+   /* timeForDRXCycle2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeForDRXCycle2, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, "T-319", "timeForDRXCycle2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_DRX_CycleLengthCoefficient_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_WaitTime(rtxContext* RT_RESTRICT ctx, WaitTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "WaitTime");
+   return 0;
+}
+
+int asn1PD_UMTS_WaitTime(rtxContext* RT_RESTRICT ctx, WaitTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_WaitTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_ROHC_Profile_r4(rtxContext* RT_RESTRICT ctx, ROHC_Profile_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ROHC-Profile-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_ROHC_Profile_r4(rtxContext* RT_RESTRICT ctx, ROHC_Profile_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ROHC_Profile_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_ROHC_ProfileList_r4(rtxContext* RT_RESTRICT ctx, ROHC_ProfileList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ROHC-ProfileList-r4");
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "ROHC-ProfileList-r4");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ROHC-ProfileList-r4");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 3);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "ROHC-Profile-r4", "ROHC-Profile-r4", (int32_t)i, "ROHC-ProfileList-r4");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ROHC_ProfileList_r4(rtxContext* RT_RESTRICT ctx, ROHC_ProfileList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ROHC_ProfileList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_CID_InclusionInfo_r4(rtxContext* RT_RESTRICT ctx, CID_InclusionInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CID-InclusionInfo-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_CID_InclusionInfo_r4(rtxContext* RT_RESTRICT ctx, CID_InclusionInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CID_InclusionInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_ROHC_PacketSize_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSize_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 2, 1500);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ROHC-PacketSize-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_ROHC_PacketSize_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSize_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ROHC_PacketSize_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_ROHC_PacketSizeList_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSizeList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ROHC-PacketSizeList-r4");
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "ROHC-PacketSizeList-r4");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ROHC-PacketSizeList-r4");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->elem[i], 2, 1500);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "ROHC-PacketSize-r4", "ROHC-PacketSize-r4", (int32_t)i, "ROHC-PacketSizeList-r4");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ROHC_PacketSizeList_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSizeList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ROHC_PacketSizeList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, UL_RFC3095_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-RFC3095-r4");
+   /* dummy1 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dummy1, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CID-InclusionInfo-r4", "dummy1", -1, "UL-RFC3095-r4");
+   /* max-CID */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->max_CID, 1, 16383);
+      RT_CHECK_AT(ctx, cur, stat, 0, "max-CID", -1, "UL-RFC3095-r4");
+   }
+   else {
+      pvalue->max_CID = 15;
+   }
+   /* dummy */
+   stat = dec_ROHC_PacketSizeList_r4(ctx, &pvalue->dummy, cur);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-RFC3095-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, UL_RFC3095_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_RFC3095_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, DL_RFC3095_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-RFC3095-r4");
+   /* dummy */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dummy, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CID-InclusionInfo-r4", "dummy", -1, "DL-RFC3095-r4");
+   /* max-CID */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->max_CID, 1, 16383);
+      RT_CHECK_AT(ctx, cur, stat, 0, "max-CID", -1, "DL-RFC3095-r4");
+   }
+   else {
+      pvalue->max_CID = 15;
+   }
+   /* reverseDecompressionDepth */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->reverseDecompressionDepth, 0, 65535);
+      RT_CHECK_AT(ctx, cur, stat, 0, "reverseDecompressionDepth", -1, "DL-RFC3095-r4");
+   }
+   else {
+      pvalue->reverseDecompressionDepth = 0;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, DL_RFC3095_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_RFC3095_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_RFC3095_Info_r4(rtxContext* RT_RESTRICT ctx, RFC3095_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RFC3095-Info-r4");
+   /* rohcProfileList */
+   stat = dec_ROHC_ProfileList_r4(ctx, &pvalue->rohcProfileList, cur);
+   RT_CHECK(ctx, stat, 0, "rohcProfileList", -1, "RFC3095-Info-r4");
+   /* ul-RFC3095 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_RFC3095_r4(ctx, &pvalue->ul_RFC3095, cur);
+      RT_CHECK(ctx, stat, 0, "ul-RFC3095", -1, "RFC3095-Info-r4");
+   }
+   /* dl-RFC3095 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_RFC3095_r4(ctx, &pvalue->dl_RFC3095, cur);
+      RT_CHECK(ctx, stat, 0, "dl-RFC3095", -1, "RFC3095-Info-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RFC3095_Info_r4(rtxContext* RT_RESTRICT ctx, RFC3095_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RFC3095_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_AlgorithmSpecificInfo_r4(rtxContext* RT_RESTRICT ctx, AlgorithmSpecificInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AlgorithmSpecificInfo-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rfc2507-Info */
+         pvalue->u.rfc2507_Info = (RFC2507_Info*)rtxMemHeapAlloc(ctx, sizeof(RFC2507_Info));
+         if (pvalue->u.rfc2507_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo-r4");
+         asn1Init_UMTS_RFC2507_Info(pvalue->u.rfc2507_Info);
+         stat = dec_RFC2507_Info(ctx, pvalue->u.rfc2507_Info, cur);
+         RT_CHECK(ctx, stat, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo-r4");
+         break;
+      case 1: /* rfc3095-Info */
+         pvalue->u.rfc3095_Info = (RFC3095_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(RFC3095_Info_r4));
+         if (pvalue->u.rfc3095_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "rfc3095-Info", -1, "AlgorithmSpecificInfo-r4");
+         asn1Init_UMTS_RFC3095_Info_r4(pvalue->u.rfc3095_Info);
+         stat = dec_RFC3095_Info_r4(ctx, pvalue->u.rfc3095_Info, cur);
+         RT_CHECK(ctx, stat, 0, "rfc3095-Info", -1, "AlgorithmSpecificInfo-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "AlgorithmSpecificInfo-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AlgorithmSpecificInfo_r4(rtxContext* RT_RESTRICT ctx, AlgorithmSpecificInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AlgorithmSpecificInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_COUNT_C(rtxContext* RT_RESTRICT ctx, COUNT_C* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt32At(ctx, cur, pvalue, 0, 4294967295LL);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "COUNT-C");
+   return 0;
+}
+
+int asn1PD_UMTS_COUNT_C(rtxContext* RT_RESTRICT ctx, COUNT_C* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_COUNT_C, pvalue);
+}
+
+RT_MERGED_BODY int dec_COUNT_C_MSB(rtxContext* RT_RESTRICT ctx, COUNT_C_MSB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt32At(ctx, cur, pvalue, 0, 33554431);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "COUNT-C-MSB");
+   return 0;
+}
+
+int asn1PD_UMTS_COUNT_C_MSB(rtxContext* RT_RESTRICT ctx, COUNT_C_MSB* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_COUNT_C_MSB, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AMR_Rate(rtxContext* RT_RESTRICT ctx, UL_AMR_Rate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-AMR-Rate");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AMR_Rate(rtxContext* RT_RESTRICT ctx, UL_AMR_Rate* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AMR_Rate, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxCS_Delay(rtxContext* RT_RESTRICT ctx, MaxCS_Delay* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 18);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxCS-Delay");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxCS_Delay(rtxContext* RT_RESTRICT ctx, MaxCS_Delay* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxCS_Delay, pvalue);
+}
+
+RT_MERGED_BODY int dec_CS_HSPA_Information(rtxContext* RT_RESTRICT ctx, CS_HSPA_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CS-HSPA-Information");
+   /* ul-AMR-Rate */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ul_AMR_Rate, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "UL-AMR-Rate", "ul-AMR-Rate", -1, "CS-HSPA-Information");
+   }
+   /* maxCS-Delay */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxCS_Delay, 0, 18);
+   RT_CHECK_AT(ctx, cur, stat, "MaxCS-Delay", "maxCS-Delay", -1, "CS-HSPA-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_CS_HSPA_Information(rtxContext* RT_RESTRICT ctx, CS_HSPA_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CS_HSPA_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_DefaultConfigMode(rtxContext* RT_RESTRICT ctx, DefaultConfigMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DefaultConfigMode");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigMode(rtxContext* RT_RESTRICT ctx, DefaultConfigMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DefaultConfigMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_DefaultConfigIdForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigIdForCellFACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DefaultConfigIdForCellFACH");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigIdForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigIdForCellFACH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DefaultConfigIdForCellFACH, pvalue);
+}
+
+RT_MERGED_BODY int dec_DefaultConfigForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigForCellFACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DefaultConfigMode", "defaultConfigMode", -1, "DefaultConfigForCellFACH");
+   /* defaultConfigIdForCellFACH */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->defaultConfigIdForCellFACH, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "DefaultConfigIdForCellFACH", "defaultConfigIdForCellFACH", -1, "DefaultConfigForCellFACH");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigForCellFACH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DefaultConfigForCellFACH, pvalue);
+}
+
+RT_MERGED_BODY int dec_DefaultConfigIdentity(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DefaultConfigIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigIdentity(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DefaultConfigIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_DefaultConfigIdentity_r4(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DefaultConfigIdentity-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigIdentity_r4(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DefaultConfigIdentity_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DefaultConfigIdentity_r5(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DefaultConfigIdentity-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigIdentity_r5(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DefaultConfigIdentity_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_DefaultConfigIdentity_r6(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DefaultConfigIdentity-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigIdentity_r6(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DefaultConfigIdentity_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_DDI(rtxContext* RT_RESTRICT ctx, DDI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DDI");
+   return 0;
+}
+
+int asn1PD_UMTS_DDI(rtxContext* RT_RESTRICT ctx, DDI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DDI, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-RLC-PDU-size */
+   stat = dec_OctetModeRLC_SizeInfoType1(ctx, &pvalue->dl_RLC_PDU_size, cur);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-PDU-size", -1, "DL-AM-RLC-Mode-r5");
+   /* inSequenceDelivery */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->inSequenceDelivery);
+   RT_CHECK_AT(ctx, cur, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode-r5");
+   /* receivingWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->receivingWindowSize, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r5");
+   /* dl-RLC-StatusInfo */
+   stat = dec_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AM_RLC_Mode_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fixedSize */
+         pvalue->u.fixedSize = (OctetModeRLC_SizeInfoType1*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1));
+         if (pvalue->u.fixedSize == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fixedSize", -1, 0);
+         asn1Init_UMTS_OctetModeRLC_SizeInfoType1(pvalue->u.fixedSize);
+         stat = dec_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.fixedSize, cur);
+         RT_CHECK(ctx, stat, 0, "fixedSize", -1, 0);
+         break;
+      case 1: /* flexibleSize */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.flexibleSize, 0, 1);
+         RT_CHECK_AT(ctx, cur, stat, 0, "flexibleSize", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AM_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-RLC-PDU-size */
+   stat = dec_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(ctx, &pvalue->dl_RLC_PDU_size, cur);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-PDU-size", -1, "DL-AM-RLC-Mode-r7");
+   /* inSequenceDelivery */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->inSequenceDelivery);
+   RT_CHECK_AT(ctx, cur, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode-r7");
+   /* receivingWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->receivingWindowSize, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r7");
+   /* dl-RLC-StatusInfo */
+   stat = dec_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AM_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AM_RLC_Mode_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_SN_Info(rtxContext* RT_RESTRICT ctx, PDCP_SN_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDCP-SN-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_SN_Info(rtxContext* RT_RESTRICT ctx, PDCP_SN_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_SN_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_WithPDCP_Info(rtxContext* RT_RESTRICT ctx, RB_WithPDCP_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-WithPDCP-Info");
+   /* pdcp-SN-Info */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->pdcp_SN_Info, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-WithPDCP-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_WithPDCP_Info(rtxContext* RT_RESTRICT ctx, RB_WithPDCP_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_WithPDCP_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_WithPDCP_InfoList(rtxContext* RT_RESTRICT ctx, RB_WithPDCP_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-WithPDCP-InfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_WithPDCP_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_WithPDCP_Info));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-WithPDCP-Info", (int32_t)i, "RB-WithPDCP-InfoList");
+      elem = (RB_WithPDCP_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_WithPDCP_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-WithPDCP-Info", (int32_t)i, "RB-WithPDCP-InfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_WithPDCP_InfoList(rtxContext* RT_RESTRICT ctx, RB_WithPDCP_InfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_WithPDCP_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, DL_CounterSynchronisationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CounterSynchronisationInfo");
+   /* rB-WithPDCP-InfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "rB-WithPDCP-InfoList", -1, "DL-CounterSynchronisationInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, DL_CounterSynchronisationInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CounterSynchronisationInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_PDCPContextRelocation(rtxContext* RT_RESTRICT ctx, RB_PDCPContextRelocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-PDCPContextRelocation");
+   /* dl-RFC3095-Context-Relocation */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dl_RFC3095_Context_Relocation);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dl-RFC3095-Context-Relocation", -1, "RB-PDCPContextRelocation");
+   /* ul-RFC3095-Context-Relocation */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ul_RFC3095_Context_Relocation);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ul-RFC3095-Context-Relocation", -1, "RB-PDCPContextRelocation");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_PDCPContextRelocation(rtxContext* RT_RESTRICT ctx, RB_PDCPContextRelocation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_PDCPContextRelocation, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_PDCPContextRelocationList(rtxContext* RT_RESTRICT ctx, RB_PDCPContextRelocationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-PDCPContextRelocationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_PDCPContextRelocation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_PDCPContextRelocation));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-PDCPContextRelocation", (int32_t)i, "RB-PDCPContextRelocationList");
+      elem = (RB_PDCPContextRelocation*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_PDCPContextRelocation(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-PDCPContextRelocation", (int32_t)i, "RB-PDCPContextRelocationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_PDCPContextRelocationList(rtxContext* RT_RESTRICT ctx, RB_PDCPContextRelocationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_PDCPContextRelocationList, pvalue);
+}
+
+static int dec_DL_CounterSynchronisationInfo_r5(rtxContext* RT_RESTRICT ctx, DL_CounterSynchronisationInfo_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CounterSynchronisationInfo-r5");
+   /* rb-WithPDCP-InfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RB_WithPDCP_InfoList(ctx, &pvalue->rb_WithPDCP_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-WithPDCP-InfoList", -1, "DL-CounterSynchronisationInfo-r5");
+   }
+   /* rb-PDCPContextRelocationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, "DL-CounterSynchronisationInfo-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(rtxContext* RT_RESTRICT ctx, DL_CounterSynchronisationInfo_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CounterSynchronisationInfo_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-d-FlowIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_d_FlowIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_d_FlowIdentityDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentityDCHandHSDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dch-transport-ch-id */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dch_transport_ch_id, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   /* hsdsch-mac-d-flow-id */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hsdsch_mac_d_flow_id, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-d-FlowIdentity", "hsdsch-mac-d-flow-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentityDCHandHSDSCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_d_FlowIdentityDCHandHSDSCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TransportChannelType_r5(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-TransportChannelType-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 1: /* fach */
+         break;
+      case 2: /* dsch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dsch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 3: /* dch-and-dsch */
+         pvalue->u.dch_and_dsch = (TransportChannelIdentityDCHandDSCH*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelIdentityDCHandDSCH));
+         if (pvalue->u.dch_and_dsch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r5");
+         stat = dec_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 4: /* hsdsch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.hsdsch, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 5: /* dch-and-hsdsch */
+         pvalue->u.dch_and_hsdsch = (MAC_d_FlowIdentityDCHandHSDSCH*)rtxMemHeapAllocZ(ctx, sizeof(MAC_d_FlowIdentityDCHandHSDSCH));
+         if (pvalue->u.dch_and_hsdsch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r5");
+         stat = dec_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.dch_and_hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r5");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelType_r5(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TransportChannelType_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_LogicalChannelMapping_r5(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-LogicalChannelMapping-r5");
+   /* dl-TransportChannelType */
+   stat = dec_DL_TransportChannelType_r5(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping-r5");
+   /* logicalChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_LogicalChannelMapping_r5(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_LogicalChannelMapping_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TransportChannelType_r7_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7_hsdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mac-hs */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.mac_hs, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
+         break;
+      case 1: /* mac-ehs */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.mac_ehs, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelType_r7_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7_hsdsch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TransportChannelType_r7_hsdsch, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_ehs_QueueIdDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueIdDCHandHSDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dch-transport-ch-id */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dch_transport_ch_id, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   /* hsdsch-mac-ehs-QueueId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hsdsch_mac_ehs_QueueId, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-ehs-QueueId", "hsdsch-mac-ehs-QueueId", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_ehs_QueueIdDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueIdDCHandHSDSCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_ehs_QueueIdDCHandHSDSCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TransportChannelType_r7_dch_and_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7_dch_and_hsdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mac-hs */
+         pvalue->u.mac_hs = (MAC_d_FlowIdentityDCHandHSDSCH*)rtxMemHeapAllocZ(ctx, sizeof(MAC_d_FlowIdentityDCHandHSDSCH));
+         if (pvalue->u.mac_hs == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "mac-hs", -1, 0);
+         stat = dec_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.mac_hs, cur);
+         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
+         break;
+      case 1: /* mac-ehs */
+         pvalue->u.mac_ehs = (MAC_ehs_QueueIdDCHandHSDSCH*)rtxMemHeapAllocZ(ctx, sizeof(MAC_ehs_QueueIdDCHandHSDSCH));
+         if (pvalue->u.mac_ehs == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "mac-ehs", -1, 0);
+         stat = dec_MAC_ehs_QueueIdDCHandHSDSCH(ctx, pvalue->u.mac_ehs, cur);
+         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7_dch_and_hsdsch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TransportChannelType_r7_dch_and_hsdsch, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TransportChannelType_r7(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-TransportChannelType-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 1: /* fach */
+         break;
+      case 2: /* dsch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dsch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 3: /* dch-and-dsch */
+         pvalue->u.dch_and_dsch = (TransportChannelIdentityDCHandDSCH*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelIdentityDCHandDSCH));
+         if (pvalue->u.dch_and_dsch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r7");
+         stat = dec_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 4: /* hsdsch */
+         pvalue->u.hsdsch = (DL_TransportChannelType_r7_hsdsch*)rtxMemHeapAlloc(ctx, sizeof(DL_TransportChannelType_r7_hsdsch));
+         if (pvalue->u.hsdsch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hsdsch", -1, "DL-TransportChannelType-r7");
+         asn1Init_UMTS_DL_TransportChannelType_r7_hsdsch(pvalue->u.hsdsch);
+         stat = dec_DL_TransportChannelType_r7_hsdsch(ctx, pvalue->u.hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 5: /* dch-and-hsdsch */
+         pvalue->u.dch_and_hsdsch = (DL_TransportChannelType_r7_dch_and_hsdsch*)rtxMemHeapAlloc(ctx, sizeof(DL_TransportChannelType_r7_dch_and_hsdsch));
+         if (pvalue->u.dch_and_hsdsch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r7");
+         asn1Init_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(pvalue->u.dch_and_hsdsch);
+         stat = dec_DL_TransportChannelType_r7_dch_and_hsdsch(ctx, pvalue->u.dch_and_hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelType_r7(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TransportChannelType_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_LogicalChannelMapping_r7(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-LogicalChannelMapping-r7");
+   /* dl-TransportChannelType */
+   stat = dec_DL_TransportChannelType_r7(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping-r7");
+   /* logicalChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_LogicalChannelMapping_r7(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_LogicalChannelMapping_r7, pvalue);
+}
+
+static int dec_DL_LogicalChannelMappingList_r5(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-LogicalChannelMappingList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_LogicalChannelMapping_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_LogicalChannelMapping_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-LogicalChannelMapping-r5", (int32_t)i, "DL-LogicalChannelMappingList-r5");
+      elem = (DL_LogicalChannelMapping_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_LogicalChannelMapping_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_LogicalChannelMapping_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping-r5", (int32_t)i, "DL-LogicalChannelMappingList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_LogicalChannelMappingList_r5(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_LogicalChannelMappingList_r5, pvalue);
+}
+
+static int dec_DL_LogicalChannelMappingList_r7(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-LogicalChannelMappingList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_LogicalChannelMapping_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_LogicalChannelMapping_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-LogicalChannelMapping-r7", (int32_t)i, "DL-LogicalChannelMappingList-r7");
+      elem = (DL_LogicalChannelMapping_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_LogicalChannelMapping_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_LogicalChannelMapping_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping-r7", (int32_t)i, "DL-LogicalChannelMappingList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_LogicalChannelMappingList_r7(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_LogicalChannelMappingList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_Reception_Window_Size_r6(rtxContext* RT_RESTRICT ctx, DL_Reception_Window_Size_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-Reception-Window-Size-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_Reception_Window_Size_r6(rtxContext* RT_RESTRICT ctx, DL_Reception_Window_Size_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_Reception_Window_Size_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_UM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_Mode_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-UM-RLC-LI-size */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_UM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_Mode_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_UM_RLC_Mode_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-RLC-Mode-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-AM-RLC-Mode */
+         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode_r5));
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         asn1Init_UMTS_DL_AM_RLC_Mode_r5(pvalue->u.dl_AM_RLC_Mode);
+         stat = dec_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         break;
+      case 1: /* dl-UM-RLC-Mode */
+         pvalue->u.dl_UM_RLC_Mode = (DL_UM_RLC_Mode_r5*)rtxMemHeapAllocZ(ctx, sizeof(DL_UM_RLC_Mode_r5));
+         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         stat = dec_DL_UM_RLC_Mode_r5(ctx, pvalue->u.dl_UM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         break;
+      case 2: /* dl-TM-RLC-Mode */
+         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         stat = dec_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_RLC_Mode_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_UM_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_Mode_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-UM-RLC-Mode-r6");
+   /* dl-UM-RLC-LI-size */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r6");
+   /* dl-Reception-Window-Size */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_Reception_Window_Size, 0, 5);
+      RT_CHECK_AT(ctx, cur, stat, "DL-Reception-Window-Size-r6", "dl-Reception-Window-Size", -1, "DL-UM-RLC-Mode-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_UM_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_Mode_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_UM_RLC_Mode_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-RLC-Mode-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-AM-RLC-Mode */
+         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode_r5));
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         asn1Init_UMTS_DL_AM_RLC_Mode_r5(pvalue->u.dl_AM_RLC_Mode);
+         stat = dec_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         break;
+      case 1: /* dl-UM-RLC-Mode */
+         pvalue->u.dl_UM_RLC_Mode = (DL_UM_RLC_Mode_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_UM_RLC_Mode_r6));
+         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         asn1Init_UMTS_DL_UM_RLC_Mode_r6(pvalue->u.dl_UM_RLC_Mode);
+         stat = dec_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         break;
+      case 2: /* dl-TM-RLC-Mode */
+         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         stat = dec_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_RLC_Mode_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-RLC-Mode-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-AM-RLC-Mode */
+         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode_r7));
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         asn1Init_UMTS_DL_AM_RLC_Mode_r7(pvalue->u.dl_AM_RLC_Mode);
+         stat = dec_DL_AM_RLC_Mode_r7(ctx, pvalue->u.dl_AM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         break;
+      case 1: /* dl-UM-RLC-Mode */
+         pvalue->u.dl_UM_RLC_Mode = (DL_UM_RLC_Mode_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_UM_RLC_Mode_r6));
+         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         asn1Init_UMTS_DL_UM_RLC_Mode_r6(pvalue->u.dl_UM_RLC_Mode);
+         stat = dec_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         break;
+      case 2: /* dl-TM-RLC-Mode */
+         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         stat = dec_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_RLC_Mode_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_HeaderCompressionInfo_r4(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* algorithmSpecificInfo */
+   stat = dec_AlgorithmSpecificInfo_r4(ctx, &pvalue->algorithmSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "algorithmSpecificInfo", -1, "HeaderCompressionInfo-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_HeaderCompressionInfo_r4(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HeaderCompressionInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_HeaderCompressionInfoList_r4(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfoList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HeaderCompressionInfoList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HeaderCompressionInfo_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HeaderCompressionInfo_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HeaderCompressionInfo-r4", (int32_t)i, "HeaderCompressionInfoList-r4");
+      elem = (HeaderCompressionInfo_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HeaderCompressionInfo_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HeaderCompressionInfo_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HeaderCompressionInfo-r4", (int32_t)i, "HeaderCompressionInfoList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HeaderCompressionInfoList_r4(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfoList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HeaderCompressionInfoList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_d_HFN_initial_value(rtxContext* RT_RESTRICT ctx, MAC_d_HFN_initial_value* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, pvalue, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-d-HFN-initial-value");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_d_HFN_initial_value(rtxContext* RT_RESTRICT ctx, MAC_d_HFN_initial_value* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_d_HFN_initial_value, pvalue);
+}
+
+static int dec_PDCP_Info_r4(rtxContext* RT_RESTRICT ctx, PDCP_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDCP-Info-r4");
+   /* losslessSRNS-RelocSupport */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport, cur);
+      RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocSupport", -1, "PDCP-Info-r4");
+   }
+   /* pdcp-PDU-Header */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pdcp_PDU_Header, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info-r4");
+   /* headerCompressionInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_HeaderCompressionInfoList_r4(ctx, &pvalue->headerCompressionInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "headerCompressionInfoList", -1, "PDCP-Info-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Info_r4(rtxContext* RT_RESTRICT ctx, PDCP_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_InfoReconfig(rtxContext* RT_RESTRICT ctx, PDCP_InfoReconfig* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pdcp-Info */
+   stat = dec_PDCP_Info(ctx, &pvalue->pdcp_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "PDCP-InfoReconfig");
+   /* dummy */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->dummy, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dummy", -1, "PDCP-InfoReconfig");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_InfoReconfig(rtxContext* RT_RESTRICT ctx, PDCP_InfoReconfig* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_InfoReconfig, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_InfoReconfig_r4(rtxContext* RT_RESTRICT ctx, PDCP_InfoReconfig_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pdcp-Info */
+   stat = dec_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "PDCP-InfoReconfig-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_InfoReconfig_r4(rtxContext* RT_RESTRICT ctx, PDCP_InfoReconfig_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_InfoReconfig_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDCP_ROHC_TargetMode(rtxContext* RT_RESTRICT ctx, PDCP_ROHC_TargetMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDCP-ROHC-TargetMode");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_ROHC_TargetMode(rtxContext* RT_RESTRICT ctx, PDCP_ROHC_TargetMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDCP_ROHC_TargetMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_PredefinedConfigStatusInfo_other(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusInfo_other* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notStored */
+         break;
+      case 1: /* storedWithDifferentValueTag */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.storedWithDifferentValueTag, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, "PredefinedConfigValueTag", "storedWithDifferentValueTag", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigStatusInfo_other(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusInfo_other* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PredefinedConfigStatusInfo_other, pvalue);
+}
+
+RT_MERGED_BODY int dec_PredefinedConfigStatusInfo(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigStatusInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* storedWithValueTagSameAsPrevius */
+         break;
+      case 1: /* other */
+         pvalue->u.other = (PredefinedConfigStatusInfo_other*)rtxMemHeapAlloc(ctx, sizeof(PredefinedConfigStatusInfo_other));
+         if (pvalue->u.other == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "other", -1, "PredefinedConfigStatusInfo");
+         asn1Init_UMTS_PredefinedConfigStatusInfo_other(pvalue->u.other);
+         stat = dec_PredefinedConfigStatusInfo_other(ctx, pvalue->u.other, cur);
+         RT_CHECK(ctx, stat, 0, "other", -1, "PredefinedConfigStatusInfo");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PredefinedConfigStatusInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigStatusInfo(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PredefinedConfigStatusInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PredefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigStatusList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PredefinedConfigStatusInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PredefinedConfigStatusInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusList");
+      elem = (PredefinedConfigStatusInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PredefinedConfigStatusInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PredefinedConfigStatusInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PredefinedConfigStatusList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PredefinedConfigValueTagList(rtxContext* RT_RESTRICT ctx, PredefinedConfigValueTagList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigValueTagList");
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "PredefinedConfigValueTagList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PredefinedConfigValueTagList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "PredefinedConfigValueTag", "PredefinedConfigValueTag", (int32_t)i, "PredefinedConfigValueTagList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigValueTagList(rtxContext* RT_RESTRICT ctx, PredefinedConfigValueTagList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PredefinedConfigValueTagList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PredefinedConfigSetWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigSetWithDifferentValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigSetWithDifferentValueTag");
+   /* startPosition */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->startPosition, 0, 10);
+      RT_CHECK_AT(ctx, cur, stat, 0, "startPosition", -1, "PredefinedConfigSetWithDifferentValueTag");
+   }
+   else {
+      pvalue->startPosition = 0;
+   }
+   /* valueTagList */
+   stat = dec_PredefinedConfigValueTagList(ctx, &pvalue->valueTagList, cur);
+   RT_CHECK(ctx, stat, 0, "valueTagList", -1, "PredefinedConfigSetWithDifferentValueTag");
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigSetWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigSetWithDifferentValueTag* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PredefinedConfigSetWithDifferentValueTag, pvalue);
+}
+
+RT_MERGED_BODY int dec_PredefinedConfigSetsWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigSetsWithDifferentValueTag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigSetsWithDifferentValueTag");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PredefinedConfigSetWithDifferentValueTag* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PredefinedConfigSetWithDifferentValueTag));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PredefinedConfigSetWithDifferentValueTag", (int32_t)i, "PredefinedConfigSetsWithDifferentValueTag");
+      elem = (PredefinedConfigSetWithDifferentValueTag*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PredefinedConfigSetWithDifferentValueTag(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PredefinedConfigSetWithDifferentValueTag(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PredefinedConfigSetWithDifferentValueTag", (int32_t)i, "PredefinedConfigSetsWithDifferentValueTag");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigSetsWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigSetsWithDifferentValueTag* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PredefinedConfigSetsWithDifferentValueTag, pvalue);
+}
+
+RT_MERGED_BODY int dec_PredefinedConfigStatusListVarSz(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusListVarSz* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigStatusListVarSz");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PredefinedConfigStatusInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PredefinedConfigStatusInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusListVarSz");
+      elem = (PredefinedConfigStatusInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PredefinedConfigStatusInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PredefinedConfigStatusInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusListVarSz");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigStatusListVarSz(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusListVarSz* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PredefinedConfigStatusListVarSz, pvalue);
+}
+
+RT_MERGED_BODY int dec_PredefinedConfigStatusListComp(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusListComp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigStatusListComp");
+   /* setsWithDifferentValueTag */
+   stat = dec_PredefinedConfigSetsWithDifferentValueTag(ctx, &pvalue->setsWithDifferentValueTag, cur);
+   RT_CHECK(ctx, stat, 0, "setsWithDifferentValueTag", -1, "PredefinedConfigStatusListComp");
+   /* otherEntries */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PredefinedConfigStatusListVarSz(ctx, &pvalue->otherEntries, cur);
+      RT_CHECK(ctx, stat, 0, "otherEntries", -1, "PredefinedConfigStatusListComp");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigStatusListComp(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusListComp* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PredefinedConfigStatusListComp, pvalue);
+}
+
+static int dec_RAB_Info(rtxContext* RT_RESTRICT ctx, RAB_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-Info");
+   /* rab-Identity */
+   stat = dec_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info");
+   /* nas-Synchronisation-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator, cur);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info");
+   }
+   /* re-EstablishmentTimer */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info(rtxContext* RT_RESTRICT ctx, RAB_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_SessionIdentity(rtxContext* RT_RESTRICT ctx, MBMS_SessionIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-SessionIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SessionIdentity(rtxContext* RT_RESTRICT ctx, MBMS_SessionIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_SessionIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_Info_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_Info_r6_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-Info-r6-ext");
+   /* mbms-SessionIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r6-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_Info_r6_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_Info_r6_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_Info_v6b0ext_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_Info_v6b0ext_mbms_ServiceIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_v6b0ext_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_Info_v6b0ext_mbms_ServiceIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_Info_v6b0ext_mbms_ServiceIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_Info_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_Info_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mbms-ServiceIdentity */
+   stat = dec_RAB_Info_v6b0ext_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-Info-v6b0ext");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_Info_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_Info_v6b0ext, pvalue);
+}
+
+static int dec_RAB_Info_r6(rtxContext* RT_RESTRICT ctx, RAB_Info_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-Info-r6");
+   /* rab-Identity */
+   stat = dec_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-r6");
+   /* mbms-SessionIdentity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r6");
+   }
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r6");
+   /* nas-Synchronisation-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator, cur);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-r6");
+   }
+   /* re-EstablishmentTimer */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_r6(rtxContext* RT_RESTRICT ctx, RAB_Info_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_Info_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_Info_r7_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_Info_r7_mbms_ServiceIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_r7_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_Info_r7_mbms_ServiceIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_Info_r7_mbms_ServiceIdentity, pvalue);
+}
+
+static int dec_RAB_Info_r7(rtxContext* RT_RESTRICT ctx, RAB_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-Info-r7");
+   /* rab-Identity */
+   stat = dec_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-r7");
+   /* mbms-SessionIdentity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r7");
+   }
+   /* mbms-ServiceIdentity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_RAB_Info_r7_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-Info-r7");
+   }
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r7");
+   /* nas-Synchronisation-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator, cur);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-r7");
+   }
+   /* re-EstablishmentTimer */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_r7(rtxContext* RT_RESTRICT ctx, RAB_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationList(rtxContext* RT_RESTRICT ctx, RAB_InformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_Info));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-Info", (int32_t)i, "RAB-InformationList");
+      elem = (RAB_Info*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_Info(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-Info", (int32_t)i, "RAB-InformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationList(rtxContext* RT_RESTRICT ctx, RAB_InformationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationList_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_Info_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_Info_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-Info-r6", (int32_t)i, "RAB-InformationList-r6");
+      elem = (RAB_Info_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_Info_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_Info_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-Info-r6", (int32_t)i, "RAB-InformationList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationList_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationReconfig(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfig* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rab-Identity */
+   stat = dec_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InformationReconfig");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig");
+   /* nas-Synchronisation-Indicator */
+   stat = dec_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator, cur);
+   RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-InformationReconfig");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationReconfig(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfig* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationReconfig, pvalue);
+}
+
+static int dec_RAB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfigList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationReconfigList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationReconfig* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationReconfig));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-InformationReconfig", (int32_t)i, "RAB-InformationReconfigList");
+      elem = (RAB_InformationReconfig*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationReconfig(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_InformationReconfig(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationReconfig", (int32_t)i, "RAB-InformationReconfigList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfigList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationReconfigList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfig_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationReconfig-r8");
+   /* rab-Identity */
+   stat = dec_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InformationReconfig-r8");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig-r8");
+   /* nas-Synchronisation-Indicator */
+   stat = dec_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator, cur);
+   RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-InformationReconfig-r8");
+   /* cs-HSPA-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information, cur);
+      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationReconfig-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfig_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationReconfig_r8, pvalue);
+}
+
+static int dec_RAB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfigList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationReconfigList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationReconfig_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationReconfig_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-InformationReconfig-r8", (int32_t)i, "RAB-InformationReconfigList-r8");
+      elem = (RAB_InformationReconfig_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationReconfig_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_InformationReconfig_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationReconfig-r8", (int32_t)i, "RAB-InformationReconfigList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfigList_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationReconfigList_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_Info_Post(rtxContext* RT_RESTRICT ctx, RAB_Info_Post* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-Info-Post");
+   /* rab-Identity */
+   stat = dec_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-Post");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-Post");
+   /* nas-Synchronisation-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator, cur);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-Post");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_Post(rtxContext* RT_RESTRICT ctx, RAB_Info_Post* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_Info_Post, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationMBMSPtp_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtp_mbms_ServiceIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationMBMSPtp_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtp_mbms_ServiceIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationMBMSPtp_mbms_ServiceIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationMBMSPtp(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationMBMSPtp");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RAB-InformationMBMSPtp");
+   /* mbms-ServiceIdentity */
+   stat = dec_RAB_InformationMBMSPtp_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-InformationMBMSPtp");
+   /* mbms-SessionIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-InformationMBMSPtp");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationMBMSPtp(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtp* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationMBMSPtp, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationMBMSPtpList(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtpList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationMBMSPtpList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationMBMSPtp* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationMBMSPtp));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-InformationMBMSPtp", (int32_t)i, "RAB-InformationMBMSPtpList");
+      elem = (RAB_InformationMBMSPtp*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationMBMSPtp(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_InformationMBMSPtp(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationMBMSPtp", (int32_t)i, "RAB-InformationMBMSPtpList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationMBMSPtpList(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtpList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationMBMSPtpList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetup(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rab-Info */
+   stat = dec_RAB_Info(ctx, &pvalue->rab_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup");
+   /* rb-InformationSetupList */
+   stat = dec_RB_InformationSetupList(ctx, &pvalue->rb_InformationSetupList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetup, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetup-r4");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r4");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r4");
+   }
+   /* rlc-InfoChoice */
+   stat = dec_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r4");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationSetup_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetupList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationSetup_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationSetup-r4", (int32_t)i, "RB-InformationSetupList-r4");
+      elem = (RB_InformationSetup_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationSetup_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationSetup_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r4", (int32_t)i, "RB-InformationSetupList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationSetupList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rab-Info */
+   stat = dec_RAB_Info(ctx, &pvalue->rab_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r4");
+   /* rb-InformationSetupList */
+   stat = dec_RB_InformationSetupList_r4(ctx, &pvalue->rb_InformationSetupList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetup_r4, pvalue);
+}
+
+static int dec_RLC_Info_r5(rtxContext* RT_RESTRICT ctx, RLC_Info_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-Info-r5");
+   /* ul-RLC-Mode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r5");
+   }
+   /* dl-RLC-Mode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_RLC_Mode_r5(ctx, &pvalue->dl_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r5");
+   }
+   /* rlc-OneSidedReEst */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_OneSidedReEst);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_r5(rtxContext* RT_RESTRICT ctx, RLC_Info_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_Info_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_InfoChoice_r5(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-InfoChoice-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rlc-Info */
+         pvalue->u.rlc_Info = (RLC_Info_r5*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info_r5));
+         if (pvalue->u.rlc_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "rlc-Info", -1, "RLC-InfoChoice-r5");
+         asn1Init_UMTS_RLC_Info_r5(pvalue->u.rlc_Info);
+         stat = dec_RLC_Info_r5(ctx, pvalue->u.rlc_Info, cur);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r5");
+         break;
+      case 1: /* same-as-RB */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r5");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_InfoChoice_r5(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_InfoChoice_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_MappingOption_r5(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-MappingOption-r5");
+   /* ul-LogicalChannelMappings */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r5");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingOption_r5(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_MappingOption_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_MappingInfo_r5(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-MappingInfo-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_MappingOption_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-MappingOption-r5", (int32_t)i, "RB-MappingInfo-r5");
+      elem = (RB_MappingOption_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_MappingOption_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_MappingOption_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r5", (int32_t)i, "RB-MappingInfo-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingInfo_r5(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_MappingInfo_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetup-r5");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r5");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r5");
+   }
+   /* rlc-InfoChoice */
+   stat = dec_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r5");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationSetup_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetupList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationSetup_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationSetup-r5", (int32_t)i, "RB-InformationSetupList-r5");
+      elem = (RB_InformationSetup_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationSetup_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationSetup_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r5", (int32_t)i, "RB-InformationSetupList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationSetupList_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rab-Info */
+   stat = dec_RAB_Info(ctx, &pvalue->rab_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r5");
+   /* rb-InformationSetupList */
+   stat = dec_RB_InformationSetupList_r5(ctx, &pvalue->rb_InformationSetupList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetup_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetup_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r6_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rab-Info-r6-ext */
+   stat = dec_RAB_Info_r6_ext(ctx, &pvalue->rab_Info_r6_ext, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info-r6-ext", -1, "RAB-InformationSetup-r6-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r6_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetup_r6_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_Info_r6_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r6_altE_bitInterpretation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_r6_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r6_altE_bitInterpretation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_Info_r6_altE_bitInterpretation, pvalue);
+}
+
+static int dec_RLC_Info_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-Info-r6");
+   /* ul-RLC-Mode */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r6");
+   }
+   /* dl-RLC-Mode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_RLC_Mode_r6(ctx, &pvalue->dl_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r6");
+   }
+   /* rlc-OneSidedReEst */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_OneSidedReEst);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r6");
+   /* altE-bitInterpretation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r6");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r6");
+         pvalue->altE_bitInterpretation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_Info_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_InfoChoice_r6(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-InfoChoice-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rlc-Info */
+         pvalue->u.rlc_Info = (RLC_Info_r6*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info_r6));
+         if (pvalue->u.rlc_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "rlc-Info", -1, "RLC-InfoChoice-r6");
+         asn1Init_UMTS_RLC_Info_r6(pvalue->u.rlc_Info);
+         stat = dec_RLC_Info_r6(ctx, pvalue->u.rlc_Info, cur);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r6");
+         break;
+      case 1: /* same-as-RB */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r6");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_InfoChoice_r6(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_InfoChoice_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* allSizes */
+         break;
+      case 1: /* configured */
+         break;
+      case 2: /* explicitList */
+         pvalue->u.explicitList = (RLC_SizeExplicitList*)rtxMemHeapAlloc(ctx, sizeof(RLC_SizeExplicitList));
+         if (pvalue->u.explicitList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicitList", -1, 0);
+         asn1Init_UMTS_RLC_SizeExplicitList(pvalue->u.explicitList);
+         stat = dec_RLC_SizeExplicitList(ctx, pvalue->u.explicitList, cur);
+         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   stat = dec_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, 0);
+   /* logicalChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   }
+   /* rlc-SizeList */
+   stat = dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(ctx, &pvalue->rlc_SizeList, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_PDU_Size(rtxContext* RT_RESTRICT ctx, RLC_PDU_Size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = dec_OctetModeRLC_SizeInfoType1(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-PDU-Size");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_PDU_Size(rtxContext* RT_RESTRICT ctx, RLC_PDU_Size* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_PDU_Size, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_PDU_SizeList(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-PDU-SizeList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RLC_PDU_Size* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RLC_PDU_Size));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RLC-PDU-Size", (int32_t)i, "RLC-PDU-SizeList");
+      elem = (RLC_PDU_Size*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RLC_PDU_Size(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RLC_PDU_Size(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RLC-PDU-Size", (int32_t)i, "RLC-PDU-SizeList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_PDU_SizeList(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_PDU_SizeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* logicalChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->logicalChannelIdentity, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   /* e-DCH-MAC-d-FlowIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_DCH_MAC_d_FlowIdentity, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
+   /* ddi */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ddi, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, "DDI", "ddi", -1, 0);
+   /* rlc-PDU-SizeList */
+   stat = dec_RLC_PDU_SizeList(ctx, &pvalue->rlc_PDU_SizeList, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-PDU-SizeList", -1, 0);
+   /* includeInSchedulingInfo */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->includeInSchedulingInfo);
+   RT_CHECK_AT(ctx, cur, stat, 0, "includeInSchedulingInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch-rach-usch */
+         pvalue->u.dch_rach_usch = (UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch));
+         if (pvalue->u.dch_rach_usch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dch-rach-usch", -1, 0);
+         asn1Init_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(pvalue->u.dch_rach_usch);
+         stat = dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(ctx, pvalue->u.dch_rach_usch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-rach-usch", -1, 0);
+         break;
+      case 1: /* e-dch */
+         pvalue->u.e_dch = (UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch));
+         if (pvalue->u.e_dch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-dch", -1, 0);
+         asn1Init_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(pvalue->u.e_dch);
+         stat = dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(ctx, pvalue->u.e_dch, cur);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type, pvalue);
+}
+
+static int dec_UL_LogicalChannelMapping_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TrCH-Type */
+   stat = dec_UL_LogicalChannelMapping_r6_ul_TrCH_Type(ctx, &pvalue->ul_TrCH_Type, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TrCH-Type", -1, "UL-LogicalChannelMapping-r6");
+   /* mac-LogicalChannelPriority */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_LogicalChannelPriority, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_LogicalChannelMapping_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_LogicalChannelMapping_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-LogicalChannelMapping-r6", (int32_t)i, 0);
+      elem = (UL_LogicalChannelMapping_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_LogicalChannelMapping_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UL_LogicalChannelMapping_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMappingList_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rlc-LogicalChannelMappingIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_LogicalChannelMappingIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList-r6");
+   /* ul-LogicalChannelMapping */
+   stat = dec_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping, cur);
+   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappingList_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMappingList_r6, pvalue);
+}
+
+static int dec_UL_LogicalChannelMappings_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-LogicalChannelMappings-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* oneLogicalChannel */
+         pvalue->u.oneLogicalChannel = (UL_LogicalChannelMapping_r6*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r6));
+         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r6");
+         asn1Init_UMTS_UL_LogicalChannelMapping_r6(pvalue->u.oneLogicalChannel);
+         stat = dec_UL_LogicalChannelMapping_r6(ctx, pvalue->u.oneLogicalChannel, cur);
+         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r6");
+         break;
+      case 1: /* twoLogicalChannels */
+         pvalue->u.twoLogicalChannels = (UL_LogicalChannelMappingList_r6*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMappingList_r6));
+         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r6");
+         asn1Init_UMTS_UL_LogicalChannelMappingList_r6(pvalue->u.twoLogicalChannels);
+         stat = dec_UL_LogicalChannelMappingList_r6(ctx, pvalue->u.twoLogicalChannels, cur);
+         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r6");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappings_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMappings_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_MappingOption_r6(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-MappingOption-r6");
+   /* ul-LogicalChannelMappings */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_LogicalChannelMappings_r6(ctx, &pvalue->ul_LogicalChannelMappings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r6");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingOption_r6(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_MappingOption_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_MappingInfo_r6(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-MappingInfo-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_MappingOption_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-MappingOption-r6", (int32_t)i, "RB-MappingInfo-r6");
+      elem = (RB_MappingOption_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_MappingOption_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_MappingOption_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r6", (int32_t)i, "RB-MappingInfo-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingInfo_r6(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_MappingInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetup-r6");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r6");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r6");
+   }
+   /* rlc-InfoChoice */
+   stat = dec_RLC_InfoChoice_r6(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r6");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationSetup_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetupList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationSetup_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationSetup-r6", (int32_t)i, "RB-InformationSetupList-r6");
+      elem = (RB_InformationSetup_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationSetup_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationSetup_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r6", (int32_t)i, "RB-InformationSetupList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationSetupList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rab-Info */
+   stat = dec_RAB_Info_r6(ctx, &pvalue->rab_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r6");
+   /* rb-InformationSetupList */
+   stat = dec_RB_InformationSetupList_r6(ctx, &pvalue->rb_InformationSetupList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetup_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetup_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetup-v6b0ext");
+   /* rab-Info-v6b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RAB_Info_v6b0ext(ctx, &pvalue->rab_Info_v6b0ext, cur);
+      RT_CHECK(ctx, stat, 0, "rab-Info-v6b0ext", -1, "RAB-InformationSetup-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetup_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_Info_r7_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_altE_bitInterpretation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_r7_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_altE_bitInterpretation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_Info_r7_altE_bitInterpretation, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_Info_r7_useSpecialValueOfHEField(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_useSpecialValueOfHEField* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_r7_useSpecialValueOfHEField(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_useSpecialValueOfHEField* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_Info_r7_useSpecialValueOfHEField, pvalue);
+}
+
+static int dec_RLC_Info_r7(rtxContext* RT_RESTRICT ctx, RLC_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-Info-r7");
+   /* ul-RLC-Mode */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r7");
+   }
+   /* dl-RLC-Mode */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_RLC_Mode_r7(ctx, &pvalue->dl_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r7");
+   }
+   /* rlc-OneSidedReEst */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_OneSidedReEst);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r7");
+   /* altE-bitInterpretation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r7");
+         pvalue->altE_bitInterpretation = ui;
+      }
+   }
+   /* useSpecialValueOfHEField */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "useSpecialValueOfHEField", -1, "RLC-Info-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "useSpecialValueOfHEField", -1, "RLC-Info-r7");
+         pvalue->useSpecialValueOfHEField = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_r7(rtxContext* RT_RESTRICT ctx, RLC_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_InfoChoice_r7(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-InfoChoice-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rlc-Info */
+         pvalue->u.rlc_Info = (RLC_Info_r7*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info_r7));
+         if (pvalue->u.rlc_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "rlc-Info", -1, "RLC-InfoChoice-r7");
+         asn1Init_UMTS_RLC_Info_r7(pvalue->u.rlc_Info);
+         stat = dec_RLC_Info_r7(ctx, pvalue->u.rlc_Info, cur);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r7");
+         break;
+      case 1: /* same-as-RB */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_InfoChoice_r7(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_InfoChoice_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_MappingOption_r7(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-MappingOption-r7");
+   /* ul-LogicalChannelMappings */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_LogicalChannelMappings_r6(ctx, &pvalue->ul_LogicalChannelMappings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r7");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_LogicalChannelMappingList_r7(ctx, &pvalue->dl_LogicalChannelMappingList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingOption_r7(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_MappingOption_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_MappingInfo_r7(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-MappingInfo-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_MappingOption_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-MappingOption-r7", (int32_t)i, "RB-MappingInfo-r7");
+      elem = (RB_MappingOption_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_MappingOption_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_MappingOption_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r7", (int32_t)i, "RB-MappingInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingInfo_r7(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_MappingInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetup-r7");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r7");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r7");
+   }
+   /* rlc-InfoChoice */
+   stat = dec_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r7");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationSetup_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetupList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationSetup_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationSetup-r7", (int32_t)i, "RB-InformationSetupList-r7");
+      elem = (RB_InformationSetup_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationSetup_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationSetup_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r7", (int32_t)i, "RB-InformationSetupList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationSetupList_r7, pvalue);
+}
+
+static int dec_RAB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rab-Info */
+   stat = dec_RAB_Info_r7(ctx, &pvalue->rab_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r7");
+   /* rb-InformationSetupList */
+   stat = dec_RB_InformationSetupList_r7(ctx, &pvalue->rb_InformationSetupList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetup_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* allSizes */
+         break;
+      case 1: /* configured */
+         break;
+      case 2: /* explicitList */
+         pvalue->u.explicitList = (RLC_SizeExplicitList*)rtxMemHeapAlloc(ctx, sizeof(RLC_SizeExplicitList));
+         if (pvalue->u.explicitList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicitList", -1, 0);
+         asn1Init_UMTS_RLC_SizeExplicitList(pvalue->u.explicitList);
+         stat = dec_RLC_SizeExplicitList(ctx, pvalue->u.explicitList, cur);
+         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   stat = dec_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, 0);
+   /* logicalChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   }
+   /* rlc-SizeList */
+   stat = dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(ctx, &pvalue->rlc_SizeList, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ddi */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ddi, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, "DDI", "ddi", -1, 0);
+   /* rlc-PDU-SizeList */
+   stat = dec_RLC_PDU_SizeList(ctx, &pvalue->rlc_PDU_SizeList, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-PDU-SizeList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_PDU_SizeConstraint_lengthIndicatorSize(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint_lengthIndicatorSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_PDU_SizeConstraint_lengthIndicatorSize(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint_lengthIndicatorSize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_PDU_SizeConstraint_lengthIndicatorSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_PDU_SizeConstraint(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-PDU-SizeConstraint");
+   /* lengthIndicatorSize */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->lengthIndicatorSize, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, 0, "lengthIndicatorSize", -1, "RLC-PDU-SizeConstraint");
+   }
+   /* minRLC-PDU-Size */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->minRLC_PDU_Size, 0, 1503);
+   RT_CHECK_AT(ctx, cur, stat, 0, "minRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
+   /* largestRLC-PDU-Size */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->largestRLC_PDU_Size, 0, 1503);
+   RT_CHECK_AT(ctx, cur, stat, 0, "largestRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_PDU_SizeConstraint(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_PDU_SizeConstraint, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fixedSize */
+         pvalue->u.fixedSize = (UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize));
+         if (pvalue->u.fixedSize == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fixedSize", -1, 0);
+         asn1Init_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(pvalue->u.fixedSize);
+         stat = dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(ctx, pvalue->u.fixedSize, cur);
+         RT_CHECK(ctx, stat, 0, "fixedSize", -1, 0);
+         break;
+      case 1: /* flexibleSize */
+         pvalue->u.flexibleSize = (RLC_PDU_SizeConstraint*)rtxMemHeapAlloc(ctx, sizeof(RLC_PDU_SizeConstraint));
+         if (pvalue->u.flexibleSize == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "flexibleSize", -1, 0);
+         asn1Init_UMTS_RLC_PDU_SizeConstraint(pvalue->u.flexibleSize);
+         stat = dec_RLC_PDU_SizeConstraint(ctx, pvalue->u.flexibleSize, cur);
+         RT_CHECK(ctx, stat, 0, "flexibleSize", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* logicalChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->logicalChannelIdentity, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   /* e-DCH-MAC-d-FlowIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_DCH_MAC_d_FlowIdentity, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
+   /* rlc-PDU-Size */
+   stat = dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(ctx, &pvalue->rlc_PDU_Size, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-PDU-Size", -1, 0);
+   /* includeInSchedulingInfo */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->includeInSchedulingInfo);
+   RT_CHECK_AT(ctx, cur, stat, 0, "includeInSchedulingInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch, pvalue);
+}
+
+static int dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch-rach-usch */
+         pvalue->u.dch_rach_usch = (UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch));
+         if (pvalue->u.dch_rach_usch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dch-rach-usch", -1, 0);
+         asn1Init_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(pvalue->u.dch_rach_usch);
+         stat = dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(ctx, pvalue->u.dch_rach_usch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-rach-usch", -1, 0);
+         break;
+      case 1: /* e-dch */
+         pvalue->u.e_dch = (UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch));
+         if (pvalue->u.e_dch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-dch", -1, 0);
+         asn1Init_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(pvalue->u.e_dch);
+         stat = dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(ctx, pvalue->u.e_dch, cur);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMapping_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TrCH-Type */
+   stat = dec_UL_LogicalChannelMapping_r8_ul_TrCH_Type(ctx, &pvalue->ul_TrCH_Type, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TrCH-Type", -1, "UL-LogicalChannelMapping-r8");
+   /* mac-LogicalChannelPriority */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_LogicalChannelPriority, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMapping_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_LogicalChannelMapping_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_LogicalChannelMapping_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-LogicalChannelMapping-r8", (int32_t)i, 0);
+      elem = (UL_LogicalChannelMapping_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_LogicalChannelMapping_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UL_LogicalChannelMapping_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping-r8", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMappingList_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rlc-LogicalChannelMappingIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_LogicalChannelMappingIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList-r8");
+   /* ul-LogicalChannelMapping */
+   stat = dec_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping, cur);
+   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappingList_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMappingList_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_LogicalChannelMappings_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-LogicalChannelMappings-r8");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* oneLogicalChannel */
+         pvalue->u.oneLogicalChannel = (UL_LogicalChannelMapping_r8*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r8));
+         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r8");
+         asn1Init_UMTS_UL_LogicalChannelMapping_r8(pvalue->u.oneLogicalChannel);
+         stat = dec_UL_LogicalChannelMapping_r8(ctx, pvalue->u.oneLogicalChannel, cur);
+         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r8");
+         break;
+      case 1: /* twoLogicalChannels */
+         pvalue->u.twoLogicalChannels = (UL_LogicalChannelMappingList_r8*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMappingList_r8));
+         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r8");
+         asn1Init_UMTS_UL_LogicalChannelMappingList_r8(pvalue->u.twoLogicalChannels);
+         stat = dec_UL_LogicalChannelMappingList_r8(ctx, pvalue->u.twoLogicalChannels, cur);
+         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r8");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappings_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_LogicalChannelMappings_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_MappingOption_r8(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-MappingOption-r8");
+   /* ul-LogicalChannelMappings */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_LogicalChannelMappings_r8(ctx, &pvalue->ul_LogicalChannelMappings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r8");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_LogicalChannelMappingList_r7(ctx, &pvalue->dl_LogicalChannelMappingList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingOption_r8(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_MappingOption_r8, pvalue);
+}
+
+static int dec_RB_MappingInfo_r8(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-MappingInfo-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_MappingOption_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-MappingOption-r8", (int32_t)i, "RB-MappingInfo-r8");
+      elem = (RB_MappingOption_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_MappingOption_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_MappingOption_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r8", (int32_t)i, "RB-MappingInfo-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingInfo_r8(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_MappingInfo_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetup-r8");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r8");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r8");
+   }
+   /* rlc-InfoChoice */
+   stat = dec_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r8");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationSetup_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetupList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationSetup_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationSetup-r8", (int32_t)i, "RB-InformationSetupList-r8");
+      elem = (RB_InformationSetup_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationSetup_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationSetup_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r8", (int32_t)i, "RB-InformationSetupList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationSetupList_r8, pvalue);
+}
+
+static int dec_RAB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetup-r8");
+   /* rab-Info */
+   stat = dec_RAB_Info_r7(ctx, &pvalue->rab_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r8");
+   /* cs-HSPA-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information, cur);
+      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationSetup-r8");
+   }
+   /* rab-InfoReplace */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace, cur);
+      RT_CHECK(ctx, stat, 0, "rab-InfoReplace", -1, "RAB-InformationSetup-r8");
+   }
+   /* rb-InformationSetupList */
+   stat = dec_RB_InformationSetupList_r8(ctx, &pvalue->rb_InformationSetupList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetup_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetup_v820ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_v820ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetup-v820ext");
+   /* cs-HSPA-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information, cur);
+      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationSetup-v820ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_v820ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_v820ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetup_v820ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetupList(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-InformationSetup", (int32_t)i, "RAB-InformationSetupList");
+      elem = (RAB_InformationSetup*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_InformationSetup(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup", (int32_t)i, "RAB-InformationSetupList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetupList, pvalue);
+}
+
+static int dec_RAB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r4", (int32_t)i, "RAB-InformationSetupList-r4");
+      elem = (RAB_InformationSetup_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_InformationSetup_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r4", (int32_t)i, "RAB-InformationSetupList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetupList_r4, pvalue);
+}
+
+static int dec_RAB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r5", (int32_t)i, "RAB-InformationSetupList-r5");
+      elem = (RAB_InformationSetup_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_InformationSetup_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r5", (int32_t)i, "RAB-InformationSetupList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetupList_r5, pvalue);
+}
+
+static int dec_RAB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r6", (int32_t)i, "RAB-InformationSetupList-r6");
+      elem = (RAB_InformationSetup_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_InformationSetup_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r6", (int32_t)i, "RAB-InformationSetupList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetupList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetupList_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r6_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-r6-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_r6_ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r6_ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r6-ext", (int32_t)i, "RAB-InformationSetupList-r6-ext");
+      elem = (RAB_InformationSetup_r6_ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_r6_ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_InformationSetup_r6_ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r6-ext", (int32_t)i, "RAB-InformationSetupList-r6-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r6_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetupList_r6_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetupList_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-v6b0ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_v6b0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_v6b0ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-InformationSetup-v6b0ext", (int32_t)i, "RAB-InformationSetupList-v6b0ext");
+      elem = (RAB_InformationSetup_v6b0ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_v6b0ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_InformationSetup_v6b0ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-v6b0ext", (int32_t)i, "RAB-InformationSetupList-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetupList_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r7", (int32_t)i, "RAB-InformationSetupList-r7");
+      elem = (RAB_InformationSetup_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_InformationSetup_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r7", (int32_t)i, "RAB-InformationSetupList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetupList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r8", (int32_t)i, "RAB-InformationSetupList-r8");
+      elem = (RAB_InformationSetup_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_InformationSetup_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r8", (int32_t)i, "RAB-InformationSetupList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetupList_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_RAB_InformationSetupList_v820ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_v820ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-v820ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_v820ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_v820ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RAB-InformationSetup-v820ext", (int32_t)i, "RAB-InformationSetupList-v820ext");
+      elem = (RAB_InformationSetup_v820ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_v820ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RAB_InformationSetup_v820ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-v820ext", (int32_t)i, "RAB-InformationSetupList-v820ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_v820ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_v820ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RAB_InformationSetupList_v820ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_COUNT_C_Information(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-Information");
+   /* count-C-UL */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->count_C_UL, 0, 4294967295LL);
+   RT_CHECK_AT(ctx, cur, stat, "COUNT-C", "count-C-UL", -1, "RB-COUNT-C-Information");
+   /* count-C-DL */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->count_C_DL, 0, 4294967295LL);
+   RT_CHECK_AT(ctx, cur, stat, "COUNT-C", "count-C-DL", -1, "RB-COUNT-C-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_COUNT_C_Information(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_COUNT_C_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_COUNT_C_InformationList(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_InformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-COUNT-C-InformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_COUNT_C_Information* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_COUNT_C_Information));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-COUNT-C-Information", (int32_t)i, "RB-COUNT-C-InformationList");
+      elem = (RB_COUNT_C_Information*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_COUNT_C_Information(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-COUNT-C-Information", (int32_t)i, "RB-COUNT-C-InformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_COUNT_C_InformationList(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_InformationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_COUNT_C_InformationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_COUNT_C_MSB_Information(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_MSB_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-MSB-Information");
+   /* count-C-MSB-UL */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->count_C_MSB_UL, 0, 33554431);
+   RT_CHECK_AT(ctx, cur, stat, "COUNT-C-MSB", "count-C-MSB-UL", -1, "RB-COUNT-C-MSB-Information");
+   /* count-C-MSB-DL */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->count_C_MSB_DL, 0, 33554431);
+   RT_CHECK_AT(ctx, cur, stat, "COUNT-C-MSB", "count-C-MSB-DL", -1, "RB-COUNT-C-MSB-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_COUNT_C_MSB_Information(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_MSB_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_COUNT_C_MSB_Information, pvalue);
 }
 

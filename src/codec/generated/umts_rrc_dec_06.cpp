@@ -6,9024 +6,9435 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_PrimaryCCPCH_InfoPost(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* syncCase */
-   stat = asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase(ctx, &pvalue->syncCase);
-   RT_CHECK(ctx, stat, 0, "syncCase", -1, "PrimaryCCPCH-InfoPost");
-   /* cellParametersID */
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-InfoPost");
-   /* sctd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-InfoPost");
-   return 0;
-}
+/* The bodies of this unit. */
+RT_MERGED_BODY int dec_RB_COUNT_C_MSB_InformationList(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_MSB_InformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_IdentityList(rtxContext* RT_RESTRICT ctx, RB_IdentityList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationAffected(rtxContext* RT_RESTRICT ctx, RB_InformationAffected* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationAffected_r5(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationAffected_r6(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationAffected_r7(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationAffected_r8(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationAffectedList(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RB_InformationAffectedList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RB_InformationAffectedList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RB_InformationAffectedList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationAffectedList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationChanged_r6_rb_Change(rtxContext* RT_RESTRICT ctx, RB_InformationChanged_r6_rb_Change* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationChanged_r6(rtxContext* RT_RESTRICT ctx, RB_InformationChanged_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationChangedList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationChangedList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_StopContinue(rtxContext* RT_RESTRICT ctx, RB_StopContinue* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationReconfig(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationReconfig_r4(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationReconfig_r5(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationReconfig_r6(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationReconfig_r7(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RB_InformationReconfigList_r4(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RB_InformationReconfigList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RB_InformationReconfigList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RB_InformationReconfigList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RB_InformationReleaseList(rtxContext* RT_RESTRICT ctx, RB_InformationReleaseList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimerDAR_r6(rtxContext* RT_RESTRICT ctx, TimerDAR_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_WindowSizeDAR_r6(rtxContext* RT_RESTRICT ctx, WindowSizeDAR_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UM_RLC_DuplAvoid_Reord_Info_r6(rtxContext* RT_RESTRICT ctx, UM_RLC_DuplAvoid_Reord_Info_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_Info_MTCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MTCH_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SRB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SRB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SRB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SRB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SRB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SRB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SRB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SRB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SRB_InformationSetupList2(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SRB_InformationSetupList2_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SRB_InformationSetupList2_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SRB_InformationSetupList2_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, UL_CounterSynchronisationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_d_PDUsizeInfo(rtxContext* RT_RESTRICT ctx, MAC_d_PDUsizeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_d_PDU_SizeInfo_List(rtxContext* RT_RESTRICT ctx, MAC_d_PDU_SizeInfo_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_hs_AddReconfQueue(rtxContext* RT_RESTRICT ctx, MAC_hs_AddReconfQueue* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_hs_AddReconfQueue_List(rtxContext* RT_RESTRICT ctx, MAC_hs_AddReconfQueue_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_hs_DelQueue(rtxContext* RT_RESTRICT ctx, MAC_hs_DelQueue* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_hs_DelQueue_List(rtxContext* RT_RESTRICT ctx, MAC_hs_DelQueue_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_AddOrReconfMAC_dFlow(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_dFlow* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_ehs_AddReconfReordQ(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_ehs_AddReconfReordQ_List(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_ehs_DelReordQ(rtxContext* RT_RESTRICT ctx, MAC_ehs_DelReordQ* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_ehs_DelReordQ_List(rtxContext* RT_RESTRICT ctx, MAC_ehs_DelReordQ_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AddOrReconfMAC_ehs_ReordQ(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_ehs_ReordQ* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_ehs_AddReconfReordQ_r9(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_ehs_AddReconfReordQ_List_r9(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_List_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AddOrReconfMAC_ehs_ReordQ_r9(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_ehs_ReordQ_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CPCH_SetID(rtxContext* RT_RESTRICT ctx, CPCH_SetID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation2_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation2_tfs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation2(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_AddReconfTransChInfo2List(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfo2List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r4_tfs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_r4(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_AddReconfTransChInfoList_r4(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TrCH_TypeId1_r5(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId1_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HSDSCH_Info(rtxContext* RT_RESTRICT ctx, HSDSCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r5_tfs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_r5(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_AddReconfTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HSDSCH_Info_r7_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r7_dl_MAC_HeaderType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HSDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r7_tfs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HSDSCH_Info_r9_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r9_dl_MAC_HeaderType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HSDSCH_Info_r9(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r9_tfs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_r9(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_AddReconfTransChInfoList_r9(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TrCH_TypeId2_r5(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TransportChannelIdentity_r5(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DeletedTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TrCH_TypeId2_r7_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r7_hsdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TrCH_TypeId2_r7(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TransportChannelIdentity_r7(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_DeletedTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DRAC_ClassIdentity(rtxContext* RT_RESTRICT ctx, DRAC_ClassIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TransmissionTimeValidity(rtxContext* RT_RESTRICT ctx, TransmissionTimeValidity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeDurationBeforeRetry(rtxContext* RT_RESTRICT ctx, TimeDurationBeforeRetry* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DRAC_StaticInformation(rtxContext* RT_RESTRICT ctx, DRAC_StaticInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DRAC_StaticInformationList(rtxContext* RT_RESTRICT ctx, DRAC_StaticInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_r7(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_FlowList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_E_DCH_AddReconf_MAC_d_FlowList_r7(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_FlowList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PowerOffsetInfoShort_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PowerOffsetInfoShort_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PowerOffsetInfoShort(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFC_SubsetList_element_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFC_SubsetList_element_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFC_SubsetList_element(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFC_SubsetList(rtxContext* RT_RESTRICT ctx, TFC_SubsetList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r6_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_dch_usch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r6_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch_harq_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r6_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r6(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_AddReconfTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r7_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_dch_usch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_modeSpecific* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r7_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_harq_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r7_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_dch_usch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_modeSpecific* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_harq_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_AddReconfTransChInfoList_r8(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, UL_DeletedTransChInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TransportChannelIdentity_r6_dch_usch(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity_r6_dch_usch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TransportChannelIdentity_r6(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DeletedTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, UL_DeletedTransChInfoList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActivationTimeOffset(rtxContext* RT_RESTRICT ctx, ActivationTimeOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AllocationPeriodInfo(rtxContext* RT_RESTRICT ctx, AllocationPeriodInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AP_AICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, AP_AICH_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AP_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, AP_PreambleScramblingCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AP_Signature(rtxContext* RT_RESTRICT ctx, AP_Signature* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AP_Subchannel(rtxContext* RT_RESTRICT ctx, AP_Subchannel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AvailableAP_SubchannelList(rtxContext* RT_RESTRICT ctx, AvailableAP_SubchannelList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AP_Signature_VCAM(rtxContext* RT_RESTRICT ctx, AP_Signature_VCAM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AvailableAP_Signature_VCAMList(rtxContext* RT_RESTRICT ctx, AvailableAP_Signature_VCAMList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AvailableAP_SignatureList(rtxContext* RT_RESTRICT ctx, AvailableAP_SignatureList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MinimumSpreadingFactor(rtxContext* RT_RESTRICT ctx, MinimumSpreadingFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NF_Max(rtxContext* RT_RESTRICT ctx, NF_Max* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxAvailablePCPCH_Number(rtxContext* RT_RESTRICT ctx, MaxAvailablePCPCH_Number* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AvailableMinimumSF_VCAM(rtxContext* RT_RESTRICT ctx, AvailableMinimumSF_VCAM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AvailableMinimumSF_ListVCAM(rtxContext* RT_RESTRICT ctx, AvailableMinimumSF_ListVCAM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BEACON_PL_Est(rtxContext* RT_RESTRICT ctx, BEACON_PL_Est* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SRB_delay(rtxContext* RT_RESTRICT ctx, SRB_delay* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TargetSIR(rtxContext* RT_RESTRICT ctx, UL_TargetSIR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD_UL_Interference(rtxContext* RT_RESTRICT ctx, TDD_UL_Interference* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualTS_Interference(rtxContext* RT_RESTRICT ctx, IndividualTS_Interference* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IndividualTS_InterferenceList(rtxContext* RT_RESTRICT ctx, IndividualTS_InterferenceList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CCTrCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_DPCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CCTrCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_DPCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CCTrCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_DPCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CCTrCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CD_AccessSlotSubchannel(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CD_AccessSlotSubchannelList(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannelList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CD_CA_ICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, CD_CA_ICH_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CD_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, CD_PreambleScramblingCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CD_SignatureCode(rtxContext* RT_RESTRICT ctx, CD_SignatureCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CD_SignatureCodeList(rtxContext* RT_RESTRICT ctx, CD_SignatureCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellAndChannelIdentity(rtxContext* RT_RESTRICT ctx, CellAndChannelIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Cfntargetsfnframeoffset(rtxContext* RT_RESTRICT ctx, Cfntargetsfnframeoffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ChannelAssignmentActive(rtxContext* RT_RESTRICT ctx, ChannelAssignmentActive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ChannelReqParamsForUCSM(rtxContext* RT_RESTRICT ctx, ChannelReqParamsForUCSM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ClosedLoopTimingAdjMode(rtxContext* RT_RESTRICT ctx, ClosedLoopTimingAdjMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CodeNumberDSCH(rtxContext* RT_RESTRICT ctx, CodeNumberDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SF_PDSCH(rtxContext* RT_RESTRICT ctx, SF_PDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultiCodeInfo(rtxContext* RT_RESTRICT ctx, MultiCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CodeMap(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CodeMapList(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CodeRange(rtxContext* RT_RESTRICT ctx, CodeRange* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CodeWordSet(rtxContext* RT_RESTRICT ctx, CodeWordSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ControlChannelDRXCycle_TDD128(rtxContext* RT_RESTRICT ctx, ControlChannelDRXCycle_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EnablingDelay_TDD128(rtxContext* RT_RESTRICT ctx, EnablingDelay_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_DRX_InactivityThreshold_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_InactivityThreshold_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_Info_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_InactivityMonitorThreshold_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_InactivityMonitorThreshold_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ControlChannelDRXInfo_TDD128_r8(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DynamicPersistenceLevelTF_List(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevelTF_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CPCH_PersistenceLevels(rtxContext* RT_RESTRICT ctx, CPCH_PersistenceLevels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CPCH_PersistenceLevelsList(rtxContext* RT_RESTRICT ctx, CPCH_PersistenceLevelsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeltaPp_m(rtxContext* RT_RESTRICT ctx, DeltaPp_m* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCCH_SlotFormat(rtxContext* RT_RESTRICT ctx, UL_DPCCH_SlotFormat* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_StartMessage(rtxContext* RT_RESTRICT ctx, N_StartMessage* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_N_EOT(rtxContext* RT_RESTRICT ctx, N_EOT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CPCH_StatusIndicationMode(rtxContext* RT_RESTRICT ctx, CPCH_StatusIndicationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PCP_Length(rtxContext* RT_RESTRICT ctx, PCP_Length* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UCSM_Info(rtxContext* RT_RESTRICT ctx, UCSM_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PCPCH_ChannelInfo(rtxContext* RT_RESTRICT ctx, PCPCH_ChannelInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PCPCH_ChannelInfoList(rtxContext* RT_RESTRICT ctx, PCPCH_ChannelInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CPCH_SetInfo(rtxContext* RT_RESTRICT ctx, CPCH_SetInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CPCH_SetInfoList(rtxContext* RT_RESTRICT ctx, CPCH_SetInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CQI_DTX_Timer(rtxContext* RT_RESTRICT ctx, CQI_DTX_Timer* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSICH_PowerOffset(rtxContext* RT_RESTRICT ctx, CSICH_PowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DefaultDPCH_OffsetValueFDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DefaultDPCH_OffsetValueTDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeltaSIR(rtxContext* RT_RESTRICT ctx, DeltaSIR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeInfo(rtxContext* RT_RESTRICT ctx, TimeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrChTPCList(rtxContext* RT_RESTRICT ctx, UL_CCTrChTPCList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CCTrCh(rtxContext* RT_RESTRICT ctx, DL_CCTrCh* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CCTrCh_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CCTrCh_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CCTrCh_r4_tddOption(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CCTrCh_r4(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CCTrCh_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CCTrCh_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CCTrCh_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CCTrCh_r7_tddOption(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_CCTrCh_r7(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CCTrChList(rtxContext* RT_RESTRICT ctx, DL_CCTrChList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CCTrChList_r7(rtxContext* RT_RESTRICT ctx, DL_CCTrChList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_CCTrChList_r4(rtxContext* RT_RESTRICT ctx, DL_CCTrChList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CCTrChListToRemove(rtxContext* RT_RESTRICT ctx, DL_CCTrChListToRemove* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SF512_AndCodeNumber(rtxContext* RT_RESTRICT ctx, SF512_AndCodeNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ScramblingCodeChange(rtxContext* RT_RESTRICT ctx, ScramblingCodeChange* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, DL_ChannelisationCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_cfnHandling_initialise* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_cfnHandling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DPC_Mode(rtxContext* RT_RESTRICT ctx, DPC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_PowerControlInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PowerOffsetPilot_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetPilot_pdpdch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RestrictedTrCH(rtxContext* RT_RESTRICT ctx, RestrictedTrCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RestrictedTrCH_InfoList(rtxContext* RT_RESTRICT ctx, RestrictedTrCH_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Dl_rate_matching_restriction(rtxContext* RT_RESTRICT ctx, Dl_rate_matching_restriction* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_DPCH_InfoCommon_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGCFN(rtxContext* RT_RESTRICT ctx, TGCFN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGP_Sequence_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_Sequence_tgps_Status_activate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGP_Sequence_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_Sequence_tgps_Status* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGMP(rtxContext* RT_RESTRICT ctx, TGMP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGPRC(rtxContext* RT_RESTRICT ctx, TGPRC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGSN(rtxContext* RT_RESTRICT ctx, TGSN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGL(rtxContext* RT_RESTRICT ctx, TGL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGD(rtxContext* RT_RESTRICT ctx, TGD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGPL(rtxContext* RT_RESTRICT ctx, TGPL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RPP(rtxContext* RT_RESTRICT ctx, RPP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ITP(rtxContext* RT_RESTRICT ctx, ITP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, UL_CompressedModeMethod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, DL_CompressedModeMethod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DL_Mode_ul_and_dl(rtxContext* RT_RESTRICT ctx, UL_DL_Mode_ul_and_dl* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DL_Mode(rtxContext* RT_RESTRICT ctx, UL_DL_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_FrameType(rtxContext* RT_RESTRICT ctx, DL_FrameType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NidentifyAbort(rtxContext* RT_RESTRICT ctx, NidentifyAbort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TreconfirmAbort(rtxContext* RT_RESTRICT ctx, TreconfirmAbort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TGPS_ConfigurationParams(rtxContext* RT_RESTRICT ctx, TGPS_ConfigurationParams* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGP_Sequence(rtxContext* RT_RESTRICT ctx, TGP_Sequence* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGP_SequenceList(rtxContext* RT_RESTRICT ctx, TGP_SequenceList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DPCH_CompressedModeInfo(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TX_DiversityMode(rtxContext* RT_RESTRICT ctx, TX_DiversityMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_S_Field(rtxContext* RT_RESTRICT ctx, S_Field* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SSDT_Information(rtxContext* RT_RESTRICT ctx, SSDT_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_CommonInformation(rtxContext* RT_RESTRICT ctx, DL_CommonInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_cfnHandling_initialise* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r4_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_cfnHandling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_DPCH_InfoCommon_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SSDT_UL(rtxContext* RT_RESTRICT ctx, SSDT_UL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SSDT_Information_r4(rtxContext* RT_RESTRICT ctx, SSDT_Information_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_CommonInformation_r4(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r5_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_CommonInformation_r5(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimingMaintainedSynchInd(rtxContext* RT_RESTRICT ctx, TimingMaintainedSynchInd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_DPCH_InfoCommon_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_FDPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_FDPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_dl_dpchInfoCommon* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_postVerificationPeriod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_CommonInformation_r6(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_dl_dpchInfoCommon* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
 
-int asn1PD_UMTS_DL_InformationPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_InfoPost(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "DL-InformationPerRL-PostTDD");
-   /* dl-DPCH-InfoPerRL */
-   stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_PostTDD(ctx, &pvalue->dl_DPCH_InfoPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostTDD");
-   return 0;
-}
+/* Bodies held by other units. */
+RT_DECODE_EXTERN(RB_COUNT_C_MSB_Information)
+RT_DECODE_EXTERN(RB_MappingInfo)
+RT_DECODE_EXTERN(RB_MappingInfo_r5)
+RT_DECODE_EXTERN(RB_MappingInfo_r6)
+RT_DECODE_EXTERN(RB_MappingInfo_r7)
+RT_DECODE_EXTERN(RB_MappingInfo_r8)
+RT_DECODE_EXTERN(PDCP_InfoReconfig)
+RT_DECODE_EXTERN(RLC_Info)
+RT_DECODE_EXTERN(PDCP_InfoReconfig_r4)
+RT_DECODE_EXTERN(RLC_Info_r5)
+RT_DECODE_EXTERN(RLC_Info_r6)
+RT_DECODE_EXTERN(RLC_Info_r7)
+RT_DECODE_EXTERN(RLC_InfoChoice_r5)
+RT_DECODE_EXTERN(RLC_InfoChoice_r6)
+RT_DECODE_EXTERN(RLC_InfoChoice_r7)
+RT_DECODE_EXTERN(SRB_InformationSetup)
+RT_DECODE_EXTERN(RB_WithPDCP_InfoList)
+RT_DECODE_EXTERN(STARTList)
+RT_DECODE_EXTERN(TransportFormatSet)
+RT_DECODE_EXTERN(UL_TransportChannelIdentity)
+RT_DECODE_EXTERN(QualityTarget)
+RT_DECODE_EXTERN(HARQ_Info)
+RT_DECODE_EXTERN(HARQ_Info_r7)
+RT_DECODE_EXTERN(TFCS)
+RT_DECODE_EXTERN(IndividualDL_CCTrCH_InfoList)
+RT_DECODE_EXTERN(E_DCH_MAC_d_FlowMultiplexingList)
+RT_DECODE_EXTERN(TFCS_Identity)
+RT_DECODE_EXTERN(TFC_Subset)
+RT_DECODE_EXTERN(IndividualUL_CCTrCH_InfoList)
+RT_DECODE_EXTERN(PowerControlAlgorithm)
+RT_DECODE_EXTERN(CommonTimeslotInfo)
+RT_DECODE_EXTERN(DownlinkTimeslotsCodes)
+RT_DECODE_EXTERN(DownlinkTimeslotsCodes_LCR_r4)
+RT_DECODE_EXTERN(DownlinkTimeslotsCodes_r7)
+RT_DECODE_EXTERN(DownlinkTimeslotsCodes_VHCR)
+RT_DECODE_EXTERN(AllowedTFI_List)
+RT_DECODE_EXTERN(SF512_AndPilot)
+RT_DECODE_EXTERN(MAC_d_HFN_initial_value)
 
-int asn1PD_UMTS_PrimaryCCPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tstd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
-   /* cellParametersID */
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
-   /* sctd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "DL-InformationPerRL-PostTDD-LCR-r4");
-   /* dl-DPCH-InfoPerRL */
-   stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_DPCH_InfoPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PDSCH_Information(rtxContext* RT_RESTRICT ctx, DL_PDSCH_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PDSCH-Information");
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat, 0, "dummy1", -1, "DL-PDSCH-Information");
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PDSCH-Information");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_RB_COUNT_C_MSB_InformationList(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_MSB_InformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-COUNT-C-MSB-InformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_COUNT_C_MSB_Information* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_COUNT_C_MSB_Information));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-COUNT-C-MSB-Information", (int32_t)i, "RB-COUNT-C-MSB-InformationList");
+      elem = (RB_COUNT_C_MSB_Information*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_COUNT_C_MSB_Information(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-COUNT-C-MSB-Information", (int32_t)i, "RB-COUNT-C-MSB-InformationList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_RB_COUNT_C_MSB_InformationList(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_MSB_InformationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_COUNT_C_MSB_InformationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_IdentityList(rtxContext* RT_RESTRICT ctx, RB_IdentityList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t i;
+   uint32_t i, n;
    {
       uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-IdentityList");
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "RB-IdentityList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RB-IdentityList");
       }
    }
-   for (i = 0; i < pvalue->n; i++) {
+   for (i = 0; i < n; i++) {
       pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 32);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+         RT_FAIL_AT(ctx, cur, stat, "RB-Identity", "RB-Identity", (int32_t)i, "RB-IdentityList");
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue)
+int asn1PD_UMTS_RB_IdentityList(rtxContext* RT_RESTRICT ctx, RB_IdentityList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_IdentityList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationAffected(rtxContext* RT_RESTRICT ctx, RB_InformationAffected* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* new-H-RNTI */
-   stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, 0);
-   /* dl-64QAM-Configured */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-         pvalue->dl_64QAM_Configured = ui;
-      }
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-   }
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* dl-ScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-   }
-   /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
-   /* measurementPowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
-   /* uarfcn-DL */
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_DL, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-DL", -1, 0);
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected");
    return 0;
 }
 
-int asn1PD_UMTS_DL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD* RT_RESTRICT pvalue)
+int asn1PD_UMTS_RB_InformationAffected(rtxContext* RT_RESTRICT ctx, RB_InformationAffected* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationAffected, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationAffected_r5(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r5");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffected_r5(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationAffected_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationAffected_r6(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r6");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffected_r6(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationAffected_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationAffected_r7(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r7");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffected_r7(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationAffected_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationAffected_r8(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r8");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffected_r8(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationAffected_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationAffectedList(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationAffectedList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationAffected* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationAffected", (int32_t)i, "RB-InformationAffectedList");
+      elem = (RB_InformationAffected*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationAffected(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationAffected(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected", (int32_t)i, "RB-InformationAffectedList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffectedList(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationAffectedList, pvalue);
+}
+
+static int dec_RB_InformationAffectedList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationAffectedList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationAffected_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationAffected-r5", (int32_t)i, "RB-InformationAffectedList-r5");
+      elem = (RB_InformationAffected_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationAffected_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationAffected_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r5", (int32_t)i, "RB-InformationAffectedList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffectedList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationAffectedList_r5, pvalue);
+}
+
+static int dec_RB_InformationAffectedList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationAffectedList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationAffected_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationAffected-r6", (int32_t)i, "RB-InformationAffectedList-r6");
+      elem = (RB_InformationAffected_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationAffected_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationAffected_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r6", (int32_t)i, "RB-InformationAffectedList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffectedList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationAffectedList_r6, pvalue);
+}
+
+static int dec_RB_InformationAffectedList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationAffectedList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationAffected_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationAffected-r7", (int32_t)i, "RB-InformationAffectedList-r7");
+      elem = (RB_InformationAffected_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationAffected_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationAffected_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r7", (int32_t)i, "RB-InformationAffectedList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffectedList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationAffectedList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationAffectedList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationAffectedList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationAffected_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationAffected-r8", (int32_t)i, "RB-InformationAffectedList-r8");
+      elem = (RB_InformationAffected_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationAffected_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationAffected_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r8", (int32_t)i, "RB-InformationAffectedList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffectedList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationAffectedList_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationChanged_r6_rb_Change(rtxContext* RT_RESTRICT ctx, RB_InformationChanged_r6_rb_Change* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-SecondaryCellInfoFDD");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* continue */
+      case 0: /* release */
          break;
-      case 1: /* newConfiguration */
-         pvalue->u.newConfiguration = (DL_SecondaryCellInfoFDD_newConfiguration*)rtxMemHeapAlloc(ctx, sizeof(DL_SecondaryCellInfoFDD_newConfiguration));
-         if (pvalue->u.newConfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newConfiguration", -1, "DL-SecondaryCellInfoFDD");
-         asn1Init_UMTS_DL_SecondaryCellInfoFDD_newConfiguration(pvalue->u.newConfiguration);
-         stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_newConfiguration(ctx, pvalue->u.newConfiguration);
-         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "DL-SecondaryCellInfoFDD");
+      case 1: /* re-mapToDefaultRb */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.re_mapToDefaultRb, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "re-mapToDefaultRb", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-SecondaryCellInfoFDD");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell* RT_RESTRICT pvalue)
+int asn1PD_UMTS_RB_InformationChanged_r6_rb_Change(rtxContext* RT_RESTRICT ctx, RB_InformationChanged_r6_rb_Change* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationChanged_r6_rb_Change, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationChanged_r6(rtxContext* RT_RESTRICT ctx, RB_InformationChanged_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationChanged-r6");
+   /* rb-Change */
+   stat = dec_RB_InformationChanged_r6_rb_Change(ctx, &pvalue->rb_Change, cur);
+   RT_CHECK(ctx, stat, 0, "rb-Change", -1, "RB-InformationChanged-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationChanged_r6(rtxContext* RT_RESTRICT ctx, RB_InformationChanged_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationChanged_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationChangedList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationChangedList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationChangedList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationChanged_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationChanged_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationChanged-r6", (int32_t)i, "RB-InformationChangedList-r6");
+      elem = (RB_InformationChanged_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationChanged_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationChanged_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationChanged-r6", (int32_t)i, "RB-InformationChangedList-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_v890ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_RB_InformationChangedList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationChangedList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationChangedList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_StopContinue(rtxContext* RT_RESTRICT ctx, RB_StopContinue* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-StopContinue");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_StopContinue(rtxContext* RT_RESTRICT ctx, RB_StopContinue* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_StopContinue, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationReconfig(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-SecondaryCellInfoFDD-v890ext");
-   /* differentTxModeFromServingHS-DSCHCell */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfig");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "differentTxModeFromServingHS-DSCHCell", -1, "DL-SecondaryCellInfoFDD-v890ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "differentTxModeFromServingHS-DSCHCell", -1, "DL-SecondaryCellInfoFDD-v890ext");
-         pvalue->differentTxModeFromServingHS_DSCHCell = ui;
-      }
+      stat = dec_PDCP_InfoReconfig(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* new-H-RNTI */
-   stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, 0);
-   /* dl-64QAM-Configured */
+   /* pdcp-SN-Info */
    if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-         pvalue->dl_64QAM_Configured = ui;
-      }
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK_AT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig");
    }
-   /* hs-DSCH-TBSizeTable */
+   /* rlc-Info */
    if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-   }
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* dl-ScramblingCode */
-   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+      stat = dec_RLC_Info(ctx, &pvalue->rlc_Info, cur);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig");
    }
-   /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
-   /* measurementPowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
-   /* uarfcn-DL */
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_DL, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-DL", -1, 0);
-   /* differentTxModeFromServingHS-DSCHCell */
-   if (present & ((uint32_t)1 << 0)) {
+   /* rb-MappingInfo */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "differentTxModeFromServingHS-DSCHCell", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "differentTxModeFromServingHS-DSCHCell", -1, 0);
-         pvalue->differentTxModeFromServingHS_DSCHCell = ui;
+      stat = dec_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig");
+   }
+   /* rb-StopContinue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfig(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReconfig, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationReconfig_r4(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfig-r4");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r4");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r4");
+   }
+   /* pdcp-SN-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK_AT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r4");
+   }
+   /* rlc-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_RLC_Info(ctx, &pvalue->rlc_Info, cur);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r4");
+   }
+   /* rb-MappingInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r4");
+   }
+   /* rb-StopContinue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfig_r4(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReconfig_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationReconfig_r5(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfig-r5");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r5");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r5");
+   }
+   /* pdcp-SN-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK_AT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r5");
+   }
+   /* rlc-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_RLC_Info_r5(ctx, &pvalue->rlc_Info, cur);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r5");
+   }
+   /* rb-MappingInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r5");
+   }
+   /* rb-StopContinue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfig_r5(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReconfig_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationReconfig_r6(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfig-r6");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r6");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r6");
+   }
+   /* pdcp-SN-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK_AT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r6");
+   }
+   /* rlc-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_RLC_Info_r6(ctx, &pvalue->rlc_Info, cur);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r6");
+   }
+   /* rb-MappingInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r6");
+   }
+   /* rb-StopContinue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfig_r6(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReconfig_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationReconfig_r7(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfig-r7");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r7");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r7");
+   }
+   /* pdcp-SN-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK_AT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r7");
+   }
+   /* rlc-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_RLC_Info_r7(ctx, &pvalue->rlc_Info, cur);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r7");
+   }
+   /* rb-MappingInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r7");
+   }
+   /* rb-StopContinue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfig_r7(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReconfig_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfig-r8");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r8");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r8");
+   }
+   /* pdcp-SN-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK_AT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r8");
+   }
+   /* rlc-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_RLC_Info_r7(ctx, &pvalue->rlc_Info, cur);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r8");
+   }
+   /* rb-MappingInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r8");
+   }
+   /* rb-StopContinue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReconfig_r8, pvalue);
+}
+
+static int dec_RB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfigList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationReconfig* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationReconfig", (int32_t)i, "RB-InformationReconfigList");
+      elem = (RB_InformationReconfig*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationReconfig(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationReconfig(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig", (int32_t)i, "RB-InformationReconfigList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReconfigList, pvalue);
+}
+
+static int dec_RB_InformationReconfigList_r4(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfigList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationReconfig_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r4", (int32_t)i, "RB-InformationReconfigList-r4");
+      elem = (RB_InformationReconfig_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationReconfig_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationReconfig_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r4", (int32_t)i, "RB-InformationReconfigList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfigList_r4(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReconfigList_r4, pvalue);
+}
+
+static int dec_RB_InformationReconfigList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfigList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationReconfig_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r5", (int32_t)i, "RB-InformationReconfigList-r5");
+      elem = (RB_InformationReconfig_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationReconfig_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationReconfig_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r5", (int32_t)i, "RB-InformationReconfigList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfigList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReconfigList_r5, pvalue);
+}
+
+static int dec_RB_InformationReconfigList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfigList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationReconfig_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r6", (int32_t)i, "RB-InformationReconfigList-r6");
+      elem = (RB_InformationReconfig_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationReconfig_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationReconfig_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r6", (int32_t)i, "RB-InformationReconfigList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfigList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReconfigList_r6, pvalue);
+}
+
+static int dec_RB_InformationReconfigList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfigList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationReconfig_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r7", (int32_t)i, "RB-InformationReconfigList-r7");
+      elem = (RB_InformationReconfig_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationReconfig_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationReconfig_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r7", (int32_t)i, "RB-InformationReconfigList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfigList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReconfigList_r7, pvalue);
+}
+
+static int dec_RB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfigList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationReconfig_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r8", (int32_t)i, "RB-InformationReconfigList-r8");
+      elem = (RB_InformationReconfig_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationReconfig_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RB_InformationReconfig_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r8", (int32_t)i, "RB-InformationReconfigList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReconfigList_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_RB_InformationReleaseList(rtxContext* RT_RESTRICT ctx, RB_InformationReleaseList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RB-InformationReleaseList");
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "RB-InformationReleaseList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RB-InformationReleaseList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 32);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "RB-Identity", "RB-Identity", (int32_t)i, "RB-InformationReleaseList");
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_RB_InformationReleaseList(rtxContext* RT_RESTRICT ctx, RB_InformationReleaseList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RB_InformationReleaseList, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimerDAR_r6(rtxContext* RT_RESTRICT ctx, TimerDAR_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* continue */
-         break;
-      case 1: /* newConfiguration */
-         pvalue->u.newConfiguration = (DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration*)rtxMemHeapAlloc(ctx, sizeof(DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration));
-         if (pvalue->u.newConfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newConfiguration", -1, 0);
-         asn1Init_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(pvalue->u.newConfiguration);
-         stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(ctx, pvalue->u.newConfiguration);
-         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimerDAR-r6");
    return 0;
 }
 
-int asn1PD_UMTS_MIMO_N_M_Ratio(rtxContext* RT_RESTRICT ctx, MIMO_N_M_Ratio* RT_RESTRICT pvalue)
+int asn1PD_UMTS_TimerDAR_r6(rtxContext* RT_RESTRICT ctx, TimerDAR_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimerDAR_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_WindowSizeDAR_r6(rtxContext* RT_RESTRICT ctx, WindowSizeDAR_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-N-M-Ratio");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "WindowSizeDAR-r6");
    return 0;
 }
 
-int asn1PD_UMTS_S_CPICH_PowerOffset_MIMO(rtxContext* RT_RESTRICT ctx, S_CPICH_PowerOffset_MIMO* RT_RESTRICT pvalue)
+int asn1PD_UMTS_WindowSizeDAR_r6(rtxContext* RT_RESTRICT ctx, WindowSizeDAR_r6* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -6, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "S-CPICH-PowerOffset-MIMO");
+   RT_DECODE_ENTRY(ctx, dec_WindowSizeDAR_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_UM_RLC_DuplAvoid_Reord_Info_r6(rtxContext* RT_RESTRICT ctx, UM_RLC_DuplAvoid_Reord_Info_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timer-DAR */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timer_DAR, 0, 13);
+   RT_CHECK_AT(ctx, cur, stat, "TimerDAR-r6", "timer-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
+   /* widowSize-DAR */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->widowSize_DAR, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "WindowSizeDAR-r6", "widowSize-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
    return 0;
 }
 
-int asn1PD_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UM_RLC_DuplAvoid_Reord_Info_r6(rtxContext* RT_RESTRICT ctx, UM_RLC_DuplAvoid_Reord_Info_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UM_RLC_DuplAvoid_Reord_Info_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_Info_MTCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MTCH_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* channelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode", -1, 0);
-   /* s-cpich-PowerOffset-Mimo */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-Info-MTCH-r6");
+   /* dl-UM-RLC-LI-size */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MTCH-r6");
+   /* dl-UM-RLC-DuplAvoid-Reord-Info */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->s_cpich_PowerOffset_Mimo, -6, 0);
-      RT_CHECK(ctx, stat, "S-CPICH-PowerOffset-MIMO", "s-cpich-PowerOffset-Mimo", -1, 0);
+      stat = dec_UM_RLC_DuplAvoid_Reord_Info_r6(ctx, &pvalue->dl_UM_RLC_DuplAvoid_Reord_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dl-UM-RLC-DuplAvoid-Reord-Info", -1, "RLC-Info-MTCH-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_r9_secondCPICH_Pattern* RT_RESTRICT pvalue)
+int asn1PD_UMTS_RLC_Info_MTCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MTCH_r6* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* normalPattern */
-         break;
-      case 1: /* diversityPattern */
-         pvalue->u.diversityPattern = (MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern*)rtxMemHeapAlloc(ctx, sizeof(MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern));
-         if (pvalue->u.diversityPattern == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "diversityPattern", -1, 0);
-         asn1Init_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(pvalue->u.diversityPattern);
-         stat = asn1PD_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(ctx, pvalue->u.diversityPattern);
-         RT_CHECK(ctx, stat, 0, "diversityPattern", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_RLC_Info_MTCH_r6, pvalue);
 }
 
-int asn1PD_UMTS_MIMO_PilotConfiguration_r9(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* secondCPICH-Pattern */
-   stat = asn1PD_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(ctx, &pvalue->secondCPICH_Pattern);
-   RT_CHECK(ctx, stat, 0, "secondCPICH-Pattern", -1, "MIMO-PilotConfiguration-r9");
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCellMIMOparametersFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, SecondaryCellMIMOparametersFDD_newConfiguration* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SRB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* mimoN-M-Ratio */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->mimoN_M_Ratio, 0, 9);
-      RT_CHECK(ctx, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
-   }
-   /* mimoPilotConfiguration */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetup-r5");
+   /* rb-Identity */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MIMO_PilotConfiguration_r9(ctx, &pvalue->mimoPilotConfiguration);
-      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, 0);
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+      RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r5");
    }
+   /* rlc-InfoChoice */
+   stat = dec_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r5");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r5");
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCellMIMOparametersFDD(rtxContext* RT_RESTRICT ctx, SecondaryCellMIMOparametersFDD* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SRB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r5* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryCellMIMOparametersFDD");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* continue */
-         break;
-      case 1: /* newConfiguration */
-         pvalue->u.newConfiguration = (SecondaryCellMIMOparametersFDD_newConfiguration*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCellMIMOparametersFDD_newConfiguration));
-         if (pvalue->u.newConfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newConfiguration", -1, "SecondaryCellMIMOparametersFDD");
-         asn1Init_UMTS_SecondaryCellMIMOparametersFDD_newConfiguration(pvalue->u.newConfiguration);
-         stat = asn1PD_UMTS_SecondaryCellMIMOparametersFDD_newConfiguration(ctx, pvalue->u.newConfiguration);
-         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "SecondaryCellMIMOparametersFDD");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SecondaryCellMIMOparametersFDD");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetup_r5, pvalue);
 }
 
-int asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9* RT_RESTRICT pvalue)
+static int dec_SRB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-SecondaryCellInfoFDD-r9");
-   /* configurationInfo */
-   stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo(ctx, &pvalue->configurationInfo);
-   RT_CHECK(ctx, stat, 0, "configurationInfo", -1, "DL-SecondaryCellInfoFDD-r9");
-   /* secondaryCellMIMOparameters */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetup-r6");
+   /* rb-Identity */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SecondaryCellMIMOparametersFDD(ctx, &pvalue->secondaryCellMIMOparameters);
-      RT_CHECK(ctx, stat, 0, "secondaryCellMIMOparameters", -1, "DL-SecondaryCellInfoFDD-r9");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+      RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r6");
    }
+   /* rlc-InfoChoice */
+   stat = dec_RLC_InfoChoice_r6(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r6");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r6");
    return 0;
 }
 
-int asn1PD_UMTS_DL_TPC_PowerOffsetPerRL(rtxContext* RT_RESTRICT ctx, DL_TPC_PowerOffsetPerRL* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SRB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetup_r6, pvalue);
+}
+
+static int dec_SRB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TPC-PowerOffsetPerRL");
-   /* powerOffsetTPC-pdpdch */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetup-r7");
+   /* rb-Identity */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetTPC_pdpdch, 0, 24);
-      RT_CHECK(ctx, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, "DL-TPC-PowerOffsetPerRL");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+      RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r7");
    }
+   /* rlc-InfoChoice */
+   stat = dec_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r7");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r7");
    return 0;
 }
 
-int asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(rtxContext* RT_RESTRICT ctx, DL_TPC_PowerOffsetPerRL_List* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SRB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetup_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_SRB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetup-r8");
+   /* rb-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+      RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r8");
+   }
+   /* rlc-InfoChoice */
+   stat = dec_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r8");
+   /* rb-MappingInfo */
+   stat = dec_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetup_r8, pvalue);
+}
+
+static int dec_SRB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TPC-PowerOffsetPerRL-List");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList-r5");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      DL_TPC_PowerOffsetPerRL* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_TPC_PowerOffsetPerRL));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-TPC-PowerOffsetPerRL", (int32_t)i, "DL-TPC-PowerOffsetPerRL-List");
-      elem = (DL_TPC_PowerOffsetPerRL*)(node + 1);
+      SRB_InformationSetup_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r5", (int32_t)i, "SRB-InformationSetupList-r5");
+      elem = (SRB_InformationSetup_r5*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_DL_TPC_PowerOffsetPerRL(elem);
+      asn1Init_UMTS_SRB_InformationSetup_r5(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DL-TPC-PowerOffsetPerRL", (int32_t)i, "DL-TPC-PowerOffsetPerRL-List");
+      stat = dec_SRB_InformationSetup_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r5", (int32_t)i, "SRB-InformationSetupList-r5");
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_ChannelCodes_MBSFN_IMB384(rtxContext* RT_RESTRICT ctx, DL_ChannelCodes_MBSFN_IMB384* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SRB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetupList_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_SRB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList-r6");
+      elem = (SRB_InformationSetup_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SRB_InformationSetup_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetupList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_SRB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList-r7");
+      elem = (SRB_InformationSetup_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SRB_InformationSetup_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetupList_r7, pvalue);
+}
+
+static int dec_SRB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList-r8");
+      elem = (SRB_InformationSetup_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SRB_InformationSetup_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetupList_r8, pvalue);
+}
+
+static int dec_SRB_InformationSetupList2(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList2");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList2");
+      elem = (SRB_InformationSetup*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SRB_InformationSetup(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList2(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetupList2, pvalue);
+}
+
+RT_MERGED_BODY int dec_SRB_InformationSetupList2_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList2-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList2-r6");
+      elem = (SRB_InformationSetup_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SRB_InformationSetup_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList2-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList2_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetupList2_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_SRB_InformationSetupList2_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList2-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList2-r7");
+      elem = (SRB_InformationSetup_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SRB_InformationSetup_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList2-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList2_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetupList2_r7, pvalue);
+}
+
+static int dec_SRB_InformationSetupList2_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList2-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList2-r8");
+      elem = (SRB_InformationSetup_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SRB_InformationSetup_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList2-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList2_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SRB_InformationSetupList2_r8, pvalue);
+}
+
+static int dec_UL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, UL_CounterSynchronisationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-ChannelCodes-MBSFN-IMB384");
-   /* firstChannelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->firstChannelisationCode, 1, 15);
-   RT_CHECK(ctx, stat, 0, "firstChannelisationCode", -1, "DL-ChannelCodes-MBSFN-IMB384");
-   /* lastChannelisationCode */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-CounterSynchronisationInfo");
+   /* rB-WithPDCP-InfoList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->lastChannelisationCode, 1, 15);
-      RT_CHECK(ctx, stat, 0, "lastChannelisationCode", -1, "DL-ChannelCodes-MBSFN-IMB384");
+      stat = dec_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "rB-WithPDCP-InfoList", -1, "UL-CounterSynchronisationInfo");
    }
+   /* startList */
+   stat = dec_STARTList(ctx, &pvalue->startList, cur);
+   RT_CHECK(ctx, stat, 0, "startList", -1, "UL-CounterSynchronisationInfo");
    return 0;
 }
 
-int asn1PD_UMTS_UL_EDCH_Information_r8_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_mac_es_e_resetIndicator* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, UL_CounterSynchronisationInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UL_CounterSynchronisationInfo, pvalue);
 }
 
-int asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MAC_d_PDUsizeInfo(rtxContext* RT_RESTRICT ctx, MAC_d_PDUsizeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* value */
-   stat = pd_ConsUInt8(ctx, &pvalue->value, 0, 38);
-   RT_CHECK(ctx, stat, 0, "value", -1, 0);
-   /* primary-Secondary-GrantSelector */
-   stat = pd_ConsUnsigned(ctx, &pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
+   /* mac-d-PDU-Size */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->mac_d_PDU_Size, 1, 5000);
+   RT_CHECK_AT(ctx, cur, stat, 0, "mac-d-PDU-Size", -1, "MAC-d-PDUsizeInfo");
+   /* mac-d-PDU-Index */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_d_PDU_Index, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "mac-d-PDU-Index", -1, "MAC-d-PDUsizeInfo");
    return 0;
 }
 
-int asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MAC_d_PDUsizeInfo(rtxContext* RT_RESTRICT ctx, MAC_d_PDUsizeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_d_PDUsizeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_d_PDU_SizeInfo_List(rtxContext* RT_RESTRICT ctx, MAC_d_PDU_SizeInfo_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-d-PDU-SizeInfo-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MAC_d_PDUsizeInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_d_PDUsizeInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MAC-d-PDUsizeInfo", (int32_t)i, "MAC-d-PDU-SizeInfo-List");
+      elem = (MAC_d_PDUsizeInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MAC_d_PDUsizeInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MAC-d-PDUsizeInfo", (int32_t)i, "MAC-d-PDU-SizeInfo-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_d_PDU_SizeInfo_List(rtxContext* RT_RESTRICT ctx, MAC_d_PDU_SizeInfo_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_d_PDU_SizeInfo_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_hs_AddReconfQueue(rtxContext* RT_RESTRICT ctx, MAC_hs_AddReconfQueue* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-SchedulingTransmConfiguration");
-   /* ms2-SchedTransmGrantHARQAlloc */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-hs-AddReconfQueue");
+   /* mac-hsQueueId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_hsQueueId, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsQueueId", -1, "MAC-hs-AddReconfQueue");
+   /* mac-dFlowId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_dFlowId, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-d-FlowIdentity", "mac-dFlowId", -1, "MAC-hs-AddReconfQueue");
+   /* reorderingReleaseTimer */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reorderingReleaseTimer, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-hs-AddReconfQueue");
+   /* mac-hsWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mac_hsWindowSize, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-hs-WindowSize", "mac-hsWindowSize", -1, "MAC-hs-AddReconfQueue");
+   /* mac-d-PDU-SizeInfo-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MAC_d_PDU_SizeInfo_List(ctx, &pvalue->mac_d_PDU_SizeInfo_List, cur);
+      RT_CHECK(ctx, stat, 0, "mac-d-PDU-SizeInfo-List", -1, "MAC-hs-AddReconfQueue");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_hs_AddReconfQueue(rtxContext* RT_RESTRICT ctx, MAC_hs_AddReconfQueue* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_hs_AddReconfQueue, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_hs_AddReconfQueue_List(rtxContext* RT_RESTRICT ctx, MAC_hs_AddReconfQueue_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-hs-AddReconfQueue-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MAC_hs_AddReconfQueue* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_hs_AddReconfQueue));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MAC-hs-AddReconfQueue", (int32_t)i, "MAC-hs-AddReconfQueue-List");
+      elem = (MAC_hs_AddReconfQueue*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MAC_hs_AddReconfQueue(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MAC_hs_AddReconfQueue(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MAC-hs-AddReconfQueue", (int32_t)i, "MAC-hs-AddReconfQueue-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_hs_AddReconfQueue_List(rtxContext* RT_RESTRICT ctx, MAC_hs_AddReconfQueue_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_hs_AddReconfQueue_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_hs_DelQueue(rtxContext* RT_RESTRICT ctx, MAC_hs_DelQueue* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mac-hsQueueId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_hsQueueId, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsQueueId", -1, "MAC-hs-DelQueue");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_hs_DelQueue(rtxContext* RT_RESTRICT ctx, MAC_hs_DelQueue* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_hs_DelQueue, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_hs_DelQueue_List(rtxContext* RT_RESTRICT ctx, MAC_hs_DelQueue_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-hs-DelQueue-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MAC_hs_DelQueue* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_hs_DelQueue));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MAC-hs-DelQueue", (int32_t)i, "MAC-hs-DelQueue-List");
+      elem = (MAC_hs_DelQueue*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MAC_hs_DelQueue(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MAC-hs-DelQueue", (int32_t)i, "MAC-hs-DelQueue-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_hs_DelQueue_List(rtxContext* RT_RESTRICT ctx, MAC_hs_DelQueue_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_hs_DelQueue_List, pvalue);
+}
+
+static int dec_AddOrReconfMAC_dFlow(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_dFlow* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AddOrReconfMAC-dFlow");
+   /* mac-hs-AddReconfQueue-List */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
-      RT_CHECK(ctx, stat, 0, "ms2-SchedTransmGrantHARQAlloc", -1, "E-DPDCH-SchedulingTransmConfiguration");
+      stat = dec_MAC_hs_AddReconfQueue_List(ctx, &pvalue->mac_hs_AddReconfQueue_List, cur);
+      RT_CHECK(ctx, stat, 0, "mac-hs-AddReconfQueue-List", -1, "AddOrReconfMAC-dFlow");
    }
-   /* servingGrant */
+   /* mac-hs-DelQueue-List */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "E-DPDCH-SchedulingTransmConfiguration");
+      stat = dec_MAC_hs_DelQueue_List(ctx, &pvalue->mac_hs_DelQueue_List, cur);
+      RT_CHECK(ctx, stat, 0, "mac-hs-DelQueue-List", -1, "AddOrReconfMAC-dFlow");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_16QAM_Settings(rtxContext* RT_RESTRICT ctx, UL_16QAM_Settings* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AddOrReconfMAC_dFlow(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_dFlow* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* beta-Ed-Gain-E-AGCH-Table-Selection */
-   stat = pd_ConsUInt8(ctx, &pvalue->beta_Ed_Gain_E_AGCH_Table_Selection, 0, 1);
-   RT_CHECK(ctx, stat, 0, "beta-Ed-Gain-E-AGCH-Table-Selection", -1, "UL-16QAM-Settings");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_AddOrReconfMAC_dFlow, pvalue);
 }
 
-int asn1PD_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MAC_ehs_AddReconfReordQ(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-DPCCH-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, 0);
-   }
-   /* e-DPDCH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, 0);
-   }
-   /* schedulingTransmConfiguration */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, 0);
-   }
-   /* ul-16QAM-Settings */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ");
+   /* mac-ehs-QueueId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ");
+   /* reorderingReleaseTimer */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reorderingReleaseTimer, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ");
+   /* reorderingResetTimer */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, 0);
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reorderingResetTimer, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ");
+   }
+   /* mac-ehsWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mac_ehsWindowSize, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_ehs_AddReconfReordQ(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_ehs_AddReconfReordQ, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_ehs_AddReconfReordQ_List(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MAC_ehs_AddReconfReordQ* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_ehs_AddReconfReordQ));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MAC-ehs-AddReconfReordQ", (int32_t)i, "MAC-ehs-AddReconfReordQ-List");
+      elem = (MAC_ehs_AddReconfReordQ*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MAC_ehs_AddReconfReordQ(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MAC_ehs_AddReconfReordQ(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MAC-ehs-AddReconfReordQ", (int32_t)i, "MAC-ehs-AddReconfReordQ-List");
    }
    return 0;
 }
 
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MAC_ehs_AddReconfReordQ_List(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_List* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_MAC_ehs_AddReconfReordQ_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_ehs_DelReordQ(rtxContext* RT_RESTRICT ctx, MAC_ehs_DelReordQ* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mac-ehs-QueueId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-DelReordQ");
    return 0;
 }
 
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MAC_ehs_DelReordQ(rtxContext* RT_RESTRICT ctx, MAC_ehs_DelReordQ* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MAC_ehs_DelReordQ, pvalue);
 }
 
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MAC_ehs_DelReordQ_List(rtxContext* RT_RESTRICT ctx, MAC_ehs_DelReordQ_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SF16Codes(rtxContext* RT_RESTRICT ctx, SF16Codes* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF16Codes");
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "sF16");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 7);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "SF16Codes", "SF16Codes", (int32_t)i, 0);
-      }
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-ehs-DelReordQ-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MAC_ehs_DelReordQ* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_ehs_DelReordQ));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MAC-ehs-DelReordQ", (int32_t)i, "MAC-ehs-DelReordQ-List");
+      elem = (MAC_ehs_DelReordQ*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MAC_ehs_DelReordQ(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MAC-ehs-DelReordQ", (int32_t)i, "MAC-ehs-DelReordQ-List");
    }
    return 0;
 }
 
-int asn1PD_UMTS_SF8Codes(rtxContext* RT_RESTRICT ctx, SF8Codes* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MAC_ehs_DelReordQ_List(rtxContext* RT_RESTRICT ctx, MAC_ehs_DelReordQ_List* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF8Codes");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MAC_ehs_DelReordQ_List, pvalue);
 }
 
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_AddOrReconfMAC_ehs_ReordQ(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_ehs_ReordQ* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "sF8");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ");
+   /* mac-ehs-AddReconfQueue-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MAC_ehs_AddReconfReordQ_List(ctx, &pvalue->mac_ehs_AddReconfQueue_List, cur);
+      RT_CHECK(ctx, stat, 0, "mac-ehs-AddReconfQueue-List", -1, "AddOrReconfMAC-ehs-ReordQ");
    }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 7);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "SF8Codes", "SF8Codes", (int32_t)i, 0);
-      }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MAC_ehs_DelReordQ_List(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "AddOrReconfMAC-ehs-ReordQ");
    }
    return 0;
 }
 
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AddOrReconfMAC_ehs_ReordQ(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_ehs_ReordQ* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AddOrReconfMAC_ehs_ReordQ, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_ehs_AddReconfReordQ_r9(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* mac-ehs-QueueId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* reorderingReleaseTimer */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reorderingReleaseTimer, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* reorderingResetTimer */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reorderingResetTimer, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
+   }
+   /* mac-ehsWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mac_ehsWindowSize, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_ehs_AddReconfReordQ_r9(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_ehs_AddReconfReordQ_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_ehs_AddReconfReordQ_List_r9(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_List_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MAC_ehs_AddReconfReordQ_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_ehs_AddReconfReordQ_r9));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MAC-ehs-AddReconfReordQ-r9", (int32_t)i, "MAC-ehs-AddReconfReordQ-List-r9");
+      elem = (MAC_ehs_AddReconfReordQ_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MAC_ehs_AddReconfReordQ_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MAC_ehs_AddReconfReordQ_r9(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MAC-ehs-AddReconfReordQ-r9", (int32_t)i, "MAC-ehs-AddReconfReordQ-List-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_ehs_AddReconfReordQ_List_r9(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_List_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_ehs_AddReconfReordQ_List_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_AddOrReconfMAC_ehs_ReordQ_r9(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_ehs_ReordQ_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ-r9");
+   /* mac-ehs-AddReconfQueue-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MAC_ehs_AddReconfReordQ_List_r9(ctx, &pvalue->mac_ehs_AddReconfQueue_List, cur);
+      RT_CHECK(ctx, stat, 0, "mac-ehs-AddReconfQueue-List", -1, "AddOrReconfMAC-ehs-ReordQ-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_ehs_ReordQ_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AddOrReconfMAC_ehs_ReordQ_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_CPCH_SetID(rtxContext* RT_RESTRICT ctx, CPCH_SetID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CPCH-SetID");
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_SetID(rtxContext* RT_RESTRICT ctx, CPCH_SetID* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CPCH_SetID, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation2_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation2_tfs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* sF16 */
-         pvalue->u.sF16 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16));
-         if (pvalue->u.sF16 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sF16", -1, 0);
-         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(pvalue->u.sF16);
-         stat = asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(ctx, pvalue->u.sF16);
-         RT_CHECK(ctx, stat, 0, "sF16", -1, 0);
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
+         if (pvalue->u.explicit_config == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
+         stat = dec_TransportFormatSet(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
          break;
-      case 1: /* sF8 */
-         pvalue->u.sF8 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8));
-         if (pvalue->u.sF8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sF8", -1, 0);
-         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(pvalue->u.sF8);
-         stat = asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(ctx, pvalue->u.sF8);
-         RT_CHECK(ctx, stat, 0, "sF8", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SF32Codes(rtxContext* RT_RESTRICT ctx, SF32Codes* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF32Codes");
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "sF32");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "SF32Codes", "SF32Codes", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SF16Codes2(rtxContext* RT_RESTRICT ctx, SF16Codes2* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF16Codes2");
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "sF816");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "SF16Codes2", "SF16Codes2", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sF32 */
-         pvalue->u.sF32 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32));
-         if (pvalue->u.sF32 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sF32", -1, 0);
-         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(pvalue->u.sF32);
-         stat = asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(ctx, pvalue->u.sF32);
-         RT_CHECK(ctx, stat, 0, "sF32", -1, 0);
-         break;
-      case 1: /* sF816 */
-         pvalue->u.sF816 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816));
-         if (pvalue->u.sF816 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sF816", -1, 0);
-         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(pvalue->u.sF816);
-         stat = asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(ctx, pvalue->u.sF816);
-         RT_CHECK(ctx, stat, 0, "sF816", -1, 0);
+      case 1: /* sameAsULTrCH */
+         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
+         stat = dec_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_AddReconfTransChInformation2_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation2_tfs_SignallingMode* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInformation2_tfs_SignallingMode, pvalue);
 }
 
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation2(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-RUCCH-ConstantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->e_RUCCH_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat, 0, "e-RUCCH-ConstantValue", -1, 0);
-   /* e-RUCCH-PersistenceScalingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor, 0, 7);
-   RT_CHECK(ctx, stat, "PersistenceScalingFactor", "e-RUCCH-PersistenceScalingFactor", -1, 0);
-   /* t-RUCCH */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_RUCCH, 0, 7);
-      RT_CHECK(ctx, stat, 0, "t-RUCCH", -1, 0);
-   }
-   /* e-RUCCH-TS-Number */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->e_RUCCH_TS_Number, 0, 14);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-TS-Number", -1, 0);
-   }
-   /* e-RUCCH-Midamble */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->e_RUCCH_Midamble, 0, 1);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-Midamble", -1, 0);
-   }
-   /* t-adv */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_adv, 0, 7);
-      RT_CHECK(ctx, stat, 0, "t-adv", -1, 0);
-   }
-   /* t-SCHED */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInformation2");
+   /* dl-TransportChannelType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation2");
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "DL-AddReconfTransChInformation2");
+   /* tfs-SignallingMode */
+   stat = dec_DL_AddReconfTransChInformation2_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation2");
+   /* qualityTarget */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_SCHED, 0, 7);
-      RT_CHECK(ctx, stat, 0, "t-SCHED", -1, 0);
+      pvalue->m |= 0x1u;
+      stat = dec_QualityTarget(ctx, &pvalue->qualityTarget, cur);
+      RT_CHECK(ctx, stat, 0, "qualityTarget", -1, "DL-AddReconfTransChInformation2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation2(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInformation2, pvalue);
+}
+
+static int dec_DL_AddReconfTransChInfo2List(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfo2List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInfo2List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_AddReconfTransChInformation2* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation2));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation2", (int32_t)i, "DL-AddReconfTransChInfo2List");
+      elem = (DL_AddReconfTransChInformation2*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_AddReconfTransChInformation2(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_AddReconfTransChInformation2(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation2", (int32_t)i, "DL-AddReconfTransChInfo2List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInfo2List(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfo2List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInfo2List, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r4_tfs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
+         if (pvalue->u.explicit_config == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
+         stat = dec_TransportFormatSet(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsULTrCH */
+         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
+         stat = dec_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r4_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInformation_r4_tfs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_r4(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r4");
+   /* dl-TransportChannelType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r4");
+   /* dl-transportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_transportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation-r4");
+   /* tfs-SignallingMode */
+   stat = dec_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r4");
+   /* dch-QualityTarget */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_QualityTarget(ctx, &pvalue->dch_QualityTarget, cur);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r4(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInformation_r4, pvalue);
+}
+
+static int dec_DL_AddReconfTransChInfoList_r4(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_AddReconfTransChInformation_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation-r4", (int32_t)i, "DL-AddReconfTransChInfoList-r4");
+      elem = (DL_AddReconfTransChInformation_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_AddReconfTransChInformation_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_AddReconfTransChInformation_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r4", (int32_t)i, "DL-AddReconfTransChInfoList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInfoList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TrCH_TypeId1_r5(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId1_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-TrCH-TypeId1-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId1-r5");
+         break;
+      case 1: /* dsch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dsch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId1-r5");
+         break;
+      case 2: /* hsdsch */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId1-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TrCH_TypeId1_r5(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId1_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TrCH_TypeId1_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_HSDSCH_Info(rtxContext* RT_RESTRICT ctx, HSDSCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HSDSCH-Info");
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HARQ_Info(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info");
+   }
+   /* addOrReconfMAC-dFlow */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_AddOrReconfMAC_dFlow(ctx, &pvalue->addOrReconfMAC_dFlow, cur);
+      RT_CHECK(ctx, stat, 0, "addOrReconfMAC-dFlow", -1, "HSDSCH-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_Info(rtxContext* RT_RESTRICT ctx, HSDSCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HSDSCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r5_tfs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
+         if (pvalue->u.explicit_config == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
+         stat = dec_TransportFormatSet(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsULTrCH */
+         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
+         stat = dec_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      case 2: /* hsdsch */
+         pvalue->u.hsdsch = (HSDSCH_Info*)rtxMemHeapAlloc(ctx, sizeof(HSDSCH_Info));
+         if (pvalue->u.hsdsch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hsdsch", -1, 0);
+         asn1Init_UMTS_HSDSCH_Info(pvalue->u.hsdsch);
+         stat = dec_HSDSCH_Info(ctx, pvalue->u.hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r5_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInformation_r5_tfs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_r5(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r5");
+   /* dl-TransportChannelType */
+   stat = dec_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r5");
+   /* tfs-SignallingMode */
+   stat = dec_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r5");
+   /* dch-QualityTarget */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_QualityTarget(ctx, &pvalue->dch_QualityTarget, cur);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r5(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInformation_r5, pvalue);
+}
+
+static int dec_DL_AddReconfTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_AddReconfTransChInformation_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation-r5", (int32_t)i, "DL-AddReconfTransChInfoList-r5");
+      elem = (DL_AddReconfTransChInformation_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_AddReconfTransChInformation_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_AddReconfTransChInformation_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r5", (int32_t)i, "DL-AddReconfTransChInfoList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInfoList_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_HSDSCH_Info_r7_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r7_dl_MAC_HeaderType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mac-hs */
+         pvalue->u.mac_hs = (AddOrReconfMAC_dFlow*)rtxMemHeapAlloc(ctx, sizeof(AddOrReconfMAC_dFlow));
+         if (pvalue->u.mac_hs == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "mac-hs", -1, 0);
+         asn1Init_UMTS_AddOrReconfMAC_dFlow(pvalue->u.mac_hs);
+         stat = dec_AddOrReconfMAC_dFlow(ctx, pvalue->u.mac_hs, cur);
+         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
+         break;
+      case 1: /* mac-ehs */
+         pvalue->u.mac_ehs = (AddOrReconfMAC_ehs_ReordQ*)rtxMemHeapAlloc(ctx, sizeof(AddOrReconfMAC_ehs_ReordQ));
+         if (pvalue->u.mac_ehs == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "mac-ehs", -1, 0);
+         asn1Init_UMTS_AddOrReconfMAC_ehs_ReordQ(pvalue->u.mac_ehs);
+         stat = dec_AddOrReconfMAC_ehs_ReordQ(ctx, pvalue->u.mac_ehs, cur);
+         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_Info_r7_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r7_dl_MAC_HeaderType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HSDSCH_Info_r7_dl_MAC_HeaderType, pvalue);
+}
+
+RT_MERGED_BODY int dec_HSDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HSDSCH-Info-r7");
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HARQ_Info_r7(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info-r7");
+   }
+   /* dl-MAC-HeaderType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_HSDSCH_Info_r7_dl_MAC_HeaderType(ctx, &pvalue->dl_MAC_HeaderType, cur);
+      RT_CHECK(ctx, stat, 0, "dl-MAC-HeaderType", -1, "HSDSCH-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HSDSCH_Info_r7, pvalue);
+}
+
+static int dec_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r7_tfs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
+         if (pvalue->u.explicit_config == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
+         stat = dec_TransportFormatSet(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsULTrCH */
+         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
+         stat = dec_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      case 2: /* hsdsch */
+         pvalue->u.hsdsch = (HSDSCH_Info_r7*)rtxMemHeapAlloc(ctx, sizeof(HSDSCH_Info_r7));
+         if (pvalue->u.hsdsch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hsdsch", -1, 0);
+         asn1Init_UMTS_HSDSCH_Info_r7(pvalue->u.hsdsch);
+         stat = dec_HSDSCH_Info_r7(ctx, pvalue->u.hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r7_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInformation_r7_tfs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r7");
+   /* dl-TransportChannelType */
+   stat = dec_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r7");
+   /* tfs-SignallingMode */
+   stat = dec_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r7");
+   /* dch-QualityTarget */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_QualityTarget(ctx, &pvalue->dch_QualityTarget, cur);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInformation_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_AddReconfTransChInformation_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation-r7", (int32_t)i, "DL-AddReconfTransChInfoList-r7");
+      elem = (DL_AddReconfTransChInformation_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_AddReconfTransChInformation_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_AddReconfTransChInformation_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r7", (int32_t)i, "DL-AddReconfTransChInfoList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInfoList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_HSDSCH_Info_r9_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r9_dl_MAC_HeaderType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mac-hs */
+         pvalue->u.mac_hs = (AddOrReconfMAC_dFlow*)rtxMemHeapAlloc(ctx, sizeof(AddOrReconfMAC_dFlow));
+         if (pvalue->u.mac_hs == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "mac-hs", -1, 0);
+         asn1Init_UMTS_AddOrReconfMAC_dFlow(pvalue->u.mac_hs);
+         stat = dec_AddOrReconfMAC_dFlow(ctx, pvalue->u.mac_hs, cur);
+         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
+         break;
+      case 1: /* mac-ehs */
+         pvalue->u.mac_ehs = (AddOrReconfMAC_ehs_ReordQ_r9*)rtxMemHeapAlloc(ctx, sizeof(AddOrReconfMAC_ehs_ReordQ_r9));
+         if (pvalue->u.mac_ehs == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "mac-ehs", -1, 0);
+         asn1Init_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(pvalue->u.mac_ehs);
+         stat = dec_AddOrReconfMAC_ehs_ReordQ_r9(ctx, pvalue->u.mac_ehs, cur);
+         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_Info_r9_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r9_dl_MAC_HeaderType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HSDSCH_Info_r9_dl_MAC_HeaderType, pvalue);
+}
+
+RT_MERGED_BODY int dec_HSDSCH_Info_r9(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HSDSCH-Info-r9");
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HARQ_Info_r7(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info-r9");
+   }
+   /* dl-MAC-HeaderType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_HSDSCH_Info_r9_dl_MAC_HeaderType(ctx, &pvalue->dl_MAC_HeaderType, cur);
+      RT_CHECK(ctx, stat, 0, "dl-MAC-HeaderType", -1, "HSDSCH-Info-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_Info_r9(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HSDSCH_Info_r9, pvalue);
+}
+
+static int dec_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r9_tfs_SignallingMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
+         if (pvalue->u.explicit_config == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
+         stat = dec_TransportFormatSet(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsULTrCH */
+         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
+         stat = dec_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      case 2: /* hsdsch */
+         pvalue->u.hsdsch = (HSDSCH_Info_r9*)rtxMemHeapAlloc(ctx, sizeof(HSDSCH_Info_r9));
+         if (pvalue->u.hsdsch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hsdsch", -1, 0);
+         asn1Init_UMTS_HSDSCH_Info_r9(pvalue->u.hsdsch);
+         stat = dec_HSDSCH_Info_r9(ctx, pvalue->u.hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r9_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInformation_r9_tfs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AddReconfTransChInformation_r9(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r9");
+   /* dl-TransportChannelType */
+   stat = dec_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r9");
+   /* tfs-SignallingMode */
+   stat = dec_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r9");
+   /* dch-QualityTarget */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_QualityTarget(ctx, &pvalue->dch_QualityTarget, cur);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r9(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInformation_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_AddReconfTransChInfoList_r9(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_AddReconfTransChInformation_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation_r9));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation-r9", (int32_t)i, "DL-AddReconfTransChInfoList-r9");
+      elem = (DL_AddReconfTransChInformation_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_AddReconfTransChInformation_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_AddReconfTransChInformation_r9(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r9", (int32_t)i, "DL-AddReconfTransChInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_AddReconfTransChInfoList_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TFCS(ctx, &pvalue->tfcs, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DCH-TFCS */
+         pvalue->u.dl_DCH_TFCS = (DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS));
+         if (pvalue->u.dl_DCH_TFCS == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-DCH-TFCS", -1, 0);
+         asn1Init_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(pvalue->u.dl_DCH_TFCS);
+         stat = dec_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(ctx, pvalue->u.dl_DCH_TFCS, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DCH-TFCS", -1, 0);
+         break;
+      case 1: /* sameAsUL */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-Parameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters, cur);
+      RT_CHECK(ctx, stat, 0, "dl-Parameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* individualDL-CCTrCH-InfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "individualDL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonTransChInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonTransChInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonTransChInfo_r4_modeSpecificInfo, pvalue);
+}
+
+static int dec_DL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CommonTransChInfo-r4");
+   /* sccpch-TFCS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TFCS(ctx, &pvalue->sccpch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "sccpch-TFCS", -1, "DL-CommonTransChInfo-r4");
    }
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_CommonTransChInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonTransChInfo-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonTransChInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-TransportChannelType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-TransportChannelIdentity");
+   /* dl-TransportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_TransportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dl-TransportChannelIdentity", -1, "DL-TransportChannelIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TransportChannelIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-DeletedTransChInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_TransportChannelIdentity* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_TransportChannelIdentity));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-TransportChannelIdentity", (int32_t)i, "DL-DeletedTransChInfoList");
+      elem = (DL_TransportChannelIdentity*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_TransportChannelIdentity(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity", (int32_t)i, "DL-DeletedTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DeletedTransChInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TrCH_TypeId2_r5(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-TrCH-TypeId2-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r5");
+         break;
+      case 1: /* dsch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dsch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r5");
+         break;
+      case 2: /* hsdsch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.hsdsch, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TrCH-TypeId2-r5");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId2-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TrCH_TypeId2_r5(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TrCH_TypeId2_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TransportChannelIdentity_r5(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-TransportChannelType */
+   stat = dec_DL_TrCH_TypeId2_r5(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-TransportChannelIdentity-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelIdentity_r5(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TransportChannelIdentity_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DeletedTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-DeletedTransChInfoList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_TransportChannelIdentity_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_TransportChannelIdentity_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-TransportChannelIdentity-r5", (int32_t)i, "DL-DeletedTransChInfoList-r5");
+      elem = (DL_TransportChannelIdentity_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_TransportChannelIdentity_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_TransportChannelIdentity_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity-r5", (int32_t)i, "DL-DeletedTransChInfoList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DeletedTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DeletedTransChInfoList_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TrCH_TypeId2_r7_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r7_hsdsch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mac-hs */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.mac_hs, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
+         break;
+      case 1: /* mac-ehs */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.mac_ehs, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TrCH_TypeId2_r7_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r7_hsdsch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TrCH_TypeId2_r7_hsdsch, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TrCH_TypeId2_r7(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-TrCH-TypeId2-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r7");
+         break;
+      case 1: /* dsch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dsch, 1, 32);
+         RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r7");
+         break;
+      case 2: /* hsdsch */
+         pvalue->u.hsdsch = (DL_TrCH_TypeId2_r7_hsdsch*)rtxMemHeapAlloc(ctx, sizeof(DL_TrCH_TypeId2_r7_hsdsch));
+         if (pvalue->u.hsdsch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "hsdsch", -1, "DL-TrCH-TypeId2-r7");
+         asn1Init_UMTS_DL_TrCH_TypeId2_r7_hsdsch(pvalue->u.hsdsch);
+         stat = dec_DL_TrCH_TypeId2_r7_hsdsch(ctx, pvalue->u.hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, "DL-TrCH-TypeId2-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId2-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TrCH_TypeId2_r7(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TrCH_TypeId2_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TransportChannelIdentity_r7(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-TransportChannelType */
+   stat = dec_DL_TrCH_TypeId2_r7(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-TransportChannelIdentity-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelIdentity_r7(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TransportChannelIdentity_r7, pvalue);
+}
+
+static int dec_DL_DeletedTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-DeletedTransChInfoList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_TransportChannelIdentity_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_TransportChannelIdentity_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-TransportChannelIdentity-r7", (int32_t)i, "DL-DeletedTransChInfoList-r7");
+      elem = (DL_TransportChannelIdentity_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_TransportChannelIdentity_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_TransportChannelIdentity_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity-r7", (int32_t)i, "DL-DeletedTransChInfoList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DeletedTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DeletedTransChInfoList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DRAC_ClassIdentity(rtxContext* RT_RESTRICT ctx, DRAC_ClassIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DRAC-ClassIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_DRAC_ClassIdentity(rtxContext* RT_RESTRICT ctx, DRAC_ClassIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DRAC_ClassIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_TransmissionTimeValidity(rtxContext* RT_RESTRICT ctx, TransmissionTimeValidity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 1, 256);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransmissionTimeValidity");
+   return 0;
+}
+
+int asn1PD_UMTS_TransmissionTimeValidity(rtxContext* RT_RESTRICT ctx, TransmissionTimeValidity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TransmissionTimeValidity, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeDurationBeforeRetry(rtxContext* RT_RESTRICT ctx, TimeDurationBeforeRetry* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 1, 256);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeDurationBeforeRetry");
+   return 0;
+}
+
+int asn1PD_UMTS_TimeDurationBeforeRetry(rtxContext* RT_RESTRICT ctx, TimeDurationBeforeRetry* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeDurationBeforeRetry, pvalue);
+}
+
+RT_MERGED_BODY int dec_DRAC_StaticInformation(rtxContext* RT_RESTRICT ctx, DRAC_StaticInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* transmissionTimeValidity */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->transmissionTimeValidity, 1, 256);
+   RT_CHECK_AT(ctx, cur, stat, "TransmissionTimeValidity", "transmissionTimeValidity", -1, "DRAC-StaticInformation");
+   /* timeDurationBeforeRetry */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->timeDurationBeforeRetry, 1, 256);
+   RT_CHECK_AT(ctx, cur, stat, "TimeDurationBeforeRetry", "timeDurationBeforeRetry", -1, "DRAC-StaticInformation");
+   /* drac-ClassIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->drac_ClassIdentity, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "DRAC-ClassIdentity", "drac-ClassIdentity", -1, "DRAC-StaticInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_DRAC_StaticInformation(rtxContext* RT_RESTRICT ctx, DRAC_StaticInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DRAC_StaticInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_DRAC_StaticInformationList(rtxContext* RT_RESTRICT ctx, DRAC_StaticInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DRAC-StaticInformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DRAC_StaticInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DRAC_StaticInformation));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DRAC-StaticInformation", (int32_t)i, "DRAC-StaticInformationList");
+      elem = (DRAC_StaticInformation*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DRAC_StaticInformation(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DRAC-StaticInformation", (int32_t)i, "DRAC-StaticInformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DRAC_StaticInformationList(rtxContext* RT_RESTRICT ctx, DRAC_StaticInformationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DRAC_StaticInformationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* maxMAC-e-PDUContents */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->maxMAC_e_PDUContents, 1, 19982);
+   RT_CHECK_AT(ctx, cur, stat, 0, "maxMAC-e-PDUContents", -1, 0);
+   /* ms2-NonSchedTransmGrantHARQAlloc */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->ms2_NonSchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ms2-NonSchedTransmGrantHARQAlloc", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* non-ScheduledTransGrantInfo */
+         pvalue->u.non_ScheduledTransGrantInfo = (E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo*)rtxMemHeapAlloc(ctx, sizeof(E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo));
+         if (pvalue->u.non_ScheduledTransGrantInfo == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(pvalue->u.non_ScheduledTransGrantInfo);
+         stat = dec_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(ctx, pvalue->u.non_ScheduledTransGrantInfo, cur);
+         RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         break;
+      case 1: /* scheduledTransmissionGrantInfo */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow");
+   /* mac-d-FlowIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_d_FlowIdentity, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   /* mac-d-FlowPowerOffset */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_d_FlowPowerOffset, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   }
+   /* mac-d-FlowMaxRetrans */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_d_FlowMaxRetrans, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   }
+   /* mac-d-FlowMultiplexingList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_E_DCH_MAC_d_FlowMultiplexingList(ctx, &pvalue->mac_d_FlowMultiplexingList, cur);
+      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   }
+   /* transmissionGrantType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(ctx, &pvalue->transmissionGrantType, cur);
+      RT_CHECK(ctx, stat, 0, "transmissionGrantType", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_AddReconf_MAC_d_Flow, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* maxMAC-e-PDUContents */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->maxMAC_e_PDUContents, 1, 19982);
+   RT_CHECK_AT(ctx, cur, stat, 0, "maxMAC-e-PDUContents", -1, 0);
+   /* ms2-NonSchedTransmGrantHARQAlloc */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->ms2_NonSchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ms2-NonSchedTransmGrantHARQAlloc", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* non-ScheduledTransGrantInfo */
+         pvalue->u.non_ScheduledTransGrantInfo = (E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo*)rtxMemHeapAlloc(ctx, sizeof(E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo));
+         if (pvalue->u.non_ScheduledTransGrantInfo == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(pvalue->u.non_ScheduledTransGrantInfo);
+         stat = dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(ctx, pvalue->u.non_ScheduledTransGrantInfo, cur);
+         RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         break;
+      case 1: /* scheduledTransmissionGrantInfo */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType, pvalue);
 }
 
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_Flow_r7(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* t-RUCCH */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_RUCCH, 0, 15);
-      RT_CHECK(ctx, stat, 0, "t-RUCCH", -1, 0);
-   }
-   /* n-RUCCH */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->n_RUCCH, 0, 7);
-      RT_CHECK(ctx, stat, 0, "n-RUCCH", -1, 0);
-   }
-   /* t-WAIT */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_WAIT, 0, 7);
-      RT_CHECK(ctx, stat, 0, "t-WAIT", -1, 0);
-   }
-   /* t-SI */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_SI, 0, 6);
-      RT_CHECK(ctx, stat, 0, "t-SI", -1, 0);
-   }
-   /* extendedEstimationWindow */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   /* mac-d-FlowIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_d_FlowIdentity, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   /* mac-d-FlowPowerOffset */
    if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->extendedEstimationWindow, 2, 5);
-      RT_CHECK(ctx, stat, 0, "extendedEstimationWindow", -1, 0);
-   }
-   /* e-RUCCH-AccessServiceClass */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-AccessServiceClass", -1, 0);
-   }
-   /* e-RUCCH-PersistenceScalingFactor */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-PersistenceScalingFactor", -1, 0);
-   }
-   /* sync-UL-InfoForE-RUCCH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH);
-      RT_CHECK(ctx, stat, 0, "sync-UL-InfoForE-RUCCH", -1, 0);
-   }
-   /* prach-information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_PRACH_Information_LCR_List(ctx, &pvalue->prach_information);
-      RT_CHECK(ctx, stat, 0, "prach-information", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384-tdd768 */
-         pvalue->u.tdd384_tdd768 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768));
-         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384-tdd768", -1, 0);
-         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(pvalue->u.tdd384_tdd768);
-         stat = asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (E_RUCCH_Info_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-RUCCH-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_TS_Slots(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ts-Number */
-   stat = pd_ConsUInt8(ctx, &pvalue->ts_Number, 0, 14);
-   RT_CHECK(ctx, stat, 0, "ts-Number", -1, "E-PUCH-TS-Slots");
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-PUCH-TS-Slots");
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 12);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_PUCH_TS_Slots* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_PUCH_TS_Slots));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-PUCH-TS-Slots", (int32_t)i, 0);
-      elem = (E_PUCH_TS_Slots*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_PUCH_TS_Slots(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_PUCH_TS_Slots(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd348_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* noSlotsForTFCIandTPC */
-   stat = pd_ConsUInt8(ctx, &pvalue->noSlotsForTFCIandTPC, 1, 12);
-   RT_CHECK(ctx, stat, 0, "noSlotsForTFCIandTPC", -1, 0);
-   /* e-PUCH-ContantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->e_PUCH_ContantValue, -35, 10);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-ContantValue", -1, 0);
-   /* e-PUCH-TS-ConfigurationList */
-   stat = asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, 0);
-   /* e-PUCH-CodeHopping */
-   stat = rtxDecBitInline(ctx, &pvalue->e_PUCH_CodeHopping);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-CodeHopping", -1, 0);
-   /* e-PUCH-TPC-Step-Size */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_PUCH_TPC_Step_Size, 1, 3);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-TPC-Step-Size", -1, 0);
-   /* minimum-Allowed-Code-Rate */
-   stat = pd_ConsUInt8(ctx, &pvalue->minimum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat, 0, "minimum-Allowed-Code-Rate", -1, 0);
-   /* maximum-Allowed-Code-Rate */
-   stat = pd_ConsUInt8(ctx, &pvalue->maximum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat, 0, "maximum-Allowed-Code-Rate", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_PUCH_TS_Slots_LCR* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_PUCH_TS_Slots_LCR));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
-      elem = (E_PUCH_TS_Slots_LCR*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_PUCH_TS_Slots_LCR(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_PUCH_TS_Slots_LCR(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 29);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* snpl-ReportType */
-   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->snpl_ReportType, 0, 1);
-      RT_CHECK(ctx, stat, 0, "snpl-ReportType", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_d_FlowPowerOffset, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
    }
-   /* prxBASEdes */
-   stat = pd_ConsInt8(ctx, &pvalue->prxBASEdes, -112, -50);
-   RT_CHECK(ctx, stat, 0, "prxBASEdes", -1, 0);
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 2)) {
+   /* mac-d-FlowMaxRetrans */
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      stat = rtxDecBitInline(ctx, &pvalue->beaconPLEst);
-      RT_CHECK(ctx, stat, 0, "beaconPLEst", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->mac_d_FlowMaxRetrans, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
    }
-   /* tpc-StepSize */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   /* pebase-PowerControlGAP */
-   if (present & ((uint32_t)1 << 1)) {
+   /* mac-d-FlowRetransTimer */
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pebase_PowerControlGAP, 0, 255);
-      RT_CHECK(ctx, stat, "PowerControlGAP", "pebase-PowerControlGAP", -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mac_d_FlowRetransTimer, 0, 29);
+      RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowRetransTimer", "mac-d-FlowRetransTimer", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
    }
-   /* ul-SynchronisationParameters */
-   if (present & ((uint32_t)1 << 0)) {
+   /* mac-d-FlowMultiplexingList */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+      stat = dec_E_DCH_MAC_d_FlowMultiplexingList(ctx, &pvalue->mac_d_FlowMultiplexingList, cur);
+      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
    }
-   /* e-PUCH-TS-ConfigurationList */
-   stat = asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, 0);
-   /* minimum-Allowed-Code-Rate */
-   stat = pd_ConsUInt8(ctx, &pvalue->minimum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat, 0, "minimum-Allowed-Code-Rate", -1, 0);
-   /* maximum-Allowed-Code-Rate */
-   stat = pd_ConsUInt8(ctx, &pvalue->maximum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat, 0, "maximum-Allowed-Code-Rate", -1, 0);
-   /* maximumNumOfRetransSchedInfo */
-   stat = pd_ConsUInt8(ctx, &pvalue->maximumNumOfRetransSchedInfo, 0, 15);
-   RT_CHECK(ctx, stat, 0, "maximumNumOfRetransSchedInfo", -1, 0);
-   /* retransTimerForSchedInfo */
-   stat = pd_ConsUnsigned(ctx, &pvalue->retransTimerForSchedInfo, 0, 29);
-   RT_CHECK(ctx, stat, 0, "retransTimerForSchedInfo", -1, 0);
+   /* transmissionGrantType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(ctx, &pvalue->transmissionGrantType, cur);
+      RT_CHECK(ctx, stat, 0, "transmissionGrantType", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_AddReconf_MAC_d_Flow_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_AddReconf_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_FlowList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_DCH_AddReconf_MAC_d_Flow* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_AddReconf_MAC_d_Flow));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-DCH-AddReconf-MAC-d-Flow", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList");
+      elem = (E_DCH_AddReconf_MAC_d_Flow*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_DCH_AddReconf_MAC_d_Flow(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-DCH-AddReconf-MAC-d-Flow", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_FlowList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_AddReconf_MAC_d_FlowList, pvalue);
+}
+
+static int dec_E_DCH_AddReconf_MAC_d_FlowList_r7(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_FlowList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_DCH_AddReconf_MAC_d_Flow_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_AddReconf_MAC_d_Flow_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-DCH-AddReconf-MAC-d-Flow-r7", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+      elem = (E_DCH_AddReconf_MAC_d_Flow_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_DCH_AddReconf_MAC_d_Flow_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-DCH-AddReconf-MAC-d-Flow-r7", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_FlowList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_AddReconf_MAC_d_FlowList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_PowerOffsetInfoShort_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* gainFactorBetaC */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->gainFactorBetaC, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "GainFactor", "gainFactorBetaC", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PowerOffsetInfoShort_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PowerOffsetInfoShort_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_PowerOffsetInfoShort_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd348-tdd768 */
-         pvalue->u.tdd348_tdd768 = (E_PUCH_Info_modeSpecificInfo_tdd348_tdd768*)rtxMemHeapAlloc(ctx, sizeof(E_PUCH_Info_modeSpecificInfo_tdd348_tdd768));
-         if (pvalue->u.tdd348_tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd348-tdd768", -1, 0);
-         asn1Init_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(pvalue->u.tdd348_tdd768);
-         stat = asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(ctx, pvalue->u.tdd348_tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd348-tdd768", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (E_PUCH_Info_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(E_PUCH_Info_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info(rtxContext* RT_RESTRICT ctx, E_PUCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-PUCH-Info");
-   /* e-TFCS-Info */
-   stat = asn1PD_UMTS_E_TFCS_Info(ctx, &pvalue->e_TFCS_Info);
-   RT_CHECK(ctx, stat, 0, "e-TFCS-Info", -1, "E-PUCH-Info");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-PUCH-Info");
-   /* powerOffsetForSchedInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetForSchedInfo, 0, 6);
-      RT_CHECK(ctx, stat, 0, "powerOffsetForSchedInfo", -1, "E-PUCH-Info");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_tdd384_768(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd384_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timeslotResourceRelatedInfo */
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pd_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 13, 13);
-   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
-   /* powerResourceRelatedInfo */
-   stat = pd_ConsUInt8(ctx, &pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat, 0, "powerResourceRelatedInfo", -1, 0);
-   /* activationTime */
-   stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   /* repetitionPeriodAndLength */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
-   }
-   /* codeResourceInfo */
-   stat = pd_ConsUnsigned(ctx, &pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* ueSpecificMidamble */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
-   /* channelisation-Code */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, 0);
-   /* signatureSequenceGroupIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->signatureSequenceGroupIndex, 0, 19);
-   RT_CHECK(ctx, stat, 0, "signatureSequenceGroupIndex", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* n-E-UCCH */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->n_E_UCCH, 1, 8);
-      RT_CHECK(ctx, stat, 0, "n-E-UCCH", -1, 0);
-   }
-   /* n-E-HICH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->n_E_HICH, 4, 15);
-      RT_CHECK(ctx, stat, 0, "n-E-HICH", -1, 0);
-   }
-   /* timeslotResourceRelatedInfo */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 5, 5);
-   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
-   /* powerResourceRelatedInfo */
-   stat = pd_ConsUInt8(ctx, &pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat, 0, "powerResourceRelatedInfo", -1, 0);
-   /* activationTime */
-   stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   /* sfnNum */
-   stat = pd_ConsUInt8(ctx, &pvalue->sfnNum, 0, 1);
-   RT_CHECK(ctx, stat, 0, "sfnNum", -1, 0);
-   /* repetitionPeriodAndLength */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
-   }
-   /* codeResourceInfo */
-   stat = pd_ConsUnsigned(ctx, &pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   /* e-HICH-Info */
-   stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-   RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384-768 */
-         pvalue->u.tdd384_768 = (Non_ScheduledTransGrantInfoTDD_tdd384_768*)rtxMemHeapAlloc(ctx, sizeof(Non_ScheduledTransGrantInfoTDD_tdd384_768));
-         if (pvalue->u.tdd384_768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD");
-         asn1Init_UMTS_Non_ScheduledTransGrantInfoTDD_tdd384_768(pvalue->u.tdd384_768);
-         stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_tdd384_768(ctx, pvalue->u.tdd384_768);
-         RT_CHECK(ctx, stat, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD");
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (Non_ScheduledTransGrantInfoTDD_tdd128*)rtxMemHeapAlloc(ctx, sizeof(Non_ScheduledTransGrantInfoTDD_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD");
-         asn1Init_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-RUCCH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
-   }
-   /* e-PUCH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
-   }
-   /* non-ScheduledTransGrantInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (UL_EDCH_Information_r8_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r8_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (PowerOffsetInfoShort_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(PowerOffsetInfoShort_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_PowerOffsetInfoShort_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (UL_EDCH_Information_r8_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r8_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_EDCH_Information_r8(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PowerOffsetInfoShort_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PowerOffsetInfoShort_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PowerOffsetInfoShort(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* referenceTFC */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->referenceTFC, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, "TFC-Value", "referenceTFC", -1, "PowerOffsetInfoShort");
+   /* modeSpecificInfo */
+   stat = dec_PowerOffsetInfoShort_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PowerOffsetInfoShort");
+   /* gainFactorBetaD */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->gainFactorBetaD, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "GainFactor", "gainFactorBetaD", -1, "PowerOffsetInfoShort");
+   return 0;
+}
+
+int asn1PD_UMTS_PowerOffsetInfoShort(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PowerOffsetInfoShort, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFC_SubsetList_element_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-EDCH-Information-r8");
-   /* mac-es-e-resetIndicator */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r8");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r8");
-         pvalue->mac_es_e_resetIndicator = ui;
-      }
+      stat = dec_TFCS_Identity(ctx, &pvalue->tfcs_ID, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs-ID", -1, 0);
    }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UL_EDCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-EDCH-Information-r8");
    return 0;
 }
 
-int asn1PD_UMTS_DLUL_HSPA_Information_r8(rtxContext* RT_RESTRICT ctx, DLUL_HSPA_Information_r8* RT_RESTRICT pvalue)
+int asn1PD_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TFC_SubsetList_element_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFC_SubsetList_element_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (TFC_SubsetList_element_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(TFC_SubsetList_element_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_TFC_SubsetList_element_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TFC_SubsetList_element_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TFC_SubsetList_element_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFC_SubsetList_element(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* ul-EDCH-Information */
-   stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-   RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "DLUL-HSPA-Information-r8");
-   /* dl-CommonInformation */
-   stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "DLUL-HSPA-Information-r8");
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "DLUL-HSPA-Information-r8");
-   /* dl-HSPDSCH-Information */
-   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-   RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "DLUL-HSPA-Information-r8");
+   /* modeSpecificInfo */
+   stat = dec_TFC_SubsetList_element_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   /* tfc-Subset */
+   stat = dec_TFC_Subset(ctx, &pvalue->tfc_Subset, cur);
+   RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UL_EDCH_Information_r9_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_mac_es_e_resetIndicator* RT_RESTRICT pvalue)
+int asn1PD_UMTS_TFC_SubsetList_element(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TFC_SubsetList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFC_SubsetList(rtxContext* RT_RESTRICT ctx, TFC_SubsetList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TFC-SubsetList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TFC_SubsetList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFC_SubsetList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "TFC-SubsetList");
+      elem = (TFC_SubsetList_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TFC_SubsetList_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TFC_SubsetList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "TFC-SubsetList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TFC_SubsetList(rtxContext* RT_RESTRICT ctx, TFC_SubsetList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TFC_SubsetList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r6_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_dch_usch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   /* transportFormatSet */
+   stat = dec_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_dch_usch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r6_dch_usch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r6_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch_harq_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r6_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch_harq_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r6_e_dch_harq_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r6_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tti */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tti, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "E-DCH-TTI", "tti", -1, 0);
+   /* harq-Info */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->harq_Info, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "harq-Info", -1, 0);
+   /* addReconf-MAC-d-FlowList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_DCH_AddReconf_MAC_d_FlowList(ctx, &pvalue->addReconf_MAC_d_FlowList, cur);
+      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r6_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r6_e_dch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r6(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-AddReconfTransChInformation-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch-usch */
+         pvalue->u.dch_usch = (UL_AddReconfTransChInformation_r6_dch_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r6_dch_usch));
+         if (pvalue->u.dch_usch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r6");
+         asn1Init_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(pvalue->u.dch_usch);
+         stat = dec_UL_AddReconfTransChInformation_r6_dch_usch(ctx, pvalue->u.dch_usch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r6");
+         break;
+      case 1: /* e-dch */
+         pvalue->u.e_dch = (UL_AddReconfTransChInformation_r6_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r6_e_dch));
+         if (pvalue->u.e_dch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r6");
+         asn1Init_UMTS_UL_AddReconfTransChInformation_r6_e_dch(pvalue->u.e_dch);
+         stat = dec_UL_AddReconfTransChInformation_r6_e_dch(ctx, pvalue->u.e_dch, cur);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r6");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r6(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r6, pvalue);
+}
+
+static int dec_UL_AddReconfTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_AddReconfTransChInformation_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-AddReconfTransChInformation-r6", (int32_t)i, "UL-AddReconfTransChInfoList-r6");
+      elem = (UL_AddReconfTransChInformation_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_AddReconfTransChInformation_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UL_AddReconfTransChInformation_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r6", (int32_t)i, "UL-AddReconfTransChInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInfoList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r7_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_dch_usch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   /* transportFormatSet */
+   stat = dec_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_dch_usch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r7_dch_usch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tti */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tti, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "E-DCH-TTI", "tti", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_modeSpecific* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_modeSpecific* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r7_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_harq_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_harq_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r7_e_dch_harq_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r7_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* modeSpecific */
+   stat = dec_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(ctx, &pvalue->modeSpecific, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, 0);
+   /* harq-Info */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->harq_Info, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "harq-Info", -1, 0);
+   /* addReconf-MAC-d-FlowList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_DCH_AddReconf_MAC_d_FlowList_r7(ctx, &pvalue->addReconf_MAC_d_FlowList, cur);
+      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r7_e_dch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-AddReconfTransChInformation-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch-usch */
+         pvalue->u.dch_usch = (UL_AddReconfTransChInformation_r7_dch_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r7_dch_usch));
+         if (pvalue->u.dch_usch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r7");
+         asn1Init_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(pvalue->u.dch_usch);
+         stat = dec_UL_AddReconfTransChInformation_r7_dch_usch(ctx, pvalue->u.dch_usch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r7");
+         break;
+      case 1: /* e-dch */
+         pvalue->u.e_dch = (UL_AddReconfTransChInformation_r7_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r7_e_dch));
+         if (pvalue->u.e_dch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r7");
+         asn1Init_UMTS_UL_AddReconfTransChInformation_r7_e_dch(pvalue->u.e_dch);
+         stat = dec_UL_AddReconfTransChInformation_r7_e_dch(ctx, pvalue->u.e_dch, cur);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r7, pvalue);
+}
+
+static int dec_UL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_AddReconfTransChInformation_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-AddReconfTransChInformation-r7", (int32_t)i, "UL-AddReconfTransChInfoList-r7");
+      elem = (UL_AddReconfTransChInformation_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_AddReconfTransChInformation_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UL_AddReconfTransChInformation_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r7", (int32_t)i, "UL-AddReconfTransChInfoList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInfoList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_dch_usch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   /* transportFormatSet */
+   stat = dec_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_dch_usch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r8_dch_usch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    {
       uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-DPCCH-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, 0);
-   }
-   /* e-DPDCH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, 0);
-   }
-   /* schedulingTransmConfiguration */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, 0);
-   }
-   /* ul-16QAM-Settings */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, 0);
-   }
+   /* tti */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tti, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "E-DCH-TTI", "tti", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd384_768* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timeslotResourceRelatedInfo */
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pd_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 13, 13);
-   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
-   /* powerResourceRelatedInfo */
-   stat = pd_ConsUInt8(ctx, &pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat, 0, "powerResourceRelatedInfo", -1, 0);
-   /* activationTime */
-   stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   /* repetitionPeriodAndLength */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
-   }
-   /* codeResourceInfo */
-   stat = pd_ConsUnsigned(ctx, &pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd, pvalue);
 }
 
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_modeSpecific* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* ueSpecificMidamble */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
-   /* channelisation-Code */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, 0);
-   /* signatureSequenceGroupIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->signatureSequenceGroupIndex, 0, 19);
-   RT_CHECK(ctx, stat, 0, "signatureSequenceGroupIndex", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* n-E-UCCH */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->n_E_UCCH, 1, 8);
-      RT_CHECK(ctx, stat, 0, "n-E-UCCH", -1, 0);
-   }
-   /* n-E-HICH */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->n_E_HICH, 4, 15);
-      RT_CHECK(ctx, stat, 0, "n-E-HICH", -1, 0);
-   }
-   /* timeslotResourceRelatedInfo */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 5, 5);
-   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
-   /* powerResourceRelatedInfo */
-   stat = pd_ConsUInt8(ctx, &pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat, 0, "powerResourceRelatedInfo", -1, 0);
-   /* activationTime */
-   stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   /* sfnNum */
-   stat = pd_ConsUInt8(ctx, &pvalue->sfnNum, 0, 1);
-   RT_CHECK(ctx, stat, 0, "sfnNum", -1, 0);
-   /* repetitionPeriodAndLength */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
-   }
-   /* codeResourceInfo */
-   stat = pd_ConsUnsigned(ctx, &pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   /* e-HICH-Info */
-   stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-   RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   /* t-SI-nst */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_SI_nst, 0, 6);
-      RT_CHECK(ctx, stat, 0, "t-SI-nst", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-r9");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384-768 */
-         pvalue->u.tdd384_768 = (Non_ScheduledTransGrantInfoTDD_r9_tdd384_768*)rtxMemHeapAlloc(ctx, sizeof(Non_ScheduledTransGrantInfoTDD_r9_tdd384_768));
-         if (pvalue->u.tdd384_768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD-r9");
-         asn1Init_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(pvalue->u.tdd384_768);
-         stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(ctx, pvalue->u.tdd384_768);
-         RT_CHECK(ctx, stat, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD-r9");
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (Non_ScheduledTransGrantInfoTDD_r9_tdd128*)rtxMemHeapAlloc(ctx, sizeof(Non_ScheduledTransGrantInfoTDD_r9_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-r9");
-         asn1Init_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-r9");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-RUCCH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
-   }
-   /* e-PUCH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
-   }
-   /* non-ScheduledTransGrantInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (UL_EDCH_Information_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r9_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (UL_EDCH_Information_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r9_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_EDCH_Information_r9(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_modeSpecific* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_harq_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_harq_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r8_e_dch_harq_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-EDCH-Information-r9");
-   /* mac-es-e-resetIndicator */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-MAC-HeaderType */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r9");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ul-MAC-HeaderType", -1, 0);
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r9");
-         pvalue->mac_es_e_resetIndicator = ui;
+         RT_CHECK_AT(ctx, cur, stat, 0, "ul-MAC-HeaderType", -1, 0);
+         pvalue->ul_MAC_HeaderType = ui;
       }
    }
+   /* modeSpecific */
+   stat = dec_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(ctx, &pvalue->modeSpecific, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, 0);
+   /* harq-Info */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->harq_Info, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "harq-Info", -1, 0);
+   /* addReconf-MAC-d-FlowList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_DCH_AddReconf_MAC_d_FlowList_r7(ctx, &pvalue->addReconf_MAC_d_FlowList, cur);
+      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r8_e_dch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_AddReconfTransChInformation_r8(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-AddReconfTransChInformation-r8");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch-usch */
+         pvalue->u.dch_usch = (UL_AddReconfTransChInformation_r8_dch_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r8_dch_usch));
+         if (pvalue->u.dch_usch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r8");
+         asn1Init_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(pvalue->u.dch_usch);
+         stat = dec_UL_AddReconfTransChInformation_r8_dch_usch(ctx, pvalue->u.dch_usch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r8");
+         break;
+      case 1: /* e-dch */
+         pvalue->u.e_dch = (UL_AddReconfTransChInformation_r8_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r8_e_dch));
+         if (pvalue->u.e_dch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r8");
+         asn1Init_UMTS_UL_AddReconfTransChInformation_r8_e_dch(pvalue->u.e_dch);
+         stat = dec_UL_AddReconfTransChInformation_r8_e_dch(ctx, pvalue->u.e_dch, cur);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r8");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInformation_r8, pvalue);
+}
+
+static int dec_UL_AddReconfTransChInfoList_r8(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_AddReconfTransChInformation_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-AddReconfTransChInformation-r8", (int32_t)i, "UL-AddReconfTransChInfoList-r8");
+      elem = (UL_AddReconfTransChInformation_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_AddReconfTransChInformation_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UL_AddReconfTransChInformation_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r8", (int32_t)i, "UL-AddReconfTransChInfoList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_AddReconfTransChInfoList_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TFCS */
+   stat = dec_TFCS(ctx, &pvalue->ul_TFCS, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* individualUL-CCTrCH-InfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "individualUL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_CommonTransChInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_CommonTransChInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CommonTransChInfo_r4_modeSpecificInfo, pvalue);
+}
+
+static int dec_UL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-CommonTransChInfo-r4");
+   /* tfc-Subset */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TFC_Subset(ctx, &pvalue->tfc_Subset, cur);
+      RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "UL-CommonTransChInfo-r4");
+   }
+   /* prach-TFCS */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TFCS(ctx, &pvalue->prach_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "prach-TFCS", -1, "UL-CommonTransChInfo-r4");
+   }
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UL_EDCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-EDCH-Information-r9");
-   return 0;
-}
-
-int asn1PD_UMTS_DLUL_HSPA_Information_r9(rtxContext* RT_RESTRICT ctx, DLUL_HSPA_Information_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-EDCH-Information */
-   stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-   RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "DLUL-HSPA-Information-r9");
-   /* dl-CommonInformation */
-   stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "DLUL-HSPA-Information-r9");
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "DLUL-HSPA-Information-r9");
-   /* dl-HSPDSCH-Information */
-   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-   RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "DLUL-HSPA-Information-r9");
-   return 0;
-}
-
-int asn1PD_UMTS_DPCCH_PowerOffset2(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset2* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -28, -13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DPCCH-PowerOffset2");
-   return 0;
-}
-
-int asn1PD_UMTS_TGPS_Reconfiguration_CFN(rtxContext* RT_RESTRICT ctx, TGPS_Reconfiguration_CFN* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGPS-Reconfiguration-CFN");
-   return 0;
-}
-
-int asn1PD_UMTS_TGP_SequenceShort_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_SequenceShort_tgps_Status_activate* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tgcfn */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgcfn, 0, 255);
-   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_TGP_SequenceShort_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_SequenceShort_tgps_Status* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* activate */
-         pvalue->u.activate = (TGP_SequenceShort_tgps_Status_activate*)rtxMemHeapAllocZ(ctx, sizeof(TGP_SequenceShort_tgps_Status_activate));
-         if (pvalue->u.activate == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "activate", -1, 0);
-         stat = asn1PD_UMTS_TGP_SequenceShort_tgps_Status_activate(ctx, pvalue->u.activate);
-         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
-         break;
-      case 1: /* deactivate */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TGP_SequenceShort(rtxContext* RT_RESTRICT ctx, TGP_SequenceShort* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tgpsi */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgpsi, 1, 6);
-   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "TGP-SequenceShort");
-   /* tgps-Status */
-   stat = asn1PD_UMTS_TGP_SequenceShort_tgps_Status(ctx, &pvalue->tgps_Status);
-   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-SequenceShort");
-   return 0;
-}
-
-int asn1PD_UMTS_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeStatusInfo_tgp_SequenceShortList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TGP_SequenceShort* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TGP_SequenceShort));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TGP-SequenceShort", (int32_t)i, 0);
-      elem = (TGP_SequenceShort*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TGP_SequenceShort(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TGP_SequenceShort(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "TGP-SequenceShort", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DPCH_CompressedModeStatusInfo(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeStatusInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tgps-Reconfiguration-CFN */
-   stat = pd_ConsUInt8(ctx, &pvalue->tgps_Reconfiguration_CFN, 0, 255);
-   RT_CHECK(ctx, stat, "TGPS-Reconfiguration-CFN", "tgps-Reconfiguration-CFN", -1, "DPCH-CompressedModeStatusInfo");
-   /* tgp-SequenceShortList */
-   stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(ctx, &pvalue->tgp_SequenceShortList);
-   RT_CHECK(ctx, stat, 0, "tgp-SequenceShortList", -1, "DPCH-CompressedModeStatusInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_DRX_Cycle_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle_InactivityThreshold* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DRX-Cycle-InactivityThreshold");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_DRX_Cycle(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DRX-Cycle");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_GrantMonitoring_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_GrantMonitoring_InactivityThreshold* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-GrantMonitoring-InactivityThreshold");
-   return 0;
-}
-
-int asn1PD_UMTS_DRX_Info(rtxContext* RT_RESTRICT ctx, DRX_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-drx-Cycle */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_drx_Cycle, 0, 7);
-   RT_CHECK(ctx, stat, "UE-DRX-Cycle", "ue-drx-Cycle", -1, "DRX-Info");
-   /* ue-drx-Cycle-InactivityThreshold */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_drx_Cycle_InactivityThreshold, 0, 15);
-   RT_CHECK(ctx, stat, "UE-DRX-Cycle-InactivityThreshold", "ue-drx-Cycle-InactivityThreshold", -1, "DRX-Info");
-   /* ue-GrantMonitoring-InactivityThreshold */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_GrantMonitoring_InactivityThreshold, 0, 15);
-   RT_CHECK(ctx, stat, "UE-GrantMonitoring-InactivityThreshold", "ue-GrantMonitoring-InactivityThreshold", -1, "DRX-Info");
-   /* ue-drx-GrantMonitoring */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_drx_GrantMonitoring);
-   RT_CHECK(ctx, stat, 0, "ue-drx-GrantMonitoring", -1, "DRX-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_DTX_Cycle1_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_10ms* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-Cycle1-10ms");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_DTX_Cycle2_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_10ms* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-Cycle2-10ms");
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_DTX_Cycle_10ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_10ms* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-DTX-Cycle-10ms");
-   return 0;
-}
-
-int asn1PD_UMTS_DTX_E_DCH_TTI_10ms(rtxContext* RT_RESTRICT ctx, DTX_E_DCH_TTI_10ms* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-dtx-Cycle1-10ms */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_dtx_Cycle1_10ms, 0, 3);
-   RT_CHECK(ctx, stat, "UE-DTX-Cycle1-10ms", "ue-dtx-Cycle1-10ms", -1, "DTX-E-DCH-TTI-10ms");
-   /* ue-dtx-Cycle2-10ms */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_dtx_Cycle2_10ms, 0, 7);
-   RT_CHECK(ctx, stat, "UE-DTX-Cycle2-10ms", "ue-dtx-Cycle2-10ms", -1, "DTX-E-DCH-TTI-10ms");
-   /* mac-dtx-Cycle-10ms */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mac_dtx_Cycle_10ms, 0, 3);
-   RT_CHECK(ctx, stat, "MAC-DTX-Cycle-10ms", "mac-dtx-Cycle-10ms", -1, "DTX-E-DCH-TTI-10ms");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_DTX_Cycle1_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_2ms* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-Cycle1-2ms");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_DTX_Cycle2_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_2ms* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-Cycle2-2ms");
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_DTX_Cycle_2ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_2ms* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-DTX-Cycle-2ms");
-   return 0;
-}
-
-int asn1PD_UMTS_DTX_E_DCH_TTI_2ms(rtxContext* RT_RESTRICT ctx, DTX_E_DCH_TTI_2ms* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-dtx-Cycle1-2ms */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_dtx_Cycle1_2ms, 0, 7);
-   RT_CHECK(ctx, stat, "UE-DTX-Cycle1-2ms", "ue-dtx-Cycle1-2ms", -1, "DTX-E-DCH-TTI-2ms");
-   /* ue-dtx-Cycle2-2ms */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_dtx_Cycle2_2ms, 0, 15);
-   RT_CHECK(ctx, stat, "UE-DTX-Cycle2-2ms", "ue-dtx-Cycle2-2ms", -1, "DTX-E-DCH-TTI-2ms");
-   /* mac-dtx-Cycle-2ms */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mac_dtx_Cycle_2ms, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-DTX-Cycle-2ms", "mac-dtx-Cycle-2ms", -1, "DTX-E-DCH-TTI-2ms");
-   return 0;
-}
-
-int asn1PD_UMTS_DTX_Info_e_dch_TTI_Length(rtxContext* RT_RESTRICT ctx, DTX_Info_e_dch_TTI_Length* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dtx-e-dch-TTI-10ms */
-         pvalue->u.dtx_e_dch_TTI_10ms = (DTX_E_DCH_TTI_10ms*)rtxMemHeapAllocZ(ctx, sizeof(DTX_E_DCH_TTI_10ms));
-         if (pvalue->u.dtx_e_dch_TTI_10ms == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dtx-e-dch-TTI-10ms", -1, 0);
-         stat = asn1PD_UMTS_DTX_E_DCH_TTI_10ms(ctx, pvalue->u.dtx_e_dch_TTI_10ms);
-         RT_CHECK(ctx, stat, 0, "dtx-e-dch-TTI-10ms", -1, 0);
-         break;
-      case 1: /* dtx-e-dch-TTI-2ms */
-         pvalue->u.dtx_e_dch_TTI_2ms = (DTX_E_DCH_TTI_2ms*)rtxMemHeapAllocZ(ctx, sizeof(DTX_E_DCH_TTI_2ms));
-         if (pvalue->u.dtx_e_dch_TTI_2ms == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dtx-e-dch-TTI-2ms", -1, 0);
-         stat = asn1PD_UMTS_DTX_E_DCH_TTI_2ms(ctx, pvalue->u.dtx_e_dch_TTI_2ms);
-         RT_CHECK(ctx, stat, 0, "dtx-e-dch-TTI-2ms", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_DTX_Cycle2InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2InactivityThreshold* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-Cycle2InactivityThreshold");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_DTX_long_preamble_length(rtxContext* RT_RESTRICT ctx, UE_DTX_long_preamble_length* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-long-preamble-length");
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_InactivityThreshold(rtxContext* RT_RESTRICT ctx, MAC_InactivityThreshold* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-InactivityThreshold");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_DPCCH_Burst(rtxContext* RT_RESTRICT ctx, UE_DPCCH_Burst* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DPCCH-Burst");
-   return 0;
-}
-
-int asn1PD_UMTS_DTX_Info(rtxContext* RT_RESTRICT ctx, DTX_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DTX-Info");
-   /* e-dch-TTI-Length */
-   stat = asn1PD_UMTS_DTX_Info_e_dch_TTI_Length(ctx, &pvalue->e_dch_TTI_Length);
-   RT_CHECK(ctx, stat, 0, "e-dch-TTI-Length", -1, "DTX-Info");
-   /* ue-dtx-cycle2InactivityThreshold */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_dtx_cycle2InactivityThreshold, 0, 15);
-   RT_CHECK(ctx, stat, "UE-DTX-Cycle2InactivityThreshold", "ue-dtx-cycle2InactivityThreshold", -1, "DTX-Info");
-   /* ue-dtx-cycle2DefaultSG */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_dtx_cycle2DefaultSG, 0, 38);
-      RT_CHECK(ctx, stat, 0, "ue-dtx-cycle2DefaultSG", -1, "DTX-Info");
-   }
-   /* ue-dtx-long-preamble-length */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->ue_dtx_long_preamble_length, 0, 1);
-      RT_CHECK(ctx, stat, "UE-DTX-long-preamble-length", "ue-dtx-long-preamble-length", -1, "DTX-Info");
-   }
-   /* mac-InactivityThreshold */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mac_InactivityThreshold, 0, 15);
-   RT_CHECK(ctx, stat, "MAC-InactivityThreshold", "mac-InactivityThreshold", -1, "DTX-Info");
-   /* cqi-dtx-Timer */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cqi_dtx_Timer, 0, 15);
-   RT_CHECK(ctx, stat, "CQI-DTX-Timer", "cqi-dtx-Timer", -1, "DTX-Info");
-   /* ue-dpcch-Burst1 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_dpcch_Burst1, 0, 3);
-   RT_CHECK(ctx, stat, "UE-DPCCH-Burst", "ue-dpcch-Burst1", -1, "DTX-Info");
-   /* ue-dpcch-Burst2 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_dpcch_Burst2, 0, 3);
-   RT_CHECK(ctx, stat, "UE-DPCCH-Burst", "ue-dpcch-Burst2", -1, "DTX-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_Uplink_DPCCH_Slot_Format_Information(rtxContext* RT_RESTRICT ctx, Uplink_DPCCH_Slot_Format_Information* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Uplink-DPCCH-Slot-Format-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_DTX_DRX_Info_r7(rtxContext* RT_RESTRICT ctx, DTX_DRX_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DTX-DRX-Info-r7");
-   /* dtx-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DTX_Info(ctx, &pvalue->dtx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-Info", -1, "DTX-DRX-Info-r7");
-   }
-   /* drx-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRX_Info(ctx, &pvalue->drx_Info);
-      RT_CHECK(ctx, stat, 0, "drx-Info", -1, "DTX-DRX-Info-r7");
-   }
-   /* uplink-DPCCHSlotFormatInformation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->uplink_DPCCHSlotFormatInformation, 0, 3);
-   RT_CHECK(ctx, stat, "Uplink-DPCCH-Slot-Format-Information", "uplink-DPCCHSlotFormatInformation", -1, "DTX-DRX-Info-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_servingGrant* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* value */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->value, 0, 38);
-      RT_CHECK(ctx, stat, 0, "value", -1, 0);
-   }
-   /* primary-Secondary-GrantSelector */
-   stat = pd_ConsUnsigned(ctx, &pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_Reference_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCI* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* reference-E-TFCI */
-   stat = pd_ConsUInt8(ctx, &pvalue->reference_E_TFCI, 0, 127);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI");
-   /* reference-E-TFCI-PO */
-   stat = pd_ConsUInt8(ctx, &pvalue->reference_E_TFCI_PO, 0, 29);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCI-PO", -1, "E-DPDCH-Reference-E-TFCI");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCIList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_DPDCH_Reference_E_TFCI* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DPDCH_Reference_E_TFCI));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-DPDCH-Reference-E-TFCI", (int32_t)i, "E-DPDCH-Reference-E-TFCIList");
-      elem = (E_DPDCH_Reference_E_TFCI*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_DPDCH_Reference_E_TFCI(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-DPDCH-Reference-E-TFCI", (int32_t)i, "E-DPDCH-Reference-E-TFCIList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-RGCH-Information */
-         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-RL-InfoNewServingCell");
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoNewServingCell");
-   /* e-AGCH-Information */
-   stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "E-DCH-RL-InfoNewServingCell");
-   /* servingGrant */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* e-DPCCH-DPCCH-PowerOffset */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-      RT_CHECK(ctx, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* reference-E-TFCIs */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList(ctx, &pvalue->reference_E_TFCIs);
-      RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* powerOffsetForSchedInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetForSchedInfo, 0, 6);
-      RT_CHECK(ctx, stat, 0, "powerOffsetForSchedInfo", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* threeIndexStepThreshold */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "threeIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* twoIndexStepThreshold */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "twoIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* e-HICH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* e-RGCH-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoOtherCell_e_HICH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_e_HICH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-HICH-Information */
-         pvalue->u.e_HICH_Information = (E_HICH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_HICH_Information));
-         if (pvalue->u.e_HICH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-HICH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
-         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoOtherCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-RGCH-Information */
-         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoOtherCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-RL-InfoOtherCell");
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoOtherCell");
-   /* e-HICH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoOtherCell_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, "E-DCH-RL-InfoOtherCell");
-   }
-   /* e-RGCH-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoOtherCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoOtherCell");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_DCH_RL_InfoOtherCell* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_RL_InfoOtherCell));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
-      elem = (E_DCH_RL_InfoOtherCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_DCH_RL_InfoOtherCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_DCH_RL_InfoOtherCell(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_ReconfigurationInfo(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-ReconfigurationInfo");
-   /* e-DCH-RL-InfoNewServingCell */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoNewServingCell(ctx, &pvalue->e_DCH_RL_InfoNewServingCell);
-      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoNewServingCell", -1, "E-DCH-ReconfigurationInfo");
-   }
-   /* e-DCH-RL-InfoOtherCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(ctx, &pvalue->e_DCH_RL_InfoOtherCellList);
-      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoOtherCellList", -1, "E-DCH-ReconfigurationInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* value */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->value, 0, 38);
-      RT_CHECK(ctx, stat, 0, "value", -1, 0);
-   }
-   /* primary-Secondary-GrantSelector */
-   stat = pd_ConsUnsigned(ctx, &pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-RGCH-Information */
-         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_r7(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-RL-InfoNewServingCell-r7");
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   /* e-AGCH-Information */
-   stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   /* servingGrant */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* e-DPCCH-DPCCH-PowerOffset */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-      RT_CHECK(ctx, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* reference-E-TFCIs */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-      RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* powerOffsetForSchedInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetForSchedInfo, 0, 6);
-      RT_CHECK(ctx, stat, 0, "powerOffsetForSchedInfo", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* threeIndexStepThreshold */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "threeIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* twoIndexStepThreshold */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "twoIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* e-HICH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* e-RGCH-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_DCH_RL_InfoOtherCell* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_RL_InfoOtherCell));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
-      elem = (E_DCH_RL_InfoOtherCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_DCH_RL_InfoOtherCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_DCH_RL_InfoOtherCell(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-ReconfigurationInfo-r7");
-   /* e-DCH-RL-InfoNewServingCell */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_r7(ctx, &pvalue->e_DCH_RL_InfoNewServingCell);
-      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoNewServingCell", -1, "E-DCH-ReconfigurationInfo-r7");
-   }
-   /* e-DCH-RL-InfoOtherCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(ctx, &pvalue->e_DCH_RL_InfoOtherCellList);
-      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoOtherCellList", -1, "E-DCH-ReconfigurationInfo-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-RGCH-Information */
-         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoNewSecServingCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewSecServingCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-RL-InfoNewSecServingCell");
-   /* e-AGCH-Information */
-   stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "E-DCH-RL-InfoNewSecServingCell");
-   /* e-HICH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoNewSecServingCell");
-   }
-   /* e-RGCH-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoNewSecServingCell");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e-RGCH-Information */
-         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 1: /* releaseIndicator */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_SecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
-   /* e-HICH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
-   }
-   /* e-RGCH-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_DCH_RL_InfoOtherCell_SecULFreq* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_RL_InfoOtherCell_SecULFreq));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-DCH-RL-InfoOtherCell-SecULFreq", (int32_t)i, 0);
-      elem = (E_DCH_RL_InfoOtherCell_SecULFreq*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "E-DCH-RL-InfoOtherCell-SecULFreq", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_SecULFrequency* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
-   /* e-DCH-RL-InfoNewSecServingCell */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoNewSecServingCell(ctx, &pvalue->e_DCH_RL_InfoNewSecServingCell);
-      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoNewSecServingCell", -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
-   }
-   /* e-DCH-RL-InfoOtherCellList-SecULFreq */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(ctx, &pvalue->e_DCH_RL_InfoOtherCellList_SecULFreq);
-      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoOtherCellList-SecULFreq", -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_RL_InfoSameServingCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoSameServingCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-RL-InfoSameServingCell");
-   /* e-DPCCH-DPCCH-PowerOffset */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-      RT_CHECK(ctx, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoSameServingCell");
-   }
-   /* reference-E-TFCIs */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-      RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DCH-RL-InfoSameServingCell");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode_implicit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ei */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ei, 0, 3);
-      RT_CHECK(ctx, stat, 0, "ei", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* defaultMidamble */
-         break;
-      case 1: /* ueSpecificMidamble */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
-   /* channelisation-Code */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* implicit */
-         pvalue->u.implicit = (E_HICH_Information_For_SPS_TDD128_configurationmode_implicit*)rtxMemHeapAlloc(ctx, sizeof(E_HICH_Information_For_SPS_TDD128_configurationmode_implicit));
-         if (pvalue->u.implicit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "implicit", -1, 0);
-         asn1Init_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(pvalue->u.implicit);
-         stat = asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(ctx, pvalue->u.implicit);
-         RT_CHECK(ctx, stat, 0, "implicit", -1, 0);
-         break;
-      case 1: /* explicit */
-         pvalue->u.explicit_ = (E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_*)rtxMemHeapAlloc(ctx, sizeof(E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_));
-         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit", -1, 0);
-         asn1Init_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(pvalue->u.explicit_);
-         stat = asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* configurationmode */
-   stat = asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode(ctx, &pvalue->configurationmode);
-   RT_CHECK(ctx, stat, 0, "configurationmode", -1, "E-HICH-Information-For-SPS-TDD128");
-   /* signatureSequenceGroupIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->signatureSequenceGroupIndex, 0, 19);
-   RT_CHECK(ctx, stat, 0, "signatureSequenceGroupIndex", -1, "E-HICH-Information-For-SPS-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodAndLengthForSPS(rtxContext* RT_RESTRICT ctx, RepetitionPeriodAndLengthForSPS* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RepetitionPeriodAndLengthForSPS");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* repetitionPeriod1 */
-         break;
-      case 1: /* repetitionPeriod2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.repetitionPeriod2, 1, 1);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLengthForSPS");
-         break;
-      case 2: /* repetitionPeriod4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.repetitionPeriod4, 1, 3);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLengthForSPS");
-         break;
-      case 3: /* repetitionPeriod8 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.repetitionPeriod8, 1, 7);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLengthForSPS");
-         break;
-      case 4: /* repetitionPeriod16 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.repetitionPeriod16, 1, 15);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLengthForSPS");
-         break;
-      case 5: /* repetitionPeriod32 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.repetitionPeriod32, 1, 31);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLengthForSPS");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodAndLengthForSPS");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_TxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, E_DCH_TxPatternList_TDD128_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* repetitionPeriodAndLength */
-   stat = asn1PD_UMTS_RepetitionPeriodAndLengthForSPS(ctx, &pvalue->repetitionPeriodAndLength);
-   RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_TxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, E_DCH_TxPatternList_TDD128* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-TxPatternList-TDD128");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_DCH_TxPatternList_TDD128_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_TxPatternList_TDD128_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "E-DCH-TxPatternList-TDD128");
-      elem = (E_DCH_TxPatternList_TDD128_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_DCH_TxPatternList_TDD128_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_DCH_TxPatternList_TDD128_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "E-DCH-TxPatternList-TDD128");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* n-E-UCCH */
-   stat = pd_ConsUInt8(ctx, &pvalue->n_E_UCCH, 1, 8);
-   RT_CHECK(ctx, stat, 0, "n-E-UCCH", -1, 0);
-   /* codeResourceInfo */
-   stat = pd_ConsUnsigned(ctx, &pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   /* timeslotResourceRelatedInfo */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 5, 5);
-   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
-   /* powerResourceRelatedInfo */
-   stat = pd_ConsUInt8(ctx, &pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat, 0, "powerResourceRelatedInfo", -1, 0);
-   /* activationTime */
-   stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   /* subframeNum */
-   stat = pd_ConsUInt8(ctx, &pvalue->subframeNum, 0, 1);
-   RT_CHECK(ctx, stat, 0, "subframeNum", -1, 0);
-   /* initialTxPatternIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->initialTxPatternIndex, 0, 3);
-   RT_CHECK(ctx, stat, 0, "initialTxPatternIndex", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-SPS-NewOperation-TDD128");
-   /* e-hich-Info */
-   stat = asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128(ctx, &pvalue->e_hich_Info);
-   RT_CHECK(ctx, stat, 0, "e-hich-Info", -1, "E-DCH-SPS-NewOperation-TDD128");
-   /* e-dch-TxPattern */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DCH_TxPatternList_TDD128(ctx, &pvalue->e_dch_TxPattern);
-      RT_CHECK(ctx, stat, 0, "e-dch-TxPattern", -1, "E-DCH-SPS-NewOperation-TDD128");
-   }
-   /* initialSPSInfoForEDCH */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(ctx, &pvalue->initialSPSInfoForEDCH);
-      RT_CHECK(ctx, stat, 0, "initialSPSInfoForEDCH", -1, "E-DCH-SPS-NewOperation-TDD128");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* continue */
-         break;
-      case 1: /* newOperation */
-         pvalue->u.newOperation = (E_DCH_SPS_NewOperation_TDD128*)rtxMemHeapAlloc(ctx, sizeof(E_DCH_SPS_NewOperation_TDD128));
-         if (pvalue->u.newOperation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newOperation", -1, 0);
-         asn1Init_UMTS_E_DCH_SPS_NewOperation_TDD128(pvalue->u.newOperation);
-         stat = asn1PD_UMTS_E_DCH_SPS_NewOperation_TDD128(ctx, pvalue->u.newOperation);
-         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_Information_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* e-dch-SPS-Operation */
-   stat = asn1PD_UMTS_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(ctx, &pvalue->e_dch_SPS_Operation);
-   RT_CHECK(ctx, stat, 0, "e-dch-SPS-Operation", -1, "E-DCH-SPS-Information-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPCCH_Info(rtxContext* RT_RESTRICT ctx, E_DPCCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* e-DPCCH-DPCCH-PowerOffset */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-   RT_CHECK(ctx, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info");
-   /* happyBit-DelayCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->happyBit_DelayCondition, 0, 7);
-   RT_CHECK(ctx, stat, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_Info(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-Info");
-   /* e-TFCI-TableIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_TFCI_TableIndex, 0, 1);
-   RT_CHECK(ctx, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info");
-   /* e-DCH-MinimumSet-E-TFCI */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info");
-   }
-   /* reference-E-TFCIs */
-   stat = asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList(ctx, &pvalue->reference_E_TFCIs);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info");
-   /* maxChannelisationCodes */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxChannelisationCodes, 0, 9);
-   RT_CHECK(ctx, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info");
-   /* pl-NonMax */
-   stat = pd_ConsUInt8(ctx, &pvalue->pl_NonMax, 11, 25);
-   RT_CHECK(ctx, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info");
-   /* schedulingInfoConfiguration */
-   stat = asn1PD_UMTS_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration);
-   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info");
-   /* threeIndexStepThreshold */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info");
-   }
-   /* twoIndexStepThreshold */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_Info_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-Info-r7");
-   /* e-TFCI-TableIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->e_TFCI_TableIndex, 0, 1);
-   RT_CHECK(ctx, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r7");
-   /* e-DCH-MinimumSet-E-TFCI */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r7");
-   }
-   /* reference-E-TFCIs */
-   stat = asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info-r7");
-   /* maxChannelisationCodes */
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxChannelisationCodes, 0, 9);
-   RT_CHECK(ctx, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r7");
-   /* pl-NonMax */
-   stat = pd_ConsUInt8(ctx, &pvalue->pl_NonMax, 11, 25);
-   RT_CHECK(ctx, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r7");
-   /* schedulingInfoConfiguration */
-   stat = asn1PD_UMTS_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration);
-   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info-r7");
-   /* threeIndexStepThreshold */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r7");
-   }
-   /* twoIndexStepThreshold */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EnablingDelay(rtxContext* RT_RESTRICT ctx, EnablingDelay* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EnablingDelay");
-   return 0;
-}
-
-int asn1PD_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ex-ul-TimingAdvance */
-   stat = pd_ConsUInt8(ctx, &pvalue->ex_ul_TimingAdvance, 0, 255);
-   RT_CHECK(ctx, stat, 0, "ex-ul-TimingAdvance", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ex-ul-TimingAdvance */
-   stat = pd_ConsUInt16(ctx, &pvalue->ex_ul_TimingAdvance, 0, 511);
-   RT_CHECK(ctx, stat, 0, "ex-ul-TimingAdvance", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (EXT_UL_TimingAdvance_modeSpecificInfo_tdd384*)rtxMemHeapAllocZ(ctx, sizeof(EXT_UL_TimingAdvance_modeSpecificInfo_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         stat = asn1PD_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (EXT_UL_TimingAdvance_modeSpecificInfo_tdd768*)rtxMemHeapAllocZ(ctx, sizeof(EXT_UL_TimingAdvance_modeSpecificInfo_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         stat = asn1PD_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EXT_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "EXT-UL-TimingAdvance");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_ChannelisationCodeSetInfo_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCodeSetInfo_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* startCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->startCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "startCode", -1, "HS-ChannelisationCodeSetInfo-LCR");
-   /* stopCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->stopCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "stopCode", -1, "HS-ChannelisationCodeSetInfo-LCR");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_RxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, HS_DSCH_RxPatternList_TDD128_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* repetitionPeriodAndLength */
-   stat = asn1PD_UMTS_RepetitionPeriodAndLengthForSPS(ctx, &pvalue->repetitionPeriodAndLength);
-   RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_RxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_RxPatternList_TDD128* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-RxPatternList-TDD128");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_DSCH_RxPatternList_TDD128_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_DSCH_RxPatternList_TDD128_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "HS-DSCH-RxPatternList-TDD128");
-      elem = (HS_DSCH_RxPatternList_TDD128_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_DSCH_RxPatternList_TDD128_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_DSCH_RxPatternList_TDD128_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-DSCH-RxPatternList-TDD128");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_TbsList_TDD128_element(rtxContext* RT_RESTRICT ctx, HS_DSCH_TbsList_TDD128_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* hs-dsch-TBSizeIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->hs_dsch_TBSizeIndex, 1, 63);
-   RT_CHECK(ctx, stat, 0, "hs-dsch-TBSizeIndex", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_TbsList_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_TbsList_TDD128* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-TbsList-TDD128");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_DSCH_TbsList_TDD128_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_DSCH_TbsList_TDD128_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "HS-DSCH-TbsList-TDD128");
-      elem = (HS_DSCH_TbsList_TDD128_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_DSCH_TbsList_TDD128_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-DSCH-TbsList-TDD128");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* numberOfProcesses */
-   stat = pd_ConsUInt8(ctx, &pvalue->numberOfProcesses, 1, 8);
-   RT_CHECK(ctx, stat, 0, "numberOfProcesses", -1, 0);
-   /* memorySize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->memorySize, 0, 60);
-   RT_CHECK(ctx, stat, "HARQMemorySize", "memorySize", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_List_TDD128_element_implicit(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128_element_implicit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* hS-SCCH-Index */
-   stat = pd_ConsUInt8(ctx, &pvalue->hS_SCCH_Index, 0, 3);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-Index", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_List_TDD128_element_explicit_(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128_element_explicit_* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* hS-SICH-Info */
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hS_SICH_Info);
-   RT_CHECK(ctx, stat, 0, "hS-SICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_List_TDD128_element(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128_element* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* implicit */
-         pvalue->u.implicit = (HS_SICH_List_TDD128_element_implicit*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_List_TDD128_element_implicit));
-         if (pvalue->u.implicit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "implicit", -1, 0);
-         stat = asn1PD_UMTS_HS_SICH_List_TDD128_element_implicit(ctx, pvalue->u.implicit);
-         RT_CHECK(ctx, stat, 0, "implicit", -1, 0);
-         break;
-      case 1: /* explicit */
-         pvalue->u.explicit_ = (HS_SICH_List_TDD128_element_explicit_*)rtxMemHeapAlloc(ctx, sizeof(HS_SICH_List_TDD128_element_explicit_));
-         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit", -1, 0);
-         asn1Init_UMTS_HS_SICH_List_TDD128_element_explicit_(pvalue->u.explicit_);
-         stat = asn1PD_UMTS_HS_SICH_List_TDD128_element_explicit_(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_List_TDD128(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SICH-List-TDD128");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SICH_List_TDD128_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SICH_List_TDD128_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "HS-SICH-List-TDD128");
-      elem = (HS_SICH_List_TDD128_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SICH_List_TDD128_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SICH_List_TDD128_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-SICH-List-TDD128");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotInfo */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->timeslotInfo, 5, 5);
-   RT_CHECK(ctx, stat, 0, "timeslotInfo", -1, 0);
-   /* codeResourceInfo */
-   stat = asn1PD_UMTS_HS_ChannelisationCodeSetInfo_LCR(ctx, &pvalue->codeResourceInfo);
-   RT_CHECK(ctx, stat, 0, "codeResourceInfo", -1, 0);
-   /* activationTime */
-   stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   /* sfnNum */
-   stat = pd_ConsUInt8(ctx, &pvalue->sfnNum, 0, 1);
-   RT_CHECK(ctx, stat, 0, "sfnNum", -1, 0);
-   /* initialRxPatternIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->initialRxPatternIndex, 0, 3);
-   RT_CHECK(ctx, stat, 0, "initialRxPatternIndex", -1, 0);
-   /* initialTfsIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->initialTfsIndex, 0, 3);
-   RT_CHECK(ctx, stat, 0, "initialTfsIndex", -1, 0);
-   /* modulation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
-   /* hs-sich-Index */
-   stat = pd_ConsUInt8(ctx, &pvalue->hs_sich_Index, 0, 3);
-   RT_CHECK(ctx, stat, 0, "hs-sich-Index", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-SPS-NewOperation-TDD128");
-   /* hs-dsch-TbsList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_DSCH_TbsList_TDD128(ctx, &pvalue->hs_dsch_TbsList);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-TbsList", -1, "HS-DSCH-SPS-NewOperation-TDD128");
-   }
-   /* hs-dsch-RxPatternList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HS_DSCH_RxPatternList_TDD128(ctx, &pvalue->hs_dsch_RxPatternList);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-RxPatternList", -1, "HS-DSCH-SPS-NewOperation-TDD128");
-   }
-   /* hARQInfoForSPS */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(ctx, &pvalue->hARQInfoForSPS);
-      RT_CHECK(ctx, stat, 0, "hARQInfoForSPS", -1, "HS-DSCH-SPS-NewOperation-TDD128");
+      stat = dec_UL_CommonTransChInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-CommonTransChInfo-r4");
    }
-   /* hs-sich-List */
-   stat = asn1PD_UMTS_HS_SICH_List_TDD128(ctx, &pvalue->hs_sich_List);
-   RT_CHECK(ctx, stat, 0, "hs-sich-List", -1, "HS-DSCH-SPS-NewOperation-TDD128");
-   /* initialSPSInfoForHSDSCH */
+   /* tfc-SubsetList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(ctx, &pvalue->initialSPSInfoForHSDSCH);
-      RT_CHECK(ctx, stat, 0, "initialSPSInfoForHSDSCH", -1, "HS-DSCH-SPS-NewOperation-TDD128");
+      stat = dec_TFC_SubsetList(ctx, &pvalue->tfc_SubsetList, cur);
+      RT_CHECK(ctx, stat, 0, "tfc-SubsetList", -1, "UL-CommonTransChInfo-r4");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* continue */
-         break;
-      case 1: /* newOperation */
-         pvalue->u.newOperation = (HS_DSCH_SPS_NewOperation_TDD128*)rtxMemHeapAlloc(ctx, sizeof(HS_DSCH_SPS_NewOperation_TDD128));
-         if (pvalue->u.newOperation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newOperation", -1, 0);
-         asn1Init_UMTS_HS_DSCH_SPS_NewOperation_TDD128(pvalue->u.newOperation);
-         stat = asn1PD_UMTS_HS_DSCH_SPS_NewOperation_TDD128(ctx, pvalue->u.newOperation);
-         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UL_CommonTransChInfo_r4, pvalue);
 }
 
-int asn1PD_UMTS_HS_DSCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_Information_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* hs-dsch-SPS-Operation */
-   stat = asn1PD_UMTS_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(ctx, &pvalue->hs_dsch_SPS_Operation);
-   RT_CHECK(ctx, stat, 0, "hs-dsch-SPS-Operation", -1, "HS-DSCH-SPS-Information-TDD128");
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_LessTFSList_element(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessTFSList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* hs-scch-LessTFSI */
-   stat = pd_ConsUInt8(ctx, &pvalue->hs_scch_LessTFSI, 1, 90);
-   RT_CHECK(ctx, stat, 0, "hs-scch-LessTFSI", -1, 0);
-   /* hs-scch-LessSecondCodeSupport */
-   stat = rtxDecBitInline(ctx, &pvalue->hs_scch_LessSecondCodeSupport);
-   RT_CHECK(ctx, stat, 0, "hs-scch-LessSecondCodeSupport", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_LessTFSList(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessTFSList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, UL_DeletedTransChInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-LessTFSList");
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DeletedTransChInfoList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      HS_SCCH_LessTFSList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_LessTFSList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "HS-SCCH-LessTFSList");
-      elem = (HS_SCCH_LessTFSList_element*)(node + 1);
+      UL_TransportChannelIdentity* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_TransportChannelIdentity));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-TransportChannelIdentity", (int32_t)i, "UL-DeletedTransChInfoList");
+      elem = (UL_TransportChannelIdentity*)(node + 1);
       node->data = elem;
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_LessTFSList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-SCCH-LessTFSList");
+      stat = dec_UL_TransportChannelIdentity(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-TransportChannelIdentity", (int32_t)i, "UL-DeletedTransChInfoList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HS_SCCH_Less_NewOperation(rtxContext* RT_RESTRICT ctx, HS_SCCH_Less_NewOperation* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, UL_DeletedTransChInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DeletedTransChInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TransportChannelIdentity_r6_dch_usch(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity_r6_dch_usch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* hs-pdsch-CodeIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->hs_pdsch_CodeIndex, 1, 15);
-   RT_CHECK(ctx, stat, 0, "hs-pdsch-CodeIndex", -1, "HS-SCCH-Less-NewOperation");
-   /* hs-scch-LessTFS */
-   stat = asn1PD_UMTS_HS_SCCH_LessTFSList(ctx, &pvalue->hs_scch_LessTFS);
-   RT_CHECK(ctx, stat, 0, "hs-scch-LessTFS", -1, "HS-SCCH-Less-NewOperation");
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* ul-TransportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TransportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_HS_SCCH_LessInfo_r7_hs_scchLessOperation(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessInfo_r7_hs_scchLessOperation* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_TransportChannelIdentity_r6_dch_usch(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity_r6_dch_usch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TransportChannelIdentity_r6_dch_usch, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TransportChannelIdentity_r6(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TransportChannelIdentity-r6");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* continue */
+      case 0: /* dch-usch */
+         pvalue->u.dch_usch = (UL_TransportChannelIdentity_r6_dch_usch*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity_r6_dch_usch));
+         if (pvalue->u.dch_usch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dch-usch", -1, "UL-TransportChannelIdentity-r6");
+         stat = dec_UL_TransportChannelIdentity_r6_dch_usch(ctx, pvalue->u.dch_usch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-TransportChannelIdentity-r6");
          break;
-      case 1: /* newOperation */
-         pvalue->u.newOperation = (HS_SCCH_Less_NewOperation*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Less_NewOperation));
-         if (pvalue->u.newOperation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newOperation", -1, 0);
-         asn1Init_UMTS_HS_SCCH_Less_NewOperation(pvalue->u.newOperation);
-         stat = asn1PD_UMTS_HS_SCCH_Less_NewOperation(ctx, pvalue->u.newOperation);
-         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
+      case 1: /* e-dch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.e_dch, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "E-DCH-MAC-d-FlowIdentity", "e-dch", -1, "UL-TransportChannelIdentity-r6");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TransportChannelIdentity-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HS_SCCH_LessInfo_r7(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessInfo_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_TransportChannelIdentity_r6(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity_r6* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* hs-scchLessOperation */
-   stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7_hs_scchLessOperation(ctx, &pvalue->hs_scchLessOperation);
-   RT_CHECK(ctx, stat, 0, "hs-scchLessOperation", -1, "HS-SCCH-LessInfo-r7");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UL_TransportChannelIdentity_r6, pvalue);
 }
 
-int asn1PD_UMTS_HS_SICH_ReferenceSignalInfoList_element(rtxContext* RT_RESTRICT ctx, HS_SICH_ReferenceSignalInfoList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleConfiguration */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, 0);
-   /* midambleShift */
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, 0, "midambleShift", -1, 0);
-   /* timeSlot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeSlot, 1, 5);
-   RT_CHECK(ctx, stat, 0, "timeSlot", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_ReferenceSignalInfoList(rtxContext* RT_RESTRICT ctx, HS_SICH_ReferenceSignalInfoList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UL_DeletedTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, UL_DeletedTransChInfoList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SICH-ReferenceSignalInfoList");
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DeletedTransChInfoList-r6");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      HS_SICH_ReferenceSignalInfoList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SICH_ReferenceSignalInfoList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "HS-SICH-ReferenceSignalInfoList");
-      elem = (HS_SICH_ReferenceSignalInfoList_element*)(node + 1);
+      UL_TransportChannelIdentity_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_TransportChannelIdentity_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-TransportChannelIdentity-r6", (int32_t)i, "UL-DeletedTransChInfoList-r6");
+      elem = (UL_TransportChannelIdentity_r6*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_UL_TransportChannelIdentity_r6(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SICH_ReferenceSignalInfoList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-SICH-ReferenceSignalInfoList");
+      stat = dec_UL_TransportChannelIdentity_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-TransportChannelIdentity-r6", (int32_t)i, "UL-DeletedTransChInfoList-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MIMO_Operation(rtxContext* RT_RESTRICT ctx, MIMO_Operation* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DeletedTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, UL_DeletedTransChInfoList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DeletedTransChInfoList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActivationTimeOffset(rtxContext* RT_RESTRICT ctx, ActivationTimeOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-Operation");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActivationTimeOffset");
    return 0;
 }
 
-int asn1PD_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActivationTimeOffset(rtxContext* RT_RESTRICT ctx, ActivationTimeOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActivationTimeOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_AllocationPeriodInfo(rtxContext* RT_RESTRICT ctx, AllocationPeriodInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* channelisationCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode", -1, 0);
+   /* allocationActivationTime */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->allocationActivationTime, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "allocationActivationTime", -1, "AllocationPeriodInfo");
+   /* allocationDuration */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->allocationDuration, 1, 256);
+   RT_CHECK_AT(ctx, cur, stat, 0, "allocationDuration", -1, "AllocationPeriodInfo");
    return 0;
 }
 
-int asn1PD_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_secondCPICH_Pattern* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AllocationPeriodInfo(rtxContext* RT_RESTRICT ctx, AllocationPeriodInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AllocationPeriodInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_AP_AICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, AP_AICH_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* normalPattern */
-         break;
-      case 1: /* diversityPattern */
-         pvalue->u.diversityPattern = (MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern*)rtxMemHeapAllocZ(ctx, sizeof(MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern));
-         if (pvalue->u.diversityPattern == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "diversityPattern", -1, 0);
-         stat = asn1PD_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(ctx, pvalue->u.diversityPattern);
-         RT_CHECK(ctx, stat, 0, "diversityPattern", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AP-AICH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PD_UMTS_AP_AICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, AP_AICH_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AP_AICH_ChannelisationCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_AP_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, AP_PreambleScramblingCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 79);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AP-PreambleScramblingCode");
+   return 0;
+}
+
+int asn1PD_UMTS_AP_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, AP_PreambleScramblingCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AP_PreambleScramblingCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_AP_Signature(rtxContext* RT_RESTRICT ctx, AP_Signature* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AP-Signature");
+   return 0;
+}
+
+int asn1PD_UMTS_AP_Signature(rtxContext* RT_RESTRICT ctx, AP_Signature* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AP_Signature, pvalue);
+}
+
+RT_MERGED_BODY int dec_AP_Subchannel(rtxContext* RT_RESTRICT ctx, AP_Subchannel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AP-Subchannel");
+   return 0;
+}
+
+int asn1PD_UMTS_AP_Subchannel(rtxContext* RT_RESTRICT ctx, AP_Subchannel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AP_Subchannel, pvalue);
+}
+
+RT_MERGED_BODY int dec_AvailableAP_SubchannelList(rtxContext* RT_RESTRICT ctx, AvailableAP_SubchannelList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AvailableAP-SubchannelList");
+      pvalue->n = n = raw + 1;
+      if (raw > 11) {
+         rtxErrAddStrParm(ctx, "AvailableAP-SubchannelList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AvailableAP-SubchannelList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 11);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "AP-Subchannel", "AP-Subchannel", (int32_t)i, "AvailableAP-SubchannelList");
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_MIMO_PilotConfiguration(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AvailableAP_SubchannelList(rtxContext* RT_RESTRICT ctx, AvailableAP_SubchannelList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* secondCPICH-Pattern */
-   stat = asn1PD_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern(ctx, &pvalue->secondCPICH_Pattern);
-   RT_CHECK(ctx, stat, 0, "secondCPICH-Pattern", -1, "MIMO-PilotConfiguration");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_AvailableAP_SubchannelList, pvalue);
 }
 
-int asn1PD_UMTS_MIMO_Parameters_r7(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_AP_Signature_VCAM(rtxContext* RT_RESTRICT ctx, AP_Signature_VCAM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-Parameters-r7");
-   /* mimoOperation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mimoOperation, 0, 1);
-   RT_CHECK(ctx, stat, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r7");
-   /* mimoN-M-Ratio */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->mimoN_M_Ratio, 0, 9);
-      RT_CHECK(ctx, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, "MIMO-Parameters-r7");
-   }
-   /* mimoPilotConfiguration */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AP-Signature-VCAM");
+   /* ap-Signature */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ap_Signature, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "AP-Signature", "ap-Signature", -1, "AP-Signature-VCAM");
+   /* availableAP-SubchannelList */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MIMO_PilotConfiguration(ctx, &pvalue->mimoPilotConfiguration);
-      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, "MIMO-Parameters-r7");
+      pvalue->m |= 0x1u;
+      stat = dec_AvailableAP_SubchannelList(ctx, &pvalue->availableAP_SubchannelList, cur);
+      RT_CHECK(ctx, stat, 0, "availableAP-SubchannelList", -1, "AP-Signature-VCAM");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MIMO_PilotConfiguration_v7f0ext(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_v7f0ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AP_Signature_VCAM(rtxContext* RT_RESTRICT ctx, AP_Signature_VCAM* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-PilotConfiguration-v7f0ext");
-   /* s-cpich-PowerOffset-Mimo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->s_cpich_PowerOffset_Mimo, -6, 0);
-      RT_CHECK(ctx, stat, "S-CPICH-PowerOffset-MIMO", "s-cpich-PowerOffset-Mimo", -1, "MIMO-PilotConfiguration-v7f0ext");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_AP_Signature_VCAM, pvalue);
 }
 
-int asn1PD_UMTS_MIMO_Parameters_v7f0ext(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7f0ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_AvailableAP_Signature_VCAMList(rtxContext* RT_RESTRICT ctx, AvailableAP_Signature_VCAMList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = asn1PD_UMTS_MIMO_PilotConfiguration_v7f0ext(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-Parameters-v7f0ext");
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AvailableAP-Signature-VCAMList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      AP_Signature_VCAM* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AP_Signature_VCAM));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "AP-Signature-VCAM", (int32_t)i, "AvailableAP-Signature-VCAMList");
+      elem = (AP_Signature_VCAM*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_AP_Signature_VCAM(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_AP_Signature_VCAM(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "AP-Signature-VCAM", (int32_t)i, "AvailableAP-Signature-VCAMList");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7g0ext_precodingWeightSetRestriction* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AvailableAP_Signature_VCAMList(rtxContext* RT_RESTRICT ctx, AvailableAP_Signature_VCAMList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AvailableAP_Signature_VCAMList, pvalue);
+}
+
+RT_MERGED_BODY int dec_AvailableAP_SignatureList(rtxContext* RT_RESTRICT ctx, AvailableAP_SignatureList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AvailableAP-SignatureList");
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "AvailableAP-SignatureList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AvailableAP-SignatureList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "AP-Signature", "AP-Signature", (int32_t)i, "AvailableAP-SignatureList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AvailableAP_SignatureList(rtxContext* RT_RESTRICT ctx, AvailableAP_SignatureList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AvailableAP_SignatureList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MinimumSpreadingFactor(rtxContext* RT_RESTRICT ctx, MinimumSpreadingFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MinimumSpreadingFactor");
+   return 0;
+}
+
+int asn1PD_UMTS_MinimumSpreadingFactor(rtxContext* RT_RESTRICT ctx, MinimumSpreadingFactor* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MinimumSpreadingFactor, pvalue);
+}
+
+RT_MERGED_BODY int dec_NF_Max(rtxContext* RT_RESTRICT ctx, NF_Max* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NF-Max");
+   return 0;
+}
+
+int asn1PD_UMTS_NF_Max(rtxContext* RT_RESTRICT ctx, NF_Max* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NF_Max, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxAvailablePCPCH_Number(rtxContext* RT_RESTRICT ctx, MaxAvailablePCPCH_Number* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxAvailablePCPCH-Number");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxAvailablePCPCH_Number(rtxContext* RT_RESTRICT ctx, MaxAvailablePCPCH_Number* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxAvailablePCPCH_Number, pvalue);
+}
+
+RT_MERGED_BODY int dec_AvailableMinimumSF_VCAM(rtxContext* RT_RESTRICT ctx, AvailableMinimumSF_VCAM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* minimumSpreadingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->minimumSpreadingFactor, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "AvailableMinimumSF-VCAM");
+   /* nf-Max */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->nf_Max, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "NF-Max", "nf-Max", -1, "AvailableMinimumSF-VCAM");
+   /* maxAvailablePCPCH-Number */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maxAvailablePCPCH_Number, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "MaxAvailablePCPCH-Number", "maxAvailablePCPCH-Number", -1, "AvailableMinimumSF-VCAM");
+   /* availableAP-Signature-VCAMList */
+   stat = dec_AvailableAP_Signature_VCAMList(ctx, &pvalue->availableAP_Signature_VCAMList, cur);
+   RT_CHECK(ctx, stat, 0, "availableAP-Signature-VCAMList", -1, "AvailableMinimumSF-VCAM");
+   return 0;
+}
+
+int asn1PD_UMTS_AvailableMinimumSF_VCAM(rtxContext* RT_RESTRICT ctx, AvailableMinimumSF_VCAM* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AvailableMinimumSF_VCAM, pvalue);
+}
+
+RT_MERGED_BODY int dec_AvailableMinimumSF_ListVCAM(rtxContext* RT_RESTRICT ctx, AvailableMinimumSF_ListVCAM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AvailableMinimumSF-ListVCAM");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      AvailableMinimumSF_VCAM* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AvailableMinimumSF_VCAM));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "AvailableMinimumSF-VCAM", (int32_t)i, "AvailableMinimumSF-ListVCAM");
+      elem = (AvailableMinimumSF_VCAM*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_AvailableMinimumSF_VCAM(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_AvailableMinimumSF_VCAM(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "AvailableMinimumSF-VCAM", (int32_t)i, "AvailableMinimumSF-ListVCAM");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AvailableMinimumSF_ListVCAM(rtxContext* RT_RESTRICT ctx, AvailableMinimumSF_ListVCAM* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AvailableMinimumSF_ListVCAM, pvalue);
+}
+
+RT_MERGED_BODY int dec_BEACON_PL_Est(rtxContext* RT_RESTRICT ctx, BEACON_PL_Est* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    {
       uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BEACON-PL-Est");
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BEACON-PL-Est");
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_MIMO_Parameters_v7g0ext(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7g0ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_BEACON_PL_Est(rtxContext* RT_RESTRICT ctx, BEACON_PL_Est* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-Parameters-v7g0ext");
-   /* precodingWeightSetRestriction */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "precodingWeightSetRestriction", -1, "MIMO-Parameters-v7g0ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "precodingWeightSetRestriction", -1, "MIMO-Parameters-v7g0ext");
-         pvalue->precodingWeightSetRestriction = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* mimoN-M-Ratio */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->mimoN_M_Ratio, 0, 9);
-      RT_CHECK(ctx, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
-   }
-   /* mimoPilotConfiguration */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MIMO_PilotConfiguration(ctx, &pvalue->mimoPilotConfiguration);
-      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* mimoSFModeForHSPDSCHDualStream */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mimoSFModeForHSPDSCHDualStream, 0, 1);
-   RT_CHECK(ctx, stat, 0, "mimoSFModeForHSPDSCHDualStream", -1, 0);
-   /* hs-sich-ReferenceSignalInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_SICH_ReferenceSignalInfoList(ctx, &pvalue->hs_sich_ReferenceSignalInfoList);
-      RT_CHECK(ctx, stat, 0, "hs-sich-ReferenceSignalInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd128 */
-         pvalue->u.tdd128 = (MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      case 1: /* tdd384-tdd768 */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (MIMO_Parameters_r8_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(MIMO_Parameters_r8_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_MIMO_Parameters_r8_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (MIMO_Parameters_r8_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(MIMO_Parameters_r8_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r8(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mimoOperation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mimoOperation, 0, 1);
-   RT_CHECK(ctx, stat, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r8");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "MIMO-Parameters-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* mimoN-M-Ratio */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->mimoN_M_Ratio, 0, 9);
-      RT_CHECK(ctx, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
-   }
-   /* mimoPilotConfiguration */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MIMO_PilotConfiguration_r9(ctx, &pvalue->mimoPilotConfiguration);
-      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, 0);
-   }
-   /* precodingWeightSetRestriction */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "precodingWeightSetRestriction", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "precodingWeightSetRestriction", -1, 0);
-         pvalue->precodingWeightSetRestriction = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* mimoSFModeForHSPDSCHDualStream */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mimoSFModeForHSPDSCHDualStream, 0, 1);
-   RT_CHECK(ctx, stat, 0, "mimoSFModeForHSPDSCHDualStream", -1, 0);
-   /* hs-sich-ReferenceSignalInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_SICH_ReferenceSignalInfoList(ctx, &pvalue->hs_sich_ReferenceSignalInfoList);
-      RT_CHECK(ctx, stat, 0, "hs-sich-ReferenceSignalInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd128 */
-         pvalue->u.tdd128 = (MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      case 1: /* tdd384-tdd768 */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (MIMO_Parameters_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(MIMO_Parameters_r9_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (MIMO_Parameters_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(MIMO_Parameters_r9_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MIMO_Parameters_r9(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mimoOperation */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mimoOperation, 0, 1);
-   RT_CHECK(ctx, stat, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r9");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "MIMO-Parameters-r9");
-   return 0;
-}
-
-int asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(rtxContext* RT_RESTRICT ctx, Multi_frequencyInfo_LCR_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Multi-frequencyInfo-LCR-r7");
-   /* secondFrequencyInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->secondFrequencyInfo);
-      RT_CHECK(ctx, stat, 0, "secondFrequencyInfo", -1, "Multi-frequencyInfo-LCR-r7");
-   }
-   /* fPachFrequencyInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->fPachFrequencyInfo);
-      RT_CHECK(ctx, stat, 0, "fPachFrequencyInfo", -1, "Multi-frequencyInfo-LCR-r7");
-   }
-   /* upPCHpositionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->upPCHpositionInfo, 0, 127);
-      RT_CHECK(ctx, stat, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "Multi-frequencyInfo-LCR-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_DTX_DRX_Offset(rtxContext* RT_RESTRICT ctx, UE_DTX_DRX_Offset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 159);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-DRX-Offset");
-   return 0;
-}
-
-int asn1PD_UMTS_NewTiming(rtxContext* RT_RESTRICT ctx, NewTiming* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* enablingDelay */
-   stat = pd_ConsUnsigned(ctx, &pvalue->enablingDelay, 0, 15);
-   RT_CHECK(ctx, stat, "EnablingDelay", "enablingDelay", -1, "NewTiming");
-   /* ue-dtx-drx-Offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->ue_dtx_drx_Offset, 0, 159);
-   RT_CHECK(ctx, stat, "UE-DTX-DRX-Offset", "ue-dtx-drx-Offset", -1, "NewTiming");
-   return 0;
-}
-
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* t-SI-nst */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_SI_nst, 0, 6);
-      RT_CHECK(ctx, stat, 0, "t-SI-nst", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_ext(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-ext");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384-768 */
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (Non_ScheduledTransGrantInfoTDD_ext_tdd128*)rtxMemHeapAlloc(ctx, sizeof(Non_ScheduledTransGrantInfoTDD_ext_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-ext");
-         asn1Init_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-ext");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NumberOfDPDCH(rtxContext* RT_RESTRICT ctx, NumberOfDPDCH* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NumberOfDPDCH");
-   return 0;
-}
-
-int asn1PD_UMTS_NumberOfFBI_Bits(rtxContext* RT_RESTRICT ctx, NumberOfFBI_Bits* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NumberOfFBI-Bits");
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, PDSCH_PowerControlInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-PowerControlInfo");
-   /* tpc-StepSizeTDD */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSizeTDD, 1, 3);
-      RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, "PDSCH-PowerControlInfo");
-   }
-   /* ul-CCTrChTPCList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "PDSCH-PowerControlInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_configuration_old_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* pdsch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_configuration_new_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-Info */
-   stat = asn1PD_UMTS_PDSCH_Info(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, 0);
-   /* pdsch-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-      RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_configuration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* old-Configuration */
-         pvalue->u.old_Configuration = (PDSCH_CapacityAllocationInfo_configuration_old_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CapacityAllocationInfo_configuration_old_Configuration));
-         if (pvalue->u.old_Configuration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "old-Configuration", -1, 0);
-         asn1Init_UMTS_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(pvalue->u.old_Configuration);
-         stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
-         break;
-      case 1: /* new-Configuration */
-         pvalue->u.new_Configuration = (PDSCH_CapacityAllocationInfo_configuration_new_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CapacityAllocationInfo_configuration_new_Configuration));
-         if (pvalue->u.new_Configuration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "new-Configuration", -1, 0);
-         asn1Init_UMTS_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(pvalue->u.new_Configuration);
-         stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-CapacityAllocationInfo");
-   /* pdsch-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "pdsch-PowerControlInfo", -1, "PDSCH-CapacityAllocationInfo");
-   }
-   /* pdsch-AllocationPeriodInfo */
-   stat = asn1PD_UMTS_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat, 0, "pdsch-AllocationPeriodInfo", -1, "PDSCH-CapacityAllocationInfo");
-   /* configuration */
-   stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat, 0, "configuration", -1, "PDSCH-CapacityAllocationInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* pdsch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (PDSCH_Info_r4_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r4_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_PDSCH_Info_r4_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_PDSCH_Info_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (PDSCH_Info_r4_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r4_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_PDSCH_Info_r4_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_PDSCH_Info_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_Info_r4(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info-r4");
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r4");
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* commonTimeslotInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info-r4");
-   }
-   /* tddOption */
-   stat = asn1PD_UMTS_PDSCH_Info_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PDSCH-Info-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-Info */
-   stat = asn1PD_UMTS_PDSCH_Info_r4(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, 0);
-   /* pdsch-Identity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-      RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   }
-   /* pdsch-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "pdsch-PowerControlInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4_configuration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* old-Configuration */
-         pvalue->u.old_Configuration = (PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration));
-         if (pvalue->u.old_Configuration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "old-Configuration", -1, 0);
-         asn1Init_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(pvalue->u.old_Configuration);
-         stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
-         break;
-      case 1: /* new-Configuration */
-         pvalue->u.new_Configuration = (PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration));
-         if (pvalue->u.new_Configuration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "new-Configuration", -1, 0);
-         asn1Init_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(pvalue->u.new_Configuration);
-         stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pdsch-AllocationPeriodInfo */
-   stat = asn1PD_UMTS_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat, 0, "pdsch-AllocationPeriodInfo", -1, "PDSCH-CapacityAllocationInfo-r4");
-   /* configuration */
-   stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat, 0, "configuration", -1, "PDSCH-CapacityAllocationInfo-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* pdsch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-Info */
-   stat = asn1PD_UMTS_PDSCH_Info_r7(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, 0);
-   /* pdsch-Identity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-      RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   }
-   /* pdsch-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "pdsch-PowerControlInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7_configuration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* old-Configuration */
-         pvalue->u.old_Configuration = (PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration));
-         if (pvalue->u.old_Configuration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "old-Configuration", -1, 0);
-         asn1Init_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(pvalue->u.old_Configuration);
-         stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
-         break;
-      case 1: /* new-Configuration */
-         pvalue->u.new_Configuration = (PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration));
-         if (pvalue->u.new_Configuration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "new-Configuration", -1, 0);
-         asn1Init_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(pvalue->u.new_Configuration);
-         stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pdsch-AllocationPeriodInfo */
-   stat = asn1PD_UMTS_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat, 0, "pdsch-AllocationPeriodInfo", -1, "PDSCH-CapacityAllocationInfo-r7");
-   /* configuration */
-   stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat, 0, "configuration", -1, "PDSCH-CapacityAllocationInfo-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PDSCH_SysInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PDSCH-SysInfo", (int32_t)i, "PDSCH-SysInfoList");
-      elem = (PDSCH_SysInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PDSCH_SysInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PDSCH_SysInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo", (int32_t)i, "PDSCH-SysInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-HCR-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PDSCH_SysInfo_HCR_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfo_HCR_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PDSCH-SysInfo-HCR-r5", (int32_t)i, "PDSCH-SysInfoList-HCR-r5");
-      elem = (PDSCH_SysInfo_HCR_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PDSCH_SysInfo_HCR_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PDSCH_SysInfo_HCR_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-HCR-r5", (int32_t)i, "PDSCH-SysInfoList-HCR-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PDSCH_SysInfo_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfo_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PDSCH-SysInfo-LCR-r4", (int32_t)i, "PDSCH-SysInfoList-LCR-r4");
-      elem = (PDSCH_SysInfo_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PDSCH_SysInfo_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PDSCH_SysInfo_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-LCR-r4", (int32_t)i, "PDSCH-SysInfoList-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TPC_CommandTargetRate(rtxContext* RT_RESTRICT ctx, TPC_CommandTargetRate* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-CommandTargetRate");
-   return 0;
-}
-
-int asn1PD_UMTS_PLCCH_Info(rtxContext* RT_RESTRICT ctx, PLCCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* plcchSequenceNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->plcchSequenceNumber, 1, 14);
-   RT_CHECK(ctx, stat, 0, "plcchSequenceNumber", -1, "PLCCH-Info");
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "PLCCH-Info");
-   /* channelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "PLCCH-Info");
-   /* tpcCommandTargetRate */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpcCommandTargetRate, 0, 10);
-   RT_CHECK(ctx, stat, "TPC-CommandTargetRate", "tpcCommandTargetRate", -1, "PLCCH-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* pusch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-Info */
-   stat = asn1PD_UMTS_PUSCH_Info(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, 0);
-   /* pusch-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-      RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* old-Configuration */
-         pvalue->u.old_Configuration = (PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration));
-         if (pvalue->u.old_Configuration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "old-Configuration", -1, 0);
-         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(pvalue->u.old_Configuration);
-         stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
-         break;
-      case 1: /* new-Configuration */
-         pvalue->u.new_Configuration = (PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration));
-         if (pvalue->u.new_Configuration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "new-Configuration", -1, 0);
-         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(pvalue->u.new_Configuration);
-         stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-AllocationPeriodInfo */
-   stat = asn1PD_UMTS_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat, 0, "pusch-AllocationPeriodInfo", -1, 0);
-   /* pusch-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pusch_PowerControlInfo, 0, 62);
-      RT_CHECK(ctx, stat, "UL-TargetSIR", "pusch-PowerControlInfo", -1, 0);
-   }
-   /* configuration */
-   stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat, 0, "configuration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* pusch-AllocationPending */
-         break;
-      case 1: /* pusch-AllocationAssignment */
-         pvalue->u.pusch_AllocationAssignment = (PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment));
-         if (pvalue->u.pusch_AllocationAssignment == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pusch-AllocationAssignment", -1, 0);
-         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(pvalue->u.pusch_AllocationAssignment);
-         stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment);
-         RT_CHECK(ctx, stat, 0, "pusch-AllocationAssignment", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pusch-Allocation */
-   stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation(ctx, &pvalue->pusch_Allocation);
-   RT_CHECK(ctx, stat, 0, "pusch-Allocation", -1, "PUSCH-CapacityAllocationInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_PowerControlInfo_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r4_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tpc-StepSize */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-      RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_PowerControlInfo_r4_tddOption(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r4_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (PUSCH_PowerControlInfo_r4_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_PowerControlInfo_r4_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_PUSCH_PowerControlInfo_r4_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_PUSCH_PowerControlInfo_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TargetSIR */
-   stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "PUSCH-PowerControlInfo-r4");
-   /* tddOption */
-   stat = asn1PD_UMTS_PUSCH_PowerControlInfo_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PUSCH-PowerControlInfo-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* pusch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->pusch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pusch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (PUSCH_Info_r4_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_Info_r4_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_PUSCH_Info_r4_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_PUSCH_Info_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (PUSCH_Info_r4_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_Info_r4_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_PUSCH_Info_r4_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_PUSCH_Info_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_Info_r4(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info-r4");
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-r4");
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* commonTimeslotInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info-r4");
-   }
-   /* tddOption */
-   stat = asn1PD_UMTS_PUSCH_Info_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PUSCH-Info-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-Info */
-   stat = asn1PD_UMTS_PUSCH_Info_r4(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, 0);
-   /* pusch-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-      RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* old-Configuration */
-         pvalue->u.old_Configuration = (PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration));
-         if (pvalue->u.old_Configuration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "old-Configuration", -1, 0);
-         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(pvalue->u.old_Configuration);
-         stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
-         break;
-      case 1: /* new-Configuration */
-         pvalue->u.new_Configuration = (PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration));
-         if (pvalue->u.new_Configuration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "new-Configuration", -1, 0);
-         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(pvalue->u.new_Configuration);
-         stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-AllocationPeriodInfo */
-   stat = asn1PD_UMTS_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat, 0, "pusch-AllocationPeriodInfo", -1, 0);
-   /* pusch-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_PowerControlInfo_r4(ctx, &pvalue->pusch_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "pusch-PowerControlInfo", -1, 0);
-   }
-   /* configuration */
-   stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat, 0, "configuration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* pusch-AllocationPending */
-         break;
-      case 1: /* pusch-AllocationAssignment */
-         pvalue->u.pusch_AllocationAssignment = (PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment));
-         if (pvalue->u.pusch_AllocationAssignment == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pusch-AllocationAssignment", -1, 0);
-         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(pvalue->u.pusch_AllocationAssignment);
-         stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment);
-         RT_CHECK(ctx, stat, 0, "pusch-AllocationAssignment", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pusch-Allocation */
-   stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(ctx, &pvalue->pusch_Allocation);
-   RT_CHECK(ctx, stat, 0, "pusch-Allocation", -1, "PUSCH-CapacityAllocationInfo-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_PowerControlInfo_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r7_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tpc-StepSize */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-      RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_PowerControlInfo_r7_tddOption(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r7_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         break;
-      case 1: /* tdd768 */
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (PUSCH_PowerControlInfo_r7_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_PowerControlInfo_r7_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_PUSCH_PowerControlInfo_r7_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_PUSCH_PowerControlInfo_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TargetSIR */
-   stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "PUSCH-PowerControlInfo-r7");
-   /* tddOption */
-   stat = asn1PD_UMTS_PUSCH_PowerControlInfo_r7_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PUSCH-PowerControlInfo-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* pusch-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-Info */
-   stat = asn1PD_UMTS_PUSCH_Info_VHCR(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, 0);
-   /* pusch-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-      RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* old-Configuration */
-         pvalue->u.old_Configuration = (PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration));
-         if (pvalue->u.old_Configuration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "old-Configuration", -1, 0);
-         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(pvalue->u.old_Configuration);
-         stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
-         break;
-      case 1: /* new-Configuration */
-         pvalue->u.new_Configuration = (PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration));
-         if (pvalue->u.new_Configuration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "new-Configuration", -1, 0);
-         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(pvalue->u.new_Configuration);
-         stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-AllocationPeriodInfo */
-   stat = asn1PD_UMTS_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat, 0, "pusch-AllocationPeriodInfo", -1, 0);
-   /* pusch-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_PowerControlInfo_r7(ctx, &pvalue->pusch_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "pusch-PowerControlInfo", -1, 0);
-   }
-   /* configuration */
-   stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat, 0, "configuration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* pusch-AllocationPending */
-         break;
-      case 1: /* pusch-AllocationAssignment */
-         pvalue->u.pusch_AllocationAssignment = (PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment));
-         if (pvalue->u.pusch_AllocationAssignment == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pusch-AllocationAssignment", -1, 0);
-         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(pvalue->u.pusch_AllocationAssignment);
-         stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment);
-         RT_CHECK(ctx, stat, 0, "pusch-AllocationAssignment", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* pusch-Allocation */
-   stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(ctx, &pvalue->pusch_Allocation);
-   RT_CHECK(ctx, stat, 0, "pusch-Allocation", -1, "PUSCH-CapacityAllocationInfo-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PUSCH_SysInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PUSCH-SysInfo", (int32_t)i, "PUSCH-SysInfoList");
-      elem = (PUSCH_SysInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PUSCH_SysInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PUSCH_SysInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PUSCH-SysInfo", (int32_t)i, "PUSCH-SysInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-HCR-r5");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PUSCH_SysInfo_HCR_r5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfo_HCR_r5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PUSCH-SysInfo-HCR-r5", (int32_t)i, "PUSCH-SysInfoList-HCR-r5");
-      elem = (PUSCH_SysInfo_HCR_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PUSCH_SysInfo_HCR_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PUSCH_SysInfo_HCR_r5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PUSCH-SysInfo-HCR-r5", (int32_t)i, "PUSCH-SysInfoList-HCR-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PUSCH_SysInfo_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfo_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PUSCH-SysInfo-LCR-r4", (int32_t)i, "PUSCH-SysInfoList-LCR-r4");
-      elem = (PUSCH_SysInfo_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PUSCH_SysInfo_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PUSCH_SysInfo_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PUSCH-SysInfo-LCR-r4", (int32_t)i, "PUSCH-SysInfoList-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ReducedScramblingCodeNumber(rtxContext* RT_RESTRICT ctx, ReducedScramblingCodeNumber* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 8191);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReducedScramblingCodeNumber");
-   return 0;
-}
-
-int asn1PD_UMTS_RepPerLengthOffset_MICH(rtxContext* RT_RESTRICT ctx, RepPerLengthOffset_MICH* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RepPerLengthOffset-MICH");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* rpp4-2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp4_2, 0, 3);
-         RT_CHECK(ctx, stat, 0, "rpp4-2", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 1: /* rpp8-2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp8_2, 0, 7);
-         RT_CHECK(ctx, stat, 0, "rpp8-2", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 2: /* rpp8-4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp8_4, 0, 7);
-         RT_CHECK(ctx, stat, 0, "rpp8-4", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 3: /* rpp16-2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp16_2, 0, 15);
-         RT_CHECK(ctx, stat, 0, "rpp16-2", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 4: /* rpp16-4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp16_4, 0, 15);
-         RT_CHECK(ctx, stat, 0, "rpp16-4", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 5: /* rpp32-2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp32_2, 0, 31);
-         RT_CHECK(ctx, stat, 0, "rpp32-2", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 6: /* rpp32-4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp32_4, 0, 31);
-         RT_CHECK(ctx, stat, 0, "rpp32-4", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 7: /* rpp64-2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp64_2, 0, 63);
-         RT_CHECK(ctx, stat, 0, "rpp64-2", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 8: /* rpp64-4 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp64_4, 0, 63);
-         RT_CHECK(ctx, stat, 0, "rpp64-4", -1, "RepPerLengthOffset-MICH");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepPerLengthOffset-MICH");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation");
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation");
-   /* dl-DPCH-InfoPerRL */
-   stat = asn1PD_UMTS_DL_DPCH_InfoPerRL(ctx, &pvalue->dl_DPCH_InfoPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "RL-AdditionInformation");
-   /* dummy */
-   stat = rtxDecBitInline(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "RL-AdditionInformation");
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SCCPCH_InfoForFACH(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, "RL-AdditionInformation");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r6_dl_dpchInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-DPCH-InfoPerRL */
-         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5));
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5(pvalue->u.dl_DPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 1: /* dl-FDPCH-InfoPerRL */
-         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r6));
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r6(pvalue->u.dl_FDPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r6(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation_r6(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-r6");
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r6");
-   /* cell-Id */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_Id);
-      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r6");
-   }
-   /* dl-dpchInfo */
-   stat = asn1PD_UMTS_RL_AdditionInformation_r6_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r6");
-   /* e-HICH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r6");
-   }
-   /* e-RGCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r7_dl_dpchInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-DPCH-InfoPerRL */
-         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5));
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5(pvalue->u.dl_DPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 1: /* dl-FDPCH-InfoPerRL */
-         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r7));
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r7(pvalue->u.dl_FDPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation_r7(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-r7");
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r7");
-   /* cell-Id */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_Id);
-      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r7");
-   }
-   /* dl-dpchInfo */
-   stat = asn1PD_UMTS_RL_AdditionInformation_r7_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r7");
-   /* e-HICH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r7");
-   }
-   /* e-RGCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r8_dl_dpchInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-DPCH-InfoPerRL */
-         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5));
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5(pvalue->u.dl_DPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 1: /* dl-FDPCH-InfoPerRL */
-         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r7));
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r7(pvalue->u.dl_FDPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DTX_DRX_TimingInfo_r7_timing(rtxContext* RT_RESTRICT ctx, DTX_DRX_TimingInfo_r7_timing* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* continue */
-         break;
-      case 1: /* newTiming */
-         pvalue->u.newTiming = (NewTiming*)rtxMemHeapAllocZ(ctx, sizeof(NewTiming));
-         if (pvalue->u.newTiming == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newTiming", -1, 0);
-         stat = asn1PD_UMTS_NewTiming(ctx, pvalue->u.newTiming);
-         RT_CHECK(ctx, stat, 0, "newTiming", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DTX_DRX_TimingInfo_r7(rtxContext* RT_RESTRICT ctx, DTX_DRX_TimingInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timing */
-   stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7_timing(ctx, &pvalue->timing);
-   RT_CHECK(ctx, stat, 0, "timing", -1, "DTX-DRX-TimingInfo-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_TargetCellPreconfigInfo(rtxContext* RT_RESTRICT ctx, TargetCellPreconfigInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TargetCellPreconfigInfo");
-   /* activationTimeOffset */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTimeOffset, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTimeOffset", "activationTimeOffset", -1, "TargetCellPreconfigInfo");
-   }
-   /* new-H-RNTI */
-   stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TargetCellPreconfigInfo");
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TargetCellPreconfigInfo");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TargetCellPreconfigInfo");
-   }
-   /* serving-HSDSCH-CellInformation */
-   stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation_r8(ctx, &pvalue->serving_HSDSCH_CellInformation);
-   RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "TargetCellPreconfigInfo");
-   /* e-dch-ReconfigurationInfo */
-   stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-   RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "TargetCellPreconfigInfo");
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TargetCellPreconfigInfo");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TargetCellPreconfigInfo");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TargetCellPreconfigInfo");
-   }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TargetCellPreconfigInfo");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "TargetCellPreconfigInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation_r8(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-r8");
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r8");
-   /* cell-Id */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_Id);
-      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r8");
-   }
-   /* dl-dpchInfo */
-   stat = asn1PD_UMTS_RL_AdditionInformation_r8_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r8");
-   /* e-HICH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r8");
-   }
-   /* e-RGCH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r8");
-   }
-   /* targetCellPreconfigInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TargetCellPreconfigInfo(ctx, &pvalue->targetCellPreconfigInfo);
-      RT_CHECK(ctx, stat, 0, "targetCellPreconfigInfo", -1, "RL-AdditionInformation-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation_r9_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r9_dl_dpchInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dl-DPCH-InfoPerRL */
-         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5));
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5(pvalue->u.dl_DPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 1: /* dl-FDPCH-InfoPerRL */
-         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r7));
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r7(pvalue->u.dl_FDPCH_InfoPerRL);
-         stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TargetCellPreconfigInfo_r9(rtxContext* RT_RESTRICT ctx, TargetCellPreconfigInfo_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TargetCellPreconfigInfo-r9");
-   /* activationTimeOffset */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTimeOffset, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTimeOffset", "activationTimeOffset", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* new-H-RNTI */
-   stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TargetCellPreconfigInfo-r9");
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* serving-HSDSCH-CellInformation */
-   stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation_r9(ctx, &pvalue->serving_HSDSCH_CellInformation);
-   RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "TargetCellPreconfigInfo-r9");
-   /* e-dch-ReconfigurationInfo */
-   stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-   RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "TargetCellPreconfigInfo-r9");
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* ul-SecondaryCellInfoFDD */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* e-dch-ReconfigurationInfo-SecULFrequency */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(ctx, &pvalue->e_dch_ReconfigurationInfo_SecULFrequency);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo-SecULFrequency", -1, "TargetCellPreconfigInfo-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation_r9(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-r9");
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r9");
-   /* cell-Id */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_Id);
-      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r9");
-   }
-   /* dl-dpchInfo */
-   stat = asn1PD_UMTS_RL_AdditionInformation_r9_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r9");
-   /* e-HICH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r9");
-   }
-   /* e-RGCH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r9");
-   }
-   /* targetCellPreconfigInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TargetCellPreconfigInfo_r9(ctx, &pvalue->targetCellPreconfigInfo);
-      RT_CHECK(ctx, stat, 0, "targetCellPreconfigInfo", -1, "RL-AdditionInformation-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation_v6b0ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-v6b0ext");
-   /* sttdIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "RL-AdditionInformation-v6b0ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "RL-AdditionInformation-v6b0ext");
-         pvalue->sttdIndication = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TargetCellPreconfigInfo_v890ext(rtxContext* RT_RESTRICT ctx, TargetCellPreconfigInfo_v890ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TargetCellPreconfigInfo-v890ext");
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation_v890ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_v890ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-v890ext");
-   /* targetCellPreconfigInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TargetCellPreconfigInfo_v890ext(ctx, &pvalue->targetCellPreconfigInfo);
-      RT_CHECK(ctx, stat, 0, "targetCellPreconfigInfo", -1, "RL-AdditionInformation-v890ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformationList(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformationList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RL_AdditionInformation* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RL-AdditionInformation", (int32_t)i, "RL-AdditionInformationList");
-      elem = (RL_AdditionInformation*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RL_AdditionInformation(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RL_AdditionInformation(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation", (int32_t)i, "RL-AdditionInformationList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformationList_r6(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformationList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RL_AdditionInformation_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RL-AdditionInformation-r6", (int32_t)i, "RL-AdditionInformationList-r6");
-      elem = (RL_AdditionInformation_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RL_AdditionInformation_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RL_AdditionInformation_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r6", (int32_t)i, "RL-AdditionInformationList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformationList_r7(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformationList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RL_AdditionInformation_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RL-AdditionInformation-r7", (int32_t)i, "RL-AdditionInformationList-r7");
-      elem = (RL_AdditionInformation_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RL_AdditionInformation_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RL_AdditionInformation_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r7", (int32_t)i, "RL-AdditionInformationList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation_list_v6b0ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_list_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-list-v6b0ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RL_AdditionInformation_v6b0ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_v6b0ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RL-AdditionInformation-v6b0ext", (int32_t)i, "RL-AdditionInformation-list-v6b0ext");
-      elem = (RL_AdditionInformation_v6b0ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RL_AdditionInformation_v6b0ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RL_AdditionInformation_v6b0ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-v6b0ext", (int32_t)i, "RL-AdditionInformation-list-v6b0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformationList_r8(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformationList-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RL_AdditionInformation_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RL-AdditionInformation-r8", (int32_t)i, "RL-AdditionInformationList-r8");
-      elem = (RL_AdditionInformation_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RL_AdditionInformation_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RL_AdditionInformation_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r8", (int32_t)i, "RL-AdditionInformationList-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformationList_v890ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_v890ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformationList-v890ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RL_AdditionInformation_v890ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_v890ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RL-AdditionInformation-v890ext", (int32_t)i, "RL-AdditionInformationList-v890ext");
-      elem = (RL_AdditionInformation_v890ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RL_AdditionInformation_v890ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RL_AdditionInformation_v890ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-v890ext", (int32_t)i, "RL-AdditionInformationList-v890ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformationList_r9(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformationList-r9");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RL_AdditionInformation_r9* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_r9));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RL-AdditionInformation-r9", (int32_t)i, "RL-AdditionInformationList-r9");
-      elem = (RL_AdditionInformation_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RL_AdditionInformation_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RL_AdditionInformation_r9(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r9", (int32_t)i, "RL-AdditionInformationList-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformation_SecULFreq(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_SecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-SecULFreq");
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-SecULFreq");
-   /* cell-id */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "RL-AdditionInformation-SecULFreq");
-   }
-   /* dl-FDPCH-InfoPerRL */
-   stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCH_InfoPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, "RL-AdditionInformation-SecULFreq");
-   /* e-HICH-Information */
-   stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-   RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-SecULFreq");
-   /* e-RGCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-SecULFreq");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_SecULFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 3);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformationList-SecULFreq");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RL_AdditionInformation_SecULFreq* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_SecULFreq));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RL-AdditionInformation-SecULFreq", (int32_t)i, "RL-AdditionInformationList-SecULFreq");
-      elem = (RL_AdditionInformation_SecULFreq*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RL_AdditionInformation_SecULFreq(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RL_AdditionInformation_SecULFreq(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-SecULFreq", (int32_t)i, "RL-AdditionInformationList-SecULFreq");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_RemovalInformationList(rtxContext* RT_RESTRICT ctx, RL_RemovalInformationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-RemovalInformationList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCPICH_Info* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList");
-      elem = (PrimaryCPICH_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_RemovalInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, RL_RemovalInformationList_SecULFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-RemovalInformationList-SecULFreq");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCPICH_Info* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList-SecULFreq");
-      elem = (PrimaryCPICH_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList-SecULFreq");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHFrameType2Info_modulation_mod16QAM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cpich-SecCCPCH-PowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->cpich_SecCCPCH_PowerOffset, -11, 4);
-   RT_CHECK(ctx, stat, 0, "cpich-SecCCPCH-PowerOffset", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCHFrameType2Info_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHFrameType2Info_modulation* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* modQPSK */
-         break;
-      case 1: /* mod16QAM */
-         pvalue->u.mod16QAM = (SecondaryCCPCHFrameType2Info_modulation_mod16QAM*)rtxMemHeapAllocZ(ctx, sizeof(SecondaryCCPCHFrameType2Info_modulation_mod16QAM));
-         if (pvalue->u.mod16QAM == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mod16QAM", -1, 0);
-         stat = asn1PD_UMTS_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(ctx, pvalue->u.mod16QAM);
-         RT_CHECK(ctx, stat, 0, "mod16QAM", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCHFrameType2Info(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHFrameType2Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* subFrameNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->subFrameNumber, 0, 4);
-   RT_CHECK(ctx, stat, 0, "subFrameNumber", -1, "SecondaryCCPCHFrameType2Info");
-   /* dl-ChannelisationCodes */
-   stat = asn1PD_UMTS_DL_ChannelCodes_MBSFN_IMB384(ctx, &pvalue->dl_ChannelisationCodes);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodes", -1, "SecondaryCCPCHFrameType2Info");
-   /* modulation */
-   stat = asn1PD_UMTS_SecondaryCCPCHFrameType2Info_modulation(ctx, &pvalue->modulation);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, "SecondaryCCPCHFrameType2Info");
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCHInfoDiff_MBMS(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfoDiff_MBMS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryCCPCHInfoDiff-MBMS");
-   /* secondaryScramblingCode */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "SecondaryCCPCHInfoDiff-MBMS");
-   }
-   /* sttd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, "SecondaryCCPCHInfoDiff-MBMS");
-   /* sf-AndCodeNumber */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-      RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, "SecondaryCCPCHInfoDiff-MBMS");
-   }
-   /* timingOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, "SecondaryCCPCHInfoDiff-MBMS");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ServingCellChangeMACreset(rtxContext* RT_RESTRICT ctx, ServingCellChangeMACreset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = rtxDecBitInline(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ServingCellChangeMACreset");
-   return 0;
-}
-
-int asn1PD_UMTS_ServingCellChangeMsgType(rtxContext* RT_RESTRICT ctx, ServingCellChangeMsgType* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ServingCellChangeMsgType");
-   return 0;
-}
-
-int asn1PD_UMTS_ServingCellChangeTrId(rtxContext* RT_RESTRICT ctx, ServingCellChangeTrId* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ServingCellChangeTrId");
-   return 0;
-}
-
-int asn1PD_UMTS_ServingCellChangeParameters(rtxContext* RT_RESTRICT ctx, ServingCellChangeParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* servingCellChangeMACreset */
-   stat = rtxDecBitInline(ctx, &pvalue->servingCellChangeMACreset);
-   RT_CHECK(ctx, stat, "ServingCellChangeMACreset", "servingCellChangeMACreset", -1, "ServingCellChangeParameters");
-   /* servingCellChangeMsgType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->servingCellChangeMsgType, 0, 3);
-   RT_CHECK(ctx, stat, "ServingCellChangeMsgType", "servingCellChangeMsgType", -1, "ServingCellChangeParameters");
-   /* servingCellChangeTrId */
-   stat = pd_ConsUInt8(ctx, &pvalue->servingCellChangeTrId, 0, 3);
-   RT_CHECK(ctx, stat, "ServingCellChangeTrId", "servingCellChangeTrId", -1, "ServingCellChangeParameters");
-   return 0;
-}
-
-int asn1PD_UMTS_SpecialBurstScheduling(rtxContext* RT_RESTRICT ctx, SpecialBurstScheduling* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SpecialBurstScheduling");
-   return 0;
-}
-
-int asn1PD_UMTS_SpreadingFactor(rtxContext* RT_RESTRICT ctx, SpreadingFactor* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SpreadingFactor");
-   return 0;
-}
-
-int asn1PD_UMTS_SPS_Information_TDD128_r8(rtxContext* RT_RESTRICT ctx, SPS_Information_TDD128_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SPS-Information-TDD128-r8");
-   /* e-dch-SPS-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DCH_SPS_Information_TDD128(ctx, &pvalue->e_dch_SPS_Info);
-      RT_CHECK(ctx, stat, 0, "e-dch-SPS-Info", -1, "SPS-Information-TDD128-r8");
-   }
-   /* hs-dsch-SPS-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HS_DSCH_SPS_Information_TDD128(ctx, &pvalue->hs_dsch_SPS_Info);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-SPS-Info", -1, "SPS-Information-TDD128-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SynchronisationParameters_r4_sync_UL_CodesBitmap(rtxContext* RT_RESTRICT ctx, SynchronisationParameters_r4_sync_UL_CodesBitmap* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SYNC_UL_Procedure_r4(rtxContext* RT_RESTRICT ctx, SYNC_UL_Procedure_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* max-SYNC-UL-Transmissions */
-   stat = pd_ConsUnsigned(ctx, &pvalue->max_SYNC_UL_Transmissions, 0, 3);
-   RT_CHECK(ctx, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Procedure-r4");
-   /* powerRampStep */
-   stat = pd_ConsUInt8(ctx, &pvalue->powerRampStep, 0, 3);
-   RT_CHECK(ctx, stat, 0, "powerRampStep", -1, "SYNC-UL-Procedure-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, SynchronisationParameters_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SynchronisationParameters-r4");
-   /* sync-UL-CodesBitmap */
-   stat = asn1PD_UMTS_SynchronisationParameters_r4_sync_UL_CodesBitmap(ctx, &pvalue->sync_UL_CodesBitmap);
-   RT_CHECK(ctx, stat, 0, "sync-UL-CodesBitmap", -1, "SynchronisationParameters-r4");
-   /* fpach-Info */
-   stat = asn1PD_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
-   RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "SynchronisationParameters-r4");
-   /* prxUpPCHdes */
-   stat = pd_ConsUInt8(ctx, &pvalue->prxUpPCHdes, 0, 62);
-   RT_CHECK(ctx, stat, 0, "prxUpPCHdes", -1, "SynchronisationParameters-r4");
-   /* sync-UL-Procedure */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SYNC_UL_Procedure_r4(ctx, &pvalue->sync_UL_Procedure);
-      RT_CHECK(ctx, stat, 0, "sync-UL-Procedure", -1, "SynchronisationParameters-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TFC_ControlDuration(rtxContext* RT_RESTRICT ctx, TFC_ControlDuration* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFC-ControlDuration");
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotList(rtxContext* RT_RESTRICT ctx, TimeslotList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotList");
-      pvalue->n = raw + 1;
-      if (raw > 13) {
-         rtxErrAddStrParm(ctx, "TimeslotList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 14);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TimeslotNumber", "TimeslotNumber", (int32_t)i, "TimeslotList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotList_r4_tdd384(rtxContext* RT_RESTRICT ctx, TimeslotList_r4_tdd384* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 13) {
-         rtxErrAddStrParm(ctx, "tdd384");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 14);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TimeslotNumber", "TimeslotNumber", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotList_r4_tdd128(rtxContext* RT_RESTRICT ctx, TimeslotList_r4_tdd128* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 5) {
-         rtxErrAddStrParm(ctx, "tdd128");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 6);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TimeslotNumber-LCR-r4", "TimeslotNumber-LCR-r4", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotList_r4(rtxContext* RT_RESTRICT ctx, TimeslotList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotList-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (TimeslotList_r4_tdd384*)rtxMemHeapAlloc(ctx, sizeof(TimeslotList_r4_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, "TimeslotList-r4");
-         asn1Init_UMTS_TimeslotList_r4_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_TimeslotList_r4_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, "TimeslotList-r4");
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (TimeslotList_r4_tdd128*)rtxMemHeapAlloc(ctx, sizeof(TimeslotList_r4_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, "TimeslotList-r4");
-         asn1Init_UMTS_TimeslotList_r4_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_TimeslotList_r4_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, "TimeslotList-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TimeslotList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_16QAM_Config_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_16QAM_Config_mac_es_e_resetIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_16QAM_Config(rtxContext* RT_RESTRICT ctx, UL_16QAM_Config* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-16QAM-Config");
-   /* ul-16QAM-Settings */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, "UL-16QAM-Config");
-   }
-   /* e-TFCI-TableIndex */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->e_TFCI_TableIndex, 0, 1);
-      RT_CHECK(ctx, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "UL-16QAM-Config");
-   }
-   /* mac-es-e-resetIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-16QAM-Config");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-16QAM-Config");
-         pvalue->mac_es_e_resetIndicator = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrCH(rtxContext* RT_RESTRICT ctx, UL_CCTrCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCTrCH");
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH");
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* ul-TargetSIR */
-   stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH");
-   /* timeInfo */
-   stat = asn1PD_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "UL-CCTrCH");
-   /* commonTimeslotInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "UL-CCTrCH");
-   }
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, "UL-CCTrCH");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrCH_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrCH_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrCH_r4_tddOption(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (UL_CCTrCH_r4_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_CCTrCH_r4_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_UL_CCTrCH_r4_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_UL_CCTrCH_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (UL_CCTrCH_r4_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_CCTrCH_r4_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_UL_CCTrCH_r4_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_UL_CCTrCH_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrCH_r4(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCTrCH-r4");
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH-r4");
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* ul-TargetSIR */
-   stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH-r4");
-   /* timeInfo */
-   stat = asn1PD_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "UL-CCTrCH-r4");
-   /* commonTimeslotInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "UL-CCTrCH-r4");
-   }
-   /* tddOption */
-   stat = asn1PD_UMTS_UL_CCTrCH_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UL-CCTrCH-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrCH_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrCH_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UplinkTimeslotsCodes_VHCR(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TS_ChannelisationCodeList_r7_element(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList_r7_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TS-Channelisation-Code */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TS_Channelisation_Code, 0, 30);
-   RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "ul-TS-Channelisation-Code", -1, 0);
-   /* plcch-info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLCCH_Info(ctx, &pvalue->plcch_info);
-      RT_CHECK(ctx, stat, 0, "plcch-info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TS_ChannelisationCodeList_r7(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_TS_ChannelisationCodeList_r7_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_TS_ChannelisationCodeList_r7_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "UL-TS-ChannelisationCodeList-r7");
-      elem = (UL_TS_ChannelisationCodeList_r7_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_TS_ChannelisationCodeList_r7_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList_r7_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "UL-TS-ChannelisationCodeList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* numAdditionalTimeslots */
-   stat = pd_ConsUInt8(ctx, &pvalue->numAdditionalTimeslots, 1, 5);
-   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* individualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList_r7(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7_parameters* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sameAsLast */
-         pvalue->u.sameAsLast = (UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
-         stat = asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
-         break;
-      case 1: /* newParameters */
-         pvalue->u.newParameters = (UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
-         asn1Init_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(pvalue->u.newParameters);
-         stat = asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r7(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* parameters */
-   stat = asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-LCR-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UplinkAdditionalTimeslots_LCR_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UplinkAdditionalTimeslots_LCR_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UplinkAdditionalTimeslots-LCR-r7", (int32_t)i, 0);
-      elem = (UplinkAdditionalTimeslots_LCR_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UplinkAdditionalTimeslots_LCR_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-LCR-r7", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* consecutive */
-         pvalue->u.consecutive = (UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive));
-         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
-         stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 1: /* timeslotList */
-         pvalue->u.timeslotList = (UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
-         asn1Init_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
-         stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* noMore */
-         break;
-      case 1: /* additionalTimeslots */
-         pvalue->u.additionalTimeslots = (UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
-         asn1Init_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
-         stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dynamicSFusage */
-   stat = rtxDecBitInline(ctx, &pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-LCR-r7");
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-LCR-r7");
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList_r7(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-LCR-r7");
-   /* moreTimeslots */
-   stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-LCR-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrCH_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrCH_r7_tddOption(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (UL_CCTrCH_r7_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_CCTrCH_r7_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_UL_CCTrCH_r7_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_UL_CCTrCH_r7_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (UL_CCTrCH_r7_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(UL_CCTrCH_r7_tddOption_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_UL_CCTrCH_r7_tddOption_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_UL_CCTrCH_r7_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (UL_CCTrCH_r7_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_CCTrCH_r7_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_UL_CCTrCH_r7_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_UL_CCTrCH_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrCH_r7(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCTrCH-r7");
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH-r7");
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* ul-TargetSIR */
-   stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH-r7");
-   /* timeInfo */
-   stat = asn1PD_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "UL-CCTrCH-r7");
-   /* commonTimeslotInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "UL-CCTrCH-r7");
-   }
-   /* tddOption */
-   stat = asn1PD_UMTS_UL_CCTrCH_r7_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UL-CCTrCH-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrCHList(rtxContext* RT_RESTRICT ctx, UL_CCTrCHList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCTrCHList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_CCTrCH* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_CCTrCH));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-CCTrCH", (int32_t)i, "UL-CCTrCHList");
-      elem = (UL_CCTrCH*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_CCTrCH(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_CCTrCH(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-CCTrCH", (int32_t)i, "UL-CCTrCHList");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_BEACON_PL_Est, pvalue);
 }
 
-int asn1PD_UMTS_UL_CCTrCHList_r4(rtxContext* RT_RESTRICT ctx, UL_CCTrCHList_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCTrCHList-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_CCTrCH_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_CCTrCH_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-CCTrCH-r4", (int32_t)i, "UL-CCTrCHList-r4");
-      elem = (UL_CCTrCH_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_CCTrCH_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_CCTrCH_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-CCTrCH-r4", (int32_t)i, "UL-CCTrCHList-r4");
-   }
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -82, -3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DPCCH-PowerOffset");
    return 0;
 }
 
-int asn1PD_UMTS_UL_CCTrCHList_r7(rtxContext* RT_RESTRICT ctx, UL_CCTrCHList_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCTrCHList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_CCTrCH_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_CCTrCH_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-CCTrCH-r7", (int32_t)i, "UL-CCTrCHList-r7");
-      elem = (UL_CCTrCH_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_CCTrCH_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_CCTrCH_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UL-CCTrCH-r7", (int32_t)i, "UL-CCTrCHList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CCTrCHListToRemove(rtxContext* RT_RESTRICT ctx, UL_CCTrCHListToRemove* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCTrCHListToRemove");
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "UL-CCTrCHListToRemove");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-CCTrCHListToRemove");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 8);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "UL-CCTrCHListToRemove");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* scramblingCodeType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   /* scramblingCode */
-   stat = pd_ConsUInt32(ctx, &pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   /* numberOfDPDCH */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-   }
-   else {
-      pvalue->numberOfDPDCH = 1;
-   }
-   /* spreadingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-   }
-   /* puncturingLimit */
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, UL_TimingAdvance* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TimingAdvance");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TimingAdvanceControl_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_enabled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TimingAdvanceControl(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TimingAdvanceControl");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* disabled */
-         break;
-      case 1: /* enabled */
-         pvalue->u.enabled = (UL_TimingAdvanceControl_enabled*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_enabled));
-         if (pvalue->u.enabled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "enabled", -1, "UL-TimingAdvanceControl");
-         asn1Init_UMTS_UL_TimingAdvanceControl_enabled(pvalue->u.enabled);
-         stat = asn1PD_UMTS_UL_TimingAdvanceControl_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
-   }
-   /* ul-CCTrCHList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_CCTrCHList(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_Info_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_DPCH_Info_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_DPCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-Info");
-   /* ul-DPCH-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UL_DPCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_ChannelRequirement(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirement* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-ChannelRequirement");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ul-DPCH-Info */
-         pvalue->u.ul_DPCH_Info = (UL_DPCH_Info*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info));
-         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement");
-         asn1Init_UMTS_UL_DPCH_Info(pvalue->u.ul_DPCH_Info);
-         stat = asn1PD_UMTS_UL_DPCH_Info(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement");
-         break;
-      case 1: /* dummy */
-         pvalue->u.dummy = (CPCH_SetInfo*)rtxMemHeapAlloc(ctx, sizeof(CPCH_SetInfo));
-         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dummy", -1, "UL-ChannelRequirement");
-         asn1Init_UMTS_CPCH_SetInfo(pvalue->u.dummy);
-         stat = asn1PD_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-ChannelRequirement");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirement");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* scramblingCodeType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   /* scramblingCode */
-   stat = pd_ConsUInt32(ctx, &pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   /* numberOfDPDCH */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-   }
-   else {
-      pvalue->numberOfDPDCH = 1;
-   }
-   /* spreadingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-   }
-   /* puncturingLimit */
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-SynchronisationParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
-   }
-   /* synchronisationParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "synchronisationParameters", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TimingAdvanceControl_r4_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tddOption */
-   stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TimingAdvanceControl_r4(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TimingAdvanceControl-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* disabled */
-         break;
-      case 1: /* enabled */
-         pvalue->u.enabled = (UL_TimingAdvanceControl_r4_enabled*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r4_enabled));
-         if (pvalue->u.enabled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "enabled", -1, "UL-TimingAdvanceControl-r4");
-         asn1Init_UMTS_UL_TimingAdvanceControl_r4_enabled(pvalue->u.enabled);
-         stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
-   }
-   /* ul-CCTrCHList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_Info_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_DPCH_Info_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-Info-r4");
-   /* ul-DPCH-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r4");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_ChannelRequirement_r4(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirement_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-ChannelRequirement-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ul-DPCH-Info */
-         pvalue->u.ul_DPCH_Info = (UL_DPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r4));
-         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r4");
-         asn1Init_UMTS_UL_DPCH_Info_r4(pvalue->u.ul_DPCH_Info);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r4(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r4");
-         break;
-      case 1: /* dummy */
-         pvalue->u.dummy = (CPCH_SetInfo*)rtxMemHeapAlloc(ctx, sizeof(CPCH_SetInfo));
-         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dummy", -1, "UL-ChannelRequirement-r4");
-         asn1Init_UMTS_CPCH_SetInfo(pvalue->u.dummy);
-         stat = asn1PD_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-ChannelRequirement-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirement-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* scramblingCodeType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   /* scramblingCode */
-   stat = pd_ConsUInt32(ctx, &pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   /* numberOfDPDCH */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-   }
-   else {
-      pvalue->numberOfDPDCH = 1;
-   }
-   /* spreadingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-   }
-   /* puncturingLimit */
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
-   }
-   /* ul-CCTrCHList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_Info_r5_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r5_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_DPCH_Info_r5_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r5_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DPCCH_PowerOffset, pvalue);
 }
 
-int asn1PD_UMTS_UL_DPCH_Info_r5(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SRB_delay(rtxContext* RT_RESTRICT ctx, SRB_delay* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-Info-r5");
-   /* ul-DPCH-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r5");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r5");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_ChannelRequirement_r5(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirement_r5* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-ChannelRequirement-r5");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ul-DPCH-Info */
-         pvalue->u.ul_DPCH_Info = (UL_DPCH_Info_r5*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r5));
-         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r5");
-         asn1Init_UMTS_UL_DPCH_Info_r5(pvalue->u.ul_DPCH_Info);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r5(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r5");
-         break;
-      case 1: /* dummy */
-         pvalue->u.dummy = (CPCH_SetInfo*)rtxMemHeapAlloc(ctx, sizeof(CPCH_SetInfo));
-         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dummy", -1, "UL-ChannelRequirement-r5");
-         asn1Init_UMTS_CPCH_SetInfo(pvalue->u.dummy);
-         stat = asn1PD_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-ChannelRequirement-r5");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirement-r5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirementWithCPCH_SetID* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ul-DPCH-Info */
-         pvalue->u.ul_DPCH_Info = (UL_DPCH_Info*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info));
-         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID");
-         asn1Init_UMTS_UL_DPCH_Info(pvalue->u.ul_DPCH_Info);
-         stat = asn1PD_UMTS_UL_DPCH_Info(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID");
-         break;
-      case 1: /* dummy1 */
-         pvalue->u.dummy1 = (CPCH_SetInfo*)rtxMemHeapAlloc(ctx, sizeof(CPCH_SetInfo));
-         if (pvalue->u.dummy1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID");
-         asn1Init_UMTS_CPCH_SetInfo(pvalue->u.dummy1);
-         stat = asn1PD_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy1);
-         RT_CHECK(ctx, stat, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID");
-         break;
-      case 2: /* dummy2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dummy2, 1, 16);
-         RT_CHECK(ctx, stat, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID_r4(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirementWithCPCH_SetID_r4* RT_RESTRICT pvalue)
-{
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ul-DPCH-Info */
-         pvalue->u.ul_DPCH_Info = (UL_DPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r4));
-         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-         asn1Init_UMTS_UL_DPCH_Info_r4(pvalue->u.ul_DPCH_Info);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r4(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-         break;
-      case 1: /* dummy1 */
-         pvalue->u.dummy1 = (CPCH_SetInfo*)rtxMemHeapAlloc(ctx, sizeof(CPCH_SetInfo));
-         if (pvalue->u.dummy1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-         asn1Init_UMTS_CPCH_SetInfo(pvalue->u.dummy1);
-         stat = asn1PD_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy1);
-         RT_CHECK(ctx, stat, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-         break;
-      case 2: /* dummy2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dummy2, 1, 16);
-         RT_CHECK(ctx, stat, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-   }
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SRB-delay");
    return 0;
 }
 
-int asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID_r5(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirementWithCPCH_SetID_r5* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SRB_delay(rtxContext* RT_RESTRICT ctx, SRB_delay* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ul-DPCH-Info */
-         pvalue->u.ul_DPCH_Info = (UL_DPCH_Info_r5*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r5));
-         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-         asn1Init_UMTS_UL_DPCH_Info_r5(pvalue->u.ul_DPCH_Info);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r5(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-         break;
-      case 1: /* dummy1 */
-         pvalue->u.dummy1 = (CPCH_SetInfo*)rtxMemHeapAlloc(ctx, sizeof(CPCH_SetInfo));
-         if (pvalue->u.dummy1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-         asn1Init_UMTS_CPCH_SetInfo(pvalue->u.dummy1);
-         stat = asn1PD_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy1);
-         RT_CHECK(ctx, stat, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-         break;
-      case 2: /* dummy2 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dummy2, 1, 16);
-         RT_CHECK(ctx, stat, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SRB_delay, pvalue);
 }
 
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_fdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* dpcch-PowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->dpcch_PowerOffset, -82, -3);
-   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK_AT(ctx, cur, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
    /* pc-Preamble */
-   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, 0);
    /* sRB-delay */
-   stat = pd_ConsUInt8(ctx, &pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->sRB_delay, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "SRB-delay", "sRB-delay", -1, 0);
    /* powerControlAlgorithm */
-   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   stat = dec_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
    RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
-   /* deltaACK */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, 0);
-   }
-   /* deltaNACK */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, 0);
-   }
-   /* ack-NACK-repetition-factor */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ack_NACK_repetition_factor, 1, 4);
-      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
-   }
-   /* harq-Preamble-Mode */
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TargetSIR(rtxContext* RT_RESTRICT ctx, UL_TargetSIR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TargetSIR");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TargetSIR(rtxContext* RT_RESTRICT ctx, UL_TargetSIR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TargetSIR, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD_UL_Interference(rtxContext* RT_RESTRICT ctx, TDD_UL_Interference* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -110, -52);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD-UL-Interference");
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_UL_Interference(rtxContext* RT_RESTRICT ctx, TDD_UL_Interference* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TDD_UL_Interference, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualTS_Interference(rtxContext* RT_RESTRICT ctx, IndividualTS_Interference* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, "IndividualTS-Interference");
+   /* ul-TimeslotInterference */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->ul_TimeslotInterference, -110, -52);
+   RT_CHECK_AT(ctx, cur, stat, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "IndividualTS-Interference");
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualTS_Interference(rtxContext* RT_RESTRICT ctx, IndividualTS_Interference* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IndividualTS_Interference, pvalue);
+}
+
+RT_MERGED_BODY int dec_IndividualTS_InterferenceList(rtxContext* RT_RESTRICT ctx, IndividualTS_InterferenceList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IndividualTS-InterferenceList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IndividualTS_Interference* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IndividualTS_Interference));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "IndividualTS-Interference", (int32_t)i, "IndividualTS-InterferenceList");
+      elem = (IndividualTS_Interference*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_IndividualTS_Interference(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "IndividualTS-Interference", (int32_t)i, "IndividualTS-InterferenceList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualTS_InterferenceList(rtxContext* RT_RESTRICT ctx, IndividualTS_InterferenceList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IndividualTS_InterferenceList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* individualTS-InterferenceList */
-   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   stat = dec_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
    RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
    /* dpch-ConstantValue */
-   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
-         pvalue->beaconPLEst = ui;
-      }
-   }
-   /* tpc-StepSize */
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tddOption */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpch_ConstantValue, -35, 10);
+   RT_CHECK_AT(ctx, cur, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
    /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* broadcast-UL-OL-PC-info */
          break;
       case 1: /* individuallySignalled */
-         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled));
-         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
+         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled));
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
+         stat = dec_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled, cur);
          RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling, cur);
+      RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_tdd, pvalue);
+}
+
+static int dec_UL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_fdd(pvalue->u.fdd);
+         stat = dec_UL_DPCH_PowerControlInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_tdd(pvalue->u.tdd);
+         stat = dec_UL_DPCH_PowerControlInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CCTrCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CCTrCH-PowerControlInfo");
+   /* tfcs-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TFCS_Identity(ctx, &pvalue->tfcs_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo");
+   }
+   /* ul-DPCH-PowerControlInfo */
+   stat = dec_UL_DPCH_PowerControlInfo(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_CCTrCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CCTrCH_PowerControlInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dpcch-PowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK_AT(ctx, cur, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->sRB_delay, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = dec_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r4_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* individualTS-InterferenceList */
+   stat = dec_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK_AT(ctx, cur, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tddOption */
+   stat = dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* broadcast-UL-OL-PC-info */
+         break;
+      case 1: /* individuallySignalled */
+         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled));
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
+         stat = dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled, cur);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r4_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* ul-TargetSIR */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
-      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
    }
    /* ul-OL-PC-Signalling */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
+   stat = dec_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling, cur);
    RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r4_tdd, pvalue);
+}
+
+static int dec_UL_DPCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo-r6");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo-r4");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_r6_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r6_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r6");
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r6_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r6");
+         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_r4_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(pvalue->u.fdd);
+         stat = dec_UL_DPCH_PowerControlInfo_r4_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r4");
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_r6_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r6_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r6");
-         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r6_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r6");
+         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_r4_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(pvalue->u.tdd);
+         stat = dec_UL_DPCH_PowerControlInfo_r4_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r4");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r6");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r4");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_CCTrCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* numberOfDPDCH */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-   }
-   else {
-      pvalue->numberOfDPDCH = 1;
-   }
-   /* spreadingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r4");
+   /* tfcs-Identity */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+      stat = dec_TFCS_Identity(ctx, &pvalue->tfcs_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r4");
    }
-   /* puncturingLimit */
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* present */
-         pvalue->u.present = (UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present));
-         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "present", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(pvalue->u.present);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat, 0, "present", -1, 0);
-         break;
-      case 1: /* notPresent */
-         pvalue->u.notPresent = (UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent));
-         if (pvalue->u.notPresent == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "notPresent", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(pvalue->u.notPresent);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(ctx, pvalue->u.notPresent);
-         RT_CHECK(ctx, stat, 0, "notPresent", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* scramblingCodeType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   /* scramblingCode */
-   stat = pd_ConsUInt32(ctx, &pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   /* dpdchPresence */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(ctx, &pvalue->dpdchPresence);
-   RT_CHECK(ctx, stat, 0, "dpdchPresence", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
-   }
-   /* ul-CCTrCHList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_Info_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r6_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_DPCH_Info_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r6_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r6(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-Info-r6");
    /* ul-DPCH-PowerControlInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r6");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r6");
+   stat = dec_UL_DPCH_PowerControlInfo_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r4");
    return 0;
 }
 
-int asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CCTrCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CCTrCH_PowerControlInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* numberOfDPDCH */
-   if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsUInt8(ctx, &pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-   }
-   else {
-      pvalue->numberOfDPDCH = 1;
-   }
-   /* spreadingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-   }
-   /* numberOfTPC-Bits */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
-         pvalue->numberOfTPC_Bits = ui;
-      }
-   }
-   /* puncturingLimit */
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfci-Existence */
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-   }
-   /* numberOfTPC-Bits */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
-         pvalue->numberOfTPC_Bits = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* present */
-         pvalue->u.present = (UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present));
-         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "present", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(pvalue->u.present);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat, 0, "present", -1, 0);
-         break;
-      case 1: /* notPresent */
-         pvalue->u.notPresent = (UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent));
-         if (pvalue->u.notPresent == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "notPresent", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(pvalue->u.notPresent);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(ctx, pvalue->u.notPresent);
-         RT_CHECK(ctx, stat, 0, "notPresent", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* scramblingCodeType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   /* scramblingCode */
-   stat = pd_ConsUInt32(ctx, &pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   /* dpdchPresence */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(ctx, &pvalue->dpdchPresence);
-   RT_CHECK(ctx, stat, 0, "dpdchPresence", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK_AT(ctx, cur, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->sRB_delay, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = dec_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   /* deltaACK */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, 0);
    }
-   /* ext-UL-TimingAdvance */
+   /* deltaNACK */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, 0);
    }
-   /* activationTime */
+   /* ack-NACK-repetition-factor */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK_AT(ctx, cur, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r5_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ext-UL-TimingAdvance */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, 0);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   }
+   /* individualTS-InterferenceList */
+   stat = dec_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK_AT(ctx, cur, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-SynchronisationParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
-   }
-   /* synchronisationParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "synchronisationParameters", -1, 0);
-   }
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* tdd384 */
-         pvalue->u.tdd384 = (UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         pvalue->u.tdd384 = (UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
          RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(ctx, pvalue->u.tdd128);
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* tddOption */
-   stat = asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption(ctx, &pvalue->tddOption);
+   stat = dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption, cur);
    RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UL_TimingAdvanceControl_r7(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TimingAdvanceControl-r7");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* disabled */
+      case 0: /* broadcast-UL-OL-PC-info */
          break;
-      case 1: /* enabled */
-         pvalue->u.enabled = (UL_TimingAdvanceControl_r7_enabled*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r7_enabled));
-         if (pvalue->u.enabled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "enabled", -1, "UL-TimingAdvanceControl-r7");
-         asn1Init_UMTS_UL_TimingAdvanceControl_r7_enabled(pvalue->u.enabled);
-         stat = asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl-r7");
+      case 1: /* individuallySignalled */
+         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled));
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
+         stat = dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled, cur);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl-r7");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r5_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r7(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
-   }
-   /* ul-CCTrCHList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_CCTrCHList_r7(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
-   }
-   /* ul-CCTrCHListToRemove */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
    }
+   /* ul-OL-PC-Signalling */
+   stat = dec_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling, cur);
+   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r5_tdd, pvalue);
+}
+
+static int dec_UL_DPCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo-r5");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (UL_DPCH_Info_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_r5_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(pvalue->u.fdd);
+         stat = dec_UL_DPCH_PowerControlInfo_r5_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r5");
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (UL_DPCH_Info_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r7_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_r5_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(pvalue->u.tdd);
+         stat = dec_UL_DPCH_PowerControlInfo_r5_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r5");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r5");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_DPCH_Info_r7(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_CCTrCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-Info-r7");
-   /* ul-DPCH-PowerControlInfo */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r5");
+   /* tfcs-Identity */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r7");
+      stat = dec_TFCS_Identity(ctx, &pvalue->tfcs_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r5");
    }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r7");
+   /* ul-DPCH-PowerControlInfo */
+   stat = dec_UL_DPCH_PowerControlInfo_r5(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r5");
    return 0;
 }
 
-int asn1PD_UMTS_UL_DPCH_PowerControlInfoPostFDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPostFDD* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CCTrCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CCTrCH_PowerControlInfo_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    /* dpcch-PowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->dpcch_PowerOffset, -28, -13);
-   RT_CHECK(ctx, stat, "DPCCH-PowerOffset2", "dpcch-PowerOffset", -1, "UL-DPCH-PowerControlInfoPostFDD");
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK_AT(ctx, cur, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
    /* pc-Preamble */
-   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, "UL-DPCH-PowerControlInfoPostFDD");
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, 0);
    /* sRB-delay */
-   stat = pd_ConsUInt8(ctx, &pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, "UL-DPCH-PowerControlInfoPostFDD");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPostFDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPostFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPostFDD(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPostFDD");
-   /* scramblingCodeType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, "UL-DPCH-InfoPostFDD");
-   /* reducedScramblingCodeNumber */
-   stat = pd_ConsUInt16(ctx, &pvalue->reducedScramblingCodeNumber, 0, 8191);
-   RT_CHECK(ctx, stat, "ReducedScramblingCodeNumber", "reducedScramblingCodeNumber", -1, "UL-DPCH-InfoPostFDD");
-   /* spreadingFactor */
-   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SpreadingFactor", "spreadingFactor", -1, "UL-DPCH-InfoPostFDD");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfoPostTDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPostTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TargetSIR */
-   stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-DPCH-PowerControlInfoPostTDD");
-   /* ul-TimeslotInterference */
-   stat = pd_ConsInt8(ctx, &pvalue->ul_TimeslotInterference, -110, -52);
-   RT_CHECK(ctx, stat, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "UL-DPCH-PowerControlInfoPostTDD");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPostTDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPostTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-InfoPostTDD");
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPostTDD(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPostTDD");
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "UL-DPCH-InfoPostTDD");
-   }
-   /* ul-CCTrCH-TimeslotsCodes */
-   stat = asn1PD_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, "UL-DPCH-InfoPostTDD");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPostTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-TargetSIR */
-   stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-DPCH-PowerControlInfoPostTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_LCR_r4_enabled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-SynchronisationParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
-   }
-   /* synchronisationParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "synchronisationParameters", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TimingAdvanceControl_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TimingAdvanceControl-LCR-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* disabled */
-         break;
-      case 1: /* enabled */
-         pvalue->u.enabled = (UL_TimingAdvanceControl_LCR_r4_enabled*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_LCR_r4_enabled));
-         if (pvalue->u.enabled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "enabled", -1, "UL-TimingAdvanceControl-LCR-r4");
-         asn1Init_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(pvalue->u.enabled);
-         stat = asn1PD_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl-LCR-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-InfoPostTDD-LCR-r4");
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPostTDD-LCR-r4");
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl_LCR_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "UL-DPCH-InfoPostTDD-LCR-r4");
-   }
-   /* ul-CCTrCH-TimeslotsCodes */
-   stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, "UL-DPCH-InfoPostTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_ext_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_ext_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* non-ScheduledTransGrantInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_ext(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_ext(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-EDCH-Information-ext");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_EDCH_Information_ext_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_ext_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "UL-EDCH-Information-ext");
-         asn1Init_UMTS_UL_EDCH_Information_ext_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_EDCH_Information_ext_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-EDCH-Information-ext");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-EDCH-Information-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r6_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r6_mac_es_e_resetIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r6(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-EDCH-Information-r6");
-   /* mac-es-e-resetIndicator */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r6");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r6");
-         pvalue->mac_es_e_resetIndicator = ui;
-      }
-   }
-   /* e-DPCCH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DPCCH_Info(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, "UL-EDCH-Information-r6");
-   }
-   /* e-DPDCH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_DPDCH_Info(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, "UL-EDCH-Information-r6");
-   }
-   /* schedulingTransmConfiguration */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, "UL-EDCH-Information-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r7_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_mac_es_e_resetIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-DPCCH-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, 0);
-   }
-   /* e-DPDCH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DPDCH_Info_r7(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, 0);
-   }
-   /* schedulingTransmConfiguration */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, 0);
-   }
-   /* ul-16QAM-Settings */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-RUCCH-Info */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->sRB_delay, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = dec_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   /* deltaACK */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, 0);
    }
-   /* e-PUCH-Info */
+   /* deltaNACK */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, 0);
    }
-   /* non-ScheduledTransGrantInfo */
+   /* ack-NACK-repetition-factor */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK_AT(ctx, cur, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
    }
+   /* harq-Preamble-Mode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_fdd* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UL_EDCH_Information_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UL_EDCH_Information_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r7_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r7_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* individualTS-InterferenceList */
+   stat = dec_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK_AT(ctx, cur, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UL_EDCH_Information_r7(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* individualTS-InterferenceList */
+   stat = dec_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK_AT(ctx, cur, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-EDCH-Information-r7");
-   /* mac-es-e-resetIndicator */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* beaconPLEst */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r7");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r7");
-         pvalue->mac_es_e_resetIndicator = ui;
+         RT_CHECK_AT(ctx, cur, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
+         pvalue->beaconPLEst = ui;
       }
    }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-EDCH-Information-r7");
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_SatID(rtxContext* RT_RESTRICT ctx, SatID* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SatID");
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(pvalue->u.tdd768);
+         stat = dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_DopplerUncertainty(rtxContext* RT_RESTRICT ctx, DopplerUncertainty* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DopplerUncertainty");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption, pvalue);
 }
 
-int asn1PD_UMTS_ExtraDopplerInfo(rtxContext* RT_RESTRICT ctx, ExtraDopplerInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* doppler1stOrder */
-   stat = pd_ConsInt8(ctx, &pvalue->doppler1stOrder, -42, 21);
-   RT_CHECK(ctx, stat, 0, "doppler1stOrder", -1, "ExtraDopplerInfo");
-   /* dopplerUncertainty */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dopplerUncertainty, 0, 7);
-   RT_CHECK(ctx, stat, "DopplerUncertainty", "dopplerUncertainty", -1, "ExtraDopplerInfo");
+   /* tddOption */
+   stat = dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CodePhaseSearchWindow(rtxContext* RT_RESTRICT ctx, CodePhaseSearchWindow* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CodePhaseSearchWindow");
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* broadcast-UL-OL-PC-info */
+         break;
+      case 1: /* individuallySignalled */
+         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled));
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
+         stat = dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled, cur);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_AzimuthAndElevation(rtxContext* RT_RESTRICT ctx, AzimuthAndElevation* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* azimuth */
-   stat = pd_ConsUInt8(ctx, &pvalue->azimuth, 0, 31);
-   RT_CHECK(ctx, stat, 0, "azimuth", -1, "AzimuthAndElevation");
-   /* elevation */
-   stat = pd_ConsUInt8(ctx, &pvalue->elevation, 0, 7);
-   RT_CHECK(ctx, stat, 0, "elevation", -1, "AzimuthAndElevation");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling, pvalue);
 }
 
-int asn1PD_UMTS_AcquisitionSatInfo(rtxContext* RT_RESTRICT ctx, AcquisitionSatInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r7_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AcquisitionSatInfo");
-   /* satID */
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "AcquisitionSatInfo");
-   /* doppler0thOrder */
-   stat = pd_ConsInt16(ctx, &pvalue->doppler0thOrder, -2048, 2047);
-   RT_CHECK(ctx, stat, 0, "doppler0thOrder", -1, "AcquisitionSatInfo");
-   /* extraDopplerInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ExtraDopplerInfo(ctx, &pvalue->extraDopplerInfo);
-      RT_CHECK(ctx, stat, 0, "extraDopplerInfo", -1, "AcquisitionSatInfo");
-   }
-   /* codePhase */
-   stat = pd_ConsUInt16(ctx, &pvalue->codePhase, 0, 1022);
-   RT_CHECK(ctx, stat, 0, "codePhase", -1, "AcquisitionSatInfo");
-   /* integerCodePhase */
-   stat = pd_ConsUInt8(ctx, &pvalue->integerCodePhase, 0, 19);
-   RT_CHECK(ctx, stat, 0, "integerCodePhase", -1, "AcquisitionSatInfo");
-   /* gps-BitNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->gps_BitNumber, 0, 3);
-   RT_CHECK(ctx, stat, 0, "gps-BitNumber", -1, "AcquisitionSatInfo");
-   /* codePhaseSearchWindow */
-   stat = pd_ConsUnsigned(ctx, &pvalue->codePhaseSearchWindow, 0, 15);
-   RT_CHECK(ctx, stat, "CodePhaseSearchWindow", "codePhaseSearchWindow", -1, "AcquisitionSatInfo");
-   /* azimuthAndElevation */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AzimuthAndElevation(ctx, &pvalue->azimuthAndElevation);
-      RT_CHECK(ctx, stat, 0, "azimuthAndElevation", -1, "AcquisitionSatInfo");
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   stat = dec_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling, cur);
+   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r7_tdd, pvalue);
+}
+
+static int dec_UL_DPCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_r7_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(pvalue->u.fdd);
+         stat = dec_UL_DPCH_PowerControlInfo_r7_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_r7_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(pvalue->u.tdd);
+         stat = dec_UL_DPCH_PowerControlInfo_r7_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r7");
    }
    return 0;
 }
 
-int asn1PD_UMTS_AcquisitionSatInfoList(rtxContext* RT_RESTRICT ctx, AcquisitionSatInfoList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AcquisitionSatInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      AcquisitionSatInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AcquisitionSatInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "AcquisitionSatInfo", (int32_t)i, "AcquisitionSatInfoList");
-      elem = (AcquisitionSatInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_AcquisitionSatInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_AcquisitionSatInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "AcquisitionSatInfo", (int32_t)i, "AcquisitionSatInfoList");
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_CCTrCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r7");
+   /* tfcs-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TFCS_Identity(ctx, &pvalue->tfcs_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r7");
    }
+   /* ul-DPCH-PowerControlInfo */
+   stat = dec_UL_DPCH_PowerControlInfo_r7(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r7");
    return 0;
 }
 
-int asn1PD_UMTS_AdditionalMeasurementID_List(rtxContext* RT_RESTRICT ctx, AdditionalMeasurementID_List* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CCTrCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CCTrCH_PowerControlInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_CD_AccessSlotSubchannel(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t i;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CD-AccessSlotSubchannel");
+   return 0;
+}
+
+int asn1PD_UMTS_CD_AccessSlotSubchannel(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CD_AccessSlotSubchannel, pvalue);
+}
+
+RT_MERGED_BODY int dec_CD_AccessSlotSubchannelList(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannelList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
    {
       uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, "AdditionalMeasurementID-List");
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "AdditionalMeasurementID-List");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AdditionalMeasurementID-List");
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CD-AccessSlotSubchannelList");
+      pvalue->n = n = raw + 1;
+      if (raw > 11) {
+         rtxErrAddStrParm(ctx, "CD-AccessSlotSubchannelList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CD-AccessSlotSubchannelList");
       }
    }
-   for (i = 0; i < pvalue->n; i++) {
+   for (i = 0; i < n; i++) {
       pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 16);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 11);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "MeasurementIdentity", "MeasurementIdentity", (int32_t)i, "AdditionalMeasurementID-List");
+         RT_FAIL_AT(ctx, cur, stat, "CD-AccessSlotSubchannel", "CD-AccessSlotSubchannel", (int32_t)i, "CD-AccessSlotSubchannelList");
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_AlmanacSatInfo(rtxContext* RT_RESTRICT ctx, AlmanacSatInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CD_AccessSlotSubchannelList(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannelList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* dataID */
-   stat = pd_ConsUInt8(ctx, &pvalue->dataID, 0, 3);
-   RT_CHECK(ctx, stat, 0, "dataID", -1, "AlmanacSatInfo");
-   /* satID */
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "AlmanacSatInfo");
-   /* e */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->e, 16, 16);
-   RT_CHECK(ctx, stat, 0, "e", -1, "AlmanacSatInfo");
-   /* t-oa */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->t_oa, 8, 8);
-   RT_CHECK(ctx, stat, 0, "t-oa", -1, "AlmanacSatInfo");
-   /* deltaI */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->deltaI, 16, 16);
-   RT_CHECK(ctx, stat, 0, "deltaI", -1, "AlmanacSatInfo");
-   /* omegaDot */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->omegaDot, 16, 16);
-   RT_CHECK(ctx, stat, 0, "omegaDot", -1, "AlmanacSatInfo");
-   /* satHealth */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->satHealth, 8, 8);
-   RT_CHECK(ctx, stat, 0, "satHealth", -1, "AlmanacSatInfo");
-   /* a-Sqrt */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->a_Sqrt, 24, 24);
-   RT_CHECK(ctx, stat, 0, "a-Sqrt", -1, "AlmanacSatInfo");
-   /* omega0 */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->omega0, 24, 24);
-   RT_CHECK(ctx, stat, 0, "omega0", -1, "AlmanacSatInfo");
-   /* m0 */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->m0, 24, 24);
-   RT_CHECK(ctx, stat, 0, "m0", -1, "AlmanacSatInfo");
-   /* omega */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->omega, 24, 24);
-   RT_CHECK(ctx, stat, 0, "omega", -1, "AlmanacSatInfo");
-   /* af0 */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->af0, 11, 11);
-   RT_CHECK(ctx, stat, 0, "af0", -1, "AlmanacSatInfo");
-   /* af1 */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->af1, 11, 11);
-   RT_CHECK(ctx, stat, 0, "af1", -1, "AlmanacSatInfo");
+   RT_DECODE_ENTRY(ctx, dec_CD_AccessSlotSubchannelList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CD_CA_ICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, CD_CA_ICH_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CD-CA-ICH-ChannelisationCode");
    return 0;
 }
 
-int asn1PD_UMTS_AlmanacSatInfoList(rtxContext* RT_RESTRICT ctx, AlmanacSatInfoList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CD_CA_ICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, CD_CA_ICH_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CD_CA_ICH_ChannelisationCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_CD_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, CD_PreambleScramblingCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 79);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CD-PreambleScramblingCode");
+   return 0;
+}
+
+int asn1PD_UMTS_CD_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, CD_PreambleScramblingCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CD_PreambleScramblingCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_CD_SignatureCode(rtxContext* RT_RESTRICT ctx, CD_SignatureCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CD-SignatureCode");
+   return 0;
+}
+
+int asn1PD_UMTS_CD_SignatureCode(rtxContext* RT_RESTRICT ctx, CD_SignatureCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CD_SignatureCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_CD_SignatureCodeList(rtxContext* RT_RESTRICT ctx, CD_SignatureCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CD-SignatureCodeList");
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "CD-SignatureCodeList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CD-SignatureCodeList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "CD-SignatureCode", "CD-SignatureCode", (int32_t)i, "CD-SignatureCodeList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CD_SignatureCodeList(rtxContext* RT_RESTRICT ctx, CD_SignatureCodeList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CD_SignatureCodeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellAndChannelIdentity(rtxContext* RT_RESTRICT ctx, CellAndChannelIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* burstType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->burstType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "BurstType", "burstType", -1, "CellAndChannelIdentity");
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, "CellAndChannelIdentity");
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, "CellAndChannelIdentity");
+   /* cellParametersID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParametersID, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "CellAndChannelIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_CellAndChannelIdentity(rtxContext* RT_RESTRICT ctx, CellAndChannelIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellAndChannelIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_Cfntargetsfnframeoffset(rtxContext* RT_RESTRICT ctx, Cfntargetsfnframeoffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Cfntargetsfnframeoffset");
+   return 0;
+}
+
+int asn1PD_UMTS_Cfntargetsfnframeoffset(rtxContext* RT_RESTRICT ctx, Cfntargetsfnframeoffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Cfntargetsfnframeoffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_ChannelAssignmentActive(rtxContext* RT_RESTRICT ctx, ChannelAssignmentActive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ChannelAssignmentActive");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notActive */
+         break;
+      case 1: /* isActive */
+         pvalue->u.isActive = (AvailableMinimumSF_ListVCAM*)rtxMemHeapAlloc(ctx, sizeof(AvailableMinimumSF_ListVCAM));
+         if (pvalue->u.isActive == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "isActive", -1, "ChannelAssignmentActive");
+         asn1Init_UMTS_AvailableMinimumSF_ListVCAM(pvalue->u.isActive);
+         stat = dec_AvailableMinimumSF_ListVCAM(ctx, pvalue->u.isActive, cur);
+         RT_CHECK(ctx, stat, 0, "isActive", -1, "ChannelAssignmentActive");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ChannelAssignmentActive");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ChannelAssignmentActive(rtxContext* RT_RESTRICT ctx, ChannelAssignmentActive* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ChannelAssignmentActive, pvalue);
+}
+
+RT_MERGED_BODY int dec_ChannelReqParamsForUCSM(rtxContext* RT_RESTRICT ctx, ChannelReqParamsForUCSM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ChannelReqParamsForUCSM");
+   /* availableAP-SignatureList */
+   stat = dec_AvailableAP_SignatureList(ctx, &pvalue->availableAP_SignatureList, cur);
+   RT_CHECK(ctx, stat, 0, "availableAP-SignatureList", -1, "ChannelReqParamsForUCSM");
+   /* availableAP-SubchannelList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AvailableAP_SubchannelList(ctx, &pvalue->availableAP_SubchannelList, cur);
+      RT_CHECK(ctx, stat, 0, "availableAP-SubchannelList", -1, "ChannelReqParamsForUCSM");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ChannelReqParamsForUCSM(rtxContext* RT_RESTRICT ctx, ChannelReqParamsForUCSM* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ChannelReqParamsForUCSM, pvalue);
+}
+
+RT_MERGED_BODY int dec_ClosedLoopTimingAdjMode(rtxContext* RT_RESTRICT ctx, ClosedLoopTimingAdjMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ClosedLoopTimingAdjMode");
+   return 0;
+}
+
+int asn1PD_UMTS_ClosedLoopTimingAdjMode(rtxContext* RT_RESTRICT ctx, ClosedLoopTimingAdjMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ClosedLoopTimingAdjMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_CodeNumberDSCH(rtxContext* RT_RESTRICT ctx, CodeNumberDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CodeNumberDSCH");
+   return 0;
+}
+
+int asn1PD_UMTS_CodeNumberDSCH(rtxContext* RT_RESTRICT ctx, CodeNumberDSCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CodeNumberDSCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_SF_PDSCH(rtxContext* RT_RESTRICT ctx, SF_PDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SF-PDSCH");
+   return 0;
+}
+
+int asn1PD_UMTS_SF_PDSCH(rtxContext* RT_RESTRICT ctx, SF_PDSCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SF_PDSCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultiCodeInfo(rtxContext* RT_RESTRICT ctx, MultiCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MultiCodeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiCodeInfo(rtxContext* RT_RESTRICT ctx, MultiCodeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultiCodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CodeMap(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* spreadingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeMap");
+   /* multiCodeInfo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeMap");
+   /* codeNumberStart */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->codeNumberStart, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "CodeNumberDSCH", "codeNumberStart", -1, "PDSCH-CodeMap");
+   /* codeNumberStop */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->codeNumberStop, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "CodeNumberDSCH", "codeNumberStop", -1, "PDSCH-CodeMap");
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CodeMap(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMap* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CodeMap, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CodeMapList(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 256);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-CodeMapList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PDSCH_CodeMap* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_CodeMap));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PDSCH-CodeMap", (int32_t)i, "PDSCH-CodeMapList");
+      elem = (PDSCH_CodeMap*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PDSCH_CodeMap(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PDSCH-CodeMap", (int32_t)i, "PDSCH-CodeMapList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CodeMapList(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CodeMapList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CodeRange(rtxContext* RT_RESTRICT ctx, CodeRange* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pdsch-CodeMapList */
+   stat = dec_PDSCH_CodeMapList(ctx, &pvalue->pdsch_CodeMapList, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-CodeMapList", -1, "CodeRange");
+   return 0;
+}
+
+int asn1PD_UMTS_CodeRange(rtxContext* RT_RESTRICT ctx, CodeRange* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CodeRange, pvalue);
+}
+
+RT_MERGED_BODY int dec_CodeWordSet(rtxContext* RT_RESTRICT ctx, CodeWordSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CodeWordSet");
+   return 0;
+}
+
+int asn1PD_UMTS_CodeWordSet(rtxContext* RT_RESTRICT ctx, CodeWordSet* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CodeWordSet, pvalue);
+}
+
+RT_MERGED_BODY int dec_ControlChannelDRXCycle_TDD128(rtxContext* RT_RESTRICT ctx, ControlChannelDRXCycle_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ControlChannelDRXCycle-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_ControlChannelDRXCycle_TDD128(rtxContext* RT_RESTRICT ctx, ControlChannelDRXCycle_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ControlChannelDRXCycle_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_EnablingDelay_TDD128(rtxContext* RT_RESTRICT ctx, EnablingDelay_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EnablingDelay-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_EnablingDelay_TDD128(rtxContext* RT_RESTRICT ctx, EnablingDelay_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EnablingDelay_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* enablingDelay */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->enablingDelay, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_DRX_InactivityThreshold_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_InactivityThreshold_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-SCCH-DRX-InactivityThreshold-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_DRX_InactivityThreshold_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_InactivityThreshold_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_DRX_InactivityThreshold_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_Info_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-SCCH-DRX-Info-TDD128");
+   /* hS-SCCH-DRX-Cycle */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->hS_SCCH_DRX_Cycle, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ControlChannelDRXCycle-TDD128", "hS-SCCH-DRX-Cycle", -1, "HS-SCCH-DRX-Info-TDD128");
+   /* hS-SCCH-DRX-InactivityThreshold */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->hS_SCCH_DRX_InactivityThreshold, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "HS-SCCH-DRX-InactivityThreshold-TDD128", "hS-SCCH-DRX-InactivityThreshold", -1, "HS-SCCH-DRX-Info-TDD128");
+   }
+   /* hS-SCCH-DRX-Offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hS_SCCH_DRX_Offset, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "hS-SCCH-DRX-Offset", -1, "HS-SCCH-DRX-Info-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_Info_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_DRX_Info_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_InactivityMonitorThreshold_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_InactivityMonitorThreshold_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-AGCH-InactivityMonitorThreshold-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_InactivityMonitorThreshold_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_InactivityMonitorThreshold_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_InactivityMonitorThreshold_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-AGCH-DRX-Cycle */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->e_AGCH_DRX_Cycle, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ControlChannelDRXCycle-TDD128", "e-AGCH-DRX-Cycle", -1, 0);
+   /* e-AGCH-InactivityMonitorThreshold */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->e_AGCH_InactivityMonitorThreshold, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
+   }
+   /* e-AGCH-DRX-Offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_AGCH_DRX_Offset, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "e-AGCH-DRX-Offset", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsHS-SCCH */
+         break;
+      case 1: /* e-AGCH-DRX-Parameters */
+         pvalue->u.e_AGCH_DRX_Parameters = (E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters));
+         if (pvalue->u.e_AGCH_DRX_Parameters == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-AGCH-DRX-Parameters", -1, 0);
+         asn1Init_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(pvalue->u.e_AGCH_DRX_Parameters);
+         stat = dec_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(ctx, pvalue->u.e_AGCH_DRX_Parameters, cur);
+         RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-Parameters", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* e-AGCH-DRX-InfoType */
+   stat = dec_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(ctx, &pvalue->e_AGCH_DRX_InfoType, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-InfoType", -1, "E-AGCH-DRX-Info-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_DRX_Info_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hS-SCCH-Drx-Info */
+   stat = dec_HS_SCCH_DRX_Info_TDD128(ctx, &pvalue->hS_SCCH_Drx_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-Drx-Info", -1, 0);
+   /* e-AGCH-Drx-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_AGCH_DRX_Info_TDD128(ctx, &pvalue->e_AGCH_Drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Drx-Info", -1, 0);
+   }
+   /* enablingDelay */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->enablingDelay, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* continue */
+         pvalue->u.continue_ = (ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_*)rtxMemHeapAlloc(ctx, sizeof(ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_));
+         if (pvalue->u.continue_ == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "continue", -1, 0);
+         asn1Init_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(pvalue->u.continue_);
+         stat = dec_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(ctx, pvalue->u.continue_, cur);
+         RT_CHECK(ctx, stat, 0, "continue", -1, 0);
+         break;
+      case 1: /* newOperation */
+         pvalue->u.newOperation = (ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation*)rtxMemHeapAlloc(ctx, sizeof(ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation));
+         if (pvalue->u.newOperation == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newOperation", -1, 0);
+         asn1Init_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(pvalue->u.newOperation);
+         stat = dec_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(ctx, pvalue->u.newOperation, cur);
+         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation, pvalue);
+}
+
+static int dec_ControlChannelDRXInfo_TDD128_r8(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* controlChannelDrxOperation */
+   stat = dec_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(ctx, &pvalue->controlChannelDrxOperation, cur);
+   RT_CHECK(ctx, stat, 0, "controlChannelDrxOperation", -1, "ControlChannelDRXInfo-TDD128-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ControlChannelDRXInfo_TDD128_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_DynamicPersistenceLevelTF_List(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevelTF_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DynamicPersistenceLevelTF-List");
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "DynamicPersistenceLevelTF-List");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DynamicPersistenceLevelTF-List");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 8);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelTF-List");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DynamicPersistenceLevelTF_List(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevelTF_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DynamicPersistenceLevelTF_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_CPCH_PersistenceLevels(rtxContext* RT_RESTRICT ctx, CPCH_PersistenceLevels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cpch-SetID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cpch_SetID, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, "CPCH-SetID", "cpch-SetID", -1, "CPCH-PersistenceLevels");
+   /* dynamicPersistenceLevelTF-List */
+   stat = dec_DynamicPersistenceLevelTF_List(ctx, &pvalue->dynamicPersistenceLevelTF_List, cur);
+   RT_CHECK(ctx, stat, 0, "dynamicPersistenceLevelTF-List", -1, "CPCH-PersistenceLevels");
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_PersistenceLevels(rtxContext* RT_RESTRICT ctx, CPCH_PersistenceLevels* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CPCH_PersistenceLevels, pvalue);
+}
+
+RT_MERGED_BODY int dec_CPCH_PersistenceLevelsList(rtxContext* RT_RESTRICT ctx, CPCH_PersistenceLevelsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AlmanacSatInfoList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CPCH-PersistenceLevelsList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      AlmanacSatInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AlmanacSatInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "AlmanacSatInfo", (int32_t)i, "AlmanacSatInfoList");
-      elem = (AlmanacSatInfo*)(node + 1);
+      CPCH_PersistenceLevels* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CPCH_PersistenceLevels));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CPCH-PersistenceLevels", (int32_t)i, "CPCH-PersistenceLevelsList");
+      elem = (CPCH_PersistenceLevels*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_CPCH_PersistenceLevels(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_AlmanacSatInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "AlmanacSatInfo", (int32_t)i, "AlmanacSatInfoList");
+      stat = dec_CPCH_PersistenceLevels(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CPCH-PersistenceLevels", (int32_t)i, "CPCH-PersistenceLevelsList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_SBASecef(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_SBASecef* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CPCH_PersistenceLevelsList(rtxContext* RT_RESTRICT ctx, CPCH_PersistenceLevelsList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* sbasAlmDataID */
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmDataID, 2, 2);
-   RT_CHECK(ctx, stat, 0, "sbasAlmDataID", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* svID */
-   stat = pd_ConsUInt8(ctx, &pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmHealth */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmHealth, 8, 8);
-   RT_CHECK(ctx, stat, 0, "sbasAlmHealth", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmXg */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmXg, 15, 15);
-   RT_CHECK(ctx, stat, 0, "sbasAlmXg", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmYg */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmYg, 15, 15);
-   RT_CHECK(ctx, stat, 0, "sbasAlmYg", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmZg */
-   RT_SET_SIZE(ctx, 9, 9);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmZg, 9, 9);
-   RT_CHECK(ctx, stat, 0, "sbasAlmZg", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmXgdot */
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmXgdot, 3, 3);
-   RT_CHECK(ctx, stat, 0, "sbasAlmXgdot", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmYgDot */
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmYgDot, 3, 3);
-   RT_CHECK(ctx, stat, 0, "sbasAlmYgDot", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmZgDot */
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmZgDot, 4, 4);
-   RT_CHECK(ctx, stat, 0, "sbasAlmZgDot", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmTo */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmTo, 11, 11);
-   RT_CHECK(ctx, stat, 0, "sbasAlmTo", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   RT_DECODE_ENTRY(ctx, dec_CPCH_PersistenceLevelsList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeltaPp_m(rtxContext* RT_RESTRICT ctx, DeltaPp_m* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DeltaPp-m");
    return 0;
 }
 
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_SBASecefList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_SBASecefList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DeltaPp_m(rtxContext* RT_RESTRICT ctx, DeltaPp_m* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DeltaPp_m, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCCH_SlotFormat(rtxContext* RT_RESTRICT ctx, UL_DPCCH_SlotFormat* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCCH-SlotFormat");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCCH_SlotFormat(rtxContext* RT_RESTRICT ctx, UL_DPCCH_SlotFormat* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCCH_SlotFormat, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_StartMessage(rtxContext* RT_RESTRICT ctx, N_StartMessage* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-StartMessage");
+   return 0;
+}
+
+int asn1PD_UMTS_N_StartMessage(rtxContext* RT_RESTRICT ctx, N_StartMessage* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_N_StartMessage, pvalue);
+}
+
+RT_MERGED_BODY int dec_N_EOT(rtxContext* RT_RESTRICT ctx, N_EOT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "N-EOT");
+   return 0;
+}
+
+int asn1PD_UMTS_N_EOT(rtxContext* RT_RESTRICT ctx, N_EOT* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_N_EOT, pvalue);
+}
+
+RT_MERGED_BODY int dec_CPCH_StatusIndicationMode(rtxContext* RT_RESTRICT ctx, CPCH_StatusIndicationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CPCH-StatusIndicationMode");
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_StatusIndicationMode(rtxContext* RT_RESTRICT ctx, CPCH_StatusIndicationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CPCH_StatusIndicationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_PCP_Length(rtxContext* RT_RESTRICT ctx, PCP_Length* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PCP-Length");
+   return 0;
+}
+
+int asn1PD_UMTS_PCP_Length(rtxContext* RT_RESTRICT ctx, PCP_Length* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PCP_Length, pvalue);
+}
+
+RT_MERGED_BODY int dec_UCSM_Info(rtxContext* RT_RESTRICT ctx, UCSM_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* minimumSpreadingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->minimumSpreadingFactor, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "UCSM-Info");
+   /* nf-Max */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->nf_Max, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "NF-Max", "nf-Max", -1, "UCSM-Info");
+   /* channelReqParamsForUCSM */
+   stat = dec_ChannelReqParamsForUCSM(ctx, &pvalue->channelReqParamsForUCSM, cur);
+   RT_CHECK(ctx, stat, 0, "channelReqParamsForUCSM", -1, "UCSM-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_UCSM_Info(rtxContext* RT_RESTRICT ctx, UCSM_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UCSM_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_PCPCH_ChannelInfo(rtxContext* RT_RESTRICT ctx, PCPCH_ChannelInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PCPCH-ChannelInfo");
+   /* pcpch-UL-ScramblingCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pcpch_UL_ScramblingCode, 0, 79);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pcpch-UL-ScramblingCode", -1, "PCPCH-ChannelInfo");
+   /* pcpch-DL-ChannelisationCode */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->pcpch_DL_ChannelisationCode, 0, 511);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pcpch-DL-ChannelisationCode", -1, "PCPCH-ChannelInfo");
+   /* pcpch-DL-ScramblingCode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pcpch_DL_ScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "pcpch-DL-ScramblingCode", -1, "PCPCH-ChannelInfo");
+   }
+   /* pcp-Length */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pcp_Length, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PCP-Length", "pcp-Length", -1, "PCPCH-ChannelInfo");
+   /* ucsm-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UCSM_Info(ctx, &pvalue->ucsm_Info, cur);
+      RT_CHECK(ctx, stat, 0, "ucsm-Info", -1, "PCPCH-ChannelInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PCPCH_ChannelInfo(rtxContext* RT_RESTRICT ctx, PCPCH_ChannelInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PCPCH_ChannelInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PCPCH_ChannelInfoList(rtxContext* RT_RESTRICT ctx, PCPCH_ChannelInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-SBASecefList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PCPCH-ChannelInfoList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      GANSS_SAT_Info_Almanac_SBASecef* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_SBASecef));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GANSS-SAT-Info-Almanac-SBASecef", (int32_t)i, "GANSS-SAT-Info-Almanac-SBASecefList");
-      elem = (GANSS_SAT_Info_Almanac_SBASecef*)(node + 1);
+      PCPCH_ChannelInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PCPCH_ChannelInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PCPCH-ChannelInfo", (int32_t)i, "PCPCH-ChannelInfoList");
+      elem = (PCPCH_ChannelInfo*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_PCPCH_ChannelInfo(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_SBASecef(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-SBASecef", (int32_t)i, "GANSS-SAT-Info-Almanac-SBASecefList");
+      stat = dec_PCPCH_ChannelInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PCPCH-ChannelInfo", (int32_t)i, "PCPCH-ChannelInfoList");
    }
    return 0;
+}
+
+int asn1PD_UMTS_PCPCH_ChannelInfoList(rtxContext* RT_RESTRICT ctx, PCPCH_ChannelInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PCPCH_ChannelInfoList, pvalue);
+}
+
+static int dec_CPCH_SetInfo(rtxContext* RT_RESTRICT ctx, CPCH_SetInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CPCH-SetInfo");
+   /* cpch-SetID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cpch_SetID, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, "CPCH-SetID", "cpch-SetID", -1, "CPCH-SetInfo");
+   /* transportFormatSet */
+   stat = dec_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "CPCH-SetInfo");
+   /* tfcs */
+   stat = dec_TFCS(ctx, &pvalue->tfcs, cur);
+   RT_CHECK(ctx, stat, 0, "tfcs", -1, "CPCH-SetInfo");
+   /* ap-PreambleScramblingCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ap_PreambleScramblingCode, 0, 79);
+   RT_CHECK_AT(ctx, cur, stat, "AP-PreambleScramblingCode", "ap-PreambleScramblingCode", -1, "CPCH-SetInfo");
+   /* ap-AICH-ChannelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ap_AICH_ChannelisationCode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "AP-AICH-ChannelisationCode", "ap-AICH-ChannelisationCode", -1, "CPCH-SetInfo");
+   /* cd-PreambleScramblingCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cd_PreambleScramblingCode, 0, 79);
+   RT_CHECK_AT(ctx, cur, stat, "CD-PreambleScramblingCode", "cd-PreambleScramblingCode", -1, "CPCH-SetInfo");
+   /* cd-CA-ICH-ChannelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cd_CA_ICH_ChannelisationCode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "CD-CA-ICH-ChannelisationCode", "cd-CA-ICH-ChannelisationCode", -1, "CPCH-SetInfo");
+   /* cd-AccessSlotSubchannelList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CD_AccessSlotSubchannelList(ctx, &pvalue->cd_AccessSlotSubchannelList, cur);
+      RT_CHECK(ctx, stat, 0, "cd-AccessSlotSubchannelList", -1, "CPCH-SetInfo");
+   }
+   /* cd-SignatureCodeList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CD_SignatureCodeList(ctx, &pvalue->cd_SignatureCodeList, cur);
+      RT_CHECK(ctx, stat, 0, "cd-SignatureCodeList", -1, "CPCH-SetInfo");
+   }
+   /* deltaPp-m */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->deltaPp_m, -10, 10);
+   RT_CHECK_AT(ctx, cur, stat, "DeltaPp-m", "deltaPp-m", -1, "CPCH-SetInfo");
+   /* ul-DPCCH-SlotFormat */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ul_DPCCH_SlotFormat, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "UL-DPCCH-SlotFormat", "ul-DPCCH-SlotFormat", -1, "CPCH-SetInfo");
+   /* n-StartMessage */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_StartMessage, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "N-StartMessage", "n-StartMessage", -1, "CPCH-SetInfo");
+   /* n-EOT */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_EOT, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "N-EOT", "n-EOT", -1, "CPCH-SetInfo");
+   /* channelAssignmentActive */
+   stat = dec_ChannelAssignmentActive(ctx, &pvalue->channelAssignmentActive, cur);
+   RT_CHECK(ctx, stat, 0, "channelAssignmentActive", -1, "CPCH-SetInfo");
+   /* cpch-StatusIndicationMode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cpch_StatusIndicationMode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "CPCH-StatusIndicationMode", "cpch-StatusIndicationMode", -1, "CPCH-SetInfo");
+   /* pcpch-ChannelInfoList */
+   stat = dec_PCPCH_ChannelInfoList(ctx, &pvalue->pcpch_ChannelInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "pcpch-ChannelInfoList", -1, "CPCH-SetInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_SetInfo(rtxContext* RT_RESTRICT ctx, CPCH_SetInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CPCH_SetInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CPCH_SetInfoList(rtxContext* RT_RESTRICT ctx, CPCH_SetInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CPCH-SetInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CPCH_SetInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CPCH_SetInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CPCH-SetInfo", (int32_t)i, "CPCH-SetInfoList");
+      elem = (CPCH_SetInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CPCH_SetInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CPCH_SetInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CPCH-SetInfo", (int32_t)i, "CPCH-SetInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_SetInfoList(rtxContext* RT_RESTRICT ctx, CPCH_SetInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CPCH_SetInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CQI_DTX_Timer(rtxContext* RT_RESTRICT ctx, CQI_DTX_Timer* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CQI-DTX-Timer");
+   return 0;
+}
+
+int asn1PD_UMTS_CQI_DTX_Timer(rtxContext* RT_RESTRICT ctx, CQI_DTX_Timer* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CQI_DTX_Timer, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSICH_PowerOffset(rtxContext* RT_RESTRICT ctx, CSICH_PowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -10, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CSICH-PowerOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_CSICH_PowerOffset(rtxContext* RT_RESTRICT ctx, CSICH_PowerOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSICH_PowerOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_DefaultDPCH_OffsetValueFDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 599);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DefaultDPCH-OffsetValueFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultDPCH_OffsetValueFDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DefaultDPCH_OffsetValueFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_DefaultDPCH_OffsetValueTDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DefaultDPCH-OffsetValueTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultDPCH_OffsetValueTDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DefaultDPCH_OffsetValueTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeltaSIR(rtxContext* RT_RESTRICT ctx, DeltaSIR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 30);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DeltaSIR");
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaSIR(rtxContext* RT_RESTRICT ctx, DeltaSIR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DeltaSIR, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeInfo(rtxContext* RT_RESTRICT ctx, TimeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeInfo");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "TimeInfo");
+   }
+   /* durationTimeInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->durationTimeInfo, 1, 4096);
+      RT_CHECK_AT(ctx, cur, stat, "DurationTimeInfo", "durationTimeInfo", -1, "TimeInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimeInfo(rtxContext* RT_RESTRICT ctx, TimeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrChTPCList(rtxContext* RT_RESTRICT ctx, UL_CCTrChTPCList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 0, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-CCTrChTPCList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TFCS_Identity* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_Identity));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TFCS-Identity", (int32_t)i, "UL-CCTrChTPCList");
+      elem = (TFCS_Identity*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TFCS_Identity(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TFCS_Identity(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "TFCS-Identity", (int32_t)i, "UL-CCTrChTPCList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrChTPCList(rtxContext* RT_RESTRICT ctx, UL_CCTrChTPCList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrChTPCList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CCTrCh(rtxContext* RT_RESTRICT ctx, DL_CCTrCh* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CCTrCh");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 3)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* timeInfo */
+   stat = dec_TimeInfo(ctx, &pvalue->timeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh");
+   /* commonTimeslotInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh");
+   }
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DownlinkTimeslotsCodes(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, "DL-CCTrCh");
+   }
+   /* ul-CCTrChTPCList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh(rtxContext* RT_RESTRICT ctx, DL_CCTrCh* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrCh, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CCTrCh_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DownlinkTimeslotsCodes(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrCh_r4_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CCTrCh_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrCh_r4_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CCTrCh_r4_tddOption(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (DL_CCTrCh_r4_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r4_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_CCTrCh_r4_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_DL_CCTrCh_r4_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CCTrCh_r4_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r4_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_CCTrCh_r4_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_DL_CCTrCh_r4_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r4_tddOption(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrCh_r4_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CCTrCh_r4(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CCTrCh-r4");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r4");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* timeInfo */
+   stat = dec_TimeInfo(ctx, &pvalue->timeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh-r4");
+   /* commonTimeslotInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh-r4");
+   }
+   /* tddOption */
+   stat = dec_DL_CCTrCh_r4_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "DL-CCTrCh-r4");
+   /* ul-CCTrChTPCList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r4(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrCh_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CCTrCh_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DownlinkTimeslotsCodes_r7(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrCh_r7_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CCTrCh_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrCh_r7_tddOption_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CCTrCh_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrCh_r7_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CCTrCh_r7_tddOption(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (DL_CCTrCh_r7_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r7_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_CCTrCh_r7_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_DL_CCTrCh_r7_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (DL_CCTrCh_r7_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r7_tddOption_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_DL_CCTrCh_r7_tddOption_tdd768(pvalue->u.tdd768);
+         stat = dec_DL_CCTrCh_r7_tddOption_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CCTrCh_r7_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r7_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_CCTrCh_r7_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_DL_CCTrCh_r7_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r7_tddOption(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrCh_r7_tddOption, pvalue);
+}
+
+static int dec_DL_CCTrCh_r7(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CCTrCh-r7");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r7");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* timeInfo */
+   stat = dec_TimeInfo(ctx, &pvalue->timeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh-r7");
+   /* commonTimeslotInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh-r7");
+   }
+   /* tddOption */
+   stat = dec_DL_CCTrCh_r7_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "DL-CCTrCh-r7");
+   /* ul-CCTrChTPCList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r7(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrCh_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CCTrChList(rtxContext* RT_RESTRICT ctx, DL_CCTrChList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CCTrChList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_CCTrCh* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_CCTrCh));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-CCTrCh", (int32_t)i, "DL-CCTrChList");
+      elem = (DL_CCTrCh*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_CCTrCh(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_CCTrCh(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-CCTrCh", (int32_t)i, "DL-CCTrChList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrChList(rtxContext* RT_RESTRICT ctx, DL_CCTrChList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrChList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CCTrChList_r7(rtxContext* RT_RESTRICT ctx, DL_CCTrChList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CCTrChList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_CCTrCh_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_CCTrCh_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-CCTrCh-r7", (int32_t)i, "DL-CCTrChList-r7");
+      elem = (DL_CCTrCh_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_CCTrCh_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_CCTrCh_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-CCTrCh-r7", (int32_t)i, "DL-CCTrChList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrChList_r7(rtxContext* RT_RESTRICT ctx, DL_CCTrChList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrChList_r7, pvalue);
+}
+
+static int dec_DL_CCTrChList_r4(rtxContext* RT_RESTRICT ctx, DL_CCTrChList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CCTrChList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_CCTrCh_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_CCTrCh_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-CCTrCh-r4", (int32_t)i, "DL-CCTrChList-r4");
+      elem = (DL_CCTrCh_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_CCTrCh_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_CCTrCh_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-CCTrCh-r4", (int32_t)i, "DL-CCTrChList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrChList_r4(rtxContext* RT_RESTRICT ctx, DL_CCTrChList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrChList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CCTrChListToRemove(rtxContext* RT_RESTRICT ctx, DL_CCTrChListToRemove* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CCTrChListToRemove");
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "DL-CCTrChListToRemove");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DL-CCTrChListToRemove");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 8);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "DL-CCTrChListToRemove");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrChListToRemove(rtxContext* RT_RESTRICT ctx, DL_CCTrChListToRemove* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CCTrChListToRemove, pvalue);
+}
+
+RT_MERGED_BODY int dec_SF512_AndCodeNumber(rtxContext* RT_RESTRICT ctx, SF512_AndCodeNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SF512-AndCodeNumber");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sf4 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf4, 0, 3);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf4", -1, "SF512-AndCodeNumber");
+         break;
+      case 1: /* sf8 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf8, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf8", -1, "SF512-AndCodeNumber");
+         break;
+      case 2: /* sf16 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf16, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf16", -1, "SF512-AndCodeNumber");
+         break;
+      case 3: /* sf32 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf32, 0, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf32", -1, "SF512-AndCodeNumber");
+         break;
+      case 4: /* sf64 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf64, 0, 63);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf64", -1, "SF512-AndCodeNumber");
+         break;
+      case 5: /* sf128 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf128, 0, 127);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf128", -1, "SF512-AndCodeNumber");
+         break;
+      case 6: /* sf256 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sf256, 0, 255);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf256", -1, "SF512-AndCodeNumber");
+         break;
+      case 7: /* sf512 */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.sf512, 0, 511);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sf512", -1, "SF512-AndCodeNumber");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SF512-AndCodeNumber");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SF512_AndCodeNumber(rtxContext* RT_RESTRICT ctx, SF512_AndCodeNumber* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SF512_AndCodeNumber, pvalue);
+}
+
+RT_MERGED_BODY int dec_ScramblingCodeChange(rtxContext* RT_RESTRICT ctx, ScramblingCodeChange* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ScramblingCodeChange");
+   return 0;
+}
+
+int asn1PD_UMTS_ScramblingCodeChange(rtxContext* RT_RESTRICT ctx, ScramblingCodeChange* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ScramblingCodeChange, pvalue);
+}
+
+static int dec_DL_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_ChannelisationCode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-ChannelisationCode");
+   /* secondaryScramblingCode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-ChannelisationCode");
+   }
+   /* sf-AndCodeNumber */
+   stat = dec_SF512_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber, cur);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, "DL-ChannelisationCode");
+   /* scramblingCodeChange */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->scramblingCodeChange, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "ScramblingCodeChange", "scramblingCodeChange", -1, "DL-ChannelisationCode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_ChannelisationCode, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, DL_ChannelisationCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-ChannelisationCodeList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_ChannelisationCode* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_ChannelisationCode));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-ChannelisationCode", (int32_t)i, "DL-ChannelisationCodeList");
+      elem = (DL_ChannelisationCode*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_ChannelisationCode(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_ChannelisationCode(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-ChannelisationCode", (int32_t)i, "DL-ChannelisationCodeList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, DL_ChannelisationCodeList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_ChannelisationCodeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_cfnHandling_initialise* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dummy, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "Cfntargetsfnframeoffset", "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_cfnHandling_initialise* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_cfnHandling_initialise, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_cfnHandling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* maintain */
+         break;
+      case 1: /* initialise */
+         pvalue->u.initialise = (DL_DPCH_InfoCommon_cfnHandling_initialise*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_cfnHandling_initialise));
+         if (pvalue->u.initialise == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "initialise", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(pvalue->u.initialise);
+         stat = dec_DL_DPCH_InfoCommon_cfnHandling_initialise(ctx, pvalue->u.initialise, cur);
+         RT_CHECK(ctx, stat, 0, "initialise", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_cfnHandling* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_cfnHandling, pvalue);
+}
+
+RT_MERGED_BODY int dec_DPC_Mode(rtxContext* RT_RESTRICT ctx, DPC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DPC-Mode");
+   return 0;
+}
+
+int asn1PD_UMTS_DPC_Mode(rtxContext* RT_RESTRICT ctx, DPC_Mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DPC_Mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dpc-Mode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dpc_Mode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DPC-Mode", "dpc-Mode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tpc-StepSizeTDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSizeTDD, 1, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_PowerControlInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_PowerControlInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_DL_DPCH_PowerControlInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-PowerControlInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_PowerControlInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PowerOffsetPilot_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetPilot_pdpdch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PowerOffsetPilot-pdpdch");
+   return 0;
+}
+
+int asn1PD_UMTS_PowerOffsetPilot_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetPilot_pdpdch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PowerOffsetPilot_pdpdch, pvalue);
+}
+
+RT_MERGED_BODY int dec_RestrictedTrCH(rtxContext* RT_RESTRICT ctx, RestrictedTrCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-restrictedTrCh-Type */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_restrictedTrCh_Type, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TrCH-Type", "dl-restrictedTrCh-Type", -1, "RestrictedTrCH");
+   /* restrictedDL-TrCH-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->restrictedDL_TrCH_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "restrictedDL-TrCH-Identity", -1, "RestrictedTrCH");
+   /* allowedTFIList */
+   stat = dec_AllowedTFI_List(ctx, &pvalue->allowedTFIList, cur);
+   RT_CHECK(ctx, stat, 0, "allowedTFIList", -1, "RestrictedTrCH");
+   return 0;
+}
+
+int asn1PD_UMTS_RestrictedTrCH(rtxContext* RT_RESTRICT ctx, RestrictedTrCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RestrictedTrCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_RestrictedTrCH_InfoList(rtxContext* RT_RESTRICT ctx, RestrictedTrCH_InfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RestrictedTrCH-InfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RestrictedTrCH* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RestrictedTrCH));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RestrictedTrCH", (int32_t)i, "RestrictedTrCH-InfoList");
+      elem = (RestrictedTrCH*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RestrictedTrCH(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RestrictedTrCH(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RestrictedTrCH", (int32_t)i, "RestrictedTrCH-InfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RestrictedTrCH_InfoList(rtxContext* RT_RESTRICT ctx, RestrictedTrCH_InfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RestrictedTrCH_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_Dl_rate_matching_restriction(rtxContext* RT_RESTRICT ctx, Dl_rate_matching_restriction* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Dl-rate-matching-restriction");
+   /* restrictedTrCH-InfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RestrictedTrCH_InfoList(ctx, &pvalue->restrictedTrCH_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "restrictedTrCH-InfoList", -1, "Dl-rate-matching-restriction");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Dl_rate_matching_restriction(rtxContext* RT_RESTRICT ctx, Dl_rate_matching_restriction* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Dl_rate_matching_restriction, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   /* powerOffsetPilot-pdpdch */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerOffsetPilot_pdpdch, 0, 24);
+   RT_CHECK_AT(ctx, cur, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   /* dl-rate-matching-restriction */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction, cur);
+      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+   }
+   /* spreadingFactorAndPilot */
+   stat = dec_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot, cur);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_modeSpecificInfo_tdd, pvalue);
+}
+
+static int dec_DL_DPCH_InfoCommon_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoCommon_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoCommon_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cfnHandling */
+   stat = dec_DL_DPCH_InfoCommon_cfnHandling(ctx, &pvalue->cfnHandling, cur);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon");
+   /* modeSpecificInfo */
+   stat = dec_DL_DPCH_InfoCommon_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGCFN(rtxContext* RT_RESTRICT ctx, TGCFN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGCFN");
+   return 0;
+}
+
+int asn1PD_UMTS_TGCFN(rtxContext* RT_RESTRICT ctx, TGCFN* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGCFN, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGP_Sequence_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_Sequence_tgps_Status_activate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tgcfn */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgcfn, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_Sequence_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_Sequence_tgps_Status_activate* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGP_Sequence_tgps_Status_activate, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGP_Sequence_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_Sequence_tgps_Status* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* activate */
+         pvalue->u.activate = (TGP_Sequence_tgps_Status_activate*)rtxMemHeapAllocZ(ctx, sizeof(TGP_Sequence_tgps_Status_activate));
+         if (pvalue->u.activate == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "activate", -1, 0);
+         stat = dec_TGP_Sequence_tgps_Status_activate(ctx, pvalue->u.activate, cur);
+         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
+         break;
+      case 1: /* deactivate */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_Sequence_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_Sequence_tgps_Status* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGP_Sequence_tgps_Status, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGMP(rtxContext* RT_RESTRICT ctx, TGMP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGMP");
+   return 0;
+}
+
+int asn1PD_UMTS_TGMP(rtxContext* RT_RESTRICT ctx, TGMP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGMP, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGPRC(rtxContext* RT_RESTRICT ctx, TGPRC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 511);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGPRC");
+   return 0;
+}
+
+int asn1PD_UMTS_TGPRC(rtxContext* RT_RESTRICT ctx, TGPRC* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGPRC, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGSN(rtxContext* RT_RESTRICT ctx, TGSN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGSN");
+   return 0;
+}
+
+int asn1PD_UMTS_TGSN(rtxContext* RT_RESTRICT ctx, TGSN* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGSN, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGL(rtxContext* RT_RESTRICT ctx, TGL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGL");
+   return 0;
+}
+
+int asn1PD_UMTS_TGL(rtxContext* RT_RESTRICT ctx, TGL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGL, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGD(rtxContext* RT_RESTRICT ctx, TGD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 15, 270);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGD");
+   return 0;
+}
+
+int asn1PD_UMTS_TGD(rtxContext* RT_RESTRICT ctx, TGD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGD, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGPL(rtxContext* RT_RESTRICT ctx, TGPL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 144);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGPL");
+   return 0;
+}
+
+int asn1PD_UMTS_TGPL(rtxContext* RT_RESTRICT ctx, TGPL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGPL, pvalue);
+}
+
+RT_MERGED_BODY int dec_RPP(rtxContext* RT_RESTRICT ctx, RPP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RPP");
+   return 0;
+}
+
+int asn1PD_UMTS_RPP(rtxContext* RT_RESTRICT ctx, RPP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RPP, pvalue);
+}
+
+RT_MERGED_BODY int dec_ITP(rtxContext* RT_RESTRICT ctx, ITP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ITP");
+   return 0;
+}
+
+int asn1PD_UMTS_ITP(rtxContext* RT_RESTRICT ctx, ITP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ITP, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, UL_CompressedModeMethod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-CompressedModeMethod");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, UL_CompressedModeMethod* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CompressedModeMethod, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, DL_CompressedModeMethod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CompressedModeMethod");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, DL_CompressedModeMethod* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CompressedModeMethod, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DL_Mode_ul_and_dl(rtxContext* RT_RESTRICT ctx, UL_DL_Mode_ul_and_dl* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ul, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "UL-CompressedModeMethod", "ul", -1, 0);
+   /* dl */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "DL-CompressedModeMethod", "dl", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DL_Mode_ul_and_dl(rtxContext* RT_RESTRICT ctx, UL_DL_Mode_ul_and_dl* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DL_Mode_ul_and_dl, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DL_Mode(rtxContext* RT_RESTRICT ctx, UL_DL_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DL-Mode");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ul */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.ul, 0, 1);
+         RT_CHECK_AT(ctx, cur, stat, "UL-CompressedModeMethod", "ul", -1, "UL-DL-Mode");
+         break;
+      case 1: /* dl */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.dl, 0, 2);
+         RT_CHECK_AT(ctx, cur, stat, "DL-CompressedModeMethod", "dl", -1, "UL-DL-Mode");
+         break;
+      case 2: /* ul-and-dl */
+         pvalue->u.ul_and_dl = (UL_DL_Mode_ul_and_dl*)rtxMemHeapAllocZ(ctx, sizeof(UL_DL_Mode_ul_and_dl));
+         if (pvalue->u.ul_and_dl == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ul-and-dl", -1, "UL-DL-Mode");
+         stat = dec_UL_DL_Mode_ul_and_dl(ctx, pvalue->u.ul_and_dl, cur);
+         RT_CHECK(ctx, stat, 0, "ul-and-dl", -1, "UL-DL-Mode");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DL-Mode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DL_Mode(rtxContext* RT_RESTRICT ctx, UL_DL_Mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DL_Mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_FrameType(rtxContext* RT_RESTRICT ctx, DL_FrameType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-FrameType");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_FrameType(rtxContext* RT_RESTRICT ctx, DL_FrameType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_FrameType, pvalue);
+}
+
+RT_MERGED_BODY int dec_NidentifyAbort(rtxContext* RT_RESTRICT ctx, NidentifyAbort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 128);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NidentifyAbort");
+   return 0;
+}
+
+int asn1PD_UMTS_NidentifyAbort(rtxContext* RT_RESTRICT ctx, NidentifyAbort* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NidentifyAbort, pvalue);
+}
+
+RT_MERGED_BODY int dec_TreconfirmAbort(rtxContext* RT_RESTRICT ctx, TreconfirmAbort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 20);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TreconfirmAbort");
+   return 0;
+}
+
+int asn1PD_UMTS_TreconfirmAbort(rtxContext* RT_RESTRICT ctx, TreconfirmAbort* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TreconfirmAbort, pvalue);
+}
+
+static int dec_TGPS_ConfigurationParams(rtxContext* RT_RESTRICT ctx, TGPS_ConfigurationParams* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGPS-ConfigurationParams");
+   /* tgmp */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tgmp, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "TGMP", "tgmp", -1, "TGPS-ConfigurationParams");
+   /* tgprc */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->tgprc, 0, 511);
+   RT_CHECK_AT(ctx, cur, stat, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams");
+   /* tgsn */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgsn, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams");
+   /* tgl1 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgl1, 1, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TGL", "tgl1", -1, "TGPS-ConfigurationParams");
+   /* tgl2 */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgl2, 1, 14);
+      RT_CHECK_AT(ctx, cur, stat, "TGL", "tgl2", -1, "TGPS-ConfigurationParams");
+   }
+   /* tgd */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->tgd, 15, 270);
+   RT_CHECK_AT(ctx, cur, stat, "TGD", "tgd", -1, "TGPS-ConfigurationParams");
+   /* tgpl1 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgpl1, 1, 144);
+   RT_CHECK_AT(ctx, cur, stat, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams");
+   /* dummy */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dummy, 1, 144);
+      RT_CHECK_AT(ctx, cur, stat, "TGPL", "dummy", -1, "TGPS-ConfigurationParams");
+   }
+   /* rpp */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rpp, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "RPP", "rpp", -1, "TGPS-ConfigurationParams");
+   /* itp */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->itp, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ITP", "itp", -1, "TGPS-ConfigurationParams");
+   /* ul-DL-Mode */
+   stat = dec_UL_DL_Mode(ctx, &pvalue->ul_DL_Mode, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DL-Mode", -1, "TGPS-ConfigurationParams");
+   /* dl-FrameType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_FrameType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams");
+   /* deltaSIR1 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaSIR1, 0, 30);
+   RT_CHECK_AT(ctx, cur, stat, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams");
+   /* deltaSIRAfter1 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaSIRAfter1, 0, 30);
+   RT_CHECK_AT(ctx, cur, stat, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams");
+   /* deltaSIR2 */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaSIR2, 0, 30);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams");
+   }
+   /* deltaSIRAfter2 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaSIRAfter2, 0, 30);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams");
+   }
+   /* nidentifyAbort */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->nidentifyAbort, 1, 128);
+      RT_CHECK_AT(ctx, cur, stat, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams");
+   }
+   /* treconfirmAbort */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->treconfirmAbort, 1, 20);
+      RT_CHECK_AT(ctx, cur, stat, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGPS_ConfigurationParams(rtxContext* RT_RESTRICT ctx, TGPS_ConfigurationParams* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGPS_ConfigurationParams, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGP_Sequence(rtxContext* RT_RESTRICT ctx, TGP_Sequence* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGP-Sequence");
+   /* tgpsi */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgpsi, 1, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TGPSI", "tgpsi", -1, "TGP-Sequence");
+   /* tgps-Status */
+   stat = dec_TGP_Sequence_tgps_Status(ctx, &pvalue->tgps_Status, cur);
+   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-Sequence");
+   /* tgps-ConfigurationParams */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TGPS_ConfigurationParams(ctx, &pvalue->tgps_ConfigurationParams, cur);
+      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "TGP-Sequence");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_Sequence(rtxContext* RT_RESTRICT ctx, TGP_Sequence* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGP_Sequence, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGP_SequenceList(rtxContext* RT_RESTRICT ctx, TGP_SequenceList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGP-SequenceList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TGP_Sequence* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TGP_Sequence));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TGP-Sequence", (int32_t)i, "TGP-SequenceList");
+      elem = (TGP_Sequence*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TGP_Sequence(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TGP_Sequence(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "TGP-Sequence", (int32_t)i, "TGP-SequenceList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_SequenceList(rtxContext* RT_RESTRICT ctx, TGP_SequenceList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGP_SequenceList, pvalue);
+}
+
+static int dec_DPCH_CompressedModeInfo(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tgp-SequenceList */
+   stat = dec_TGP_SequenceList(ctx, &pvalue->tgp_SequenceList, cur);
+   RT_CHECK(ctx, stat, 0, "tgp-SequenceList", -1, "DPCH-CompressedModeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_DPCH_CompressedModeInfo(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DPCH_CompressedModeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_TX_DiversityMode(rtxContext* RT_RESTRICT ctx, TX_DiversityMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TX-DiversityMode");
+   return 0;
+}
+
+int asn1PD_UMTS_TX_DiversityMode(rtxContext* RT_RESTRICT ctx, TX_DiversityMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TX_DiversityMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_S_Field(rtxContext* RT_RESTRICT ctx, S_Field* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "S-Field");
+   return 0;
+}
+
+int asn1PD_UMTS_S_Field(rtxContext* RT_RESTRICT ctx, S_Field* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_S_Field, pvalue);
+}
+
+RT_MERGED_BODY int dec_SSDT_Information(rtxContext* RT_RESTRICT ctx, SSDT_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* s-Field */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->s_Field, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "S-Field", "s-Field", -1, "SSDT-Information");
+   /* codeWordSet */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->codeWordSet, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "CodeWordSet", "codeWordSet", -1, "SSDT-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_SSDT_Information(rtxContext* RT_RESTRICT ctx, SSDT_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SSDT_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK_AT(ctx, cur, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_SSDT_Information(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonInformation_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_CommonInformation_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonInformation_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_CommonInformation_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_modeSpecificInfo, pvalue);
+}
+
+static int dec_DL_CommonInformation(rtxContext* RT_RESTRICT ctx, DL_CommonInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformation");
+   /* dl-DPCH-InfoCommon */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_InfoCommon(ctx, &pvalue->dl_DPCH_InfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation");
+   }
+   /* modeSpecificInfo */
+   stat = dec_DL_CommonInformation_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation(rtxContext* RT_RESTRICT ctx, DL_CommonInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_cfnHandling_initialise* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dummy, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "Cfntargetsfnframeoffset", "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_cfnHandling_initialise* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_r4_cfnHandling_initialise, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r4_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_cfnHandling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* maintain */
+         break;
+      case 1: /* initialise */
+         pvalue->u.initialise = (DL_DPCH_InfoCommon_r4_cfnHandling_initialise*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r4_cfnHandling_initialise));
+         if (pvalue->u.initialise == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "initialise", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(pvalue->u.initialise);
+         stat = dec_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(ctx, pvalue->u.initialise, cur);
+         RT_CHECK(ctx, stat, 0, "initialise", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_cfnHandling* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_r4_cfnHandling, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   /* powerOffsetPilot-pdpdch */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerOffsetPilot_pdpdch, 0, 24);
+   RT_CHECK_AT(ctx, cur, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   /* dl-rate-matching-restriction */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction, cur);
+      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+   }
+   /* spreadingFactorAndPilot */
+   stat = dec_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot, cur);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+static int dec_DL_DPCH_InfoCommon_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_r4_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-DPCH-InfoCommon-r4");
+   /* cfnHandling */
+   stat = dec_DL_DPCH_InfoCommon_r4_cfnHandling(ctx, &pvalue->cfnHandling, cur);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon-r4");
+   /* modeSpecificInfo */
+   stat = dec_DL_DPCH_InfoCommon_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon-r4");
+   /* mac-d-HFN-initial-value */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MAC_d_HFN_initial_value(ctx, &pvalue->mac_d_HFN_initial_value, cur);
+      RT_CHECK(ctx, stat, 0, "mac-d-HFN-initial-value", -1, "DL-DPCH-InfoCommon-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_SSDT_UL(rtxContext* RT_RESTRICT ctx, SSDT_UL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SSDT-UL");
+   return 0;
+}
+
+int asn1PD_UMTS_SSDT_UL(rtxContext* RT_RESTRICT ctx, SSDT_UL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SSDT_UL, pvalue);
+}
+
+RT_MERGED_BODY int dec_SSDT_Information_r4(rtxContext* RT_RESTRICT ctx, SSDT_Information_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SSDT-Information-r4");
+   /* s-Field */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->s_Field, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "S-Field", "s-Field", -1, "SSDT-Information-r4");
+   /* codeWordSet */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->codeWordSet, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "CodeWordSet", "codeWordSet", -1, "SSDT-Information-r4");
+   /* ssdt-UL-r4 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ssdt_UL_r4, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "SSDT-UL", "ssdt-UL-r4", -1, "SSDT-Information-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SSDT_Information_r4(rtxContext* RT_RESTRICT ctx, SSDT_Information_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SSDT_Information_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK_AT(ctx, cur, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_SSDT_Information_r4(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tstd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = dec_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = dec_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonInformation_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_CommonInformation_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonInformation_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_CommonInformation_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r4_modeSpecificInfo, pvalue);
+}
+
+static int dec_DL_CommonInformation_r4(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformation-r4");
+   /* dl-DPCH-InfoCommon */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_InfoCommon_r4(ctx, &pvalue->dl_DPCH_InfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation-r4");
+   }
+   /* modeSpecificInfo */
+   stat = dec_DL_CommonInformation_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r4(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK_AT(ctx, cur, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_SSDT_Information_r4(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r5_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tstd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = dec_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = dec_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r5_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonInformation_r5_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r5_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_CommonInformation_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonInformation_r5_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r5_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_CommonInformation_r5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r5_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r5_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r5_mac_hsResetIndicator, pvalue);
+}
+
+static int dec_DL_CommonInformation_r5(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformation-r5");
+   /* dl-DPCH-InfoCommon */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_InfoCommon_r4(ctx, &pvalue->dl_DPCH_InfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation-r5");
+   }
+   /* modeSpecificInfo */
+   stat = dec_DL_CommonInformation_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r5");
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r5");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r5");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimingMaintainedSynchInd(rtxContext* RT_RESTRICT ctx, TimingMaintainedSynchInd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimingMaintainedSynchInd");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimingMaintainedSynchInd");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimingMaintainedSynchInd(rtxContext* RT_RESTRICT ctx, TimingMaintainedSynchInd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimingMaintainedSynchInd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* timingmaintainedsynchind */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+         pvalue->timingmaintainedsynchind = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_r6_cfnHandling_maintain, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* maintain */
+         pvalue->u.maintain = (DL_DPCH_InfoCommon_r6_cfnHandling_maintain*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6_cfnHandling_maintain));
+         if (pvalue->u.maintain == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "maintain", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(pvalue->u.maintain);
+         stat = dec_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(ctx, pvalue->u.maintain, cur);
+         RT_CHECK(ctx, stat, 0, "maintain", -1, 0);
+         break;
+      case 1: /* initialise */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_r6_cfnHandling, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   /* powerOffsetPilot-pdpdch */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerOffsetPilot_pdpdch, 0, 24);
+   RT_CHECK_AT(ctx, cur, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   /* dl-rate-matching-restriction */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction, cur);
+      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+   }
+   /* spreadingFactorAndPilot */
+   stat = dec_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot, cur);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd, pvalue);
+}
+
+static int dec_DL_DPCH_InfoCommon_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_r6_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-DPCH-InfoCommon-r6");
+   /* cfnHandling */
+   stat = dec_DL_DPCH_InfoCommon_r6_cfnHandling(ctx, &pvalue->cfnHandling, cur);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon-r6");
+   /* modeSpecificInfo */
+   stat = dec_DL_DPCH_InfoCommon_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon-r6");
+   /* mac-d-HFN-initial-value */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MAC_d_HFN_initial_value(ctx, &pvalue->mac_d_HFN_initial_value, cur);
+      RT_CHECK(ctx, stat, 0, "mac-d-HFN-initial-value", -1, "DL-DPCH-InfoCommon-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommon_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* timingmaintainedsynchind */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+         pvalue->timingmaintainedsynchind = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_FDPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* maintain */
+         pvalue->u.maintain = (DL_FDPCH_InfoCommon_r6_cfnHandling_maintain*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoCommon_r6_cfnHandling_maintain));
+         if (pvalue->u.maintain == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "maintain", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(pvalue->u.maintain);
+         stat = dec_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(ctx, pvalue->u.maintain, cur);
+         RT_CHECK(ctx, stat, 0, "maintain", -1, 0);
+         break;
+      case 1: /* initialise */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_FDPCH_InfoCommon_r6_cfnHandling, pvalue);
+}
+
+static int dec_DL_FDPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-FDPCH-InfoCommon-r6");
+   /* cfnHandling */
+   stat = dec_DL_FDPCH_InfoCommon_r6_cfnHandling(ctx, &pvalue->cfnHandling, cur);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-FDPCH-InfoCommon-r6");
+   /* dl-FDPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_FDPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-FDPCH-PowerControlInfo", -1, "DL-FDPCH-InfoCommon-r6");
+   }
+   /* dl-FDPCH-TPCcommandErrorRate */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "DL-FDPCH-InfoCommon-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_FDPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_FDPCH_InfoCommon_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_dl_dpchInfoCommon* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoCommon */
+         pvalue->u.dl_DPCH_InfoCommon = (DL_DPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6));
+         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-DPCH-InfoCommon", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r6(pvalue->u.dl_DPCH_InfoCommon);
+         stat = dec_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoCommon */
+         pvalue->u.dl_FDPCH_InfoCommon = (DL_FDPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoCommon_r6));
+         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoCommon_r6(pvalue->u.dl_FDPCH_InfoCommon);
+         stat = dec_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_dl_dpchInfoCommon* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r6_dl_dpchInfoCommon, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK_AT(ctx, cur, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r6_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tstd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = dec_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = dec_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r6_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonInformation_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r6_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_CommonInformation_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonInformation_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r6_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_CommonInformation_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r6_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r6_mac_hsResetIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r6_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_postVerificationPeriod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_postVerificationPeriod* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r6_postVerificationPeriod, pvalue);
+}
+
+static int dec_DL_CommonInformation_r6(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformation-r6");
+   /* dl-dpchInfoCommon */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_CommonInformation_r6_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r6");
+   }
+   /* modeSpecificInfo */
+   stat = dec_DL_CommonInformation_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r6");
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r6");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r6");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   /* postVerificationPeriod */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r6");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r6");
+         pvalue->postVerificationPeriod = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_dl_dpchInfoCommon* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoCommon */
+         pvalue->u.dl_DPCH_InfoCommon = (DL_DPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6));
+         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-DPCH-InfoCommon", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r6(pvalue->u.dl_DPCH_InfoCommon);
+         stat = dec_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoCommon */
+         pvalue->u.dl_FDPCH_InfoCommon = (DL_FDPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoCommon_r6));
+         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoCommon_r6(pvalue->u.dl_FDPCH_InfoCommon);
+         stat = dec_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_dl_dpchInfoCommon* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r7_dl_dpchInfoCommon, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK_AT(ctx, cur, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tstd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd768 */
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = dec_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = dec_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r7_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonInformation_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_CommonInformation_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonInformation_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r7_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_CommonInformation_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r7_modeSpecificInfo, pvalue);
 }
 

@@ -6,9020 +6,9414 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_ALM_ECEFsbasAlmanacSet(rtxContext* RT_RESTRICT ctx, ALM_ECEFsbasAlmanacSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* sat-info-SBASecefList */
-   stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_SBASecefList(ctx, &pvalue->sat_info_SBASecefList);
-   RT_CHECK(ctx, stat, 0, "sat-info-SBASecefList", -1, "ALM-ECEFsbasAlmanacSet");
-   return 0;
-}
+/* The bodies of this unit. */
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_postVerificationPeriod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_CommonInformation_r7(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_dl_dpchInfoCommon* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGP_Sequence_r8_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8_tgps_Status_activate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGP_Sequence_r8_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8_tgps_Status* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGMP_r8(rtxContext* RT_RESTRICT ctx, TGMP_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TGPS_ConfigurationParams_r8(rtxContext* RT_RESTRICT ctx, TGPS_ConfigurationParams_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGP_Sequence_r8(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGP_SequenceList_r8(rtxContext* RT_RESTRICT ctx, TGP_SequenceList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DPCH_CompressedModeInfo_r8(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeInfo_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_postVerificationPeriod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_CommonInformation_r8(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommonPost(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPost* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_CommonInformationPost(rtxContext* RT_RESTRICT ctx, DL_CommonInformationPost* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SSDT_CellIdentity(rtxContext* RT_RESTRICT ctx, SSDT_CellIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_DPCH_InfoPerRL(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r4_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r4_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PowerOffsetTPC_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetTPC_pdpdch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r5_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r5_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_DPCH_InfoPerRL_r5(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r6_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r6_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r7_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r7_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_DPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_FDPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoPerRL_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_HSPDSCH_Information_r6(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_ext(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Info_r8_ext(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_ext2(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DSCH_RadioLinkIdentifier(rtxContext* RT_RESTRICT ctx, DSCH_RadioLinkIdentifier* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_IdentifierList(rtxContext* RT_RESTRICT ctx, RL_IdentifierList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_SHO_DCH_Info(rtxContext* RT_RESTRICT ctx, PDSCH_SHO_DCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MaxTFCI_Field2Value(rtxContext* RT_RESTRICT ctx, MaxTFCI_Field2Value* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DSCH_Mapping(rtxContext* RT_RESTRICT ctx, DSCH_Mapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DSCH_MappingList(rtxContext* RT_RESTRICT ctx, DSCH_MappingList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, PDSCH_CodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, PDSCH_CodeInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReplacedPDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, ReplacedPDSCH_CodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReplacedPDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, ReplacedPDSCH_CodeInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PDSCH_CodeMapping_signallingMethod(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapping_signallingMethod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CodeMapping(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIB_ReferenceListFACH(rtxContext* RT_RESTRICT ctx, SIB_ReferenceListFACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_InfoForFACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SCCPCH_InfoForFACH(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_fdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd_tddOption(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PrimaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SecondaryCCPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SCCPCH_InfoForFACH_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SCCPCH_InfoForFACH_r4(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_InformationPerRL_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r5(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r5bis_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r5bis(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_InformationPerRL_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r6_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_e_HICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r6_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_v6b0ext(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_r7_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleConfigurationBurstType1(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MidambleShiftAndBurstType_EDCH(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Individual(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Set_Config(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Individual_VHCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Set_Config_VHCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_E_AGCH_Information_r7_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_r7_modeSpecific(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_r7(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_TDD384_768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_TDD384_768_burst_Type(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_burst_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_TDD384_768_midamble_Allocation_Mode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_midamble_Allocation_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_TDD384_768(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_InformationPerRL_r7_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_InformationPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_r8_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_E_AGCH_Information_r8_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_r8_modeSpecific(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_AGCH_Information_r8(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_InformationPerRL_r8_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_InformationPerRL_r8(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_InformationPerRL_List(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_List_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_InformationPerRL_List_r5(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_InformationPerRL_List_r6(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_List_v6b0ext(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_List_r5bis(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r5bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_List_r7(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_List_r8(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_ListPostFDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_ListPostFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_InfoPost_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase_syncCase1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_InfoPost_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase_syncCase2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_InfoPost_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_InfoPost(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_InformationPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_PDSCH_Information(rtxContext* RT_RESTRICT ctx, DL_PDSCH_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_v890ext(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_r9_configurationInfo(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_N_M_Ratio(rtxContext* RT_RESTRICT ctx, MIMO_N_M_Ratio* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_S_CPICH_PowerOffset_MIMO(rtxContext* RT_RESTRICT ctx, S_CPICH_PowerOffset_MIMO* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_r9_secondCPICH_Pattern* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration_r9(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCellMIMOparametersFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, SecondaryCellMIMOparametersFDD_newConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCellMIMOparametersFDD(rtxContext* RT_RESTRICT ctx, SecondaryCellMIMOparametersFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DL_SecondaryCellInfoFDD_r9(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TPC_PowerOffsetPerRL(rtxContext* RT_RESTRICT ctx, DL_TPC_PowerOffsetPerRL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TPC_PowerOffsetPerRL_List(rtxContext* RT_RESTRICT ctx, DL_TPC_PowerOffsetPerRL_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_ChannelCodes_MBSFN_IMB384(rtxContext* RT_RESTRICT ctx, DL_ChannelCodes_MBSFN_IMB384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r8_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_mac_es_e_resetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_SchedulingTransmConfiguration_servingGrant(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_SchedulingTransmConfiguration(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_16QAM_Settings(rtxContext* RT_RESTRICT ctx, UL_16QAM_Settings* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SF16Codes(rtxContext* RT_RESTRICT ctx, SF16Codes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SF8Codes(rtxContext* RT_RESTRICT ctx, SF8Codes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SF32Codes(rtxContext* RT_RESTRICT ctx, SF32Codes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SF16Codes2(rtxContext* RT_RESTRICT ctx, SF16Codes2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_E_RUCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_RUCCH_Info(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_TS_Slots(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd348_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_E_PUCH_Info(rtxContext* RT_RESTRICT ctx, E_PUCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_tdd384_768(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd384_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_tdd128(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_Non_ScheduledTransGrantInfoTDD(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_EDCH_Information_r8(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DLUL_HSPA_Information_r8(rtxContext* RT_RESTRICT ctx, DLUL_HSPA_Information_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r9_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_mac_es_e_resetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd384_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_Non_ScheduledTransGrantInfoTDD_r9(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_EDCH_Information_r9(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DLUL_HSPA_Information_r9(rtxContext* RT_RESTRICT ctx, DLUL_HSPA_Information_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DPCCH_PowerOffset2(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGPS_Reconfiguration_CFN(rtxContext* RT_RESTRICT ctx, TGPS_Reconfiguration_CFN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGP_SequenceShort_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_SequenceShort_tgps_Status_activate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGP_SequenceShort_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_SequenceShort_tgps_Status* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TGP_SequenceShort(rtxContext* RT_RESTRICT ctx, TGP_SequenceShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeStatusInfo_tgp_SequenceShortList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DPCH_CompressedModeStatusInfo(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeStatusInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_DRX_Cycle_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle_InactivityThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_DRX_Cycle(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_GrantMonitoring_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_GrantMonitoring_InactivityThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DRX_Info(rtxContext* RT_RESTRICT ctx, DRX_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_DTX_Cycle1_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_10ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_DTX_Cycle2_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_10ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_DTX_Cycle_10ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_10ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DTX_E_DCH_TTI_10ms(rtxContext* RT_RESTRICT ctx, DTX_E_DCH_TTI_10ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_DTX_Cycle1_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_2ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_DTX_Cycle2_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_2ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_DTX_Cycle_2ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_2ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DTX_E_DCH_TTI_2ms(rtxContext* RT_RESTRICT ctx, DTX_E_DCH_TTI_2ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DTX_Info_e_dch_TTI_Length(rtxContext* RT_RESTRICT ctx, DTX_Info_e_dch_TTI_Length* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_DTX_Cycle2InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2InactivityThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_DTX_long_preamble_length(rtxContext* RT_RESTRICT ctx, UE_DTX_long_preamble_length* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MAC_InactivityThreshold(rtxContext* RT_RESTRICT ctx, MAC_InactivityThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_DPCCH_Burst(rtxContext* RT_RESTRICT ctx, UE_DPCCH_Burst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DTX_Info(rtxContext* RT_RESTRICT ctx, DTX_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Uplink_DPCCH_Slot_Format_Information(rtxContext* RT_RESTRICT ctx, Uplink_DPCCH_Slot_Format_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_DTX_DRX_Info_r7(rtxContext* RT_RESTRICT ctx, DTX_DRX_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_servingGrant(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_servingGrant* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_Reference_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_Reference_E_TFCIList(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCIList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoOtherCell_e_HICH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_e_HICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoOtherCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_E_DCH_RL_InfoOtherCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_ReconfigurationInfo(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_r7_servingGrant(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_r7(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_E_DCH_ReconfigurationInfo_r7(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewSecServingCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewSecServingCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoOtherCell_SecULFreq(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_SecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_E_DCH_ReconfigurationInfo_SecULFrequency(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_SecULFrequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_RL_InfoSameServingCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoSameServingCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode_implicit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_For_SPS_TDD128_configurationmode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_HICH_Information_For_SPS_TDD128(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RepetitionPeriodAndLengthForSPS(rtxContext* RT_RESTRICT ctx, RepetitionPeriodAndLengthForSPS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_TxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, E_DCH_TxPatternList_TDD128_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_TxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, E_DCH_TxPatternList_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_Information_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPCCH_Info(rtxContext* RT_RESTRICT ctx, E_DPCCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_Info(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_E_DPDCH_Info_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EnablingDelay(rtxContext* RT_RESTRICT ctx, EnablingDelay* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EXT_UL_TimingAdvance_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
 
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_GLOkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_GLOkp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmNA */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmNA, 11, 11);
-   RT_CHECK(ctx, stat, 0, "gloAlmNA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmnA */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmnA, 5, 5);
-   RT_CHECK(ctx, stat, 0, "gloAlmnA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmHA */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmHA, 5, 5);
-   RT_CHECK(ctx, stat, 0, "gloAlmHA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmLambdaA */
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmLambdaA, 21, 21);
-   RT_CHECK(ctx, stat, 0, "gloAlmLambdaA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmTlambdaA */
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmTlambdaA, 21, 21);
-   RT_CHECK(ctx, stat, 0, "gloAlmTlambdaA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmDeltaIA */
-   RT_SET_SIZE(ctx, 18, 18);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmDeltaIA, 18, 18);
-   RT_CHECK(ctx, stat, 0, "gloAlmDeltaIA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAkmDeltaTA */
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pd_BitString32(ctx, &pvalue->gloAkmDeltaTA, 22, 22);
-   RT_CHECK(ctx, stat, 0, "gloAkmDeltaTA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmDeltaTdotA */
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmDeltaTdotA, 7, 7);
-   RT_CHECK(ctx, stat, 0, "gloAlmDeltaTdotA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmEpsilonA */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmEpsilonA, 15, 15);
-   RT_CHECK(ctx, stat, 0, "gloAlmEpsilonA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmOmegaA */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmOmegaA, 16, 16);
-   RT_CHECK(ctx, stat, 0, "gloAlmOmegaA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmTauA */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmTauA, 10, 10);
-   RT_CHECK(ctx, stat, 0, "gloAlmTauA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmCA */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmCA, 1, 1);
-   RT_CHECK(ctx, stat, 0, "gloAlmCA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmMA */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pd_BitString32(ctx, &pvalue->gloAlmMA, 2, 2);
-      RT_CHECK(ctx, stat, 0, "gloAlmMA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   }
-   return 0;
-}
+/* Bodies held by other units. */
+RT_DECODE_EXTERN(DL_CommonInformation_r7_dl_dpchInfoCommon)
+RT_DECODE_EXTERN(DL_CommonInformation_r7_modeSpecificInfo)
+RT_DECODE_EXTERN(DL_DPCH_InfoCommon_r6)
+RT_DECODE_EXTERN(DL_FDPCH_InfoCommon_r6)
+RT_DECODE_EXTERN(UL_DL_Mode)
+RT_DECODE_EXTERN(DL_DPCH_PowerControlInfo)
+RT_DECODE_EXTERN(SecondaryCPICH_Info)
+RT_DECODE_EXTERN(DL_ChannelisationCodeList)
+RT_DECODE_EXTERN(DL_CCTrChList)
+RT_DECODE_EXTERN(DL_CCTrChListToRemove)
+RT_DECODE_EXTERN(DL_CCTrChList_r4)
+RT_DECODE_EXTERN(DL_CCTrChList_r7)
+RT_DECODE_EXTERN(DL_ChannelisationCode)
+RT_DECODE_EXTERN(DownlinkTimeslotsCodes)
+RT_DECODE_EXTERN(DownlinkTimeslotsCodes_LCR_r4)
+RT_DECODE_EXTERN(HS_SCCH_TDD384_r6)
+RT_DECODE_EXTERN(HS_SICH_Power_Control_Info_TDD384)
+RT_DECODE_EXTERN(HS_SCCH_TDD128_r6)
+RT_DECODE_EXTERN(DL_HSPDSCH_TS_Configuration)
+RT_DECODE_EXTERN(HS_PDSCH_Midamble_Configuration_TDD128)
+RT_DECODE_EXTERN(Measurement_Feedback_Info)
+RT_DECODE_EXTERN(PrimaryCPICH_Info)
+RT_DECODE_EXTERN(CodeRange)
+RT_DECODE_EXTERN(PrimaryCCPCH_Info)
+RT_DECODE_EXTERN(SchedulingInformationSIB)
+RT_DECODE_EXTERN(FACH_PCH_InformationList)
+RT_DECODE_EXTERN(SecondaryCCPCH_Info)
+RT_DECODE_EXTERN(TFCS)
+RT_DECODE_EXTERN(SF256_AndCodeNumber)
+RT_DECODE_EXTERN(IndividualTimeslotInfo)
+RT_DECODE_EXTERN(IndividualTimeslotInfo_LCR_r4)
+RT_DECODE_EXTERN(CommonTimeslotInfoSCCPCH)
+RT_DECODE_EXTERN(SCCPCH_ChannelisationCodeList)
+RT_DECODE_EXTERN(CellIdentity)
+RT_DECODE_EXTERN(E_HICH_Information)
+RT_DECODE_EXTERN(E_RGCH_Information)
+RT_DECODE_EXTERN(E_AGCH_Information)
+RT_DECODE_EXTERN(DL_FDPCH_InfoPerRL_r7)
+RT_DECODE_EXTERN(E_AGCH_Set_Config_LCR)
+RT_DECODE_EXTERN(E_HICH_Information_TDD128)
+RT_DECODE_EXTERN(H_RNTI)
+RT_DECODE_EXTERN(E_DPCCH_Info_r7)
+RT_DECODE_EXTERN(E_DPDCH_Info_r8)
+RT_DECODE_EXTERN(E_RUCCH_AccessServiceClass)
+RT_DECODE_EXTERN(PersistenceScalingFactorList)
+RT_DECODE_EXTERN(SYNC_UL_InfoForE_RUCCH)
+RT_DECODE_EXTERN(PRACH_Information_LCR_List)
+RT_DECODE_EXTERN(E_PUCH_TS_Slots_LCR)
+RT_DECODE_EXTERN(UL_SynchronisationParameters_r4)
+RT_DECODE_EXTERN(E_TFCS_Info)
+RT_DECODE_EXTERN(RepetitionPeriodAndLength)
+RT_DECODE_EXTERN(DL_HSPDSCH_Information_r8)
+RT_DECODE_EXTERN(DL_HSPDSCH_Information_r9)
+RT_DECODE_EXTERN(E_DPDCH_Reference_E_TFCIList_r7)
+RT_DECODE_EXTERN(E_DPDCH_SchedulingInfoConfiguration)
 
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_GLOkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_GLOkpList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-GLOkpList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSS_SAT_Info_Almanac_GLOkp* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_GLOkp));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GANSS-SAT-Info-Almanac-GLOkp", (int32_t)i, "GANSS-SAT-Info-Almanac-GLOkpList");
-      elem = (GANSS_SAT_Info_Almanac_GLOkp*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSS_SAT_Info_Almanac_GLOkp(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_GLOkp(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-GLOkp", (int32_t)i, "GANSS-SAT-Info-Almanac-GLOkpList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ALM_GlonassAlmanacSet(rtxContext* RT_RESTRICT ctx, ALM_GlonassAlmanacSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* sat-info-GLOkpList */
-   stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_GLOkpList(ctx, &pvalue->sat_info_GLOkpList);
-   RT_CHECK(ctx, stat, 0, "sat-info-GLOkpList", -1, "ALM-GlonassAlmanacSet");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_Kp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_Kp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* svId */
-   stat = pd_ConsUInt8(ctx, &pvalue->svId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svId", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-alm-e */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->ganss_alm_e, 11, 11);
-   RT_CHECK(ctx, stat, 0, "ganss-alm-e", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-delta-I-alm */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->ganss_delta_I_alm, 11, 11);
-   RT_CHECK(ctx, stat, 0, "ganss-delta-I-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-omegadot-alm */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->ganss_omegadot_alm, 11, 11);
-   RT_CHECK(ctx, stat, 0, "ganss-omegadot-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-svhealth-alm */
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, &pvalue->ganss_svhealth_alm, 4, 4);
-   RT_CHECK(ctx, stat, 0, "ganss-svhealth-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-delta-a-sqrt-alm */
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pd_BitString32(ctx, &pvalue->ganss_delta_a_sqrt_alm, 17, 17);
-   RT_CHECK(ctx, stat, 0, "ganss-delta-a-sqrt-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-omegazero-alm */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->ganss_omegazero_alm, 16, 16);
-   RT_CHECK(ctx, stat, 0, "ganss-omegazero-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-m-zero-alm */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->ganss_m_zero_alm, 16, 16);
-   RT_CHECK(ctx, stat, 0, "ganss-m-zero-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-omega-alm */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->ganss_omega_alm, 16, 16);
-   RT_CHECK(ctx, stat, 0, "ganss-omega-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-af-zero-alm */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->ganss_af_zero_alm, 14, 14);
-   RT_CHECK(ctx, stat, 0, "ganss-af-zero-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-af-one-alm */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->ganss_af_one_alm, 11, 11);
-   RT_CHECK(ctx, stat, 0, "ganss-af-one-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_KpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_KpList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-KpList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSS_SAT_Info_Almanac_Kp* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_Kp));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GANSS-SAT-Info-Almanac-Kp", (int32_t)i, "GANSS-SAT-Info-Almanac-KpList");
-      elem = (GANSS_SAT_Info_Almanac_Kp*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_Kp(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-Kp", (int32_t)i, "GANSS-SAT-Info-Almanac-KpList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ALM_keplerianParameters(rtxContext* RT_RESTRICT ctx, ALM_keplerianParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* t-oa */
-   stat = pd_ConsUInt8(ctx, &pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat, 0, "t-oa", -1, "ALM-keplerianParameters");
-   /* iod-a */
-   stat = pd_ConsUInt8(ctx, &pvalue->iod_a, 0, 3);
-   RT_CHECK(ctx, stat, 0, "iod-a", -1, "ALM-keplerianParameters");
-   /* sat-info-kpList */
-   stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_KpList(ctx, &pvalue->sat_info_kpList);
-   RT_CHECK(ctx, stat, 0, "sat-info-kpList", -1, "ALM-keplerianParameters");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_MIDIkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_MIDIkp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* svID */
-   stat = pd_ConsUInt8(ctx, &pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmE */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmE, 11, 11);
-   RT_CHECK(ctx, stat, 0, "midiAlmE", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmDeltaI */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmDeltaI, 11, 11);
-   RT_CHECK(ctx, stat, 0, "midiAlmDeltaI", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmOmegaDot */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmOmegaDot, 11, 11);
-   RT_CHECK(ctx, stat, 0, "midiAlmOmegaDot", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmSqrtA */
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmSqrtA, 17, 17);
-   RT_CHECK(ctx, stat, 0, "midiAlmSqrtA", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmOmega0 */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmOmega0, 16, 16);
-   RT_CHECK(ctx, stat, 0, "midiAlmOmega0", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmOmega */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmOmega, 16, 16);
-   RT_CHECK(ctx, stat, 0, "midiAlmOmega", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmMo */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmMo, 16, 16);
-   RT_CHECK(ctx, stat, 0, "midiAlmMo", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmaf0 */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmaf0, 11, 11);
-   RT_CHECK(ctx, stat, 0, "midiAlmaf0", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmaf1 */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmaf1, 10, 10);
-   RT_CHECK(ctx, stat, 0, "midiAlmaf1", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmL1Health */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmL1Health, 1, 1);
-   RT_CHECK(ctx, stat, 0, "midiAlmL1Health", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmL2Health */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmL2Health, 1, 1);
-   RT_CHECK(ctx, stat, 0, "midiAlmL2Health", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmL5Health */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmL5Health, 1, 1);
-   RT_CHECK(ctx, stat, 0, "midiAlmL5Health", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_MIDIkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_MIDIkpList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-MIDIkpList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSS_SAT_Info_Almanac_MIDIkp* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_MIDIkp));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GANSS-SAT-Info-Almanac-MIDIkp", (int32_t)i, "GANSS-SAT-Info-Almanac-MIDIkpList");
-      elem = (GANSS_SAT_Info_Almanac_MIDIkp*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_MIDIkp(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-MIDIkp", (int32_t)i, "GANSS-SAT-Info-Almanac-MIDIkpList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ALM_MidiAlmanacSet(rtxContext* RT_RESTRICT ctx, ALM_MidiAlmanacSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* t-oa */
-   stat = pd_ConsUInt8(ctx, &pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat, 0, "t-oa", -1, "ALM-MidiAlmanacSet");
-   /* sat-info-MIDIkpList */
-   stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_MIDIkpList(ctx, &pvalue->sat_info_MIDIkpList);
-   RT_CHECK(ctx, stat, 0, "sat-info-MIDIkpList", -1, "ALM-MidiAlmanacSet");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_NAVkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_NAVkp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* svID */
-   stat = pd_ConsUInt8(ctx, &pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmE */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navAlmE, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navAlmE", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmDeltaI */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navAlmDeltaI, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navAlmDeltaI", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmOMEGADOT */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navAlmOMEGADOT, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navAlmOMEGADOT", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmSVHealth */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->navAlmSVHealth, 8, 8);
-   RT_CHECK(ctx, stat, 0, "navAlmSVHealth", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmSqrtA */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->navAlmSqrtA, 24, 24);
-   RT_CHECK(ctx, stat, 0, "navAlmSqrtA", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmOMEGAo */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->navAlmOMEGAo, 24, 24);
-   RT_CHECK(ctx, stat, 0, "navAlmOMEGAo", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmOmega */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->navAlmOmega, 24, 24);
-   RT_CHECK(ctx, stat, 0, "navAlmOmega", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmMo */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->navAlmMo, 24, 24);
-   RT_CHECK(ctx, stat, 0, "navAlmMo", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmaf0 */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->navAlmaf0, 11, 11);
-   RT_CHECK(ctx, stat, 0, "navAlmaf0", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmaf1 */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->navAlmaf1, 11, 11);
-   RT_CHECK(ctx, stat, 0, "navAlmaf1", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_NAVkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_NAVkpList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-NAVkpList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSS_SAT_Info_Almanac_NAVkp* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_NAVkp));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GANSS-SAT-Info-Almanac-NAVkp", (int32_t)i, "GANSS-SAT-Info-Almanac-NAVkpList");
-      elem = (GANSS_SAT_Info_Almanac_NAVkp*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_NAVkp(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-NAVkp", (int32_t)i, "GANSS-SAT-Info-Almanac-NAVkpList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ALM_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, ALM_NAVKeplerianSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* t-oa */
-   stat = pd_ConsUInt8(ctx, &pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat, 0, "t-oa", -1, "ALM-NAVKeplerianSet");
-   /* sat-info-NAVkpList */
-   stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_NAVkpList(ctx, &pvalue->sat_info_NAVkpList);
-   RT_CHECK(ctx, stat, 0, "sat-info-NAVkpList", -1, "ALM-NAVKeplerianSet");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_REDkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_REDkp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* svID */
-   stat = pd_ConsUInt8(ctx, &pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* redAlmDeltaA */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->redAlmDeltaA, 8, 8);
-   RT_CHECK(ctx, stat, 0, "redAlmDeltaA", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* redAlmOmega0 */
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pd_BitString32(ctx, &pvalue->redAlmOmega0, 7, 7);
-   RT_CHECK(ctx, stat, 0, "redAlmOmega0", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* redAlmPhi0 */
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pd_BitString32(ctx, &pvalue->redAlmPhi0, 7, 7);
-   RT_CHECK(ctx, stat, 0, "redAlmPhi0", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* redAlmL1Health */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->redAlmL1Health, 1, 1);
-   RT_CHECK(ctx, stat, 0, "redAlmL1Health", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* redAlmL2Health */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->redAlmL2Health, 1, 1);
-   RT_CHECK(ctx, stat, 0, "redAlmL2Health", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* redAlmL5Health */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->redAlmL5Health, 1, 1);
-   RT_CHECK(ctx, stat, 0, "redAlmL5Health", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_REDkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_REDkpList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-REDkpList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSS_SAT_Info_Almanac_REDkp* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_REDkp));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GANSS-SAT-Info-Almanac-REDkp", (int32_t)i, "GANSS-SAT-Info-Almanac-REDkpList");
-      elem = (GANSS_SAT_Info_Almanac_REDkp*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_REDkp(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-REDkp", (int32_t)i, "GANSS-SAT-Info-Almanac-REDkpList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ALM_ReducedKeplerianSet(rtxContext* RT_RESTRICT ctx, ALM_ReducedKeplerianSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* t-oa */
-   stat = pd_ConsUInt8(ctx, &pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat, 0, "t-oa", -1, "ALM-ReducedKeplerianSet");
-   /* sat-info-REDkpList */
-   stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_REDkpList(ctx, &pvalue->sat_info_REDkpList);
-   RT_CHECK(ctx, stat, 0, "sat-info-REDkpList", -1, "ALM-ReducedKeplerianSet");
-   return 0;
-}
-
-int asn1PD_UMTS_AuxInfoGANSS_ID1_element(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID1_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* svID */
-   stat = pd_ConsUInt8(ctx, &pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svID", -1, "AuxInfoGANSS-ID1-element");
-   /* signalsAvailable */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->signalsAvailable, 8, 8);
-   RT_CHECK(ctx, stat, 0, "signalsAvailable", -1, "AuxInfoGANSS-ID1-element");
-   return 0;
-}
-
-int asn1PD_UMTS_AuxInfoGANSS_ID1(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID1* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AuxInfoGANSS-ID1");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      AuxInfoGANSS_ID1_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AuxInfoGANSS_ID1_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "AuxInfoGANSS-ID1-element", (int32_t)i, "AuxInfoGANSS-ID1");
-      elem = (AuxInfoGANSS_ID1_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_AuxInfoGANSS_ID1_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "AuxInfoGANSS-ID1-element", (int32_t)i, "AuxInfoGANSS-ID1");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AuxInfoGANSS_ID3_element(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID3_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* svID */
-   stat = pd_ConsUInt8(ctx, &pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svID", -1, "AuxInfoGANSS-ID3-element");
-   /* signalsAvailable */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->signalsAvailable, 8, 8);
-   RT_CHECK(ctx, stat, 0, "signalsAvailable", -1, "AuxInfoGANSS-ID3-element");
-   /* channelNumber */
-   stat = pd_ConsInt8(ctx, &pvalue->channelNumber, -7, 13);
-   RT_CHECK(ctx, stat, 0, "channelNumber", -1, "AuxInfoGANSS-ID3-element");
-   return 0;
-}
-
-int asn1PD_UMTS_AuxInfoGANSS_ID3(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID3* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AuxInfoGANSS-ID3");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      AuxInfoGANSS_ID3_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AuxInfoGANSS_ID3_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "AuxInfoGANSS-ID3-element", (int32_t)i, "AuxInfoGANSS-ID3");
-      elem = (AuxInfoGANSS_ID3_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_AuxInfoGANSS_ID3_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "AuxInfoGANSS-ID3-element", (int32_t)i, "AuxInfoGANSS-ID3");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AverageRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, AverageRLC_BufferPayload* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AverageRLC-BufferPayload");
-   return 0;
-}
-
-int asn1PD_UMTS_BadSatList_element(rtxContext* RT_RESTRICT ctx, BadSatList_element* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_BadSatList(rtxContext* RT_RESTRICT ctx, BadSatList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
    {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "BadSatList");
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddStrParm(ctx, "BadSatList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "BadSatList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 63);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, 0, "element", (int32_t)i, "BadSatList");
-      }
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_TransportChannelBLER(rtxContext* RT_RESTRICT ctx, DL_TransportChannelBLER* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_CommonInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r7_mac_hsResetIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r7_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_postVerificationPeriod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TransportChannelBLER");
-   return 0;
-}
-
-int asn1PD_UMTS_BLER_MeasurementResults(rtxContext* RT_RESTRICT ctx, BLER_MeasurementResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BLER-MeasurementResults");
-   /* transportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "BLER-MeasurementResults");
-   /* dl-TransportChannelBLER */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_TransportChannelBLER, 0, 63);
-      RT_CHECK(ctx, stat, "DL-TransportChannelBLER", "dl-TransportChannelBLER", -1, "BLER-MeasurementResults");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_BLER_MeasurementResultsList(rtxContext* RT_RESTRICT ctx, BLER_MeasurementResultsList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BLER-MeasurementResultsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      BLER_MeasurementResults* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(BLER_MeasurementResults));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "BLER-MeasurementResults", (int32_t)i, "BLER-MeasurementResultsList");
-      elem = (BLER_MeasurementResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_BLER_MeasurementResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_BLER_MeasurementResults(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "BLER-MeasurementResults", (int32_t)i, "BLER-MeasurementResultsList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_BLER_TransChIdList(rtxContext* RT_RESTRICT ctx, BLER_TransChIdList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
    {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, "BLER-TransChIdList");
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "BLER-TransChIdList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "BLER-TransChIdList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "BLER-TransChIdList");
-      }
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_BSIC_VerificationRequired(rtxContext* RT_RESTRICT ctx, BSIC_VerificationRequired* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_CommonInformation_r7_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_postVerificationPeriod* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BSIC-VerificationRequired");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r7_postVerificationPeriod, pvalue);
 }
 
-int asn1PD_UMTS_BSICReported(rtxContext* RT_RESTRICT ctx, BSICReported* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BSICReported");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* verifiedBSIC */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.verifiedBSIC, 0, 32);
-         RT_CHECK(ctx, stat, 0, "verifiedBSIC", -1, "BSICReported");
-         break;
-      case 1: /* nonVerifiedBSIC */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.nonVerifiedBSIC, 0, 1023);
-         RT_CHECK(ctx, stat, "BCCH-ARFCN", "nonVerifiedBSIC", -1, "BSICReported");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "BSICReported");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_BurstModeParameters(rtxContext* RT_RESTRICT ctx, BurstModeParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* burstStart */
-   stat = pd_ConsUInt8(ctx, &pvalue->burstStart, 0, 15);
-   RT_CHECK(ctx, stat, 0, "burstStart", -1, "BurstModeParameters");
-   /* burstLength */
-   stat = pd_ConsUInt8(ctx, &pvalue->burstLength, 10, 25);
-   RT_CHECK(ctx, stat, 0, "burstLength", -1, "BurstModeParameters");
-   /* burstFreq */
-   stat = pd_ConsUInt8(ctx, &pvalue->burstFreq, 1, 16);
-   RT_CHECK(ctx, stat, 0, "burstFreq", -1, "BurstModeParameters");
-   return 0;
-}
-
-int asn1PD_UMTS_CellDCHMeasOccasionPattern_LCR_statusFlag(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionPattern_LCR_statusFlag* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementOccasionPatternParameter(rtxContext* RT_RESTRICT ctx, MeasurementOccasionPatternParameter* RT_RESTRICT pvalue)
+static int dec_DL_CommonInformation_r7(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementOccasionPatternParameter");
-   /* measurement-Occasion-Coeff */
-   stat = pd_ConsUInt8(ctx, &pvalue->measurement_Occasion_Coeff, 1, 9);
-   RT_CHECK(ctx, stat, 0, "measurement-Occasion-Coeff", -1, "MeasurementOccasionPatternParameter");
-   /* measurement-Occasion-Offset */
-   stat = pd_ConsUInt16(ctx, &pvalue->measurement_Occasion_Offset, 0, 511);
-   RT_CHECK(ctx, stat, 0, "measurement-Occasion-Offset", -1, "MeasurementOccasionPatternParameter");
-   /* measurement-Occasion-Length */
-   stat = pd_ConsUInt16(ctx, &pvalue->measurement_Occasion_Length, 1, 512);
-   RT_CHECK(ctx, stat, 0, "measurement-Occasion-Length", -1, "MeasurementOccasionPatternParameter");
-   /* timeslotBitmap */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformation-r7");
+   /* dl-dpchInfoCommon */
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 7, 7);
-      stat = pd_BitString32(ctx, &pvalue->timeslotBitmap, 7, 7);
-      RT_CHECK(ctx, stat, 0, "timeslotBitmap", -1, "MeasurementOccasionPatternParameter");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellDCHMeasOccasionPattern_LCR(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionPattern_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellDCHMeasOccasionPattern-LCR");
-   /* patternIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->patternIdentifier, 0, 4);
-   RT_CHECK(ctx, stat, 0, "patternIdentifier", -1, "CellDCHMeasOccasionPattern-LCR");
-   /* statusFlag */
-   stat = pd_ConsUnsigned(ctx, &pvalue->statusFlag, 0, 1);
-   RT_CHECK(ctx, stat, 0, "statusFlag", -1, "CellDCHMeasOccasionPattern-LCR");
-   /* measurementPurpose */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 5, 5);
-      stat = pd_BitString32(ctx, &pvalue->measurementPurpose, 5, 5);
-      RT_CHECK(ctx, stat, 0, "measurementPurpose", -1, "CellDCHMeasOccasionPattern-LCR");
-   }
-   /* measurementOccasionPatternParameter */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementOccasionPatternParameter(ctx, &pvalue->measurementOccasionPatternParameter);
-      RT_CHECK(ctx, stat, 0, "measurementOccasionPatternParameter", -1, "CellDCHMeasOccasionPattern-LCR");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellDCHMeasOccasionPattern_LCR* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellDCHMeasOccasionPattern_LCR));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellDCHMeasOccasionPattern-LCR", (int32_t)i, 0);
-      elem = (CellDCHMeasOccasionPattern_LCR*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellDCHMeasOccasionPattern_LCR(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellDCHMeasOccasionPattern_LCR(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellDCHMeasOccasionPattern-LCR", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionInfo_TDD128_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellDCHMeasOccasionSequenceList */
-   stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(ctx, &pvalue->cellDCHMeasOccasionSequenceList);
-   RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionSequenceList", -1, "CellDCHMeasOccasionInfo-TDD128-r9");
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   }
-   /* primaryCPICH-TX-Power */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   /* tx-DiversityIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo(rtxContext* RT_RESTRICT ctx, CellInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfo");
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo");
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfo");
+      stat = dec_DL_CommonInformation_r7_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r7");
    }
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfo");
+   stat = dec_DL_CommonInformation_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r7");
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r7");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   /* postVerificationPeriod */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r7");
+         pvalue->postVerificationPeriod = ui;
+      }
+   }
    return 0;
 }
 
-int asn1PD_UMTS_CellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_CommonInformation_r7(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_dl_dpchInfoCommon* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoCommon */
+         pvalue->u.dl_DPCH_InfoCommon = (DL_DPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6));
+         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-DPCH-InfoCommon", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r6(pvalue->u.dl_DPCH_InfoCommon);
+         stat = dec_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoCommon */
+         pvalue->u.dl_FDPCH_InfoCommon = (DL_FDPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoCommon_r6));
+         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoCommon_r6(pvalue->u.dl_FDPCH_InfoCommon);
+         stat = dec_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_dl_dpchInfoCommon* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r8_dl_dpchInfoCommon, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGP_Sequence_r8_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8_tgps_Status_activate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tgcfn */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgcfn, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_Sequence_r8_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8_tgps_Status_activate* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGP_Sequence_r8_tgps_Status_activate, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGP_Sequence_r8_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8_tgps_Status* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* activate */
+         pvalue->u.activate = (TGP_Sequence_r8_tgps_Status_activate*)rtxMemHeapAllocZ(ctx, sizeof(TGP_Sequence_r8_tgps_Status_activate));
+         if (pvalue->u.activate == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "activate", -1, 0);
+         stat = dec_TGP_Sequence_r8_tgps_Status_activate(ctx, pvalue->u.activate, cur);
+         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
+         break;
+      case 1: /* deactivate */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_Sequence_r8_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8_tgps_Status* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGP_Sequence_r8_tgps_Status, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGMP_r8(rtxContext* RT_RESTRICT ctx, TGMP_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGMP-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_TGMP_r8(rtxContext* RT_RESTRICT ctx, TGMP_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGMP_r8, pvalue);
+}
+
+static int dec_TGPS_ConfigurationParams_r8(rtxContext* RT_RESTRICT ctx, TGPS_ConfigurationParams_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 1)) {
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGPS-ConfigurationParams-r8");
+   /* tgmp */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tgmp, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "TGMP-r8", "tgmp", -1, "TGPS-ConfigurationParams-r8");
+   /* tgprc */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->tgprc, 0, 511);
+   RT_CHECK_AT(ctx, cur, stat, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams-r8");
+   /* tgsn */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgsn, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams-r8");
+   /* tgl1 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgl1, 1, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TGL", "tgl1", -1, "TGPS-ConfigurationParams-r8");
+   /* tgl2 */
+   if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgl2, 1, 14);
+      RT_CHECK_AT(ctx, cur, stat, "TGL", "tgl2", -1, "TGPS-ConfigurationParams-r8");
    }
-   /* primaryCPICH-TX-Power */
-   if (present & ((uint32_t)1 << 0)) {
+   /* tgd */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->tgd, 15, 270);
+   RT_CHECK_AT(ctx, cur, stat, "TGD", "tgd", -1, "TGPS-ConfigurationParams-r8");
+   /* tgpl1 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgpl1, 1, 144);
+   RT_CHECK_AT(ctx, cur, stat, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams-r8");
+   /* rpp */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rpp, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "RPP", "rpp", -1, "TGPS-ConfigurationParams-r8");
+   /* itp */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->itp, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ITP", "itp", -1, "TGPS-ConfigurationParams-r8");
+   /* ul-DL-Mode */
+   stat = dec_UL_DL_Mode(ctx, &pvalue->ul_DL_Mode, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DL-Mode", -1, "TGPS-ConfigurationParams-r8");
+   /* dl-FrameType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dl_FrameType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams-r8");
+   /* deltaSIR1 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaSIR1, 0, 30);
+   RT_CHECK_AT(ctx, cur, stat, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams-r8");
+   /* deltaSIRAfter1 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaSIRAfter1, 0, 30);
+   RT_CHECK_AT(ctx, cur, stat, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams-r8");
+   /* deltaSIR2 */
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaSIR2, 0, 30);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams-r8");
    }
-   /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   /* tx-DiversityIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   /* deltaSIRAfter2 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaSIRAfter2, 0, 30);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams-r8");
+   }
+   /* nidentifyAbort */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->nidentifyAbort, 1, 128);
+      RT_CHECK_AT(ctx, cur, stat, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams-r8");
+   }
+   /* treconfirmAbort */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->treconfirmAbort, 1, 20);
+      RT_CHECK_AT(ctx, cur, stat, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams-r8");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_TimeslotInfoList_r4_tdd384(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_r4_tdd384* RT_RESTRICT pvalue)
+int asn1PD_UMTS_TGPS_ConfigurationParams_r8(rtxContext* RT_RESTRICT ctx, TGPS_ConfigurationParams_r8* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TimeslotInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TimeslotInfo", (int32_t)i, 0);
-      elem = (TimeslotInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TimeslotInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "TimeslotInfo", (int32_t)i, 0);
+   RT_DECODE_ENTRY(ctx, dec_TGPS_ConfigurationParams_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGP_Sequence_r8(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGP-Sequence-r8");
+   /* tgpsi */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgpsi, 1, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TGPSI", "tgpsi", -1, "TGP-Sequence-r8");
+   /* tgps-Status */
+   stat = dec_TGP_Sequence_r8_tgps_Status(ctx, &pvalue->tgps_Status, cur);
+   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-Sequence-r8");
+   /* tgps-ConfigurationParams */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TGPS_ConfigurationParams_r8(ctx, &pvalue->tgps_ConfigurationParams, cur);
+      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "TGP-Sequence-r8");
    }
    return 0;
 }
 
-int asn1PD_UMTS_TimeslotInfoList_r4_tdd128(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_r4_tdd128* RT_RESTRICT pvalue)
+int asn1PD_UMTS_TGP_Sequence_r8(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGP_Sequence_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGP_SequenceList_r8(rtxContext* RT_RESTRICT ctx, TGP_SequenceList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 6);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGP-SequenceList-r8");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      TimeslotInfo_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TimeslotInfo-LCR-r4", (int32_t)i, 0);
-      elem = (TimeslotInfo_LCR_r4*)(node + 1);
+      TGP_Sequence_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TGP_Sequence_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TGP-Sequence-r8", (int32_t)i, "TGP-SequenceList-r8");
+      elem = (TGP_Sequence_r8*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_TGP_Sequence_r8(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TimeslotInfo_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "TimeslotInfo-LCR-r4", (int32_t)i, 0);
+      stat = dec_TGP_Sequence_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "TGP-Sequence-r8", (int32_t)i, "TGP-SequenceList-r8");
    }
    return 0;
 }
 
-int asn1PD_UMTS_TimeslotInfoList_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_TGP_SequenceList_r8(rtxContext* RT_RESTRICT ctx, TGP_SequenceList_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGP_SequenceList_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_DPCH_CompressedModeInfo_r8(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeInfo_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tgp-SequenceList */
+   stat = dec_TGP_SequenceList_r8(ctx, &pvalue->tgp_SequenceList, cur);
+   RT_CHECK(ctx, stat, 0, "tgp-SequenceList", -1, "DPCH-CompressedModeInfo-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_DPCH_CompressedModeInfo_r8(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeInfo_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DPCH_CompressedModeInfo_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK_AT(ctx, cur, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DPCH_CompressedModeInfo_r8(ctx, &pvalue->dpch_CompressedModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r8_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tstd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotInfoList-r4");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* tdd384 */
-         pvalue->u.tdd384 = (TimeslotInfoList_r4_tdd384*)rtxMemHeapAlloc(ctx, sizeof(TimeslotInfoList_r4_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, "TimeslotInfoList-r4");
-         asn1Init_UMTS_TimeslotInfoList_r4_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_TimeslotInfoList_r4_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, "TimeslotInfoList-r4");
          break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (TimeslotInfoList_r4_tdd128*)rtxMemHeapAlloc(ctx, sizeof(TimeslotInfoList_r4_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, "TimeslotInfoList-r4");
-         asn1Init_UMTS_TimeslotInfoList_r4_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_TimeslotInfoList_r4_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, "TimeslotInfoList-r4");
+      case 1: /* tdd768 */
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = dec_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TimeslotInfoList-r4");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   /* timeslotInfoList */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = dec_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TimeslotInfoList_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
    }
-   /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r8_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (CellInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellInfo_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (DL_CommonInformation_r8_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r8_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r8_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_CommonInformation_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (CellInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellInfo_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (DL_CommonInformation_r8_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r8_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_CommonInformation_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellInfo_r4(rtxContext* RT_RESTRICT ctx, CellInfo_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfo-r4");
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 1)) {
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo-r4");
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfo-r4");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfo-r4");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r8_modeSpecificInfo, pvalue);
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-QualMin */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
-   }
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_mac_hsResetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 2: /* gsm */
-         pvalue->u.gsm = (CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         asn1Init_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoMC-RSCP");
-   /* q-OffsetS-N */
-   if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsInt8(ctx, &pvalue->q_OffsetS_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoMC-RSCP");
-   }
-   else {
-      pvalue->q_OffsetS_N = 0;
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoMC-RSCP");
-   }
-   /* hcs-NeighbouringCellInformation-RSCP */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
-      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoMC-RSCP");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoMC-RSCP");
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_LCR_r8_ext(rtxContext* RT_RESTRICT ctx, CellInfo_LCR_r8_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfo-LCR-r8-ext");
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoMC_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfo-LCR-r8-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfo_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   }
-   /* primaryCPICH-TX-Power */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   /* tx-DiversityIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfo_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCCPCH-Info */
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TimeslotInfoList_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfo_r9_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellInfo_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_r9_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellInfo_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellInfo_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellInfo_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_r9_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellInfo_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellInfo_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_r9(rtxContext* RT_RESTRICT ctx, CellInfo_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfo-r9");
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 2)) {
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo-r9");
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfo-r9");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellInfo_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfo-r9");
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoMC_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfo-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_SFN_ObsTimeDifference1(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference1* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt32(ctx, pvalue, 0, 16777215);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-SFN-ObsTimeDifference1");
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_SFN_ObsTimeDifference2(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference2* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 65535);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-SFN-ObsTimeDifference2");
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_SFN_ObsTimeDifference(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-SFN-ObsTimeDifference");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* type1 */
-         stat = pd_ConsUInt32(ctx, &pvalue->u.type1, 0, 16777215);
-         RT_CHECK(ctx, stat, "SFN-SFN-ObsTimeDifference1", "type1", -1, "SFN-SFN-ObsTimeDifference");
-         break;
-      case 1: /* type2 */
-         stat = pd_ConsUInt16(ctx, &pvalue->u.type2, 0, 65535);
-         RT_CHECK(ctx, stat, "SFN-SFN-ObsTimeDifference2", "type2", -1, "SFN-SFN-ObsTimeDifference");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SFN-SFN-ObsTimeDifference");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CountC_SFN_Frame_difference(rtxContext* RT_RESTRICT ctx, CountC_SFN_Frame_difference* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* countC-SFN-High */
-   stat = pd_ConsUInt8(ctx, &pvalue->countC_SFN_High, 0, 15);
-   RT_CHECK(ctx, stat, 0, "countC-SFN-High", -1, "CountC-SFN-Frame-difference");
-   /* off */
-   stat = pd_ConsUInt8(ctx, &pvalue->off, 0, 255);
-   RT_CHECK(ctx, stat, 0, "off", -1, "CountC-SFN-Frame-difference");
-   return 0;
-}
-
-int asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* countC-SFN-Frame-difference */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CountC_SFN_Frame_difference(ctx, &pvalue->countC_SFN_Frame_difference);
-      RT_CHECK(ctx, stat, 0, "countC-SFN-Frame-difference", -1, 0);
-   }
-   /* tm */
-   stat = pd_ConsUInt16(ctx, &pvalue->tm, 0, 38399);
-   RT_CHECK(ctx, stat, 0, "tm", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* countC-SFN-Frame-difference */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CountC_SFN_Frame_difference(ctx, &pvalue->countC_SFN_Frame_difference);
-      RT_CHECK(ctx, stat, 0, "countC-SFN-Frame-difference", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellSynchronisationInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSynchronisationInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellSynchronisationInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSynchronisationInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSynchronisationInfo(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSynchronisationInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_CPICH_Ec_N0(rtxContext* RT_RESTRICT ctx, CPICH_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPICH-Ec-N0");
-   return 0;
-}
-
-int asn1PD_UMTS_CPICH_RSCP(rtxContext* RT_RESTRICT ctx, CPICH_RSCP* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPICH-RSCP");
-   return 0;
-}
-
-int asn1PD_UMTS_Pathloss(rtxContext* RT_RESTRICT ctx, Pathloss* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 46, 173);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Pathloss");
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* cpich-Ec-N0 */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cpich_Ec_N0, 0, 63);
-      RT_CHECK(ctx, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
-   }
-   /* cpich-RSCP */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cpich_RSCP, 0, 127);
-      RT_CHECK(ctx, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
-   }
-   /* pathloss */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_RSCP(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_RSCP* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCCPCH-RSCP");
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotISCP(rtxContext* RT_RESTRICT ctx, TimeslotISCP* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotISCP");
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotISCP_List(rtxContext* RT_RESTRICT ctx, TimeslotISCP_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
    {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotISCP-List");
-      pvalue->n = raw + 1;
-      if (raw > 13) {
-         rtxErrAddStrParm(ctx, "TimeslotISCP-List");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotISCP-List");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TimeslotISCP", "TimeslotISCP", (int32_t)i, "TimeslotISCP-List");
-      }
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_CommonInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_mac_hsResetIndicator* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellParametersID */
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
-   /* proposedTGSN */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->proposedTGSN, 0, 14);
-      RT_CHECK(ctx, stat, "TGSN", "proposedTGSN", -1, 0);
-   }
-   /* primaryCCPCH-RSCP */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
-   }
-   /* pathloss */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
-   }
-   /* timeslotISCP-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP_List);
-      RT_CHECK(ctx, stat, 0, "timeslotISCP-List", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r8_mac_hsResetIndicator, pvalue);
 }
 
-int asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_CommonInformation_r8_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_postVerificationPeriod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellMeasuredResults_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasuredResults_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (CellMeasuredResults_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasuredResults_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellMeasuredResults(rtxContext* RT_RESTRICT ctx, CellMeasuredResults* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_CommonInformation_r8_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_postVerificationPeriod* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r8_postVerificationPeriod, pvalue);
+}
+
+static int dec_DL_CommonInformation_r8(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellMeasuredResults");
-   /* cellIdentity */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformation-r8");
+   /* dl-dpchInfoCommon */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cellIdentity);
-      RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "CellMeasuredResults");
+      stat = dec_DL_CommonInformation_r8_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r8");
    }
+   /* modeSpecificInfo */
+   stat = dec_DL_CommonInformation_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r8");
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r8");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r8");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   /* postVerificationPeriod */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r8");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r8");
+         pvalue->postVerificationPeriod = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformation_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoCommonPost(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPost* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-DPCH-InfoCommonPost");
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, "DL-DPCH-InfoCommonPost");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommonPost(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPost* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoCommonPost, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_CommonInformationPost(rtxContext* RT_RESTRICT ctx, DL_CommonInformationPost* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-DPCH-InfoCommon */
+   stat = dec_DL_DPCH_InfoCommonPost(ctx, &pvalue->dl_DPCH_InfoCommon, cur);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformationPost");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformationPost(rtxContext* RT_RESTRICT ctx, DL_CommonInformationPost* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_CommonInformationPost, pvalue);
+}
+
+RT_MERGED_BODY int dec_SSDT_CellIdentity(rtxContext* RT_RESTRICT ctx, SSDT_CellIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SSDT-CellIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_SSDT_CellIdentity(rtxContext* RT_RESTRICT ctx, SSDT_CellIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SSDT_CellIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK_AT(ctx, cur, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = dec_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
    /* dummy */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SFN_SFN_ObsTimeDifference(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellMeasuredResults");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dummy, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "SSDT-CellIdentity", "dummy", -1, 0);
    }
-   /* cellSynchronisationInfo */
+   /* closedLoopTimingAdjMode */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellSynchronisationInfo(ctx, &pvalue->cellSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "cellSynchronisationInfo", -1, "CellMeasuredResults");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
    }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellMeasuredResults");
    return 0;
 }
 
-int asn1PD_UMTS_DeltaRSCPPerCell(rtxContext* RT_RESTRICT ctx, DeltaRSCPPerCell* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaRSCPPerCell");
-   /* deltaRSCP */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->deltaRSCP, -5, -1);
-      RT_CHECK(ctx, stat, "DeltaRSCP", "deltaRSCP", -1, "DeltaRSCPPerCell");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* cpich-Ec-N0 */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cpich_Ec_N0, 0, 63);
-      RT_CHECK(ctx, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
-   }
-   /* cpich-RSCP */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cpich_RSCP, 0, 127);
-      RT_CHECK(ctx, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
-   }
-   /* deltaRSCPPerCell */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DeltaRSCPPerCell(ctx, &pvalue->deltaRSCPPerCell);
-      RT_CHECK(ctx, stat, 0, "deltaRSCPPerCell", -1, 0);
-   }
-   /* pathloss */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellParametersID */
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
-   /* proposedTGSN */
-   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->proposedTGSN, 0, 14);
-      RT_CHECK(ctx, stat, "TGSN", "proposedTGSN", -1, 0);
+      stat = dec_DL_CCTrChList(ctx, &pvalue->dl_CCTrChListToEstablish, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
    }
-   /* primaryCCPCH-RSCP */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
-   }
-   /* pathloss */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
-   }
-   /* timeslotISCP-List */
+   /* dl-CCTrChListToRemove */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP_List);
-      RT_CHECK(ctx, stat, 0, "timeslotISCP-List", -1, 0);
+      pvalue->m |= 0x2u;
+      stat = dec_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_tdd, pvalue);
+}
+
+static int dec_DL_DPCH_InfoPerRL(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-DPCH-InfoPerRL");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (CellMeasuredResults_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasuredResults_r9_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (DL_DPCH_InfoPerRL_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_fdd(pvalue->u.fdd);
+         stat = dec_DL_DPCH_InfoPerRL_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoPerRL_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_tdd(pvalue->u.tdd);
+         stat = dec_DL_DPCH_InfoPerRL_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r4_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK_AT(ctx, cur, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = dec_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dummy, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "SSDT-CellIdentity", "dummy", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r4_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_r4_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r4_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r4_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_r4_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-DPCH-InfoPerRL-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoPerRL_r4_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r4_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r4");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r4_fdd(pvalue->u.fdd);
+         stat = dec_DL_DPCH_InfoPerRL_r4_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r4");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoPerRL_r4_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r4_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r4");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r4_tdd(pvalue->u.tdd);
+         stat = dec_DL_DPCH_InfoPerRL_r4_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PowerOffsetTPC_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetTPC_pdpdch* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PowerOffsetTPC-pdpdch");
+   return 0;
+}
+
+int asn1PD_UMTS_PowerOffsetTPC_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetTPC_pdpdch* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PowerOffsetTPC_pdpdch, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r5_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK_AT(ctx, cur, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = dec_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* powerOffsetTPC-pdpdch */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerOffsetTPC_pdpdch, 0, 24);
+      RT_CHECK_AT(ctx, cur, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dummy, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "SSDT-CellIdentity", "dummy", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r5_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_r5_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r5_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r5_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_r5_tdd, pvalue);
+}
+
+static int dec_DL_DPCH_InfoPerRL_r5(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-DPCH-InfoPerRL-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoPerRL_r5_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r5");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5_fdd(pvalue->u.fdd);
+         stat = dec_DL_DPCH_InfoPerRL_r5_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r5");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoPerRL_r5_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r5");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5_tdd(pvalue->u.tdd);
+         stat = dec_DL_DPCH_InfoPerRL_r5_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r5");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r5(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r6_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK_AT(ctx, cur, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = dec_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* powerOffsetTPC-pdpdch */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerOffsetTPC_pdpdch, 0, 24);
+      RT_CHECK_AT(ctx, cur, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r6_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_r6_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r6_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r6_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_r6_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-DPCH-InfoPerRL-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoPerRL_r6_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r6_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r6");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r6_fdd(pvalue->u.fdd);
+         stat = dec_DL_DPCH_InfoPerRL_r6_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r6");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoPerRL_r6_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r6_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r6");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r6_tdd(pvalue->u.tdd);
+         stat = dec_DL_DPCH_InfoPerRL_r6_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r6");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r7_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK_AT(ctx, cur, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = dec_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* powerOffsetTPC-pdpdch */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerOffsetTPC_pdpdch, 0, 24);
+      RT_CHECK_AT(ctx, cur, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r7_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_r7_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_r7_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_CCTrChList_r7(ctx, &pvalue->dl_CCTrChListToEstablish, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r7_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_r7_tdd, pvalue);
+}
+
+static int dec_DL_DPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-DPCH-InfoPerRL-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoPerRL_r7_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r7_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r7");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r7_fdd(pvalue->u.fdd);
+         stat = dec_DL_DPCH_InfoPerRL_r7_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r7");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoPerRL_r7_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r7_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r7");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r7_tdd(pvalue->u.tdd);
+         stat = dec_DL_DPCH_InfoPerRL_r7_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_FDPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoPerRL_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-FDPCH-InfoPerRL-r6");
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r6");
+   /* fdpch-FrameOffset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->fdpch_FrameOffset, 0, 149);
+   RT_CHECK_AT(ctx, cur, stat, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r6");
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, "DL-FDPCH-InfoPerRL-r6");
+   }
+   /* secondaryScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r6");
+   }
+   /* dl-ChannelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_ChannelisationCode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dl-ChannelisationCode", -1, "DL-FDPCH-InfoPerRL-r6");
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_FDPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoPerRL_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_FDPCH_InfoPerRL_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-DPCH-InfoPerRL-PostFDD");
+   /* dl-ChannelisationCode */
+   stat = dec_DL_ChannelisationCode(ctx, &pvalue->dl_ChannelisationCode, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCode", -1, "DL-DPCH-InfoPerRL-PostFDD");
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-DPCH-InfoPerRL-PostFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_PostFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-DPCH-TimeslotsCodes */
+   stat = dec_DownlinkTimeslotsCodes(ctx, &pvalue->dl_DPCH_TimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-TimeslotsCodes", -1, "DL-DPCH-InfoPerRL-PostTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_PostTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dl-CCTrCH-TimeslotsCodes */
+   stat = dec_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, "DL-DPCH-InfoPerRL-PostTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_DPCH_InfoPerRL_PostTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 127);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = dec_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r6_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD384_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD384_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD384_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_SCCH_TDD384_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = dec_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK_AT(ctx, cur, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD128_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD128_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_SCCH_TDD128_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* power-level-HSSICH */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK_AT(ctx, cur, stat, 0, "power-level-HSSICH", -1, 0);
+   /* tpc-step-size */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tpc_step_size, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tpc-step-size", -1, 0);
+   /* bler-target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->bler_target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HS_SCCH_Info_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r6_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_HS_SCCH_Info_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (CellMeasuredResults_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasuredResults_r9_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (HS_SCCH_Info_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r6_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_HS_SCCH_Info_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellMeasuredResults_r9(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r6_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_HS_SCCH_Info_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellMeasuredResults-r9");
-   /* cellIdentity */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128, cur);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = dec_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd */
+         pvalue->u.tdd = (DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 1: /* fdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r6_modeSpecificInfo, pvalue);
+}
+
+static int dec_DL_HSPDSCH_Information_r6(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-Information-r6");
+   /* hs-scch-Info */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cellIdentity);
-      RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "CellMeasuredResults-r9");
+      stat = dec_HS_SCCH_Info_r6(ctx, &pvalue->hs_scch_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r6");
    }
-   /* cellSynchronisationInfo */
+   /* measurement-feedback-Info */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellSynchronisationInfo(ctx, &pvalue->cellSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "cellSynchronisationInfo", -1, "CellMeasuredResults-r9");
+      stat = dec_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r6");
    }
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellMeasuredResults-r9");
+   stat = dec_DL_HSPDSCH_Information_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r6");
    return 0;
 }
 
-int asn1PD_UMTS_CellMeasuredResults_v920ext_csgMemberIndication(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_v920ext_csgMemberIndication* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r6(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r6, pvalue);
 }
 
-int asn1PD_UMTS_CellMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_v920ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellMeasuredResults-v920ext");
-   /* csgIdentity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CSG_Identity(ctx, &pvalue->csgIdentity);
-      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "CellMeasuredResults-v920ext");
-   }
-   /* csgMemberIndication */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* outofSyncWindow */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "csgMemberIndication", -1, "CellMeasuredResults-v920ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "csgMemberIndication", -1, "CellMeasuredResults-v920ext");
-         pvalue->csgMemberIndication = ui;
-      }
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->outofSyncWindow, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "OutofSyncWindow", "outofSyncWindow", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellMeasurementEventResults_fdd(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCPICH_Info* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
-      elem = (PrimaryCPICH_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128, pvalue);
 }
 
-int asn1PD_UMTS_CellMeasurementEventResults_tdd(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCCPCH_Info* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCCPCH_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PrimaryCCPCH-Info", (int32_t)i, 0);
-      elem = (PrimaryCCPCH_Info*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PrimaryCCPCH_Info(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PrimaryCCPCH-Info", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasurementEventResults(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellMeasurementEventResults");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd768 */
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd */
+         pvalue->u.tdd = (DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 1: /* fdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_ext(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r8-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hS-SCCH-tpc-step-size */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->hS_SCCH_tpc_step_size, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, 0, "hS-SCCH-tpc-step-size", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd768 */
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (CellMeasurementEventResults_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasurementEventResults_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "CellMeasurementEventResults");
-         asn1Init_UMTS_CellMeasurementEventResults_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellMeasurementEventResults_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "CellMeasurementEventResults");
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (CellMeasurementEventResults_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasurementEventResults_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "CellMeasurementEventResults");
-         asn1Init_UMTS_CellMeasurementEventResults_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellMeasurementEventResults_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "CellMeasurementEventResults");
+         pvalue->u.tdd = (HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellMeasurementEventResults");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResultsOnSecUlFreq_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r8_ext_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Info_r8_ext(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_HS_SCCH_Info_r8_ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r8-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r8_ext(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Info_r8_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_HSPDSCH_Information_r8_ext2(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-Information-r8-ext2");
+   /* hs-scch-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HS_SCCH_Info_r8_ext(ctx, &pvalue->hs_scch_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r8-ext2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_HSPDSCH_Information_r8_ext2, pvalue);
+}
+
+RT_MERGED_BODY int dec_DSCH_RadioLinkIdentifier(rtxContext* RT_RESTRICT ctx, DSCH_RadioLinkIdentifier* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 511);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DSCH-RadioLinkIdentifier");
+   return 0;
+}
+
+int asn1PD_UMTS_DSCH_RadioLinkIdentifier(rtxContext* RT_RESTRICT ctx, DSCH_RadioLinkIdentifier* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DSCH_RadioLinkIdentifier, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_IdentifierList(rtxContext* RT_RESTRICT ctx, RL_IdentifierList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-IdentifierList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PrimaryCPICH_Info* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-IdentifierList");
       elem = (PrimaryCPICH_Info*)(node + 1);
       node->data = elem;
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
+      stat = dec_PrimaryCPICH_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-IdentifierList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellMeasurementEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResultsOnSecUlFreq* RT_RESTRICT pvalue)
+int asn1PD_UMTS_RL_IdentifierList(rtxContext* RT_RESTRICT ctx, RL_IdentifierList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_IdentifierList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_SHO_DCH_Info(rtxContext* RT_RESTRICT ctx, PDSCH_SHO_DCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-SHO-DCH-Info");
+   /* dsch-RadioLinkIdentifier */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->dsch_RadioLinkIdentifier, 0, 511);
+   RT_CHECK_AT(ctx, cur, stat, "DSCH-RadioLinkIdentifier", "dsch-RadioLinkIdentifier", -1, "PDSCH-SHO-DCH-Info");
+   /* rl-IdentifierList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RL_IdentifierList(ctx, &pvalue->rl_IdentifierList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-IdentifierList", -1, "PDSCH-SHO-DCH-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_SHO_DCH_Info(rtxContext* RT_RESTRICT ctx, PDSCH_SHO_DCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SHO_DCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_MaxTFCI_Field2Value(rtxContext* RT_RESTRICT ctx, MaxTFCI_Field2Value* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 1, 1023);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MaxTFCI-Field2Value");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxTFCI_Field2Value(rtxContext* RT_RESTRICT ctx, MaxTFCI_Field2Value* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MaxTFCI_Field2Value, pvalue);
+}
+
+RT_MERGED_BODY int dec_DSCH_Mapping(rtxContext* RT_RESTRICT ctx, DSCH_Mapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* maxTFCI-Field2Value */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->maxTFCI_Field2Value, 1, 1023);
+   RT_CHECK_AT(ctx, cur, stat, "MaxTFCI-Field2Value", "maxTFCI-Field2Value", -1, "DSCH-Mapping");
+   /* spreadingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "SF-PDSCH", "spreadingFactor", -1, "DSCH-Mapping");
+   /* codeNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->codeNumber, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "CodeNumberDSCH", "codeNumber", -1, "DSCH-Mapping");
+   /* multiCodeInfo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, "MultiCodeInfo", "multiCodeInfo", -1, "DSCH-Mapping");
+   return 0;
+}
+
+int asn1PD_UMTS_DSCH_Mapping(rtxContext* RT_RESTRICT ctx, DSCH_Mapping* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DSCH_Mapping, pvalue);
+}
+
+RT_MERGED_BODY int dec_DSCH_MappingList(rtxContext* RT_RESTRICT ctx, DSCH_MappingList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 256);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DSCH-MappingList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DSCH_Mapping* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DSCH_Mapping));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DSCH-Mapping", (int32_t)i, "DSCH-MappingList");
+      elem = (DSCH_Mapping*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DSCH_Mapping(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DSCH-Mapping", (int32_t)i, "DSCH-MappingList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DSCH_MappingList(rtxContext* RT_RESTRICT ctx, DSCH_MappingList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DSCH_MappingList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, PDSCH_CodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* spreadingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeInfo");
+   /* codeNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->codeNumber, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "CodeNumberDSCH", "codeNumber", -1, "PDSCH-CodeInfo");
+   /* multiCodeInfo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, PDSCH_CodeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, PDSCH_CodeInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-CodeInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PDSCH_CodeInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_CodeInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PDSCH-CodeInfo", (int32_t)i, "PDSCH-CodeInfoList");
+      elem = (PDSCH_CodeInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PDSCH_CodeInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PDSCH-CodeInfo", (int32_t)i, "PDSCH-CodeInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, PDSCH_CodeInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CodeInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReplacedPDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, ReplacedPDSCH_CodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tfci-Field2 */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->tfci_Field2, 1, 1023);
+   RT_CHECK_AT(ctx, cur, stat, "MaxTFCI-Field2Value", "tfci-Field2", -1, "ReplacedPDSCH-CodeInfo");
+   /* spreadingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "SF-PDSCH", "spreadingFactor", -1, "ReplacedPDSCH-CodeInfo");
+   /* codeNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->codeNumber, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "CodeNumberDSCH", "codeNumber", -1, "ReplacedPDSCH-CodeInfo");
+   /* multiCodeInfo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, "MultiCodeInfo", "multiCodeInfo", -1, "ReplacedPDSCH-CodeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_ReplacedPDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, ReplacedPDSCH_CodeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReplacedPDSCH_CodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReplacedPDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, ReplacedPDSCH_CodeInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReplacedPDSCH-CodeInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      ReplacedPDSCH_CodeInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ReplacedPDSCH_CodeInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ReplacedPDSCH-CodeInfo", (int32_t)i, "ReplacedPDSCH-CodeInfoList");
+      elem = (ReplacedPDSCH_CodeInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_ReplacedPDSCH_CodeInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "ReplacedPDSCH-CodeInfo", (int32_t)i, "ReplacedPDSCH-CodeInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ReplacedPDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, ReplacedPDSCH_CodeInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReplacedPDSCH_CodeInfoList, pvalue);
+}
+
+static int dec_PDSCH_CodeMapping_signallingMethod(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapping_signallingMethod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellMeasurementEventResultsOnSecUlFreq");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellMeasurementEventResultsOnSecUlFreq_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasurementEventResultsOnSecUlFreq_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "CellMeasurementEventResultsOnSecUlFreq");
-         asn1Init_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "CellMeasurementEventResultsOnSecUlFreq");
+      case 0: /* codeRange */
+         pvalue->u.codeRange = (CodeRange*)rtxMemHeapAlloc(ctx, sizeof(CodeRange));
+         if (pvalue->u.codeRange == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "codeRange", -1, 0);
+         asn1Init_UMTS_CodeRange(pvalue->u.codeRange);
+         stat = dec_CodeRange(ctx, pvalue->u.codeRange, cur);
+         RT_CHECK(ctx, stat, 0, "codeRange", -1, 0);
          break;
-      case 1: /* spare */
+      case 1: /* tfci-Range */
+         pvalue->u.tfci_Range = (DSCH_MappingList*)rtxMemHeapAlloc(ctx, sizeof(DSCH_MappingList));
+         if (pvalue->u.tfci_Range == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tfci-Range", -1, 0);
+         asn1Init_UMTS_DSCH_MappingList(pvalue->u.tfci_Range);
+         stat = dec_DSCH_MappingList(ctx, pvalue->u.tfci_Range, cur);
+         RT_CHECK(ctx, stat, 0, "tfci-Range", -1, 0);
+         break;
+      case 2: /* explicit-config */
+         pvalue->u.explicit_config = (PDSCH_CodeInfoList*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CodeInfoList));
+         if (pvalue->u.explicit_config == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_PDSCH_CodeInfoList(pvalue->u.explicit_config);
+         stat = dec_PDSCH_CodeInfoList(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 3: /* replace */
+         pvalue->u.replace = (ReplacedPDSCH_CodeInfoList*)rtxMemHeapAlloc(ctx, sizeof(ReplacedPDSCH_CodeInfoList));
+         if (pvalue->u.replace == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "replace", -1, 0);
+         asn1Init_UMTS_ReplacedPDSCH_CodeInfoList(pvalue->u.replace);
+         stat = dec_ReplacedPDSCH_CodeInfoList(ctx, pvalue->u.replace, cur);
+         RT_CHECK(ctx, stat, 0, "replace", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellMeasurementEventResultsOnSecUlFreq");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellMeasurementEventResults_LCR_r4(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults_LCR_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PDSCH_CodeMapping_signallingMethod(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapping_signallingMethod* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellMeasurementEventResults-LCR-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCCPCH_Info_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCCPCH_Info_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PrimaryCCPCH-Info-LCR-r4", (int32_t)i, "CellMeasurementEventResults-LCR-r4");
-      elem = (PrimaryCCPCH_Info_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PrimaryCCPCH_Info_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PrimaryCCPCH-Info-LCR-r4", (int32_t)i, "CellMeasurementEventResults-LCR-r4");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CodeMapping_signallingMethod, pvalue);
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoPCHFACH_v5b0ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PDSCH_CodeMapping(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapping* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   /* q-Hyst-l-S-PCH */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->q_Hyst_l_S_PCH, 0, 40);
-      RT_CHECK(ctx, stat, "Q-Hyst-S-Fine", "q-Hyst-l-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   }
-   /* q-Hyst-l-S-FACH */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->q_Hyst_l_S_FACH, 0, 40);
-      RT_CHECK(ctx, stat, "Q-Hyst-S-Fine", "q-Hyst-l-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   }
-   /* q-Hyst-2-S-PCH */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->q_Hyst_2_S_PCH, 0, 40);
-      RT_CHECK(ctx, stat, "Q-Hyst-S-Fine", "q-Hyst-2-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   }
-   /* q-Hyst-2-S-FACH */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->q_Hyst_2_S_FACH, 0, 40);
-      RT_CHECK(ctx, stat, "Q-Hyst-S-Fine", "q-Hyst-2-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   }
-   /* t-Reselection-S-PCH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->t_Reselection_S_PCH, 0, 31);
-      RT_CHECK(ctx, stat, "T-Reselection-S", "t-Reselection-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   }
-   /* t-Reselection-S-FACH */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-CodeMapping");
+   /* dl-ScramblingCode */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->t_Reselection_S_FACH, 0, 31);
-      RT_CHECK(ctx, stat, "T-Reselection-S-Fine", "t-Reselection-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "PDSCH-CodeMapping");
    }
+   /* signallingMethod */
+   stat = dec_PDSCH_CodeMapping_signallingMethod(ctx, &pvalue->signallingMethod, cur);
+   RT_CHECK(ctx, stat, 0, "signallingMethod", -1, "PDSCH-CodeMapping");
    return 0;
 }
 
-int asn1PD_UMTS_CellsForInterFreqMeasList(rtxContext* RT_RESTRICT ctx, CellsForInterFreqMeasList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PDSCH_CodeMapping(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapping* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CellsForInterFreqMeasList");
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "CellsForInterFreqMeasList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellsForInterFreqMeasList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "CellsForInterFreqMeasList");
-      }
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CodeMapping, pvalue);
 }
 
-int asn1PD_UMTS_CellsForIntraFreqMeasList(rtxContext* RT_RESTRICT ctx, CellsForIntraFreqMeasList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CellsForIntraFreqMeasList");
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "CellsForIntraFreqMeasList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellsForIntraFreqMeasList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, "CellsForIntraFreqMeasList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellIDOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellIDOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellIDOnSecULFreq");
-   return 0;
-}
-
-int asn1PD_UMTS_CellsForIntraFreqMeasListOnSecULFreq(rtxContext* RT_RESTRICT ctx, CellsForIntraFreqMeasListOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CellsForIntraFreqMeasListOnSecULFreq");
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "CellsForIntraFreqMeasListOnSecULFreq");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellsForIntraFreqMeasListOnSecULFreq");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "IntraFreqCellIDOnSecULFreq", "IntraFreqCellIDOnSecULFreq", (int32_t)i, "CellsForIntraFreqMeasListOnSecULFreq");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellToReport(rtxContext* RT_RESTRICT ctx, CellToReport* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* bsicReported */
-   stat = asn1PD_UMTS_BSICReported(ctx, &pvalue->bsicReported);
-   RT_CHECK(ctx, stat, 0, "bsicReported", -1, "CellToReport");
-   return 0;
-}
-
-int asn1PD_UMTS_CellToReportList(rtxContext* RT_RESTRICT ctx, CellToReportList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellToReportList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellToReport* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellToReport));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellToReport", (int32_t)i, "CellToReportList");
-      elem = (CellToReport*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellToReport(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellToReport(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellToReport", (int32_t)i, "CellToReportList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CNAVclockModel(rtxContext* RT_RESTRICT ctx, CNAVclockModel* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_InformationPerRL_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CNAVclockModel");
-   /* cnavToc */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->cnavToc, 11, 11);
-   RT_CHECK(ctx, stat, 0, "cnavToc", -1, "CNAVclockModel");
-   /* cnavTop */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->cnavTop, 11, 11);
-   RT_CHECK(ctx, stat, 0, "cnavTop", -1, "CNAVclockModel");
-   /* cnavURA0 */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->cnavURA0, 5, 5);
-   RT_CHECK(ctx, stat, 0, "cnavURA0", -1, "CNAVclockModel");
-   /* cnavURA1 */
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, &pvalue->cnavURA1, 3, 3);
-   RT_CHECK(ctx, stat, 0, "cnavURA1", -1, "CNAVclockModel");
-   /* cnavURA2 */
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, &pvalue->cnavURA2, 3, 3);
-   RT_CHECK(ctx, stat, 0, "cnavURA2", -1, "CNAVclockModel");
-   /* cnavAf2 */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->cnavAf2, 10, 10);
-   RT_CHECK(ctx, stat, 0, "cnavAf2", -1, "CNAVclockModel");
-   /* cnavAf1 */
-   RT_SET_SIZE(ctx, 20, 20);
-   stat = pd_BitString32(ctx, &pvalue->cnavAf1, 20, 20);
-   RT_CHECK(ctx, stat, 0, "cnavAf1", -1, "CNAVclockModel");
-   /* cnavAf0 */
-   RT_SET_SIZE(ctx, 26, 26);
-   stat = pd_BitString32(ctx, &pvalue->cnavAf0, 26, 26);
-   RT_CHECK(ctx, stat, 0, "cnavAf0", -1, "CNAVclockModel");
-   /* cnavTgd */
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pd_BitString32(ctx, &pvalue->cnavTgd, 13, 13);
-   RT_CHECK(ctx, stat, 0, "cnavTgd", -1, "CNAVclockModel");
-   /* cnavISCl1cp */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->cnavISCl1cp, 13, 13);
-      RT_CHECK(ctx, stat, 0, "cnavISCl1cp", -1, "CNAVclockModel");
-   }
-   /* cnavISCl1cd */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->cnavISCl1cd, 13, 13);
-      RT_CHECK(ctx, stat, 0, "cnavISCl1cd", -1, "CNAVclockModel");
-   }
-   /* cnavISCl1ca */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->cnavISCl1ca, 13, 13);
-      RT_CHECK(ctx, stat, 0, "cnavISCl1ca", -1, "CNAVclockModel");
-   }
-   /* cnavISCl2c */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->cnavISCl2c, 13, 13);
-      RT_CHECK(ctx, stat, 0, "cnavISCl2c", -1, "CNAVclockModel");
-   }
-   /* cnavISCl5i5 */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dummy1 */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->cnavISCl5i5, 13, 13);
-      RT_CHECK(ctx, stat, 0, "cnavISCl5i5", -1, "CNAVclockModel");
+      pvalue->m |= 0x1u;
+      stat = dec_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1, cur);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
    }
-   /* cnavISCl5q5 */
+   /* dummy2 */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->cnavISCl5q5, 13, 13);
-      RT_CHECK(ctx, stat, 0, "cnavISCl5q5", -1, "CNAVclockModel");
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_CodeMapping(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CSGCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CSGCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* startPSC */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->startPSC);
-   RT_CHECK(ctx, stat, 0, "startPSC", -1, 0);
-   /* numberOfPSCs */
-   stat = pd_ConsUInt16(ctx, &pvalue->numberOfPSCs, 1, 512);
-   RT_CHECK(ctx, stat, 0, "numberOfPSCs", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_modeSpecificInfo_fdd, pvalue);
 }
 
-int asn1PD_UMTS_CSGCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CSGCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_InformationPerRL_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (CSGCellInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(CSGCellInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_CSGCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (DL_InformationPerRL_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_InformationPerRL_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info(pvalue->u.tdd);
+         stat = dec_PrimaryCCPCH_Info(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CSGCellInfo(rtxContext* RT_RESTRICT ctx, CSGCellInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_InformationPerRL_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_CSGCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CSGCellInfo");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_modeSpecificInfo, pvalue);
 }
 
-int asn1PD_UMTS_CSGCellInfoList(rtxContext* RT_RESTRICT ctx, CSGCellInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSGCellInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CSGCellInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CSGCellInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CSGCellInfo", (int32_t)i, "CSGCellInfoList");
-      elem = (CSGCellInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CSGCellInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CSGCellInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CSGCellInfo", (int32_t)i, "CSGCellInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSGInterFreqCellInfo(rtxContext* RT_RESTRICT ctx, CSGInterFreqCellInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CSGInterFreqCellInfo");
-   /* cSGInterFreqCellInfoListperFreq */
-   stat = asn1PD_UMTS_CSGCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoListperFreq);
-   RT_CHECK(ctx, stat, 0, "cSGInterFreqCellInfoListperFreq", -1, "CSGInterFreqCellInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_CSGInterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, CSGInterFreqCellInfoList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SIB_ReferenceListFACH(rtxContext* RT_RESTRICT ctx, SIB_ReferenceListFACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSGInterFreqCellInfoList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIB-ReferenceListFACH");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      CSGInterFreqCellInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CSGInterFreqCellInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CSGInterFreqCellInfo", (int32_t)i, "CSGInterFreqCellInfoList");
-      elem = (CSGInterFreqCellInfo*)(node + 1);
+      SchedulingInformationSIB* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SchedulingInformationSIB));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceListFACH");
+      elem = (SchedulingInformationSIB*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_CSGInterFreqCellInfo(elem);
+      asn1Init_UMTS_SchedulingInformationSIB(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CSGInterFreqCellInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CSGInterFreqCellInfo", (int32_t)i, "CSGInterFreqCellInfoList");
+      stat = dec_SchedulingInformationSIB(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceListFACH");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CSGIntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, CSGIntraFreqCellInfoList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SIB_ReferenceListFACH(rtxContext* RT_RESTRICT ctx, SIB_ReferenceListFACH* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = asn1PD_UMTS_CSGCellInfoList(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSGIntraFreqCellInfoList");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SIB_ReferenceListFACH, pvalue);
 }
 
-int asn1PD_UMTS_CSGProximityDetection_uTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_uTRACSGProximityDetec* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSGProximityDetection_e_UTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_e_UTRACSGProximityDetec* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSGProximityDetection(rtxContext* RT_RESTRICT ctx, CSGProximityDetection* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSGProximityDetection");
-   /* uTRACSGProximityDetec */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "uTRACSGProximityDetec", -1, "CSGProximityDetection");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "uTRACSGProximityDetec", -1, "CSGProximityDetection");
-         pvalue->uTRACSGProximityDetec = ui;
-      }
-   }
-   /* e-UTRACSGProximityDetec */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "e-UTRACSGProximityDetec", -1, "CSGProximityDetection");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "e-UTRACSGProximityDetec", -1, "CSGProximityDetection");
-         pvalue->e_UTRACSGProximityDetec = ui;
-      }
-   }
+   /* fach-PCH-InformationList */
+   stat = dec_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList, cur);
+   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, 0);
+   /* sib-ReferenceListFACH */
+   stat = dec_SIB_ReferenceListFACH(ctx, &pvalue->sib_ReferenceListFACH, cur);
+   RT_CHECK(ctx, stat, 0, "sib-ReferenceListFACH", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CSGProximityIndication_cSGproximityInd(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_cSGproximityInd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_InfoForFACH_modeSpecificInfo_fdd, pvalue);
 }
 
-int asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_radioAccessTechnology_uTRA* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* cSGFrequencyInfoUTRA */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->cSGFrequencyInfoUTRA);
-   RT_CHECK(ctx, stat, 0, "cSGFrequencyInfoUTRA", -1, 0);
+   /* fach-PCH-InformationList */
+   stat = dec_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList, cur);
+   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology_e_UTRA(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_radioAccessTechnology_e_UTRA* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* cSGFrequencyInfoEUTRA */
-   stat = pd_ConsUInt16(ctx, &pvalue->cSGFrequencyInfoEUTRA, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "cSGFrequencyInfoEUTRA", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_InfoForFACH_modeSpecificInfo_tdd, pvalue);
 }
 
-int asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_radioAccessTechnology* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SCCPCH_InfoForFACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* uTRA */
-         pvalue->u.uTRA = (CSGProximityIndication_radioAccessTechnology_uTRA*)rtxMemHeapAlloc(ctx, sizeof(CSGProximityIndication_radioAccessTechnology_uTRA));
-         if (pvalue->u.uTRA == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "uTRA", -1, 0);
-         asn1Init_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(pvalue->u.uTRA);
-         stat = asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(ctx, pvalue->u.uTRA);
-         RT_CHECK(ctx, stat, 0, "uTRA", -1, 0);
-         break;
-      case 1: /* e-UTRA */
-         pvalue->u.e_UTRA = (CSGProximityIndication_radioAccessTechnology_e_UTRA*)rtxMemHeapAllocZ(ctx, sizeof(CSGProximityIndication_radioAccessTechnology_e_UTRA));
-         if (pvalue->u.e_UTRA == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-UTRA", -1, 0);
-         stat = asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology_e_UTRA(ctx, pvalue->u.e_UTRA);
-         RT_CHECK(ctx, stat, 0, "e-UTRA", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSGProximityIndication(rtxContext* RT_RESTRICT ctx, CSGProximityIndication* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cSGproximityInd */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cSGproximityInd, 0, 1);
-   RT_CHECK(ctx, stat, 0, "cSGproximityInd", -1, "CSGProximityIndication");
-   /* radioAccessTechnology */
-   stat = asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology);
-   RT_CHECK(ctx, stat, 0, "radioAccessTechnology", -1, "CSGProximityIndication");
-   return 0;
-}
-
-int asn1PD_UMTS_DataBitAssistance_data_bits(rtxContext* RT_RESTRICT ctx, DataBitAssistance_data_bits* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DataBitAssistance(rtxContext* RT_RESTRICT ctx, DataBitAssistance* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ganss-signal-id */
-   stat = pd_ConsUInt8(ctx, &pvalue->ganss_signal_id, 0, 7);
-   RT_CHECK(ctx, stat, "GANSS-Signal-Id", "ganss-signal-id", -1, "DataBitAssistance");
-   /* data-bits */
-   stat = asn1PD_UMTS_DataBitAssistance_data_bits(ctx, &pvalue->data_bits);
-   RT_CHECK(ctx, stat, 0, "data-bits", -1, "DataBitAssistance");
-   return 0;
-}
-
-int asn1PD_UMTS_DataBitAssistanceSgnList(rtxContext* RT_RESTRICT ctx, DataBitAssistanceSgnList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DataBitAssistanceSgnList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DataBitAssistance* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DataBitAssistance));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DataBitAssistance", (int32_t)i, "DataBitAssistanceSgnList");
-      elem = (DataBitAssistance*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DataBitAssistance(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DataBitAssistance(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DataBitAssistance", (int32_t)i, "DataBitAssistanceSgnList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DataBitAssistanceSat(rtxContext* RT_RESTRICT ctx, DataBitAssistanceSat* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* satID */
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satID", -1, "DataBitAssistanceSat");
-   /* dataBitAssistanceSgnList */
-   stat = asn1PD_UMTS_DataBitAssistanceSgnList(ctx, &pvalue->dataBitAssistanceSgnList);
-   RT_CHECK(ctx, stat, 0, "dataBitAssistanceSgnList", -1, "DataBitAssistanceSat");
-   return 0;
-}
-
-int asn1PD_UMTS_DataBitAssistanceList(rtxContext* RT_RESTRICT ctx, DataBitAssistanceList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DataBitAssistanceList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DataBitAssistanceSat* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DataBitAssistanceSat));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DataBitAssistanceSat", (int32_t)i, "DataBitAssistanceList");
-      elem = (DataBitAssistanceSat*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DataBitAssistanceSat(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DataBitAssistanceSat(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DataBitAssistanceSat", (int32_t)i, "DataBitAssistanceList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaPRC(rtxContext* RT_RESTRICT ctx, DeltaPRC* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -127, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaPRC");
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaRRC(rtxContext* RT_RESTRICT ctx, DeltaRRC* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -7, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaRRC");
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaUT1(rtxContext* RT_RESTRICT ctx, DeltaUT1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* b1 */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->b1, 11, 11);
-   RT_CHECK(ctx, stat, 0, "b1", -1, "DeltaUT1");
-   /* b2 */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->b2, 10, 10);
-   RT_CHECK(ctx, stat, 0, "b2", -1, "DeltaUT1");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_Status_Health(rtxContext* RT_RESTRICT ctx, GANSS_Status_Health* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-Status-Health");
-   return 0;
-}
-
-int asn1PD_UMTS_UDRE(rtxContext* RT_RESTRICT ctx, UDRE* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UDRE");
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSSignalInformation(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* satId */
-   stat = pd_ConsUInt8(ctx, &pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satId", -1, "DGANSSSignalInformation");
-   /* iode-dganss */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->iode_dganss, 10, 10);
-   RT_CHECK(ctx, stat, 0, "iode-dganss", -1, "DGANSSSignalInformation");
-   /* udre */
-   stat = pd_ConsUnsigned(ctx, &pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat, "UDRE", "udre", -1, "DGANSSSignalInformation");
-   /* ganss-prc */
-   stat = pd_ConsInt16(ctx, &pvalue->ganss_prc, -2047, 2047);
-   RT_CHECK(ctx, stat, 0, "ganss-prc", -1, "DGANSSSignalInformation");
-   /* ganss-rrc */
-   stat = pd_ConsInt8(ctx, &pvalue->ganss_rrc, -127, 127);
-   RT_CHECK(ctx, stat, 0, "ganss-rrc", -1, "DGANSSSignalInformation");
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSSignalInformationList(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformationList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSSignalInformationList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGANSSSignalInformation* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSSignalInformation));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DGANSSSignalInformation", (int32_t)i, "DGANSSSignalInformationList");
-      elem = (DGANSSSignalInformation*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGANSSSignalInformation(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DGANSSSignalInformation", (int32_t)i, "DGANSSSignalInformationList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSInfo(rtxContext* RT_RESTRICT ctx, DGANSSInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSInfo");
-   /* ganssSignalId */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "DGANSSInfo");
-   }
-   /* ganssStatusHealth */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ganssStatusHealth, 0, 7);
-   RT_CHECK(ctx, stat, "GANSS-Status-Health", "ganssStatusHealth", -1, "DGANSSInfo");
-   /* dgansssignalInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DGANSSSignalInformationList(ctx, &pvalue->dgansssignalInformationList);
-      RT_CHECK(ctx, stat, 0, "dgansssignalInformationList", -1, "DGANSSInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UDREGrowthRate(rtxContext* RT_RESTRICT ctx, UDREGrowthRate* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UDREGrowthRate");
-   return 0;
-}
-
-int asn1PD_UMTS_UDREValidityTime(rtxContext* RT_RESTRICT ctx, UDREValidityTime* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UDREValidityTime");
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSSignalInformation_r9(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformation_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSSignalInformation-r9");
-   /* satId */
-   stat = pd_ConsUInt8(ctx, &pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satId", -1, "DGANSSSignalInformation-r9");
-   /* iode-dganss */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->iode_dganss, 10, 10);
-   RT_CHECK(ctx, stat, 0, "iode-dganss", -1, "DGANSSSignalInformation-r9");
-   /* udre */
-   stat = pd_ConsUnsigned(ctx, &pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat, "UDRE", "udre", -1, "DGANSSSignalInformation-r9");
-   /* ganss-prc */
-   stat = pd_ConsInt16(ctx, &pvalue->ganss_prc, -2047, 2047);
-   RT_CHECK(ctx, stat, 0, "ganss-prc", -1, "DGANSSSignalInformation-r9");
-   /* ganss-rrc */
-   stat = pd_ConsInt8(ctx, &pvalue->ganss_rrc, -127, 127);
-   RT_CHECK(ctx, stat, 0, "ganss-rrc", -1, "DGANSSSignalInformation-r9");
-   /* udreGrowthRate */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGANSSSignalInformation-r9");
-   }
-   /* udreValidityTime */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat, "UDREValidityTime", "udreValidityTime", -1, "DGANSSSignalInformation-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSSignalInformationList_r9(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformationList_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSSignalInformationList-r9");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGANSSSignalInformation_r9* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSSignalInformation_r9));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DGANSSSignalInformation-r9", (int32_t)i, "DGANSSSignalInformationList-r9");
-      elem = (DGANSSSignalInformation_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGANSSSignalInformation_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGANSSSignalInformation_r9(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DGANSSSignalInformation-r9", (int32_t)i, "DGANSSSignalInformationList-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSInfo_r9(rtxContext* RT_RESTRICT ctx, DGANSSInfo_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSInfo-r9");
-   /* ganssSignalId */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "DGANSSInfo-r9");
-   }
-   /* ganssStatusHealth */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ganssStatusHealth, 0, 7);
-   RT_CHECK(ctx, stat, "GANSS-Status-Health", "ganssStatusHealth", -1, "DGANSSInfo-r9");
-   /* dgansssignalInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DGANSSSignalInformationList_r9(ctx, &pvalue->dgansssignalInformationList);
-      RT_CHECK(ctx, stat, 0, "dgansssignalInformationList", -1, "DGANSSInfo-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSSignalInformation_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformation_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSSignalInformation-v920ext");
-   /* udreGrowthRate */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGANSSSignalInformation-v920ext");
-   }
-   /* udreValidityTime */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat, "UDREValidityTime", "udreValidityTime", -1, "DGANSSSignalInformation-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSSignalInformationList_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformationList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSSignalInformationList-v920ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGANSSSignalInformation_v920ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSSignalInformation_v920ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DGANSSSignalInformation-v920ext", (int32_t)i, "DGANSSSignalInformationList-v920ext");
-      elem = (DGANSSSignalInformation_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGANSSSignalInformation_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGANSSSignalInformation_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DGANSSSignalInformation-v920ext", (int32_t)i, "DGANSSSignalInformationList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSInfo_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSInfo_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSInfo-v920ext");
-   /* dgansssignalInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DGANSSSignalInformationList_v920ext(ctx, &pvalue->dgansssignalInformationList);
-      RT_CHECK(ctx, stat, 0, "dgansssignalInformationList", -1, "DGANSSInfo-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSInfoList(rtxContext* RT_RESTRICT ctx, DGANSSInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGANSSInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DGANSSInfo", (int32_t)i, "DGANSSInfoList");
-      elem = (DGANSSInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGANSSInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGANSSInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DGANSSInfo", (int32_t)i, "DGANSSInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSInfoList_r9(rtxContext* RT_RESTRICT ctx, DGANSSInfoList_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSInfoList-r9");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGANSSInfo_r9* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSInfo_r9));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DGANSSInfo-r9", (int32_t)i, "DGANSSInfoList-r9");
-      elem = (DGANSSInfo_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGANSSInfo_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGANSSInfo_r9(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DGANSSInfo-r9", (int32_t)i, "DGANSSInfoList-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSInfoList_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSInfoList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSInfoList-v920ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGANSSInfo_v920ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSInfo_v920ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DGANSSInfo-v920ext", (int32_t)i, "DGANSSInfoList-v920ext");
-      elem = (DGANSSInfo_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGANSSInfo_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGANSSInfo_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DGANSSInfo-v920ext", (int32_t)i, "DGANSSInfoList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSS_Sig_Id_Req(rtxContext* RT_RESTRICT ctx, DGANSS_Sig_Id_Req* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSS-Sig-Id-Req");
-   return 0;
-}
-
-int asn1PD_UMTS_IODE(rtxContext* RT_RESTRICT ctx, IODE* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IODE");
-   return 0;
-}
-
-int asn1PD_UMTS_PRC(rtxContext* RT_RESTRICT ctx, PRC* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt16(ctx, pvalue, -2047, 2047);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRC");
-   return 0;
-}
-
-int asn1PD_UMTS_RRC(rtxContext* RT_RESTRICT ctx, RRC* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -127, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRC");
-   return 0;
-}
-
-int asn1PD_UMTS_DGPS_CorrectionSatInfo(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGPS-CorrectionSatInfo");
-   /* satID */
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "DGPS-CorrectionSatInfo");
-   /* iode */
-   stat = pd_ConsUInt8(ctx, &pvalue->iode, 0, 255);
-   RT_CHECK(ctx, stat, "IODE", "iode", -1, "DGPS-CorrectionSatInfo");
-   /* udre */
-   stat = pd_ConsUnsigned(ctx, &pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat, "UDRE", "udre", -1, "DGPS-CorrectionSatInfo");
-   /* prc */
-   stat = pd_ConsInt16(ctx, &pvalue->prc, -2047, 2047);
-   RT_CHECK(ctx, stat, "PRC", "prc", -1, "DGPS-CorrectionSatInfo");
-   /* rrc */
-   stat = pd_ConsInt8(ctx, &pvalue->rrc, -127, 127);
-   RT_CHECK(ctx, stat, "RRC", "rrc", -1, "DGPS-CorrectionSatInfo");
-   /* dummy1 */
-   stat = pd_ConsInt8(ctx, &pvalue->dummy1, -127, 127);
-   RT_CHECK(ctx, stat, "DeltaPRC", "dummy1", -1, "DGPS-CorrectionSatInfo");
-   /* dummy2 */
-   stat = pd_ConsInt8(ctx, &pvalue->dummy2, -7, 7);
-   RT_CHECK(ctx, stat, "DeltaRRC", "dummy2", -1, "DGPS-CorrectionSatInfo");
-   /* dummy3 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->dummy3, -127, 127);
-      RT_CHECK(ctx, stat, "DeltaPRC", "dummy3", -1, "DGPS-CorrectionSatInfo");
-   }
-   /* dummy4 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->dummy4, -7, 7);
-      RT_CHECK(ctx, stat, "DeltaRRC", "dummy4", -1, "DGPS-CorrectionSatInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGPS_CorrectionSatInfo_r9(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfo_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGPS-CorrectionSatInfo-r9");
-   /* satID */
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "DGPS-CorrectionSatInfo-r9");
-   /* iode */
-   stat = pd_ConsUInt8(ctx, &pvalue->iode, 0, 255);
-   RT_CHECK(ctx, stat, "IODE", "iode", -1, "DGPS-CorrectionSatInfo-r9");
-   /* udre */
-   stat = pd_ConsUnsigned(ctx, &pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat, "UDRE", "udre", -1, "DGPS-CorrectionSatInfo-r9");
-   /* prc */
-   stat = pd_ConsInt16(ctx, &pvalue->prc, -2047, 2047);
-   RT_CHECK(ctx, stat, "PRC", "prc", -1, "DGPS-CorrectionSatInfo-r9");
-   /* rrc */
-   stat = pd_ConsInt8(ctx, &pvalue->rrc, -127, 127);
-   RT_CHECK(ctx, stat, "RRC", "rrc", -1, "DGPS-CorrectionSatInfo-r9");
-   /* udreGrowthRate */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGPS-CorrectionSatInfo-r9");
-   }
-   /* udreValidityTime */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat, "UDREValidityTime", "udreValidityTime", -1, "DGPS-CorrectionSatInfo-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGPS_CorrectionSatInfo_v920ext(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfo_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGPS-CorrectionSatInfo-v920ext");
-   /* udreGrowthRate */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGPS-CorrectionSatInfo-v920ext");
-   }
-   /* udreValidityTime */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat, "UDREValidityTime", "udreValidityTime", -1, "DGPS-CorrectionSatInfo-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGPS_CorrectionSatInfoList(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGPS-CorrectionSatInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGPS_CorrectionSatInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGPS_CorrectionSatInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DGPS-CorrectionSatInfo", (int32_t)i, "DGPS-CorrectionSatInfoList");
-      elem = (DGPS_CorrectionSatInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGPS_CorrectionSatInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGPS_CorrectionSatInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DGPS-CorrectionSatInfo", (int32_t)i, "DGPS-CorrectionSatInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGPS_CorrectionSatInfoList_r9(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfoList_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGPS-CorrectionSatInfoList-r9");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGPS_CorrectionSatInfo_r9* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGPS_CorrectionSatInfo_r9));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DGPS-CorrectionSatInfo-r9", (int32_t)i, "DGPS-CorrectionSatInfoList-r9");
-      elem = (DGPS_CorrectionSatInfo_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGPS_CorrectionSatInfo_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGPS_CorrectionSatInfo_r9(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DGPS-CorrectionSatInfo-r9", (int32_t)i, "DGPS-CorrectionSatInfoList-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DGPS_CorrectionSatInfoList_v920ext(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfoList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGPS-CorrectionSatInfoList-v920ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGPS_CorrectionSatInfo_v920ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGPS_CorrectionSatInfo_v920ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DGPS-CorrectionSatInfo-v920ext", (int32_t)i, "DGPS-CorrectionSatInfoList-v920ext");
-      elem = (DGPS_CorrectionSatInfo_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGPS_CorrectionSatInfo_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGPS_CorrectionSatInfo_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DGPS-CorrectionSatInfo-v920ext", (int32_t)i, "DGPS-CorrectionSatInfoList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DiffCorrectionStatus(rtxContext* RT_RESTRICT ctx, DiffCorrectionStatus* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DiffCorrectionStatus");
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPoint_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPoint_latitudeSign* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPoint(rtxContext* RT_RESTRICT ctx, EllipsoidPoint* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* latitudeSign */
-   stat = pd_ConsUnsigned(ctx, &pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat, 0, "latitudeSign", -1, "EllipsoidPoint");
-   /* latitude */
-   stat = pd_ConsUInt32(ctx, &pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat, 0, "latitude", -1, "EllipsoidPoint");
-   /* longitude */
-   stat = pd_ConsInteger(ctx, &pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat, 0, "longitude", -1, "EllipsoidPoint");
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointAltitude_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_latitudeSign* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointAltitude_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_altitudeDirection* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointAltitude(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* latitudeSign */
-   stat = pd_ConsUnsigned(ctx, &pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat, 0, "latitudeSign", -1, "EllipsoidPointAltitude");
-   /* latitude */
-   stat = pd_ConsUInt32(ctx, &pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat, 0, "latitude", -1, "EllipsoidPointAltitude");
-   /* longitude */
-   stat = pd_ConsInteger(ctx, &pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat, 0, "longitude", -1, "EllipsoidPointAltitude");
-   /* altitudeDirection */
-   stat = pd_ConsUnsigned(ctx, &pvalue->altitudeDirection, 0, 1);
-   RT_CHECK(ctx, stat, 0, "altitudeDirection", -1, "EllipsoidPointAltitude");
-   /* altitude */
-   stat = pd_ConsUInt16(ctx, &pvalue->altitude, 0, 32767);
-   RT_CHECK(ctx, stat, 0, "altitude", -1, "EllipsoidPointAltitude");
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_latitudeSign* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_altitudeDirection* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* latitudeSign */
-   stat = pd_ConsUnsigned(ctx, &pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat, 0, "latitudeSign", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* latitude */
-   stat = pd_ConsUInt32(ctx, &pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat, 0, "latitude", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* longitude */
-   stat = pd_ConsInteger(ctx, &pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat, 0, "longitude", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* altitudeDirection */
-   stat = pd_ConsUnsigned(ctx, &pvalue->altitudeDirection, 0, 1);
-   RT_CHECK(ctx, stat, 0, "altitudeDirection", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* altitude */
-   stat = pd_ConsUInt16(ctx, &pvalue->altitude, 0, 32767);
-   RT_CHECK(ctx, stat, 0, "altitude", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* uncertaintySemiMajor */
-   stat = pd_ConsUInt8(ctx, &pvalue->uncertaintySemiMajor, 0, 127);
-   RT_CHECK(ctx, stat, 0, "uncertaintySemiMajor", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* uncertaintySemiMinor */
-   stat = pd_ConsUInt8(ctx, &pvalue->uncertaintySemiMinor, 0, 127);
-   RT_CHECK(ctx, stat, 0, "uncertaintySemiMinor", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* orientationMajorAxis */
-   stat = pd_ConsUInt8(ctx, &pvalue->orientationMajorAxis, 0, 89);
-   RT_CHECK(ctx, stat, 0, "orientationMajorAxis", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* uncertaintyAltitude */
-   stat = pd_ConsUInt8(ctx, &pvalue->uncertaintyAltitude, 0, 127);
-   RT_CHECK(ctx, stat, 0, "uncertaintyAltitude", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* confidence */
-   stat = pd_ConsUInt8(ctx, &pvalue->confidence, 0, 100);
-   RT_CHECK(ctx, stat, 0, "confidence", -1, "EllipsoidPointAltitudeEllipsoide");
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointUncertCircle_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertCircle_latitudeSign* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointUncertCircle(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertCircle* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* latitudeSign */
-   stat = pd_ConsUnsigned(ctx, &pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat, 0, "latitudeSign", -1, "EllipsoidPointUncertCircle");
-   /* latitude */
-   stat = pd_ConsUInt32(ctx, &pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat, 0, "latitude", -1, "EllipsoidPointUncertCircle");
-   /* longitude */
-   stat = pd_ConsInteger(ctx, &pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat, 0, "longitude", -1, "EllipsoidPointUncertCircle");
-   /* uncertaintyCode */
-   stat = pd_ConsUInt8(ctx, &pvalue->uncertaintyCode, 0, 127);
-   RT_CHECK(ctx, stat, 0, "uncertaintyCode", -1, "EllipsoidPointUncertCircle");
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointUncertEllipse_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertEllipse_latitudeSign* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointUncertEllipse(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertEllipse* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* latitudeSign */
-   stat = pd_ConsUnsigned(ctx, &pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat, 0, "latitudeSign", -1, "EllipsoidPointUncertEllipse");
-   /* latitude */
-   stat = pd_ConsUInt32(ctx, &pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat, 0, "latitude", -1, "EllipsoidPointUncertEllipse");
-   /* longitude */
-   stat = pd_ConsInteger(ctx, &pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat, 0, "longitude", -1, "EllipsoidPointUncertEllipse");
-   /* uncertaintySemiMajor */
-   stat = pd_ConsUInt8(ctx, &pvalue->uncertaintySemiMajor, 0, 127);
-   RT_CHECK(ctx, stat, 0, "uncertaintySemiMajor", -1, "EllipsoidPointUncertEllipse");
-   /* uncertaintySemiMinor */
-   stat = pd_ConsUInt8(ctx, &pvalue->uncertaintySemiMinor, 0, 127);
-   RT_CHECK(ctx, stat, 0, "uncertaintySemiMinor", -1, "EllipsoidPointUncertEllipse");
-   /* orientationMajorAxis */
-   stat = pd_ConsUInt8(ctx, &pvalue->orientationMajorAxis, 0, 89);
-   RT_CHECK(ctx, stat, 0, "orientationMajorAxis", -1, "EllipsoidPointUncertEllipse");
-   /* confidence */
-   stat = pd_ConsUInt8(ctx, &pvalue->confidence, 0, 100);
-   RT_CHECK(ctx, stat, 0, "confidence", -1, "EllipsoidPointUncertEllipse");
-   return 0;
-}
-
-int asn1PD_UMTS_EnvironmentCharacterisation(rtxContext* RT_RESTRICT ctx, EnvironmentCharacterisation* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EnvironmentCharacterisation");
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_EventResult_reportedCells(rtxContext* RT_RESTRICT ctx, Eutra_EventResult_reportedCells* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "reportedCells");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 503);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "EUTRA-PhysicalCellIdentity", "EUTRA-PhysicalCellIdentity", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_EventResult(rtxContext* RT_RESTRICT ctx, Eutra_EventResult* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* earfcn */
-   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "Eutra-EventResult");
-   /* reportedCells */
-   stat = asn1PD_UMTS_Eutra_EventResult_reportedCells(ctx, &pvalue->reportedCells);
-   RT_CHECK(ctx, stat, 0, "reportedCells", -1, "Eutra-EventResult");
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_EventResultList(rtxContext* RT_RESTRICT ctx, Eutra_EventResultList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Eutra-EventResultList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Eutra_EventResult* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Eutra_EventResult));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Eutra-EventResult", (int32_t)i, "Eutra-EventResultList");
-      elem = (Eutra_EventResult*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Eutra_EventResult(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Eutra_EventResult(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Eutra-EventResult", (int32_t)i, "Eutra-EventResultList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EventIDInterRAT(rtxContext* RT_RESTRICT ctx, EventIDInterRAT* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EventIDInterRAT");
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_EventResults(rtxContext* RT_RESTRICT ctx, EUTRA_EventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* eventID */
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 3);
-   RT_CHECK(ctx, stat, "EventIDInterRAT", "eventID", -1, "EUTRA-EventResults");
-   /* eutra-EventResultsList */
-   stat = asn1PD_UMTS_Eutra_EventResultList(ctx, &pvalue->eutra_EventResultsList);
-   RT_CHECK(ctx, stat, 0, "eutra-EventResultsList", -1, "EUTRA-EventResults");
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_MeasurementBandwidth(rtxContext* RT_RESTRICT ctx, EUTRA_MeasurementBandwidth* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-MeasurementBandwidth");
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfo(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* earfcn */
-   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* measurementBandwidth */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->measurementBandwidth, 0, 5);
-      RT_CHECK(ctx, stat, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyAndPriorityInfo");
-   }
-   /* priority */
-   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat, 0, "priority", -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* qRxLevMinEUTRA */
-   stat = pd_ConsInt8(ctx, &pvalue->qRxLevMinEUTRA, -70, -22);
-   RT_CHECK(ctx, stat, 0, "qRxLevMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* threshXhigh */
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* threshXlow */
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* eutra-blackListedCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList);
-      RT_CHECK(ctx, stat, 0, "eutra-blackListedCellList", -1, "EUTRA-FrequencyAndPriorityInfo");
-   }
-   /* eutraDetection */
-   stat = rtxDecBitInline(ctx, &pvalue->eutraDetection);
-   RT_CHECK(ctx, stat, 0, "eutraDetection", -1, "EUTRA-FrequencyAndPriorityInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfo_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-   /* qqualMinEUTRA */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->qqualMinEUTRA, -34, -3);
-      RT_CHECK(ctx, stat, 0, "qqualMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-   }
-   /* threshXhigh2 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->threshXhigh2, 0, 31);
-      RT_CHECK(ctx, stat, 0, "threshXhigh2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-   }
-   /* threshXlow2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->threshXlow2, 0, 31);
-      RT_CHECK(ctx, stat, 0, "threshXlow2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      EUTRA_FrequencyAndPriorityInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_FrequencyAndPriorityInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "EUTRA-FrequencyAndPriorityInfo", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList");
-      elem = (EUTRA_FrequencyAndPriorityInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_EUTRA_FrequencyAndPriorityInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyAndPriorityInfo", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfoList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      EUTRA_FrequencyAndPriorityInfo_v920ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_FrequencyAndPriorityInfo_v920ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "EUTRA-FrequencyAndPriorityInfo-v920ext", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
-      elem = (EUTRA_FrequencyAndPriorityInfo_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyAndPriorityInfo-v920ext", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyRemoval_removeSomeFrequencies* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "removeSomeFrequencies");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 65535);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "EARFCN", "EARFCN", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyRemoval(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyRemoval* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyRemoval");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* removeAllFrequencies */
-         break;
-      case 1: /* removeSomeFrequencies */
-         pvalue->u.removeSomeFrequencies = (EUTRA_FrequencyRemoval_removeSomeFrequencies*)rtxMemHeapAlloc(ctx, sizeof(EUTRA_FrequencyRemoval_removeSomeFrequencies));
-         if (pvalue->u.removeSomeFrequencies == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "removeSomeFrequencies", -1, "EUTRA-FrequencyRemoval");
-         asn1Init_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(pvalue->u.removeSomeFrequencies);
-         stat = asn1PD_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(ctx, pvalue->u.removeSomeFrequencies);
-         RT_CHECK(ctx, stat, 0, "removeSomeFrequencies", -1, "EUTRA-FrequencyRemoval");
-         break;
-      case 2: /* removeNoFrequencies */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "EUTRA-FrequencyRemoval");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyInfo(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyInfo");
-   /* earfcn */
-   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "EUTRA-FrequencyInfo");
-   /* measurementBandwidth */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->measurementBandwidth, 0, 5);
-      RT_CHECK(ctx, stat, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyInfo");
-   }
-   /* eutra-blackListedCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList);
-      RT_CHECK(ctx, stat, 0, "eutra-blackListedCellList", -1, "EUTRA-FrequencyInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      EUTRA_FrequencyInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_FrequencyInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "EUTRA-FrequencyInfo", (int32_t)i, "EUTRA-FrequencyInfoList");
-      elem = (EUTRA_FrequencyInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_EUTRA_FrequencyInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_FrequencyInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyInfo", (int32_t)i, "EUTRA-FrequencyInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyList(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyList");
-   /* eutraFrequencyRemoval */
-   stat = asn1PD_UMTS_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval);
-   RT_CHECK(ctx, stat, 0, "eutraFrequencyRemoval", -1, "EUTRA-FrequencyList");
-   /* eutraNewFrequencies */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies);
-      RT_CHECK(ctx, stat, 0, "eutraNewFrequencies", -1, "EUTRA-FrequencyList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_SIAcquisition(rtxContext* RT_RESTRICT ctx, EUTRA_SIAcquisition* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* earfcn */
-   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "EUTRA-SIAcquisition");
-   /* physicalCellIdentity */
-   stat = pd_ConsUInt16(ctx, &pvalue->physicalCellIdentity, 0, 503);
-   RT_CHECK(ctx, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-SIAcquisition");
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyList_r9(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyList_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyList-r9");
-   /* eutraFrequencyRemoval */
-   stat = asn1PD_UMTS_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval);
-   RT_CHECK(ctx, stat, 0, "eutraFrequencyRemoval", -1, "EUTRA-FrequencyList-r9");
-   /* eutraNewFrequencies */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies);
-      RT_CHECK(ctx, stat, 0, "eutraNewFrequencies", -1, "EUTRA-FrequencyList-r9");
-   }
-   /* eutraSIAcquisition */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_EUTRA_SIAcquisition(ctx, &pvalue->eutraSIAcquisition);
-      RT_CHECK(ctx, stat, 0, "eutraSIAcquisition", -1, "EUTRA-FrequencyList-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_MeasuredCells(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredCells* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-MeasuredCells");
-   /* physicalCellIdentity */
-   stat = pd_ConsUInt16(ctx, &pvalue->physicalCellIdentity, 0, 503);
-   RT_CHECK(ctx, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-MeasuredCells");
-   /* rSRP */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->rSRP, 0, 97);
-      RT_CHECK(ctx, stat, 0, "rSRP", -1, "EUTRA-MeasuredCells");
-   }
-   /* rSRQ */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->rSRQ, 0, 33);
-      RT_CHECK(ctx, stat, 0, "rSRQ", -1, "EUTRA-MeasuredCells");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_MeasuredResult_measuredEUTRACells(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult_measuredEUTRACells* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      EUTRA_MeasuredCells* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_MeasuredCells));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "EUTRA-MeasuredCells", (int32_t)i, 0);
-      elem = (EUTRA_MeasuredCells*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_EUTRA_MeasuredCells(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_MeasuredCells(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "EUTRA-MeasuredCells", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_MeasuredResult(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* earfcn */
-   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "Eutra-MeasuredResult");
-   /* measuredEUTRACells */
-   stat = asn1PD_UMTS_Eutra_MeasuredResult_measuredEUTRACells(ctx, &pvalue->measuredEUTRACells);
-   RT_CHECK(ctx, stat, 0, "measuredEUTRACells", -1, "Eutra-MeasuredResult");
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_MeasuredResultList(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResultList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Eutra-MeasuredResultList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Eutra_MeasuredResult* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Eutra_MeasuredResult));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Eutra-MeasuredResult", (int32_t)i, "Eutra-MeasuredResultList");
-      elem = (Eutra_MeasuredResult*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Eutra_MeasuredResult(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Eutra_MeasuredResult(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Eutra-MeasuredResult", (int32_t)i, "Eutra-MeasuredResultList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_MeasuredResults(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* eutraMeasuredResultList */
-   stat = asn1PD_UMTS_Eutra_MeasuredResultList(ctx, &pvalue->eutraMeasuredResultList);
-   RT_CHECK(ctx, stat, 0, "eutraMeasuredResultList", -1, "EUTRA-MeasuredResults");
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_SIacquisitionResults_cgiInfo(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_cgiInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* plmn-Identity */
-   stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
-   /* cellIdentity */
-   RT_SET_SIZE(ctx, 28, 28);
-   stat = pd_BitString32(ctx, &pvalue->cellIdentity, 28, 28);
-   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, 0);
-   /* trackingAreaCode */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->trackingAreaCode, 16, 16);
-   RT_CHECK(ctx, stat, 0, "trackingAreaCode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_SIacquisitionResults_csgMemberIndication(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_csgMemberIndication* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_SIacquisitionResults(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-SIacquisitionResults");
-   /* cgiInfo */
-   stat = asn1PD_UMTS_EUTRA_SIacquisitionResults_cgiInfo(ctx, &pvalue->cgiInfo);
-   RT_CHECK(ctx, stat, 0, "cgiInfo", -1, "EUTRA-SIacquisitionResults");
-   /* csgIdentity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CSG_Identity(ctx, &pvalue->csgIdentity);
-      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "EUTRA-SIacquisitionResults");
-   }
-   /* csgMemberIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "csgMemberIndication", -1, "EUTRA-SIacquisitionResults");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "csgMemberIndication", -1, "EUTRA-SIacquisitionResults");
-         pvalue->csgMemberIndication = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_MeasuredCells_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredCells_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* eutraSIacquisitionResults */
-   stat = asn1PD_UMTS_EUTRA_SIacquisitionResults(ctx, &pvalue->eutraSIacquisitionResults);
-   RT_CHECK(ctx, stat, 0, "eutraSIacquisitionResults", -1, "EUTRA-MeasuredCells-v920ext");
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      EUTRA_MeasuredCells_v920ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_MeasuredCells_v920ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "EUTRA-MeasuredCells-v920ext", (int32_t)i, 0);
-      elem = (EUTRA_MeasuredCells_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_EUTRA_MeasuredCells_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_MeasuredCells_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "EUTRA-MeasuredCells-v920ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_MeasuredResult_v920ext(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* measuredEUTRACells-v920ext */
-   stat = asn1PD_UMTS_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(ctx, &pvalue->measuredEUTRACells_v920ext);
-   RT_CHECK(ctx, stat, 0, "measuredEUTRACells-v920ext", -1, "Eutra-MeasuredResult-v920ext");
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_MeasuredResultList_v920ext(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResultList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Eutra-MeasuredResultList-v920ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Eutra_MeasuredResult_v920ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Eutra_MeasuredResult_v920ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Eutra-MeasuredResult-v920ext", (int32_t)i, "Eutra-MeasuredResultList-v920ext");
-      elem = (Eutra_MeasuredResult_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Eutra_MeasuredResult_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Eutra_MeasuredResult_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Eutra-MeasuredResult-v920ext", (int32_t)i, "Eutra-MeasuredResultList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredResults_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* eutraMeasuredResultList-v920ext */
-   stat = asn1PD_UMTS_Eutra_MeasuredResultList_v920ext(ctx, &pvalue->eutraMeasuredResultList_v920ext);
-   RT_CHECK(ctx, stat, 0, "eutraMeasuredResultList-v920ext", -1, "EUTRA-MeasuredResults-v920ext");
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCell_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ForbiddenAffectCell-r4");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "ForbiddenAffectCell-r4");
-         stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "ForbiddenAffectCell-r4");
+         pvalue->u.fdd = (SCCPCH_InfoForFACH_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_InfoForFACH_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (SCCPCH_InfoForFACH_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_InfoForFACH_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_InfoForFACH_modeSpecificInfo, pvalue);
+}
+
+static int dec_SCCPCH_InfoForFACH(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* secondaryCCPCH-Info */
+   stat = dec_SecondaryCCPCH_Info(ctx, &pvalue->secondaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-InfoForFACH");
+   /* tfcs */
+   stat = dec_TFCS(ctx, &pvalue->tfcs, cur);
+   RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-InfoForFACH");
+   /* modeSpecificInfo */
+   stat = dec_SCCPCH_InfoForFACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SCCPCH-InfoForFACH");
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_InfoForFACH(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_InfoForFACH, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL");
+   /* modeSpecificInfo */
+   stat = dec_DL_InformationPerRL_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL");
+   /* dl-DPCH-InfoPerRL */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_InfoPerRL(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SCCPCH_InfoForFACH(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1, cur);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_CodeMapping(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_fdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tx-DiversityIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tx_DiversityIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_fdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_r4_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotSync2 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotSync2, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* syncCase1 */
+         pvalue->u.syncCase1 = (PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1));
+         if (pvalue->u.syncCase1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "syncCase1", -1, 0);
+         stat = dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(ctx, pvalue->u.syncCase1, cur);
+         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
+         break;
+      case 1: /* syncCase2 */
+         pvalue->u.syncCase2 = (PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2));
+         if (pvalue->u.syncCase2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "syncCase2", -1, 0);
+         stat = dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(ctx, pvalue->u.syncCase2, cur);
+         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* syncCase */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(ctx, &pvalue->syncCase, cur);
+      RT_CHECK(ctx, stat, 0, "syncCase", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tstd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd_tddOption(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384-tdd768 */
+         pvalue->u.tdd384_tdd768 = (PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768));
+         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384-tdd768", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(pvalue->u.tdd384_tdd768);
+         stat = dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = dec_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_r4_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_Info_r4_tdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = dec_PrimaryCCPCH_Info_r4_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* cellParametersID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParametersID, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, 0);
+   }
+   /* sctd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sctd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sctd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_r4_tdd, pvalue);
+}
+
+static int dec_PrimaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PrimaryCCPCH-Info-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (PrimaryCCPCH_Info_r4_fdd*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_r4_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "PrimaryCCPCH-Info-r4");
+         stat = dec_PrimaryCCPCH_Info_r4_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PrimaryCCPCH-Info-r4");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4_tdd*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "PrimaryCCPCH-Info-r4");
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4_tdd(pvalue->u.tdd);
+         stat = dec_PrimaryCCPCH_Info_r4_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PrimaryCCPCH-Info-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PrimaryCCPCH-Info-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_InformationPerRL_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
          pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "ForbiddenAffectCell-r4");
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
          asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ForbiddenAffectCell-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCellList_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ForbiddenAffectCellList-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ForbiddenAffectCell_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCell_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ForbiddenAffectCell-r4", (int32_t)i, "ForbiddenAffectCellList-r4");
-      elem = (ForbiddenAffectCell_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_ForbiddenAffectCell_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ForbiddenAffectCell_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell-r4", (int32_t)i, "ForbiddenAffectCellList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event1a_r4(rtxContext* RT_RESTRICT ctx, Event1a_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a-r4");
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-r4");
-   /* reportingRange */
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a-r4");
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a-r4");
-   }
-   /* w */
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a-r4");
-   /* reportDeactivationThreshold */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-r4");
-   /* reportingAmount */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-r4");
-   /* reportingInterval */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH", -1, "ForbiddenAffectCellOnSecULFreq");
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellListOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ForbiddenAffectCellListOnSecULFreq");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ForbiddenAffectCellOnSecULFreq* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCellOnSecULFreq));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ForbiddenAffectCellOnSecULFreq", (int32_t)i, "ForbiddenAffectCellListOnSecULFreq");
-      elem = (ForbiddenAffectCellOnSecULFreq*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ForbiddenAffectCellOnSecULFreq(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCellOnSecULFreq", (int32_t)i, "ForbiddenAffectCellListOnSecULFreq");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event1a_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, Event1a_OnSecUlFreq_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a-OnSecUlFreq-r9");
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-OnSecUlFreq-r9");
-   /* reportingRange */
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a-OnSecUlFreq-r9");
-   /* forbiddenAffectCellListOnSecULFreq */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellListOnSecULFreq", -1, "Event1a-OnSecUlFreq-r9");
-   }
-   /* w */
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a-OnSecUlFreq-r9");
-   /* reportDeactivationThreshold */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-OnSecUlFreq-r9");
-   /* reportingAmount */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-OnSecUlFreq-r9");
-   /* reportingInterval */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-OnSecUlFreq-r9");
-   return 0;
-}
-
-int asn1PD_UMTS_Event1b_r4(rtxContext* RT_RESTRICT ctx, Event1b_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-r4");
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r4");
-   /* reportingRange */
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-r4");
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-r4");
-   }
-   /* w */
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_Event1b_r7(rtxContext* RT_RESTRICT ctx, Event1b_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-r7");
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r7");
-   /* reportingRange */
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-r7");
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-r7");
-   }
-   /* w */
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-r7");
-   /* periodicReportingInfo-1b */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
-      RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "Event1b-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event1b_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, Event1b_OnSecUlFreq_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-OnSecUlFreq-r9");
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-OnSecUlFreq-r9");
-   /* reportingRange */
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-OnSecUlFreq-r9");
-   /* forbiddenAffectCellListOnSecULFreq */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellListOnSecULFreq", -1, "Event1b-OnSecUlFreq-r9");
-   }
-   /* w */
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-OnSecUlFreq-r9");
-   /* periodicReportingInfo-1b */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
-      RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "Event1b-OnSecUlFreq-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event1d(rtxContext* RT_RESTRICT ctx, Event1d* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1d");
-   /* triggeringCondition */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-      RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1d");
-   }
-   /* useCIO */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = rtxDecBitInline(ctx, &pvalue->useCIO);
-      RT_CHECK(ctx, stat, 0, "useCIO", -1, "Event1d");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ThresholdUsedFrequency_r6(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt16(ctx, pvalue, -120, 165);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdUsedFrequency-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_Event1e_r6(rtxContext* RT_RESTRICT ctx, Event1e_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1e-r6");
-   /* thresholdUsedFrequency */
-   stat = pd_ConsInt16(ctx, &pvalue->thresholdUsedFrequency, -120, 165);
-   RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1e-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_Event1f_r6(rtxContext* RT_RESTRICT ctx, Event1f_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* triggeringCondition */
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1f-r6");
-   /* thresholdUsedFrequency */
-   stat = pd_ConsInt16(ctx, &pvalue->thresholdUsedFrequency, -120, 165);
-   RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1f-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_Event1j_r6(rtxContext* RT_RESTRICT ctx, Event1j_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* replacementActivationThreshold */
-   stat = pd_ConsUnsigned(ctx, &pvalue->replacementActivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1j-r6");
-   /* reportingAmount */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1j-r6");
-   /* reportingInterval */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1j-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_HysteresisInterFreq(rtxContext* RT_RESTRICT ctx, HysteresisInterFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 29);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HysteresisInterFreq");
-   return 0;
-}
-
-int asn1PD_UMTS_NonUsedFreqParameter(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameter* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* nonUsedFreqThreshold */
-   stat = pd_ConsInt8(ctx, &pvalue->nonUsedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter");
-   /* nonUsedFreqW */
-   stat = pd_ConsUInt8(ctx, &pvalue->nonUsedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter");
-   return 0;
-}
-
-int asn1PD_UMTS_NonUsedFreqParameterList(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameterList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NonUsedFreqParameterList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NonUsedFreqParameter* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NonUsedFreqParameter));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NonUsedFreqParameter", (int32_t)i, "NonUsedFreqParameterList");
-      elem = (NonUsedFreqParameter*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NonUsedFreqParameter(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NonUsedFreqParameter", (int32_t)i, "NonUsedFreqParameterList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event2a(rtxContext* RT_RESTRICT ctx, Event2a* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2a");
-   /* dummy */
-   stat = pd_ConsInt8(ctx, &pvalue->dummy, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "dummy", -1, "Event2a");
-   /* usedFreqW */
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2a");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2a");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2a");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2a");
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2a");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NonUsedFreqWList_r6(rtxContext* RT_RESTRICT ctx, NonUsedFreqWList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "NonUsedFreqWList-r6");
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "NonUsedFreqWList-r6");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NonUsedFreqWList-r6");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 20);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "W", "W", (int32_t)i, "NonUsedFreqWList-r6");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event2a_r6(rtxContext* RT_RESTRICT ctx, Event2a_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2a-r6");
-   /* usedFreqW */
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2a-r6");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2a-r6");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2a-r6");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2a-r6");
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqWList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2a-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event2b(rtxContext* RT_RESTRICT ctx, Event2b* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2b");
-   /* usedFreqThreshold */
-   stat = pd_ConsInt8(ctx, &pvalue->usedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "usedFreqThreshold", -1, "Event2b");
-   /* usedFreqW */
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2b");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2b");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2b");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2b");
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2b");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Threshold_r6(rtxContext* RT_RESTRICT ctx, Threshold_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -120, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Threshold-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_NonUsedFreqParameter_r6(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameter_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* nonUsedFreqThreshold */
-   stat = pd_ConsInt8(ctx, &pvalue->nonUsedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat, "Threshold-r6", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter-r6");
-   /* nonUsedFreqW */
-   stat = pd_ConsUInt8(ctx, &pvalue->nonUsedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_NonUsedFreqParameterList_r6(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameterList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NonUsedFreqParameterList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NonUsedFreqParameter_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NonUsedFreqParameter_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NonUsedFreqParameter-r6", (int32_t)i, "NonUsedFreqParameterList-r6");
-      elem = (NonUsedFreqParameter_r6*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NonUsedFreqParameter_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NonUsedFreqParameter-r6", (int32_t)i, "NonUsedFreqParameterList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event2b_r6(rtxContext* RT_RESTRICT ctx, Event2b_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2b-r6");
-   /* usedFreqThreshold */
-   stat = pd_ConsInt8(ctx, &pvalue->usedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2b-r6");
-   /* usedFreqW */
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2b-r6");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2b-r6");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2b-r6");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2b-r6");
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2b-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event2c(rtxContext* RT_RESTRICT ctx, Event2c* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2c");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2c");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2c");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2c");
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2c");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event2c_r6(rtxContext* RT_RESTRICT ctx, Event2c_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2c-r6");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2c-r6");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2c-r6");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2c-r6");
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2c-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event2d(rtxContext* RT_RESTRICT ctx, Event2d* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2d");
-   /* usedFreqThreshold */
-   stat = pd_ConsInt8(ctx, &pvalue->usedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "usedFreqThreshold", -1, "Event2d");
-   /* usedFreqW */
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2d");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2d");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2d");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2d");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event2d_r6(rtxContext* RT_RESTRICT ctx, Event2d_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2d-r6");
-   /* usedFreqThreshold */
-   stat = pd_ConsInt8(ctx, &pvalue->usedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2d-r6");
-   /* usedFreqW */
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2d-r6");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2d-r6");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2d-r6");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2d-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event2e(rtxContext* RT_RESTRICT ctx, Event2e* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2e");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2e");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2e");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2e");
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2e");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event2e_r6(rtxContext* RT_RESTRICT ctx, Event2e_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2e-r6");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2e-r6");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2e-r6");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2e-r6");
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2e-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event2f(rtxContext* RT_RESTRICT ctx, Event2f* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2f");
-   /* usedFreqThreshold */
-   stat = pd_ConsInt8(ctx, &pvalue->usedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "usedFreqThreshold", -1, "Event2f");
-   /* usedFreqW */
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2f");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2f");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2f");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2f");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event2f_r6(rtxContext* RT_RESTRICT ctx, Event2f_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2f-r6");
-   /* usedFreqThreshold */
-   stat = pd_ConsInt8(ctx, &pvalue->usedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2f-r6");
-   /* usedFreqW */
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2f-r6");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2f-r6");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2f-r6");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2f-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event3a(rtxContext* RT_RESTRICT ctx, Event3a* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event3a");
-   /* thresholdOwnSystem */
-   stat = pd_ConsInt8(ctx, &pvalue->thresholdOwnSystem, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "thresholdOwnSystem", -1, "Event3a");
-   /* w */
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event3a");
-   /* thresholdOtherSystem */
-   stat = pd_ConsInt8(ctx, &pvalue->thresholdOtherSystem, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "thresholdOtherSystem", -1, "Event3a");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "Event3a");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3a");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3a");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event3b(rtxContext* RT_RESTRICT ctx, Event3b* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event3b");
-   /* thresholdOtherSystem */
-   stat = pd_ConsInt8(ctx, &pvalue->thresholdOtherSystem, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "thresholdOtherSystem", -1, "Event3b");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "Event3b");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3b");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3b");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event3c(rtxContext* RT_RESTRICT ctx, Event3c* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event3c");
-   /* thresholdOtherSystem */
-   stat = pd_ConsInt8(ctx, &pvalue->thresholdOtherSystem, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "thresholdOtherSystem", -1, "Event3c");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "Event3c");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3c");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3c");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Event3d(rtxContext* RT_RESTRICT ctx, Event3d* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event3d");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "Event3d");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3d");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3d");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EventIDInterFreq(rtxContext* RT_RESTRICT ctx, EventIDInterFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EventIDInterFreq");
-   return 0;
-}
-
-int asn1PD_UMTS_EventIDIntraFreq(rtxContext* RT_RESTRICT ctx, EventIDIntraFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EventIDIntraFreq");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventResults(rtxContext* RT_RESTRICT ctx, IntraFreqEventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* eventID */
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 15);
-   RT_CHECK(ctx, stat, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResults");
-   /* cellMeasurementEventResults */
-   stat = asn1PD_UMTS_CellMeasurementEventResults(ctx, &pvalue->cellMeasurementEventResults);
-   RT_CHECK(ctx, stat, 0, "cellMeasurementEventResults", -1, "IntraFreqEventResults");
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCell(rtxContext* RT_RESTRICT ctx, InterFreqCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqCell");
-   /* nonFreqRelatedEventResults */
-   stat = asn1PD_UMTS_CellMeasurementEventResults(ctx, &pvalue->nonFreqRelatedEventResults);
-   RT_CHECK(ctx, stat, 0, "nonFreqRelatedEventResults", -1, "InterFreqCell");
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellList(rtxContext* RT_RESTRICT ctx, InterFreqCellList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterFreqCell* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqCell));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "InterFreqCell", (int32_t)i, "InterFreqCellList");
-      elem = (InterFreqCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterFreqCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterFreqCell(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "InterFreqCell", (int32_t)i, "InterFreqCellList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqEventResults(rtxContext* RT_RESTRICT ctx, InterFreqEventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqEventResults");
-   /* eventID */
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 7);
-   RT_CHECK(ctx, stat, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults");
-   /* interFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellList(ctx, &pvalue->interFreqCellList);
-      RT_CHECK(ctx, stat, 0, "interFreqCellList", -1, "InterFreqEventResults");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATEventResults(rtxContext* RT_RESTRICT ctx, InterRATEventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* eventID */
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 3);
-   RT_CHECK(ctx, stat, "EventIDInterRAT", "eventID", -1, "InterRATEventResults");
-   /* cellToReportList */
-   stat = asn1PD_UMTS_CellToReportList(ctx, &pvalue->cellToReportList);
-   RT_CHECK(ctx, stat, 0, "cellToReportList", -1, "InterRATEventResults");
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeEventResults(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-transportChannelCausingEvent */
-   stat = asn1PD_UMTS_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelCausingEvent);
-   RT_CHECK(ctx, stat, 0, "ul-transportChannelCausingEvent", -1, "TrafficVolumeEventResults");
-   /* trafficVolumeEventIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->trafficVolumeEventIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "TrafficVolumeEventType", "trafficVolumeEventIdentity", -1, "TrafficVolumeEventResults");
-   return 0;
-}
-
-int asn1PD_UMTS_QualityEventResults(rtxContext* RT_RESTRICT ctx, QualityEventResults* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, "QualityEventResults");
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "QualityEventResults");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "QualityEventResults");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "QualityEventResults");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalEventResults(rtxContext* RT_RESTRICT ctx, UE_InternalEventResults* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalEventResults");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* event6a */
-         break;
-      case 1: /* event6b */
-         break;
-      case 2: /* event6c */
-         break;
-      case 3: /* event6d */
-         break;
-      case 4: /* event6e */
-         break;
-      case 5: /* event6f */
-         pvalue->u.event6f = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
-         if (pvalue->u.event6f == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event6f", -1, "UE-InternalEventResults");
-         stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.event6f);
-         RT_CHECK(ctx, stat, 0, "event6f", -1, "UE-InternalEventResults");
-         break;
-      case 6: /* event6g */
-         pvalue->u.event6g = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
-         if (pvalue->u.event6g == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event6g", -1, "UE-InternalEventResults");
-         stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.event6g);
-         RT_CHECK(ctx, stat, 0, "event6g", -1, "UE-InternalEventResults");
-         break;
-      case 7: /* spare */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalEventResults");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ms-part */
-   stat = pd_ConsUInt16(ctx, &pvalue->ms_part, 0, 16383);
-   RT_CHECK(ctx, stat, 0, "ms-part", -1, 0);
-   /* ls-part */
-   stat = pd_ConsUInt32(ctx, &pvalue->ls_part, 0, 4294967295LL);
-   RT_CHECK(ctx, stat, 0, "ls-part", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* referenceIdentity */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
-   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* referenceIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->referenceIdentity, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "referenceIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         stat = dec_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_InformationPerRL_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r4_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* ue-GPSTimingOfCell */
-   stat = asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(ctx, &pvalue->ue_GPSTimingOfCell);
-   RT_CHECK(ctx, stat, 0, "ue-GPSTimingOfCell", -1, "UTRAN-GPSReferenceTimeResult");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UTRAN-GPSReferenceTimeResult");
-   /* sfn */
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn", -1, "UTRAN-GPSReferenceTimeResult");
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* secondaryScramblingCode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+   }
+   /* sttd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sttd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sttd-Indicator", -1, 0);
+   /* sf-AndCodeNumber */
+   stat = dec_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber, cur);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
+   /* pilotSymbolExistence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->pilotSymbolExistence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pilotSymbolExistence", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* positionFixedOrFlexible */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* timingOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->timingOffset, 0, 149);
+      RT_CHECK_AT(ctx, cur, stat, "TimingOffset", "timingOffset", -1, 0);
+   }
+   else {
+      pvalue->timingOffset = 0;
+   }
    return 0;
 }
 
-int asn1PD_UMTS_GPS_TOW_1msec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1msec* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUInt32(ctx, pvalue, 0, 604799999);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GPS-TOW-1msec");
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* commonTimeslotInfo */
+   stat = dec_CommonTimeslotInfoSCCPCH(ctx, &pvalue->commonTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   /* tddOption */
+   stat = dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* channelisationCode */
+   stat = dec_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode, cur);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+static int dec_SecondaryCCPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_r4_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_SecondaryCCPCH_Info_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCH_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sib-ReferenceListFACH */
+   stat = dec_SIB_ReferenceListFACH(ctx, &pvalue->sib_ReferenceListFACH, cur);
+   RT_CHECK(ctx, stat, 0, "sib-ReferenceListFACH", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_SCCPCH_InfoForFACH_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_InfoForFACH_r4_modeSpecificInfo, pvalue);
+}
+
+static int dec_SCCPCH_InfoForFACH_r4(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* secondaryCCPCH-Info */
+   stat = dec_SecondaryCCPCH_Info_r4(ctx, &pvalue->secondaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-InfoForFACH-r4");
+   /* tfcs */
+   stat = dec_TFCS(ctx, &pvalue->tfcs, cur);
+   RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-InfoForFACH-r4");
+   /* fach-PCH-InformationList */
+   stat = dec_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList, cur);
+   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-InfoForFACH-r4");
+   /* modeSpecificInfo */
+   stat = dec_SCCPCH_InfoForFACH_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SCCPCH-InfoForFACH-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_InfoForFACH_r4(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SCCPCH_InfoForFACH_r4, pvalue);
+}
+
+static int dec_DL_InformationPerRL_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-r4");
+   /* modeSpecificInfo */
+   stat = dec_DL_InformationPerRL_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r4");
+   /* dl-DPCH-InfoPerRL */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_InfoPerRL_r4(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r4");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r4");
+   }
+   /* cell-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CellIdentity(ctx, &pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1, cur);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_CodeMapping(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   /* servingHSDSCH-RL-indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->servingHSDSCH_RL_indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r5_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r5_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r5_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_InformationPerRL_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
+         stat = dec_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r5_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r5(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-r5");
+   /* modeSpecificInfo */
+   stat = dec_DL_InformationPerRL_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r5");
+   /* dl-DPCH-InfoPerRL */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_InfoPerRL_r5(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r5");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r5");
+   }
+   /* cell-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CellIdentity(ctx, &pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r5(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1, cur);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_CodeMapping(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r5bis_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r5bis_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r5bis_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
+         stat = dec_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r5bis_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r5bis(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-r5bis");
+   /* modeSpecificInfo */
+   stat = dec_DL_InformationPerRL_r5bis_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r5bis");
+   /* dl-DPCH-InfoPerRL */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_DPCH_InfoPerRL_r5(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r5bis");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r5bis");
+   }
+   /* cell-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CellIdentity(ctx, &pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r5bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r5bis(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r5bis, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
    RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* servingHSDSCH-RL-indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->servingHSDSCH_RL_indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
+   /* servingEDCH-RL-indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->servingEDCH_RL_indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "servingEDCH-RL-indicator", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_InformationPerRL_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r6_modeSpecificInfo_fdd, pvalue);
 }
 
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DL_InformationPerRL_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (DL_InformationPerRL_r6_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DL_InformationPerRL_r6_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_DL_InformationPerRL_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
+         stat = dec_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DL_InformationPerRL_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r6_modeSpecificInfo, pvalue);
+}
+
+static int dec_DL_InformationPerRL_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoPerRL */
+         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r6));
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r6(pvalue->u.dl_DPCH_InfoPerRL);
+         stat = dec_DL_DPCH_InfoPerRL_r6(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoPerRL */
+         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r6));
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r6(pvalue->u.dl_FDPCH_InfoPerRL);
+         stat = dec_DL_FDPCH_InfoPerRL_r6(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r6_dl_dpchInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r6_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_e_HICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-HICH-Information */
+         pvalue->u.e_HICH_Information = (E_HICH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_HICH_Information));
+         if (pvalue->u.e_HICH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-HICH-Information", -1, 0);
+         stat = dec_E_HICH_Information(ctx, pvalue->u.e_HICH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r6_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r6_e_HICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r6_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = dec_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r6_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r6_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* sfn */
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn", -1, 0);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-r6");
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = dec_DL_InformationPerRL_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r6");
+   /* dl-dpchInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_InformationPerRL_r6_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r6");
+   }
+   /* e-AGCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r6");
+   }
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_DL_InformationPerRL_r6_e_HICH_Info(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, "DL-InformationPerRL-r6");
+   }
+   /* e-RGCH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_DL_InformationPerRL_r6_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "DL-InformationPerRL-r6");
+   }
+   /* cell-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_CellIdentity(ctx, &pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_v6b0ext(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-v6b0ext");
+   /* sttdIndication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "STTDIndication", "sttdIndication", -1, "DL-InformationPerRL-v6b0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "STTDIndication", "sttdIndication", -1, "DL-InformationPerRL-v6b0ext");
+         pvalue->sttdIndication = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_v6b0ext(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* servingHSDSCH-RL-indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->servingHSDSCH_RL_indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
+   /* servingEDCH-RL-indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->servingEDCH_RL_indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "servingEDCH-RL-indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_DL_InformationPerRL_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
+         stat = dec_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoPerRL */
+         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r7));
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r7(pvalue->u.dl_DPCH_InfoPerRL);
+         stat = dec_DL_DPCH_InfoPerRL_r7(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoPerRL */
+         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r7));
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r7(pvalue->u.dl_FDPCH_InfoPerRL);
+         stat = dec_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r7_dl_dpchInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_r7_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* e-AGCH-ChannelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_AGCH_ChannelisationCode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r7_modeSpecific_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleConfigurationBurstType1(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MidambleConfigurationBurstType1");
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleConfigurationBurstType1(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleConfigurationBurstType1, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType1 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType1, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType1", "midambleConfigurationBurstType1", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_EDCH_burstType_type1, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleShiftShort", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = dec_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType2 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_EDCH_burstType_type2, pvalue);
+}
+
+RT_MERGED_BODY int dec_MidambleShiftAndBurstType_EDCH_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* type1 */
+         pvalue->u.type1 = (MidambleShiftAndBurstType_EDCH_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_EDCH_burstType_type1));
+         if (pvalue->u.type1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(pvalue->u.type1);
+         stat = dec_MidambleShiftAndBurstType_EDCH_burstType_type1(ctx, pvalue->u.type1, cur);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 1: /* type2 */
+         pvalue->u.type2 = (MidambleShiftAndBurstType_EDCH_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_EDCH_burstType_type2));
+         if (pvalue->u.type2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "type2", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(pvalue->u.type2);
+         stat = dec_MidambleShiftAndBurstType_EDCH_burstType_type2(ctx, pvalue->u.type2, cur);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_EDCH_burstType, pvalue);
+}
+
+static int dec_MidambleShiftAndBurstType_EDCH(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* burstType */
+   stat = dec_MidambleShiftAndBurstType_EDCH_burstType(ctx, &pvalue->burstType, cur);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-EDCH");
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MidambleShiftAndBurstType_EDCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Individual(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tS-number */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tS_number, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tS-number", -1, "E-AGCH-Individual");
+   /* channelisation-code */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisation_code, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode", "channelisation-code", -1, "E-AGCH-Individual");
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-AGCH-Individual");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Individual(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Individual, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Set_Config(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-AGCH-Set-Config");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_AGCH_Individual* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_AGCH_Individual));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-AGCH-Individual", (int32_t)i, "E-AGCH-Set-Config");
+      elem = (E_AGCH_Individual*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_AGCH_Individual(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_AGCH_Individual(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual", (int32_t)i, "E-AGCH-Set-Config");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Set_Config(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Set_Config, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* long-Term-Grant-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->long_Term_Grant_Indicator);
+      RT_CHECK_AT(ctx, cur, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+   }
+   /* length-of-TTRI-field */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->length_of_TTRI_field, 1, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, "length-of-TTRI-field", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = dec_E_AGCH_Set_Config(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r7_modeSpecific_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Individual_VHCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tS-number */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tS_number, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tS-number", -1, "E-AGCH-Individual-VHCR");
+   /* channelisation-code */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisation_code, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode-VHCR", "channelisation-code", -1, "E-AGCH-Individual-VHCR");
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-AGCH-Individual-VHCR");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Individual_VHCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_VHCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Individual_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Set_Config_VHCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config_VHCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-AGCH-Set-Config-VHCR");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_AGCH_Individual_VHCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_AGCH_Individual_VHCR));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-AGCH-Individual-VHCR", (int32_t)i, "E-AGCH-Set-Config-VHCR");
+      elem = (E_AGCH_Individual_VHCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_AGCH_Individual_VHCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_AGCH_Individual_VHCR(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual-VHCR", (int32_t)i, "E-AGCH-Set-Config-VHCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Set_Config_VHCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config_VHCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Set_Config_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* long-Term-Grant-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->long_Term_Grant_Indicator);
+      RT_CHECK_AT(ctx, cur, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+   }
+   /* length-of-TTRI-field */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->length_of_TTRI_field, 1, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, "length-of-TTRI-field", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = dec_E_AGCH_Set_Config_VHCR(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r7_modeSpecific_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rdi-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rdi_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rdi-Indicator", -1, 0);
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = dec_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r7_modeSpecific_tdd_tdd128, pvalue);
+}
+
+static int dec_E_AGCH_Information_r7_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (E_AGCH_Information_r7_modeSpecific_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(pvalue->u.tdd384);
+         stat = dec_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (E_AGCH_Information_r7_modeSpecific_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(pvalue->u.tdd768);
+         stat = dec_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (E_AGCH_Information_r7_modeSpecific_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r7_modeSpecific_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_r7_modeSpecific(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (E_AGCH_Information_r7_modeSpecific_fdd*)rtxMemHeapAllocZ(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_E_AGCH_Information_r7_modeSpecific_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (E_AGCH_Information_r7_modeSpecific_tdd*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(pvalue->u.tdd);
+         stat = dec_E_AGCH_Information_r7_modeSpecific_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r7_modeSpecific, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_r7(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecific */
+   stat = dec_E_AGCH_Information_r7_modeSpecific(ctx, &pvalue->modeSpecific, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, "E-AGCH-Information-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-HICH-Information */
+         pvalue->u.e_HICH_Information = (E_HICH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_HICH_Information));
+         if (pvalue->u.e_HICH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-HICH-Information", -1, 0);
+         stat = dec_E_HICH_Information(ctx, pvalue->u.e_HICH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = dec_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   /* e-RGCH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r7_modeSpecificInfo2_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_TDD384_768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.tdd384, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode", "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.tdd768, 0, 31);
+         RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode-VHCR", "tdd768", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_TDD384_768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_TDD384_768_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_TDD384_768_burst_Type(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_burst_Type* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_TDD384_768_burst_Type(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_burst_Type* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_TDD384_768_burst_Type, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_TDD384_768_midamble_Allocation_Mode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_midamble_Allocation_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_TDD384_768_midamble_Allocation_Mode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_midamble_Allocation_Mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_TDD384_768_midamble_Allocation_Mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_TDD384_768(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* n-E-HICH */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_E_HICH, 4, 44);
+   RT_CHECK_AT(ctx, cur, stat, 0, "n-E-HICH", -1, "E-HICH-Information-TDD384-768");
+   /* tS-Number */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tS_Number, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tS-Number", -1, "E-HICH-Information-TDD384-768");
+   /* modeSpecificInfo */
+   stat = dec_E_HICH_Information_TDD384_768_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-HICH-Information-TDD384-768");
+   /* burst-Type */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->burst_Type, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "burst-Type", -1, "E-HICH-Information-TDD384-768");
+   /* midamble-Allocation-Mode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->midamble_Allocation_Mode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midamble-Allocation-Mode", -1, "E-HICH-Information-TDD384-768");
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_TDD384_768(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_TDD384_768, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_HICH_Information_TDD384_768(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_HICH_Information_TDD128(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384-tdd768 */
+         pvalue->u.tdd384_tdd768 = (DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768));
+         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384-tdd768", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(pvalue->u.tdd384_tdd768);
+         stat = dec_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r7_modeSpecificInfo2_tdd, pvalue);
+}
+
+static int dec_DL_InformationPerRL_r7_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r7_modeSpecificInfo2_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo2_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(pvalue->u.fdd);
+         stat = dec_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_InformationPerRL_r7_modeSpecificInfo2_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo2_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(pvalue->u.tdd);
+         stat = dec_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r7_modeSpecificInfo2, pvalue);
+}
+
+static int dec_DL_InformationPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-r7");
+   /* modeSpecificInfo */
+   stat = dec_DL_InformationPerRL_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r7");
+   /* dl-dpchInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_InformationPerRL_r7_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r7");
+   }
+   /* e-AGCH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_AGCH_Information_r7(ctx, &pvalue->e_AGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r7");
+   }
+   /* modeSpecificInfo2 */
+   stat = dec_DL_InformationPerRL_r7_modeSpecificInfo2(ctx, &pvalue->modeSpecificInfo2, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo2", -1, "DL-InformationPerRL-r7");
+   /* cell-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CellIdentity(ctx, &pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* servingHSDSCH-RL-indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->servingHSDSCH_RL_indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
+   /* servingEDCH-RL-indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->servingEDCH_RL_indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "servingEDCH-RL-indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r8_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r8_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_DL_InformationPerRL_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
+         stat = dec_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r8_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoPerRL */
+         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r7));
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r7(pvalue->u.dl_DPCH_InfoPerRL);
+         stat = dec_DL_DPCH_InfoPerRL_r7(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoPerRL */
+         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r7));
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r7(pvalue->u.dl_FDPCH_InfoPerRL);
+         stat = dec_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r8_dl_dpchInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_r8_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* e-AGCH-ChannelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_AGCH_ChannelisationCode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r8_modeSpecific_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* long-Term-Grant-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->long_Term_Grant_Indicator);
+      RT_CHECK_AT(ctx, cur, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+   }
+   /* length-of-TTRI-field */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->length_of_TTRI_field, 1, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, "length-of-TTRI-field", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = dec_E_AGCH_Set_Config(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r8_modeSpecific_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* long-Term-Grant-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->long_Term_Grant_Indicator);
+      RT_CHECK_AT(ctx, cur, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+   }
+   /* length-of-TTRI-field */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->length_of_TTRI_field, 1, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, "length-of-TTRI-field", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = dec_E_AGCH_Set_Config_VHCR(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r8_modeSpecific_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* rdi-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rdi_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rdi-Indicator", -1, 0);
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = dec_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   /* e-AGCH-InactivityMonitorThreshold */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->e_AGCH_InactivityMonitorThreshold, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r8_modeSpecific_tdd_tdd128, pvalue);
+}
+
+static int dec_E_AGCH_Information_r8_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (E_AGCH_Information_r8_modeSpecific_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(pvalue->u.tdd384);
+         stat = dec_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (E_AGCH_Information_r8_modeSpecific_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(pvalue->u.tdd768);
+         stat = dec_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (E_AGCH_Information_r8_modeSpecific_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r8_modeSpecific_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_r8_modeSpecific(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (E_AGCH_Information_r8_modeSpecific_fdd*)rtxMemHeapAllocZ(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_E_AGCH_Information_r8_modeSpecific_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (E_AGCH_Information_r8_modeSpecific_tdd*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(pvalue->u.tdd);
+         stat = dec_E_AGCH_Information_r8_modeSpecific_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r8_modeSpecific, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_AGCH_Information_r8(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecific */
+   stat = dec_E_AGCH_Information_r8_modeSpecific(ctx, &pvalue->modeSpecific, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, "E-AGCH-Information-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_AGCH_Information_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-HICH-Information */
+         pvalue->u.e_HICH_Information = (E_HICH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_HICH_Information));
+         if (pvalue->u.e_HICH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-HICH-Information", -1, 0);
+         stat = dec_E_HICH_Information(ctx, pvalue->u.e_HICH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = dec_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   /* e-RGCH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r8_modeSpecificInfo2_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_HICH_Information_TDD384_768(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_HICH_Information_TDD128(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384-tdd768 */
+         pvalue->u.tdd384_tdd768 = (DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768));
+         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384-tdd768", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(pvalue->u.tdd384_tdd768);
+         stat = dec_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r8_modeSpecificInfo2_tdd, pvalue);
+}
+
+static int dec_DL_InformationPerRL_r8_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r8_modeSpecificInfo2_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo2_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(pvalue->u.fdd);
+         stat = dec_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_InformationPerRL_r8_modeSpecificInfo2_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo2_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(pvalue->u.tdd);
+         stat = dec_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r8_modeSpecificInfo2, pvalue);
+}
+
+static int dec_DL_InformationPerRL_r8(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-r8");
+   /* modeSpecificInfo */
+   stat = dec_DL_InformationPerRL_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r8");
+   /* dl-dpchInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_InformationPerRL_r8_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r8");
+   }
+   /* e-AGCH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_AGCH_Information_r8(ctx, &pvalue->e_AGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r8");
+   }
+   /* modeSpecificInfo2 */
+   stat = dec_DL_InformationPerRL_r8_modeSpecificInfo2(ctx, &pvalue->modeSpecificInfo2, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo2", -1, "DL-InformationPerRL-r8");
+   /* cell-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CellIdentity(ctx, &pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_r8, pvalue);
+}
+
+static int dec_DL_InformationPerRL_List(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-InformationPerRL", (int32_t)i, "DL-InformationPerRL-List");
+      elem = (DL_InformationPerRL*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_InformationPerRL(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL", (int32_t)i, "DL-InformationPerRL-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_List_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r4", (int32_t)i, "DL-InformationPerRL-List-r4");
+      elem = (DL_InformationPerRL_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_InformationPerRL_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r4", (int32_t)i, "DL-InformationPerRL-List-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_List_r4, pvalue);
+}
+
+static int dec_DL_InformationPerRL_List_r5(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r5", (int32_t)i, "DL-InformationPerRL-List-r5");
+      elem = (DL_InformationPerRL_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_InformationPerRL_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r5", (int32_t)i, "DL-InformationPerRL-List-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_r5(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_List_r5, pvalue);
+}
+
+static int dec_DL_InformationPerRL_List_r6(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r6", (int32_t)i, "DL-InformationPerRL-List-r6");
+      elem = (DL_InformationPerRL_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_InformationPerRL_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r6", (int32_t)i, "DL-InformationPerRL-List-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_r6(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_List_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_List_v6b0ext(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-v6b0ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_v6b0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_v6b0ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-InformationPerRL-v6b0ext", (int32_t)i, "DL-InformationPerRL-List-v6b0ext");
+      elem = (DL_InformationPerRL_v6b0ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_v6b0ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_InformationPerRL_v6b0ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-v6b0ext", (int32_t)i, "DL-InformationPerRL-List-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_List_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_List_r5bis(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r5bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-r5bis");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_r5bis* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r5bis));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r5bis", (int32_t)i, "DL-InformationPerRL-List-r5bis");
+      elem = (DL_InformationPerRL_r5bis*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_r5bis(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_InformationPerRL_r5bis(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r5bis", (int32_t)i, "DL-InformationPerRL-List-r5bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_r5bis(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r5bis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_List_r5bis, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_List_r7(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r7", (int32_t)i, "DL-InformationPerRL-List-r7");
+      elem = (DL_InformationPerRL_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_InformationPerRL_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r7", (int32_t)i, "DL-InformationPerRL-List-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_r7(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_List_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_List_r8(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r8", (int32_t)i, "DL-InformationPerRL-List-r8");
+      elem = (DL_InformationPerRL_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_InformationPerRL_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r8", (int32_t)i, "DL-InformationPerRL-List-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_r8(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_List_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "DL-InformationPerRL-PostFDD");
+   /* dl-DPCH-InfoPerRL */
+   stat = dec_DL_DPCH_InfoPerRL_PostFDD(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_PostFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_ListPostFDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_ListPostFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-ListPostFDD");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_PostFDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_PostFDD));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-InformationPerRL-PostFDD", (int32_t)i, "DL-InformationPerRL-ListPostFDD");
+      elem = (DL_InformationPerRL_PostFDD*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_PostFDD(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_InformationPerRL_PostFDD(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-PostFDD", (int32_t)i, "DL-InformationPerRL-ListPostFDD");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_ListPostFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_ListPostFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_InfoPost_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase_syncCase1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase_syncCase1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_InfoPost_syncCase_syncCase1, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_InfoPost_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase_syncCase2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotSync2 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotSync2, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase_syncCase2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_InfoPost_syncCase_syncCase2, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_InfoPost_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* syncCase1 */
+         pvalue->u.syncCase1 = (PrimaryCCPCH_InfoPost_syncCase_syncCase1*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_InfoPost_syncCase_syncCase1));
+         if (pvalue->u.syncCase1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "syncCase1", -1, 0);
+         stat = dec_PrimaryCCPCH_InfoPost_syncCase_syncCase1(ctx, pvalue->u.syncCase1, cur);
+         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
+         break;
+      case 1: /* syncCase2 */
+         pvalue->u.syncCase2 = (PrimaryCCPCH_InfoPost_syncCase_syncCase2*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_InfoPost_syncCase_syncCase2));
+         if (pvalue->u.syncCase2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "syncCase2", -1, 0);
+         stat = dec_PrimaryCCPCH_InfoPost_syncCase_syncCase2(ctx, pvalue->u.syncCase2, cur);
+         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_InfoPost_syncCase, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_InfoPost(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* syncCase */
+   stat = dec_PrimaryCCPCH_InfoPost_syncCase(ctx, &pvalue->syncCase, cur);
+   RT_CHECK(ctx, stat, 0, "syncCase", -1, "PrimaryCCPCH-InfoPost");
+   /* cellParametersID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParametersID, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-InfoPost");
+   /* sctd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sctd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-InfoPost");
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_InfoPost(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_InfoPost, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCCPCH-Info */
+   stat = dec_PrimaryCCPCH_InfoPost(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "DL-InformationPerRL-PostTDD");
+   /* dl-DPCH-InfoPerRL */
+   stat = dec_DL_DPCH_InfoPerRL_PostTDD(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_PostTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tstd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
+   /* cellParametersID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParametersID, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
+   /* sctd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sctd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_InfoPostTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_InformationPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCCPCH-Info */
+   stat = dec_PrimaryCCPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "DL-InformationPerRL-PostTDD-LCR-r4");
+   /* dl-DPCH-InfoPerRL */
+   stat = dec_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_InformationPerRL_PostTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_PDSCH_Information(rtxContext* RT_RESTRICT ctx, DL_PDSCH_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-PDSCH-Information");
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1, cur);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, "DL-PDSCH-Information");
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_CodeMapping(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PDSCH-Information");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PDSCH_Information(rtxContext* RT_RESTRICT ctx, DL_PDSCH_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_PDSCH_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 127);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* new-H-RNTI */
+   stat = dec_H_RNTI(ctx, &pvalue->new_H_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, 0);
+   /* dl-64QAM-Configured */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
+         pvalue->dl_64QAM_Configured = ui;
+      }
+   }
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dl-ScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = dec_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* measurementPowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->measurementPowerOffset, -12, 26);
+   RT_CHECK_AT(ctx, cur, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   /* uarfcn-DL */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->uarfcn_DL, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, "UARFCN", "uarfcn-DL", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_SecondaryCellInfoFDD_newConfiguration, pvalue);
+}
+
+static int dec_DL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-SecondaryCellInfoFDD");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* continue */
+         break;
+      case 1: /* newConfiguration */
+         pvalue->u.newConfiguration = (DL_SecondaryCellInfoFDD_newConfiguration*)rtxMemHeapAlloc(ctx, sizeof(DL_SecondaryCellInfoFDD_newConfiguration));
+         if (pvalue->u.newConfiguration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newConfiguration", -1, "DL-SecondaryCellInfoFDD");
+         asn1Init_UMTS_DL_SecondaryCellInfoFDD_newConfiguration(pvalue->u.newConfiguration);
+         stat = dec_DL_SecondaryCellInfoFDD_newConfiguration(ctx, pvalue->u.newConfiguration, cur);
+         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "DL-SecondaryCellInfoFDD");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-SecondaryCellInfoFDD");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_SecondaryCellInfoFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_v890ext(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-SecondaryCellInfoFDD-v890ext");
+   /* differentTxModeFromServingHS-DSCHCell */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "differentTxModeFromServingHS-DSCHCell", -1, "DL-SecondaryCellInfoFDD-v890ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "differentTxModeFromServingHS-DSCHCell", -1, "DL-SecondaryCellInfoFDD-v890ext");
+         pvalue->differentTxModeFromServingHS_DSCHCell = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_v890ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_SecondaryCellInfoFDD_v890ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 127);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* new-H-RNTI */
+   stat = dec_H_RNTI(ctx, &pvalue->new_H_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, 0);
+   /* dl-64QAM-Configured */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
+         pvalue->dl_64QAM_Configured = ui;
+      }
+   }
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dl-ScramblingCode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* measurementPowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->measurementPowerOffset, -12, 26);
+   RT_CHECK_AT(ctx, cur, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   /* uarfcn-DL */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->uarfcn_DL, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, "UARFCN", "uarfcn-DL", -1, 0);
+   /* differentTxModeFromServingHS-DSCHCell */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "differentTxModeFromServingHS-DSCHCell", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "differentTxModeFromServingHS-DSCHCell", -1, 0);
+         pvalue->differentTxModeFromServingHS_DSCHCell = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_SecondaryCellInfoFDD_r9_configurationInfo(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* continue */
+         break;
+      case 1: /* newConfiguration */
+         pvalue->u.newConfiguration = (DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration*)rtxMemHeapAlloc(ctx, sizeof(DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration));
+         if (pvalue->u.newConfiguration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newConfiguration", -1, 0);
+         asn1Init_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(pvalue->u.newConfiguration);
+         stat = dec_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(ctx, pvalue->u.newConfiguration, cur);
+         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_SecondaryCellInfoFDD_r9_configurationInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_N_M_Ratio(rtxContext* RT_RESTRICT ctx, MIMO_N_M_Ratio* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MIMO-N-M-Ratio");
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_N_M_Ratio(rtxContext* RT_RESTRICT ctx, MIMO_N_M_Ratio* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_N_M_Ratio, pvalue);
+}
+
+RT_MERGED_BODY int dec_S_CPICH_PowerOffset_MIMO(rtxContext* RT_RESTRICT ctx, S_CPICH_PowerOffset_MIMO* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -6, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "S-CPICH-PowerOffset-MIMO");
+   return 0;
+}
+
+int asn1PD_UMTS_S_CPICH_PowerOffset_MIMO(rtxContext* RT_RESTRICT ctx, S_CPICH_PowerOffset_MIMO* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_S_CPICH_PowerOffset_MIMO, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* channelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->channelisationCode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ChannelisationCode256", "channelisationCode", -1, 0);
+   /* s-cpich-PowerOffset-Mimo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->s_cpich_PowerOffset_Mimo, -6, 0);
+      RT_CHECK_AT(ctx, cur, stat, "S-CPICH-PowerOffset-MIMO", "s-cpich-PowerOffset-Mimo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_r9_secondCPICH_Pattern* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* normalPattern */
+         break;
+      case 1: /* diversityPattern */
+         pvalue->u.diversityPattern = (MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern*)rtxMemHeapAlloc(ctx, sizeof(MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern));
+         if (pvalue->u.diversityPattern == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "diversityPattern", -1, 0);
+         asn1Init_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(pvalue->u.diversityPattern);
+         stat = dec_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(ctx, pvalue->u.diversityPattern, cur);
+         RT_CHECK(ctx, stat, 0, "diversityPattern", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_r9_secondCPICH_Pattern* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_PilotConfiguration_r9_secondCPICH_Pattern, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration_r9(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* secondCPICH-Pattern */
+   stat = dec_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(ctx, &pvalue->secondCPICH_Pattern, cur);
+   RT_CHECK(ctx, stat, 0, "secondCPICH-Pattern", -1, "MIMO-PilotConfiguration-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_PilotConfiguration_r9(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_PilotConfiguration_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCellMIMOparametersFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, SecondaryCellMIMOparametersFDD_newConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* mimoN-M-Ratio */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mimoN_M_Ratio, 0, 9);
+      RT_CHECK_AT(ctx, cur, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
+   }
+   /* mimoPilotConfiguration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MIMO_PilotConfiguration_r9(ctx, &pvalue->mimoPilotConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCellMIMOparametersFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, SecondaryCellMIMOparametersFDD_newConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCellMIMOparametersFDD_newConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCellMIMOparametersFDD(rtxContext* RT_RESTRICT ctx, SecondaryCellMIMOparametersFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SecondaryCellMIMOparametersFDD");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* continue */
+         break;
+      case 1: /* newConfiguration */
+         pvalue->u.newConfiguration = (SecondaryCellMIMOparametersFDD_newConfiguration*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCellMIMOparametersFDD_newConfiguration));
+         if (pvalue->u.newConfiguration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newConfiguration", -1, "SecondaryCellMIMOparametersFDD");
+         asn1Init_UMTS_SecondaryCellMIMOparametersFDD_newConfiguration(pvalue->u.newConfiguration);
+         stat = dec_SecondaryCellMIMOparametersFDD_newConfiguration(ctx, pvalue->u.newConfiguration, cur);
+         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "SecondaryCellMIMOparametersFDD");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SecondaryCellMIMOparametersFDD");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCellMIMOparametersFDD(rtxContext* RT_RESTRICT ctx, SecondaryCellMIMOparametersFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCellMIMOparametersFDD, pvalue);
+}
+
+static int dec_DL_SecondaryCellInfoFDD_r9(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-SecondaryCellInfoFDD-r9");
+   /* configurationInfo */
+   stat = dec_DL_SecondaryCellInfoFDD_r9_configurationInfo(ctx, &pvalue->configurationInfo, cur);
+   RT_CHECK(ctx, stat, 0, "configurationInfo", -1, "DL-SecondaryCellInfoFDD-r9");
+   /* secondaryCellMIMOparameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SecondaryCellMIMOparametersFDD(ctx, &pvalue->secondaryCellMIMOparameters, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCellMIMOparameters", -1, "DL-SecondaryCellInfoFDD-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_SecondaryCellInfoFDD_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TPC_PowerOffsetPerRL(rtxContext* RT_RESTRICT ctx, DL_TPC_PowerOffsetPerRL* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-TPC-PowerOffsetPerRL");
+   /* powerOffsetTPC-pdpdch */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerOffsetTPC_pdpdch, 0, 24);
+      RT_CHECK_AT(ctx, cur, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, "DL-TPC-PowerOffsetPerRL");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TPC_PowerOffsetPerRL(rtxContext* RT_RESTRICT ctx, DL_TPC_PowerOffsetPerRL* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TPC_PowerOffsetPerRL, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TPC_PowerOffsetPerRL_List(rtxContext* RT_RESTRICT ctx, DL_TPC_PowerOffsetPerRL_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-TPC-PowerOffsetPerRL-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_TPC_PowerOffsetPerRL* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_TPC_PowerOffsetPerRL));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DL-TPC-PowerOffsetPerRL", (int32_t)i, "DL-TPC-PowerOffsetPerRL-List");
+      elem = (DL_TPC_PowerOffsetPerRL*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_TPC_PowerOffsetPerRL(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DL_TPC_PowerOffsetPerRL(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DL-TPC-PowerOffsetPerRL", (int32_t)i, "DL-TPC-PowerOffsetPerRL-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(rtxContext* RT_RESTRICT ctx, DL_TPC_PowerOffsetPerRL_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TPC_PowerOffsetPerRL_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_ChannelCodes_MBSFN_IMB384(rtxContext* RT_RESTRICT ctx, DL_ChannelCodes_MBSFN_IMB384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-ChannelCodes-MBSFN-IMB384");
+   /* firstChannelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->firstChannelisationCode, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "firstChannelisationCode", -1, "DL-ChannelCodes-MBSFN-IMB384");
+   /* lastChannelisationCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->lastChannelisationCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, 0, "lastChannelisationCode", -1, "DL-ChannelCodes-MBSFN-IMB384");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_ChannelCodes_MBSFN_IMB384(rtxContext* RT_RESTRICT ctx, DL_ChannelCodes_MBSFN_IMB384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_ChannelCodes_MBSFN_IMB384, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_r8_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_mac_es_e_resetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_EDCH_Information_r8_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_mac_es_e_resetIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r8_mac_es_e_resetIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_SchedulingTransmConfiguration_servingGrant(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* value */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->value, 0, 38);
+   RT_CHECK_AT(ctx, cur, stat, 0, "value", -1, 0);
+   /* primary-Secondary-GrantSelector */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->primary_Secondary_GrantSelector, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_SchedulingTransmConfiguration_servingGrant, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_SchedulingTransmConfiguration(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-SchedulingTransmConfiguration");
+   /* ms2-SchedTransmGrantHARQAlloc */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ms2-SchedTransmGrantHARQAlloc", -1, "E-DPDCH-SchedulingTransmConfiguration");
+   }
+   /* servingGrant */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_DPDCH_SchedulingTransmConfiguration_servingGrant(ctx, &pvalue->servingGrant, cur);
+      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "E-DPDCH-SchedulingTransmConfiguration");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_SchedulingTransmConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_16QAM_Settings(rtxContext* RT_RESTRICT ctx, UL_16QAM_Settings* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* beta-Ed-Gain-E-AGCH-Table-Selection */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->beta_Ed_Gain_E_AGCH_Table_Selection, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "beta-Ed-Gain-E-AGCH-Table-Selection", -1, "UL-16QAM-Settings");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_16QAM_Settings(rtxContext* RT_RESTRICT ctx, UL_16QAM_Settings* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_16QAM_Settings, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-DPCCH-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, 0);
+   }
+   /* e-DPDCH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_DPDCH_Info_r8(ctx, &pvalue->e_DPDCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, 0);
+   }
+   /* schedulingTransmConfiguration */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, 0);
+   }
+   /* ul-16QAM-Settings */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r8_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED, pvalue);
+}
+
+RT_MERGED_BODY int dec_SF16Codes(rtxContext* RT_RESTRICT ctx, SF16Codes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SF16Codes");
+   return 0;
+}
+
+int asn1PD_UMTS_SF16Codes(rtxContext* RT_RESTRICT ctx, SF16Codes* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SF16Codes, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "sF16");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 7);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "SF16Codes", "SF16Codes", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16, pvalue);
+}
+
+RT_MERGED_BODY int dec_SF8Codes(rtxContext* RT_RESTRICT ctx, SF8Codes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SF8Codes");
+   return 0;
+}
+
+int asn1PD_UMTS_SF8Codes(rtxContext* RT_RESTRICT ctx, SF8Codes* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SF8Codes, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "sF8");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 7);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "SF8Codes", "SF8Codes", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sF16 */
+         pvalue->u.sF16 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16));
+         if (pvalue->u.sF16 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sF16", -1, 0);
+         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(pvalue->u.sF16);
+         stat = dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(ctx, pvalue->u.sF16, cur);
+         RT_CHECK(ctx, stat, 0, "sF16", -1, 0);
+         break;
+      case 1: /* sF8 */
+         pvalue->u.sF8 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8));
+         if (pvalue->u.sF8 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sF8", -1, 0);
+         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(pvalue->u.sF8);
+         stat = dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(ctx, pvalue->u.sF8, cur);
+         RT_CHECK(ctx, stat, 0, "sF8", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_SF32Codes(rtxContext* RT_RESTRICT ctx, SF32Codes* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SF32Codes");
+   return 0;
+}
+
+int asn1PD_UMTS_SF32Codes(rtxContext* RT_RESTRICT ctx, SF32Codes* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SF32Codes, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "sF32");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "SF32Codes", "SF32Codes", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32, pvalue);
+}
+
+RT_MERGED_BODY int dec_SF16Codes2(rtxContext* RT_RESTRICT ctx, SF16Codes2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SF16Codes2");
+   return 0;
+}
+
+int asn1PD_UMTS_SF16Codes2(rtxContext* RT_RESTRICT ctx, SF16Codes2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SF16Codes2, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "sF816");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "SF16Codes2", "SF16Codes2", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sF32 */
+         pvalue->u.sF32 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32));
+         if (pvalue->u.sF32 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sF32", -1, 0);
+         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(pvalue->u.sF32);
+         stat = dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(ctx, pvalue->u.sF32, cur);
+         RT_CHECK(ctx, stat, 0, "sF32", -1, 0);
+         break;
+      case 1: /* sF816 */
+         pvalue->u.sF816 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816));
+         if (pvalue->u.sF816 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sF816", -1, 0);
+         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(pvalue->u.sF816);
+         stat = dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(ctx, pvalue->u.sF816, cur);
+         RT_CHECK(ctx, stat, 0, "sF816", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(pvalue->u.tdd384);
+         stat = dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(pvalue->u.tdd768);
+         stat = dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-RUCCH-ConstantValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->e_RUCCH_ConstantValue, -35, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "e-RUCCH-ConstantValue", -1, 0);
+   /* e-RUCCH-PersistenceScalingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->e_RUCCH_PersistenceScalingFactor, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "PersistenceScalingFactor", "e-RUCCH-PersistenceScalingFactor", -1, 0);
+   /* t-RUCCH */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_RUCCH, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "t-RUCCH", -1, 0);
+   }
+   /* e-RUCCH-TS-Number */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_RUCCH_TS_Number, 0, 14);
+      RT_CHECK_AT(ctx, cur, stat, 0, "e-RUCCH-TS-Number", -1, 0);
+   }
+   /* e-RUCCH-Midamble */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->e_RUCCH_Midamble, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, 0, "e-RUCCH-Midamble", -1, 0);
+   }
+   /* t-adv */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_adv, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "t-adv", -1, 0);
+   }
+   /* t-SCHED */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_SCHED, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "t-SCHED", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* utran-GPSReferenceTimeResult */
-         pvalue->u.utran_GPSReferenceTimeResult = (UTRAN_GPSReferenceTimeResult*)rtxMemHeapAlloc(ctx, sizeof(UTRAN_GPSReferenceTimeResult));
-         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utran-GPSReferenceTimeResult", -1, 0);
-         asn1Init_UMTS_UTRAN_GPSReferenceTimeResult(pvalue->u.utran_GPSReferenceTimeResult);
-         stat = asn1PD_UMTS_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult);
-         RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTimeResult", -1, 0);
-         break;
-      case 1: /* gps-ReferenceTimeOnly */
-         stat = pd_ConsUInt32(ctx, &pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
-         RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
-         break;
-      case 2: /* cell-Timing */
-         pvalue->u.cell_Timing = (UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing));
-         if (pvalue->u.cell_Timing == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cell-Timing", -1, 0);
-         asn1Init_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(pvalue->u.cell_Timing);
-         stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(ctx, pvalue->u.cell_Timing);
-         RT_CHECK(ctx, stat, 0, "cell-Timing", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 9, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* t-RUCCH */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_RUCCH, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, 0, "t-RUCCH", -1, 0);
+   }
+   /* n-RUCCH */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_RUCCH, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "n-RUCCH", -1, 0);
+   }
+   /* t-WAIT */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_WAIT, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "t-WAIT", -1, 0);
+   }
+   /* t-SI */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_SI, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, 0, "t-SI", -1, 0);
+   }
+   /* extendedEstimationWindow */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->extendedEstimationWindow, 2, 5);
+      RT_CHECK_AT(ctx, cur, stat, 0, "extendedEstimationWindow", -1, 0);
+   }
+   /* e-RUCCH-AccessServiceClass */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20u;
+      stat = dec_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-AccessServiceClass", -1, 0);
+   }
+   /* e-RUCCH-PersistenceScalingFactor */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40u;
+      stat = dec_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-PersistenceScalingFactor", -1, 0);
+   }
+   /* sync-UL-InfoForE-RUCCH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80u;
+      stat = dec_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH, cur);
+      RT_CHECK(ctx, stat, 0, "sync-UL-InfoForE-RUCCH", -1, 0);
+   }
+   /* prach-information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100u;
+      stat = dec_PRACH_Information_LCR_List(ctx, &pvalue->prach_information, cur);
+      RT_CHECK(ctx, stat, 0, "prach-information", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PositionEstimate(rtxContext* RT_RESTRICT ctx, PositionEstimate* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo_tdd128, pvalue);
+}
+
+static int dec_E_RUCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PositionEstimate");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* ellipsoidPoint */
-         pvalue->u.ellipsoidPoint = (EllipsoidPoint*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPoint));
-         if (pvalue->u.ellipsoidPoint == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ellipsoidPoint", -1, "PositionEstimate");
-         stat = asn1PD_UMTS_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPoint", -1, "PositionEstimate");
+      case 0: /* tdd384-tdd768 */
+         pvalue->u.tdd384_tdd768 = (E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768));
+         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384-tdd768", -1, 0);
+         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(pvalue->u.tdd384_tdd768);
+         stat = dec_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
          break;
-      case 1: /* ellipsoidPointUncertCircle */
-         pvalue->u.ellipsoidPointUncertCircle = (EllipsoidPointUncertCircle*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointUncertCircle));
-         if (pvalue->u.ellipsoidPointUncertCircle == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ellipsoidPointUncertCircle", -1, "PositionEstimate");
-         stat = asn1PD_UMTS_EllipsoidPointUncertCircle(ctx, pvalue->u.ellipsoidPointUncertCircle);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPointUncertCircle", -1, "PositionEstimate");
-         break;
-      case 2: /* ellipsoidPointUncertEllipse */
-         pvalue->u.ellipsoidPointUncertEllipse = (EllipsoidPointUncertEllipse*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointUncertEllipse));
-         if (pvalue->u.ellipsoidPointUncertEllipse == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ellipsoidPointUncertEllipse", -1, "PositionEstimate");
-         stat = asn1PD_UMTS_EllipsoidPointUncertEllipse(ctx, pvalue->u.ellipsoidPointUncertEllipse);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPointUncertEllipse", -1, "PositionEstimate");
-         break;
-      case 3: /* ellipsoidPointAltitude */
-         pvalue->u.ellipsoidPointAltitude = (EllipsoidPointAltitude*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointAltitude));
-         if (pvalue->u.ellipsoidPointAltitude == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ellipsoidPointAltitude", -1, "PositionEstimate");
-         stat = asn1PD_UMTS_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointAltitude);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitude", -1, "PositionEstimate");
-         break;
-      case 4: /* ellipsoidPointAltitudeEllipse */
-         pvalue->u.ellipsoidPointAltitudeEllipse = (EllipsoidPointAltitudeEllipsoide*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointAltitudeEllipsoide));
-         if (pvalue->u.ellipsoidPointAltitudeEllipse == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ellipsoidPointAltitudeEllipse", -1, "PositionEstimate");
-         stat = asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, pvalue->u.ellipsoidPointAltitudeEllipse);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipse", -1, "PositionEstimate");
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (E_RUCCH_Info_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(E_RUCCH_Info_modeSpecificInfo_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128(pvalue->u.tdd128);
+         stat = dec_E_RUCCH_Info_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PositionEstimate");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_RUCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_RUCCH_Info(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* referenceTime */
-   stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-PositionEstimateInfo");
-   /* positionEstimate */
-   stat = asn1PD_UMTS_PositionEstimate(ctx, &pvalue->positionEstimate);
-   RT_CHECK(ctx, stat, 0, "positionEstimate", -1, "UE-Positioning-PositionEstimateInfo");
+   /* modeSpecificInfo */
+   stat = dec_E_RUCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-RUCCH-Info");
    return 0;
 }
 
-int asn1PD_UMTS_UE_RX_TX_TimeDifferenceType2(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_RUCCH_Info(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_RUCCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_TS_Slots(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ts-Number */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ts_Number, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ts-Number", -1, "E-PUCH-TS-Slots");
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-PUCH-TS-Slots");
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_TS_Slots(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_TS_Slots, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 8191);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceType2");
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 12);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_PUCH_TS_Slots* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_PUCH_TS_Slots));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-PUCH-TS-Slots", (int32_t)i, 0);
+      elem = (E_PUCH_TS_Slots*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_PUCH_TS_Slots(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_PUCH_TS_Slots(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots", (int32_t)i, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_Quality(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Quality* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd348_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* stdResolution */
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_BitString32(ctx, &pvalue->stdResolution, 2, 2);
-   RT_CHECK(ctx, stat, 0, "stdResolution", -1, "UE-Positioning-OTDOA-Quality");
-   /* numberOfOTDOA-Measurements */
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, &pvalue->numberOfOTDOA_Measurements, 3, 3);
-   RT_CHECK(ctx, stat, 0, "numberOfOTDOA-Measurements", -1, "UE-Positioning-OTDOA-Quality");
-   /* stdOfOTDOA-Measurements */
+   /* noSlotsForTFCIandTPC */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->noSlotsForTFCIandTPC, 1, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, "noSlotsForTFCIandTPC", -1, 0);
+   /* e-PUCH-ContantValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->e_PUCH_ContantValue, -35, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "e-PUCH-ContantValue", -1, 0);
+   /* e-PUCH-TS-ConfigurationList */
+   stat = dec_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList, cur);
+   RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, 0);
+   /* e-PUCH-CodeHopping */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->e_PUCH_CodeHopping);
+   RT_CHECK_AT(ctx, cur, stat, 0, "e-PUCH-CodeHopping", -1, 0);
+   /* e-PUCH-TPC-Step-Size */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_PUCH_TPC_Step_Size, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "e-PUCH-TPC-Step-Size", -1, 0);
+   /* minimum-Allowed-Code-Rate */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->minimum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "minimum-Allowed-Code-Rate", -1, 0);
+   /* maximum-Allowed-Code-Rate */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maximum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "maximum-Allowed-Code-Rate", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd348_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 5);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_PUCH_TS_Slots_LCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_PUCH_TS_Slots_LCR));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
+      elem = (E_PUCH_TS_Slots_LCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_PUCH_TS_Slots_LCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_PUCH_TS_Slots_LCR(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* snpl-ReportType */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->snpl_ReportType, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, 0, "snpl-ReportType", -1, 0);
+   }
+   /* prxBASEdes */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->prxBASEdes, -112, -50);
+   RT_CHECK_AT(ctx, cur, stat, 0, "prxBASEdes", -1, 0);
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->beaconPLEst);
+      RT_CHECK_AT(ctx, cur, stat, 0, "beaconPLEst", -1, 0);
+   }
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   /* pebase-PowerControlGAP */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pebase_PowerControlGAP, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "PowerControlGAP", "pebase-PowerControlGAP", -1, 0);
+   }
+   /* ul-SynchronisationParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+   }
+   /* e-PUCH-TS-ConfigurationList */
+   stat = dec_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList, cur);
+   RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, 0);
+   /* minimum-Allowed-Code-Rate */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->minimum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "minimum-Allowed-Code-Rate", -1, 0);
+   /* maximum-Allowed-Code-Rate */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maximum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "maximum-Allowed-Code-Rate", -1, 0);
+   /* maximumNumOfRetransSchedInfo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->maximumNumOfRetransSchedInfo, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "maximumNumOfRetransSchedInfo", -1, 0);
+   /* retransTimerForSchedInfo */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->retransTimerForSchedInfo, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, 0, "retransTimerForSchedInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_Info_modeSpecificInfo_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_PUCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd348-tdd768 */
+         pvalue->u.tdd348_tdd768 = (E_PUCH_Info_modeSpecificInfo_tdd348_tdd768*)rtxMemHeapAlloc(ctx, sizeof(E_PUCH_Info_modeSpecificInfo_tdd348_tdd768));
+         if (pvalue->u.tdd348_tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd348-tdd768", -1, 0);
+         asn1Init_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(pvalue->u.tdd348_tdd768);
+         stat = dec_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(ctx, pvalue->u.tdd348_tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd348-tdd768", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (E_PUCH_Info_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(E_PUCH_Info_modeSpecificInfo_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128(pvalue->u.tdd128);
+         stat = dec_E_PUCH_Info_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_Info_modeSpecificInfo, pvalue);
+}
+
+static int dec_E_PUCH_Info(rtxContext* RT_RESTRICT ctx, E_PUCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-PUCH-Info");
+   /* e-TFCS-Info */
+   stat = dec_E_TFCS_Info(ctx, &pvalue->e_TFCS_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-TFCS-Info", -1, "E-PUCH-Info");
+   /* modeSpecificInfo */
+   stat = dec_E_PUCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-PUCH-Info");
+   /* powerOffsetForSchedInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerOffsetForSchedInfo, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, 0, "powerOffsetForSchedInfo", -1, "E-PUCH-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info(rtxContext* RT_RESTRICT ctx, E_PUCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_PUCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_tdd384_768(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd384_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pd_BitString32At(ctx, cur, &pvalue->timeslotResourceRelatedInfo, 13, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* powerResourceRelatedInfo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerResourceRelatedInfo, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "powerResourceRelatedInfo", -1, 0);
+   /* activationTime */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   /* repetitionPeriodAndLength */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
+   }
+   /* codeResourceInfo */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->codeResourceInfo, 0, 30);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_tdd384_768(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd384_768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_tdd384_768, pvalue);
+}
+
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
+   /* channelisation-Code */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisation_Code, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, 0);
+   /* signatureSequenceGroupIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->signatureSequenceGroupIndex, 0, 19);
+   RT_CHECK_AT(ctx, cur, stat, 0, "signatureSequenceGroupIndex", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_tdd128(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* n-E-UCCH */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_E_UCCH, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "n-E-UCCH", -1, 0);
+   }
+   /* n-E-HICH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_E_HICH, 4, 15);
+      RT_CHECK_AT(ctx, cur, stat, 0, "n-E-HICH", -1, 0);
+   }
+   /* timeslotResourceRelatedInfo */
    RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->stdOfOTDOA_Measurements, 5, 5);
-   RT_CHECK(ctx, stat, 0, "stdOfOTDOA-Measurements", -1, "UE-Positioning-OTDOA-Quality");
-   return 0;
-}
-
-int asn1PD_UMTS_NeighbourQuality(rtxContext* RT_RESTRICT ctx, NeighbourQuality* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-Positioning-OTDOA-Quality */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_Quality(ctx, &pvalue->ue_Positioning_OTDOA_Quality);
-   RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-Quality", -1, "NeighbourQuality");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RX_TX_TimeDifferenceType2Info(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-RX-TX-TimeDifferenceType2 */
-   stat = pd_ConsUInt16(ctx, &pvalue->ue_RX_TX_TimeDifferenceType2, 0, 8191);
-   RT_CHECK(ctx, stat, "UE-RX-TX-TimeDifferenceType2", "ue-RX-TX-TimeDifferenceType2", -1, "UE-RX-TX-TimeDifferenceType2Info");
-   /* neighbourQuality */
-   stat = asn1PD_UMTS_NeighbourQuality(ctx, &pvalue->neighbourQuality);
-   RT_CHECK(ctx, stat, 0, "neighbourQuality", -1, "UE-RX-TX-TimeDifferenceType2Info");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* referenceCellIDentity */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceCellIDentity);
-   RT_CHECK(ctx, stat, 0, "referenceCellIDentity", -1, 0);
-   /* ue-RX-TX-TimeDifferenceType2Info */
-   stat = asn1PD_UMTS_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->ue_RX_TX_TimeDifferenceType2Info);
-   RT_CHECK(ctx, stat, 0, "ue-RX-TX-TimeDifferenceType2Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* referenceCellIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->referenceCellIdentity, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "referenceCellIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Neighbour_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Neighbour_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* neighbourIdentity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->neighbourIdentity);
-      RT_CHECK(ctx, stat, 0, "neighbourIdentity", -1, 0);
-   }
-   /* uE-RX-TX-TimeDifferenceType2Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->uE_RX_TX_TimeDifferenceType2Info);
-      RT_CHECK(ctx, stat, 0, "uE-RX-TX-TimeDifferenceType2Info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Neighbour_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, Neighbour_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* neighbourAndChannelIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->neighbourAndChannelIdentity);
-      RT_CHECK(ctx, stat, 0, "neighbourAndChannelIdentity", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Neighbour_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Neighbour_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (Neighbour_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(Neighbour_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_Neighbour_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_Neighbour_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (Neighbour_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(Neighbour_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_Neighbour_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_Neighbour_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Neighbour(rtxContext* RT_RESTRICT ctx, Neighbour* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_Neighbour_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Neighbour");
-   /* neighbourQuality */
-   stat = asn1PD_UMTS_NeighbourQuality(ctx, &pvalue->neighbourQuality);
-   RT_CHECK(ctx, stat, 0, "neighbourQuality", -1, "Neighbour");
-   /* sfn-SFN-ObsTimeDifference2 */
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn_SFN_ObsTimeDifference2, 0, 65535);
-   RT_CHECK(ctx, stat, "SFN-SFN-ObsTimeDifference2", "sfn-SFN-ObsTimeDifference2", -1, "Neighbour");
-   return 0;
-}
-
-int asn1PD_UMTS_NeighbourList(rtxContext* RT_RESTRICT ctx, NeighbourList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NeighbourList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Neighbour* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Neighbour));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Neighbour", (int32_t)i, "NeighbourList");
-      elem = (Neighbour*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Neighbour(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Neighbour(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Neighbour", (int32_t)i, "NeighbourList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-Measurement");
-   /* sfn */
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-Measurement");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-Measurement");
-   /* neighbourList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NeighbourList(ctx, &pvalue->neighbourList);
-      RT_CHECK(ctx, stat, 0, "neighbourList", -1, "UE-Positioning-OTDOA-Measurement");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_MeasurementResults_referenceTime* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* utran-GPSReferenceTimeResult */
-         pvalue->u.utran_GPSReferenceTimeResult = (UTRAN_GPSReferenceTimeResult*)rtxMemHeapAlloc(ctx, sizeof(UTRAN_GPSReferenceTimeResult));
-         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utran-GPSReferenceTimeResult", -1, 0);
-         asn1Init_UMTS_UTRAN_GPSReferenceTimeResult(pvalue->u.utran_GPSReferenceTimeResult);
-         stat = asn1PD_UMTS_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult);
-         RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTimeResult", -1, 0);
-         break;
-      case 1: /* gps-ReferenceTimeOnly */
-         stat = pd_ConsUInt32(ctx, &pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
-         RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultipathIndicator(rtxContext* RT_RESTRICT ctx, MultipathIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultipathIndicator");
-   return 0;
-}
-
-int asn1PD_UMTS_GPS_MeasurementParam(rtxContext* RT_RESTRICT ctx, GPS_MeasurementParam* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* satelliteID */
-   stat = pd_ConsUInt8(ctx, &pvalue->satelliteID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satelliteID", -1, "GPS-MeasurementParam");
-   /* c-N0 */
-   stat = pd_ConsUInt8(ctx, &pvalue->c_N0, 0, 63);
-   RT_CHECK(ctx, stat, 0, "c-N0", -1, "GPS-MeasurementParam");
-   /* doppler */
-   stat = pd_ConsInteger(ctx, &pvalue->doppler, -32768, 32768);
-   RT_CHECK(ctx, stat, 0, "doppler", -1, "GPS-MeasurementParam");
-   /* wholeGPS-Chips */
-   stat = pd_ConsUInt16(ctx, &pvalue->wholeGPS_Chips, 0, 1022);
-   RT_CHECK(ctx, stat, 0, "wholeGPS-Chips", -1, "GPS-MeasurementParam");
-   /* fractionalGPS-Chips */
-   stat = pd_ConsUInt16(ctx, &pvalue->fractionalGPS_Chips, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "fractionalGPS-Chips", -1, "GPS-MeasurementParam");
-   /* multipathIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->multipathIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "MultipathIndicator", "multipathIndicator", -1, "GPS-MeasurementParam");
-   /* pseudorangeRMS-Error */
-   stat = pd_ConsUInt8(ctx, &pvalue->pseudorangeRMS_Error, 0, 63);
-   RT_CHECK(ctx, stat, 0, "pseudorangeRMS-Error", -1, "GPS-MeasurementParam");
-   return 0;
-}
-
-int asn1PD_UMTS_GPS_MeasurementParamList(rtxContext* RT_RESTRICT ctx, GPS_MeasurementParamList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GPS-MeasurementParamList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GPS_MeasurementParam* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GPS_MeasurementParam));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GPS-MeasurementParam", (int32_t)i, "GPS-MeasurementParamList");
-      elem = (GPS_MeasurementParam*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GPS_MeasurementParam(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GPS-MeasurementParam", (int32_t)i, "GPS-MeasurementParamList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_MeasurementResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* referenceTime */
-   stat = asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-GPS-MeasurementResults");
-   /* gps-MeasurementParamList */
-   stat = asn1PD_UMTS_GPS_MeasurementParamList(ctx, &pvalue->gps_MeasurementParamList);
-   RT_CHECK(ctx, stat, 0, "gps-MeasurementParamList", -1, "UE-Positioning-GPS-MeasurementResults");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MeasurementEventResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementEventResults* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasurementEventResults");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* event7a */
-         pvalue->u.event7a = (UE_Positioning_PositionEstimateInfo*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_PositionEstimateInfo));
-         if (pvalue->u.event7a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults");
-         asn1Init_UMTS_UE_Positioning_PositionEstimateInfo(pvalue->u.event7a);
-         stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo(ctx, pvalue->u.event7a);
-         RT_CHECK(ctx, stat, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults");
-         break;
-      case 1: /* event7b */
-         pvalue->u.event7b = (UE_Positioning_OTDOA_Measurement*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_Measurement));
-         if (pvalue->u.event7b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event7b", -1, "UE-Positioning-MeasurementEventResults");
-         asn1Init_UMTS_UE_Positioning_OTDOA_Measurement(pvalue->u.event7b);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_Measurement(ctx, pvalue->u.event7b);
-         RT_CHECK(ctx, stat, 0, "event7b", -1, "UE-Positioning-MeasurementEventResults");
-         break;
-      case 2: /* event7c */
-         pvalue->u.event7c = (UE_Positioning_GPS_MeasurementResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_GPS_MeasurementResults));
-         if (pvalue->u.event7c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults");
-         asn1Init_UMTS_UE_Positioning_GPS_MeasurementResults(pvalue->u.event7c);
-         stat = asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults(ctx, pvalue->u.event7c);
-         RT_CHECK(ctx, stat, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults");
-         break;
-      case 3: /* additionalOrReplacedPosMeasEvent */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EventResults(rtxContext* RT_RESTRICT ctx, EventResults* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EventResults");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqEventResults */
-         pvalue->u.intraFreqEventResults = (IntraFreqEventResults*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqEventResults));
-         if (pvalue->u.intraFreqEventResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqEventResults", -1, "EventResults");
-         asn1Init_UMTS_IntraFreqEventResults(pvalue->u.intraFreqEventResults);
-         stat = asn1PD_UMTS_IntraFreqEventResults(ctx, pvalue->u.intraFreqEventResults);
-         RT_CHECK(ctx, stat, 0, "intraFreqEventResults", -1, "EventResults");
-         break;
-      case 1: /* interFreqEventResults */
-         pvalue->u.interFreqEventResults = (InterFreqEventResults*)rtxMemHeapAlloc(ctx, sizeof(InterFreqEventResults));
-         if (pvalue->u.interFreqEventResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFreqEventResults", -1, "EventResults");
-         asn1Init_UMTS_InterFreqEventResults(pvalue->u.interFreqEventResults);
-         stat = asn1PD_UMTS_InterFreqEventResults(ctx, pvalue->u.interFreqEventResults);
-         RT_CHECK(ctx, stat, 0, "interFreqEventResults", -1, "EventResults");
-         break;
-      case 2: /* interRATEventResults */
-         pvalue->u.interRATEventResults = (InterRATEventResults*)rtxMemHeapAlloc(ctx, sizeof(InterRATEventResults));
-         if (pvalue->u.interRATEventResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATEventResults", -1, "EventResults");
-         asn1Init_UMTS_InterRATEventResults(pvalue->u.interRATEventResults);
-         stat = asn1PD_UMTS_InterRATEventResults(ctx, pvalue->u.interRATEventResults);
-         RT_CHECK(ctx, stat, 0, "interRATEventResults", -1, "EventResults");
-         break;
-      case 3: /* trafficVolumeEventResults */
-         pvalue->u.trafficVolumeEventResults = (TrafficVolumeEventResults*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeEventResults));
-         if (pvalue->u.trafficVolumeEventResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeEventResults", -1, "EventResults");
-         asn1Init_UMTS_TrafficVolumeEventResults(pvalue->u.trafficVolumeEventResults);
-         stat = asn1PD_UMTS_TrafficVolumeEventResults(ctx, pvalue->u.trafficVolumeEventResults);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeEventResults", -1, "EventResults");
-         break;
-      case 4: /* qualityEventResults */
-         pvalue->u.qualityEventResults = (QualityEventResults*)rtxMemHeapAlloc(ctx, sizeof(QualityEventResults));
-         if (pvalue->u.qualityEventResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityEventResults", -1, "EventResults");
-         asn1Init_UMTS_QualityEventResults(pvalue->u.qualityEventResults);
-         stat = asn1PD_UMTS_QualityEventResults(ctx, pvalue->u.qualityEventResults);
-         RT_CHECK(ctx, stat, 0, "qualityEventResults", -1, "EventResults");
-         break;
-      case 5: /* ue-InternalEventResults */
-         pvalue->u.ue_InternalEventResults = (UE_InternalEventResults*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalEventResults));
-         if (pvalue->u.ue_InternalEventResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalEventResults", -1, "EventResults");
-         asn1Init_UMTS_UE_InternalEventResults(pvalue->u.ue_InternalEventResults);
-         stat = asn1PD_UMTS_UE_InternalEventResults(ctx, pvalue->u.ue_InternalEventResults);
-         RT_CHECK(ctx, stat, 0, "ue-InternalEventResults", -1, "EventResults");
-         break;
-      case 6: /* ue-positioning-MeasurementEventResults */
-         pvalue->u.ue_positioning_MeasurementEventResults = (UE_Positioning_MeasurementEventResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasurementEventResults));
-         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults");
-         asn1Init_UMTS_UE_Positioning_MeasurementEventResults(pvalue->u.ue_positioning_MeasurementEventResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasurementEventResults(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults");
-         break;
-      case 7: /* spare */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "EventResults");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ms-Part */
-   stat = pd_ConsUInt8(ctx, &pvalue->ms_Part, 0, 80);
-   RT_CHECK(ctx, stat, 0, "ms-Part", -1, 0);
-   /* ls-Part */
-   stat = pd_ConsUInt32(ctx, &pvalue->ls_Part, 0, 4294967295LL);
-   RT_CHECK(ctx, stat, 0, "ls-Part", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_mode_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primary-CPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primary-CPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_mode_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellParameters */
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParameters, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParameters", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_mode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UTRAN_GANSSReferenceTime_mode_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GANSSReferenceTime_mode_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UTRAN_GANSSReferenceTime_mode_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GANSSReferenceTime_mode_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GANSSReferenceTime(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-GANSSReferenceTime");
-   /* ue-GANSSTimingOfCellFrames */
-   stat = asn1PD_UMTS_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(ctx, &pvalue->ue_GANSSTimingOfCellFrames);
-   RT_CHECK(ctx, stat, 0, "ue-GANSSTimingOfCellFrames", -1, "UTRAN-GANSSReferenceTime");
-   /* gANSS-TimeId */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->gANSS_TimeId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "gANSS-TimeId", -1, "UTRAN-GANSSReferenceTime");
-   }
-   /* gANSS-TimeUncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->gANSS_TimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, 0, "gANSS-TimeUncertainty", -1, "UTRAN-GANSSReferenceTime");
-   }
-   /* mode */
-   stat = asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat, 0, "mode", -1, "UTRAN-GANSSReferenceTime");
-   /* referenceSfn */
-   stat = pd_ConsUInt16(ctx, &pvalue->referenceSfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "referenceSfn", -1, "UTRAN-GANSSReferenceTime");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSReferenceTimeOnly(rtxContext* RT_RESTRICT ctx, GANSSReferenceTimeOnly* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSReferenceTimeOnly");
-   /* gANSS-tod */
-   stat = pd_ConsUInt32(ctx, &pvalue->gANSS_tod, 0, 3599999);
-   RT_CHECK(ctx, stat, 0, "gANSS-tod", -1, "GANSSReferenceTimeOnly");
-   /* gANSS-timeId */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->gANSS_timeId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "gANSS-timeId", -1, "GANSSReferenceTimeOnly");
-   }
-   /* gANSS-tod-uncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->gANSS_tod_uncertainty, 0, 127);
-      RT_CHECK(ctx, stat, 0, "gANSS-tod-uncertainty", -1, "GANSSReferenceTimeOnly");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* utran-GANSSReferenceTimeResult */
-         pvalue->u.utran_GANSSReferenceTimeResult = (UTRAN_GANSSReferenceTime*)rtxMemHeapAlloc(ctx, sizeof(UTRAN_GANSSReferenceTime));
-         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utran-GANSSReferenceTimeResult", -1, 0);
-         asn1Init_UMTS_UTRAN_GANSSReferenceTime(pvalue->u.utran_GANSSReferenceTimeResult);
-         stat = asn1PD_UMTS_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult);
-         RT_CHECK(ctx, stat, 0, "utran-GANSSReferenceTimeResult", -1, 0);
-         break;
-      case 1: /* ganssReferenceTimeOnly */
-         pvalue->u.ganssReferenceTimeOnly = (GANSSReferenceTimeOnly*)rtxMemHeapAlloc(ctx, sizeof(GANSSReferenceTimeOnly));
-         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ganssReferenceTimeOnly", -1, 0);
-         asn1Init_UMTS_GANSSReferenceTimeOnly(pvalue->u.ganssReferenceTimeOnly);
-         stat = asn1PD_UMTS_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly);
-         RT_CHECK(ctx, stat, 0, "ganssReferenceTimeOnly", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* referenceTime */
-   stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat, 0, "referenceTime", -1, 0);
-   /* positionEstimate */
-   stat = asn1PD_UMTS_PositionEstimate(ctx, &pvalue->positionEstimate);
-   RT_CHECK(ctx, stat, 0, "positionEstimate", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* earlier-than-r7 */
-         break;
-      case 1: /* r7 */
-         pvalue->u.r7 = (UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7));
-         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
-         asn1Init_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HorizontalVelocity(rtxContext* RT_RESTRICT ctx, HorizontalVelocity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* bearing */
-   stat = pd_ConsUInt16(ctx, &pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat, 0, "bearing", -1, "HorizontalVelocity");
-   /* horizontalSpeed */
-   stat = pd_ConsUInt16(ctx, &pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat, 0, "horizontalSpeed", -1, "HorizontalVelocity");
-   return 0;
-}
-
-int asn1PD_UMTS_HorizontalWithVerticalVelocity_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity_verticalSpeedDirection* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HorizontalWithVerticalVelocity(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* verticalSpeedDirection */
-   stat = pd_ConsUnsigned(ctx, &pvalue->verticalSpeedDirection, 0, 1);
-   RT_CHECK(ctx, stat, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocity");
-   /* bearing */
-   stat = pd_ConsUInt16(ctx, &pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat, 0, "bearing", -1, "HorizontalWithVerticalVelocity");
-   /* horizontalSpeed */
-   stat = pd_ConsUInt16(ctx, &pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocity");
-   /* verticalSpeed */
-   stat = pd_ConsUInt8(ctx, &pvalue->verticalSpeed, 0, 255);
-   RT_CHECK(ctx, stat, 0, "verticalSpeed", -1, "HorizontalWithVerticalVelocity");
-   return 0;
-}
-
-int asn1PD_UMTS_HorizontalVelocityWithUncertainty(rtxContext* RT_RESTRICT ctx, HorizontalVelocityWithUncertainty* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* bearing */
-   stat = pd_ConsUInt16(ctx, &pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat, 0, "bearing", -1, "HorizontalVelocityWithUncertainty");
-   /* horizontalSpeed */
-   stat = pd_ConsUInt16(ctx, &pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat, 0, "horizontalSpeed", -1, "HorizontalVelocityWithUncertainty");
-   /* horizontalSpeedUncertainty */
-   stat = pd_ConsUInt8(ctx, &pvalue->horizontalSpeedUncertainty, 0, 255);
-   RT_CHECK(ctx, stat, 0, "horizontalSpeedUncertainty", -1, "HorizontalVelocityWithUncertainty");
-   return 0;
-}
-
-int asn1PD_UMTS_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HorizontalWithVerticalVelocityAndUncertainty(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* verticalSpeedDirection */
-   stat = pd_ConsUnsigned(ctx, &pvalue->verticalSpeedDirection, 0, 1);
-   RT_CHECK(ctx, stat, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* bearing */
-   stat = pd_ConsUInt16(ctx, &pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat, 0, "bearing", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* horizontalSpeed */
-   stat = pd_ConsUInt16(ctx, &pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* verticalSpeed */
-   stat = pd_ConsUInt8(ctx, &pvalue->verticalSpeed, 0, 255);
-   RT_CHECK(ctx, stat, 0, "verticalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* horizontalUncertaintySpeed */
-   stat = pd_ConsUInt8(ctx, &pvalue->horizontalUncertaintySpeed, 0, 255);
-   RT_CHECK(ctx, stat, 0, "horizontalUncertaintySpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* verticalUncertaintySpeed */
-   stat = pd_ConsUInt8(ctx, &pvalue->verticalUncertaintySpeed, 0, 255);
-   RT_CHECK(ctx, stat, 0, "verticalUncertaintySpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   return 0;
-}
-
-int asn1PD_UMTS_VelocityEstimate(rtxContext* RT_RESTRICT ctx, VelocityEstimate* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "VelocityEstimate");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* horizontalVelocity */
-         pvalue->u.horizontalVelocity = (HorizontalVelocity*)rtxMemHeapAllocZ(ctx, sizeof(HorizontalVelocity));
-         if (pvalue->u.horizontalVelocity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "horizontalVelocity", -1, "VelocityEstimate");
-         stat = asn1PD_UMTS_HorizontalVelocity(ctx, pvalue->u.horizontalVelocity);
-         RT_CHECK(ctx, stat, 0, "horizontalVelocity", -1, "VelocityEstimate");
-         break;
-      case 1: /* horizontalWithVerticalVelocity */
-         pvalue->u.horizontalWithVerticalVelocity = (HorizontalWithVerticalVelocity*)rtxMemHeapAllocZ(ctx, sizeof(HorizontalWithVerticalVelocity));
-         if (pvalue->u.horizontalWithVerticalVelocity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "horizontalWithVerticalVelocity", -1, "VelocityEstimate");
-         stat = asn1PD_UMTS_HorizontalWithVerticalVelocity(ctx, pvalue->u.horizontalWithVerticalVelocity);
-         RT_CHECK(ctx, stat, 0, "horizontalWithVerticalVelocity", -1, "VelocityEstimate");
-         break;
-      case 2: /* horizontalVelocityWithUncertainty */
-         pvalue->u.horizontalVelocityWithUncertainty = (HorizontalVelocityWithUncertainty*)rtxMemHeapAllocZ(ctx, sizeof(HorizontalVelocityWithUncertainty));
-         if (pvalue->u.horizontalVelocityWithUncertainty == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "horizontalVelocityWithUncertainty", -1, "VelocityEstimate");
-         stat = asn1PD_UMTS_HorizontalVelocityWithUncertainty(ctx, pvalue->u.horizontalVelocityWithUncertainty);
-         RT_CHECK(ctx, stat, 0, "horizontalVelocityWithUncertainty", -1, "VelocityEstimate");
-         break;
-      case 3: /* horizontalWithVerticalVelocityAndUncertainty */
-         pvalue->u.horizontalWithVerticalVelocityAndUncertainty = (HorizontalWithVerticalVelocityAndUncertainty*)rtxMemHeapAllocZ(ctx, sizeof(HorizontalWithVerticalVelocityAndUncertainty));
-         if (pvalue->u.horizontalWithVerticalVelocityAndUncertainty == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "horizontalWithVerticalVelocityAndUncertainty", -1, "VelocityEstimate");
-         stat = asn1PD_UMTS_HorizontalWithVerticalVelocityAndUncertainty(ctx, pvalue->u.horizontalWithVerticalVelocityAndUncertainty);
-         RT_CHECK(ctx, stat, 0, "horizontalWithVerticalVelocityAndUncertainty", -1, "VelocityEstimate");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "VelocityEstimate");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTimeUncertainty(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTimeUncertainty* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-PositionEstimateInfo-v770ext");
-   /* referenceTimeOptions */
-   stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(ctx, &pvalue->referenceTimeOptions);
-   RT_CHECK(ctx, stat, 0, "referenceTimeOptions", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
-   /* positionData */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->positionData, 16, 16);
-   RT_CHECK(ctx, stat, 0, "positionData", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
-   /* velocityEstimate */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_VelocityEstimate(ctx, &pvalue->velocityEstimate);
-      RT_CHECK(ctx, stat, 0, "velocityEstimate", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
-   }
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_MeasurementResults_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_MeasuredResults_referenceTime* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* utran-GANSSReferenceTimeResult */
-         pvalue->u.utran_GANSSReferenceTimeResult = (UTRAN_GANSSReferenceTime*)rtxMemHeapAlloc(ctx, sizeof(UTRAN_GANSSReferenceTime));
-         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utran-GANSSReferenceTimeResult", -1, 0);
-         asn1Init_UMTS_UTRAN_GANSSReferenceTime(pvalue->u.utran_GANSSReferenceTimeResult);
-         stat = asn1PD_UMTS_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult);
-         RT_CHECK(ctx, stat, 0, "utran-GANSSReferenceTimeResult", -1, 0);
-         break;
-      case 1: /* ganssReferenceTimeOnly */
-         pvalue->u.ganssReferenceTimeOnly = (GANSSReferenceTimeOnly*)rtxMemHeapAlloc(ctx, sizeof(GANSSReferenceTimeOnly));
-         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ganssReferenceTimeOnly", -1, 0);
-         asn1Init_UMTS_GANSSReferenceTimeOnly(pvalue->u.ganssReferenceTimeOnly);
-         stat = asn1PD_UMTS_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly);
-         RT_CHECK(ctx, stat, 0, "ganssReferenceTimeOnly", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSMeasurementParameters_element_multipathIndicator(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element_multipathIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSMeasurementParameters_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* satId */
-   stat = pd_ConsUInt8(ctx, &pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satId", -1, 0);
-   /* cSurNzero */
-   stat = pd_ConsUInt8(ctx, &pvalue->cSurNzero, 0, 63);
-   RT_CHECK(ctx, stat, 0, "cSurNzero", -1, 0);
-   /* multipathIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->multipathIndicator, 0, 3);
-   RT_CHECK(ctx, stat, 0, "multipathIndicator", -1, 0);
-   /* carrierQualityIndication */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pd_BitString32(ctx, &pvalue->carrierQualityIndication, 2, 2);
-      RT_CHECK(ctx, stat, 0, "carrierQualityIndication", -1, 0);
-   }
-   /* ganssCodePhase */
-   stat = pd_ConsUInt32(ctx, &pvalue->ganssCodePhase, 0, 2097151);
-   RT_CHECK(ctx, stat, 0, "ganssCodePhase", -1, 0);
-   /* ganssIntegerCodePhase */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssIntegerCodePhase, 0, 63);
-      RT_CHECK(ctx, stat, 0, "ganssIntegerCodePhase", -1, 0);
-   }
-   /* codePhaseRmsError */
-   stat = pd_ConsUInt8(ctx, &pvalue->codePhaseRmsError, 0, 63);
-   RT_CHECK(ctx, stat, 0, "codePhaseRmsError", -1, 0);
-   /* doppler */
-   stat = pd_ConsInt16(ctx, &pvalue->doppler, -32768, 32767);
-   RT_CHECK(ctx, stat, 0, "doppler", -1, 0);
-   /* adr */
+   stat = pd_BitString32At(ctx, cur, &pvalue->timeslotResourceRelatedInfo, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* powerResourceRelatedInfo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerResourceRelatedInfo, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "powerResourceRelatedInfo", -1, 0);
+   /* activationTime */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   /* sfnNum */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->sfnNum, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sfnNum", -1, 0);
+   /* repetitionPeriodAndLength */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt32(ctx, &pvalue->adr, 0, 33554431);
-      RT_CHECK(ctx, stat, 0, "adr", -1, 0);
+      stat = dec_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
    }
+   /* codeResourceInfo */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->codeResourceInfo, 0, 30);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   /* e-HICH-Info */
+   stat = dec_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(ctx, &pvalue->e_HICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_GANSSMeasurementParameters(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_tdd128, pvalue);
+}
+
+static int dec_Non_ScheduledTransGrantInfoTDD(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSMeasurementParameters");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSMeasurementParameters_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSMeasurementParameters_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "GANSSMeasurementParameters");
-      elem = (GANSSMeasurementParameters_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSMeasurementParameters_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSMeasurementParameters_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementParameters");
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384-768 */
+         pvalue->u.tdd384_768 = (Non_ScheduledTransGrantInfoTDD_tdd384_768*)rtxMemHeapAlloc(ctx, sizeof(Non_ScheduledTransGrantInfoTDD_tdd384_768));
+         if (pvalue->u.tdd384_768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD");
+         asn1Init_UMTS_Non_ScheduledTransGrantInfoTDD_tdd384_768(pvalue->u.tdd384_768);
+         stat = dec_Non_ScheduledTransGrantInfoTDD_tdd384_768(ctx, pvalue->u.tdd384_768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD");
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (Non_ScheduledTransGrantInfoTDD_tdd128*)rtxMemHeapAlloc(ctx, sizeof(Non_ScheduledTransGrantInfoTDD_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD");
+         asn1Init_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128(pvalue->u.tdd128);
+         stat = dec_Non_ScheduledTransGrantInfoTDD_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD");
    }
    return 0;
 }
 
-int asn1PD_UMTS_GANSSMeasurementSignalList_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList_element* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ganssSignalId */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-RUCCH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
+   }
+   /* e-PUCH-Info */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "ganssSignalId", -1, 0);
-   }
-   /* ganssCodePhaseAmbiguity */
-   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssCodePhaseAmbiguity, 0, 31);
-      RT_CHECK(ctx, stat, 0, "ganssCodePhaseAmbiguity", -1, 0);
+      stat = dec_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
    }
-   /* ganssMeasurementParameters */
-   stat = asn1PD_UMTS_GANSSMeasurementParameters(ctx, &pvalue->ganssMeasurementParameters);
-   RT_CHECK(ctx, stat, 0, "ganssMeasurementParameters", -1, 0);
+   /* non-ScheduledTransGrantInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_Non_ScheduledTransGrantInfoTDD(ctx, &pvalue->non_ScheduledTransGrantInfo, cur);
+      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_GANSSMeasurementSignalList(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r8_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSMeasurementSignalList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSMeasurementSignalList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSMeasurementSignalList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "GANSSMeasurementSignalList");
-      elem = (GANSSMeasurementSignalList_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSMeasurementSignalList_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSMeasurementSignalList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementSignalList");
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_EDCH_Information_r8_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r8_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_UL_EDCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_EDCH_Information_r8_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r8_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UL_EDCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_GANSSGenericMeasurementInfo_element(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo_element* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_EDCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r8_modeSpecificInfo, pvalue);
+}
+
+static int dec_UL_EDCH_Information_r8(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ganssId */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-EDCH-Information-r8");
+   /* mac-es-e-resetIndicator */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssId", -1, 0);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r8");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r8");
+         pvalue->mac_es_e_resetIndicator = ui;
+      }
    }
-   /* ganssMeasurementSignalList */
-   stat = asn1PD_UMTS_GANSSMeasurementSignalList(ctx, &pvalue->ganssMeasurementSignalList);
-   RT_CHECK(ctx, stat, 0, "ganssMeasurementSignalList", -1, 0);
+   /* modeSpecificInfo */
+   stat = dec_UL_EDCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-EDCH-Information-r8");
    return 0;
 }
 
-int asn1PD_UMTS_GANSSGenericMeasurementInfo(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_EDCH_Information_r8(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericMeasurementInfo");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericMeasurementInfo_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericMeasurementInfo_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo");
-      elem = (GANSSGenericMeasurementInfo_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericMeasurementInfo_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericMeasurementInfo_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r8, pvalue);
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_MeasuredResults* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_DLUL_HSPA_Information_r8(rtxContext* RT_RESTRICT ctx, DLUL_HSPA_Information_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* referenceTime */
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-GANSS-MeasuredResults");
-   /* ganssGenericMeasurementInfo */
-   stat = asn1PD_UMTS_GANSSGenericMeasurementInfo(ctx, &pvalue->ganssGenericMeasurementInfo);
-   RT_CHECK(ctx, stat, 0, "ganssGenericMeasurementInfo", -1, "UE-Positioning-GANSS-MeasuredResults");
+   /* ul-EDCH-Information */
+   stat = dec_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "DLUL-HSPA-Information-r8");
+   /* dl-CommonInformation */
+   stat = dec_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation, cur);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "DLUL-HSPA-Information-r8");
+   /* dl-InformationPerRL-List */
+   stat = dec_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List, cur);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "DLUL-HSPA-Information-r8");
+   /* dl-HSPDSCH-Information */
+   stat = dec_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "DLUL-HSPA-Information-r8");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_MeasurementEventResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementEventResults_v770ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DLUL_HSPA_Information_r8(rtxContext* RT_RESTRICT ctx, DLUL_HSPA_Information_r8* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v770ext");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* event7a */
-         pvalue->u.event7a = (UE_Positioning_PositionEstimateInfo_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_PositionEstimateInfo_v770ext));
-         if (pvalue->u.event7a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-         asn1Init_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(pvalue->u.event7a);
-         stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(ctx, pvalue->u.event7a);
-         RT_CHECK(ctx, stat, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-         break;
-      case 1: /* event7c */
-         pvalue->u.event7c = (UE_Positioning_GPS_MeasurementResults_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_GPS_MeasurementResults_v770ext));
-         if (pvalue->u.event7c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-         asn1Init_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(pvalue->u.event7c);
-         stat = asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, pvalue->u.event7c);
-         RT_CHECK(ctx, stat, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-         break;
-      case 2: /* event7d */
-         pvalue->u.event7d = (UE_Positioning_GANSS_MeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_GANSS_MeasuredResults));
-         if (pvalue->u.event7d == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-         asn1Init_UMTS_UE_Positioning_GANSS_MeasuredResults(pvalue->u.event7d);
-         stat = asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults(ctx, pvalue->u.event7d);
-         RT_CHECK(ctx, stat, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-         break;
-      case 3: /* spare */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v770ext");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_DLUL_HSPA_Information_r8, pvalue);
 }
 
-int asn1PD_UMTS_EventResults_v770ext(rtxContext* RT_RESTRICT ctx, EventResults_v770ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EventResults-v770ext");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ue-positioning-MeasurementEventResults */
-         pvalue->u.ue_positioning_MeasurementEventResults = (UE_Positioning_MeasurementEventResults_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasurementEventResults_v770ext));
-         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v770ext");
-         asn1Init_UMTS_UE_Positioning_MeasurementEventResults_v770ext(pvalue->u.ue_positioning_MeasurementEventResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasurementEventResults_v770ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v770ext");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "EventResults-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSMeasurementParameters_v860ext_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_v860ext_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ganssIntegerCodePhaseExt */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssIntegerCodePhaseExt, 64, 127);
-      RT_CHECK(ctx, stat, 0, "ganssIntegerCodePhaseExt", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSMeasurementParameters_v860ext(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSMeasurementParameters-v860ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSMeasurementParameters_v860ext_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSMeasurementParameters_v860ext_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "GANSSMeasurementParameters-v860ext");
-      elem = (GANSSMeasurementParameters_v860ext_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSMeasurementParameters_v860ext_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSMeasurementParameters_v860ext_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementParameters-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSMeasurementSignalList_v860ext_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList_v860ext_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ganssCodePhaseAmbiguityExt */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssCodePhaseAmbiguityExt, 32, 127);
-      RT_CHECK(ctx, stat, 0, "ganssCodePhaseAmbiguityExt", -1, 0);
-   }
-   /* ganssMeasurementParameters */
-   stat = asn1PD_UMTS_GANSSMeasurementParameters_v860ext(ctx, &pvalue->ganssMeasurementParameters);
-   RT_CHECK(ctx, stat, 0, "ganssMeasurementParameters", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSMeasurementSignalList_v860ext(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSMeasurementSignalList-v860ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSMeasurementSignalList_v860ext_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSMeasurementSignalList_v860ext_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "GANSSMeasurementSignalList-v860ext");
-      elem = (GANSSMeasurementSignalList_v860ext_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSMeasurementSignalList_v860ext_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSMeasurementSignalList_v860ext_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementSignalList-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericMeasurementInfo_v860ext_element(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo_v860ext_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ganssMeasurementSignalList */
-   stat = asn1PD_UMTS_GANSSMeasurementSignalList_v860ext(ctx, &pvalue->ganssMeasurementSignalList);
-   RT_CHECK(ctx, stat, 0, "ganssMeasurementSignalList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericMeasurementInfo_v860ext(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericMeasurementInfo-v860ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericMeasurementInfo_v860ext_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericMeasurementInfo_v860ext_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo-v860ext");
-      elem = (GANSSGenericMeasurementInfo_v860ext_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericMeasurementInfo_v860ext_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericMeasurementInfo_v860ext_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_MeasuredResults_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ganssGenericMeasurementInfo */
-   stat = asn1PD_UMTS_GANSSGenericMeasurementInfo_v860ext(ctx, &pvalue->ganssGenericMeasurementInfo);
-   RT_CHECK(ctx, stat, 0, "ganssGenericMeasurementInfo", -1, "UE-Positioning-GANSS-MeasuredResults-v860ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MeasurementEventResults_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementEventResults_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v860ext");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* event7d */
-         pvalue->u.event7d = (UE_Positioning_GANSS_MeasuredResults_v860ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_GANSS_MeasuredResults_v860ext));
-         if (pvalue->u.event7d == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v860ext");
-         asn1Init_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(pvalue->u.event7d);
-         stat = asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, pvalue->u.event7d);
-         RT_CHECK(ctx, stat, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v860ext");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_EventResults_v860ext(rtxContext* RT_RESTRICT ctx, EventResults_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EventResults-v860ext");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ue-positioning-MeasurementEventResults */
-         pvalue->u.ue_positioning_MeasurementEventResults = (UE_Positioning_MeasurementEventResults_v860ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasurementEventResults_v860ext));
-         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v860ext");
-         asn1Init_UMTS_UE_Positioning_MeasurementEventResults_v860ext(pvalue->u.ue_positioning_MeasurementEventResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasurementEventResults_v860ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v860ext");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "EventResults-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventResultsOnSecUlFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* eventID */
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 15);
-   RT_CHECK(ctx, stat, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResultsOnSecUlFreq");
-   /* cellMeasurementEventResultsOnSecUlFreq */
-   stat = asn1PD_UMTS_CellMeasurementEventResultsOnSecUlFreq(ctx, &pvalue->cellMeasurementEventResultsOnSecUlFreq);
-   RT_CHECK(ctx, stat, 0, "cellMeasurementEventResultsOnSecUlFreq", -1, "IntraFreqEventResultsOnSecUlFreq");
-   return 0;
-}
-
-int asn1PD_UMTS_EventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, EventResultsOnSecUlFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* intraFreqEventResults */
-   stat = asn1PD_UMTS_IntraFreqEventResultsOnSecUlFreq(ctx, &pvalue->intraFreqEventResults);
-   RT_CHECK(ctx, stat, 0, "intraFreqEventResults", -1, "EventResultsOnSecUlFreq");
-   return 0;
-}
-
-int asn1PD_UMTS_ExtraDoppler_dopplerUncertainty(rtxContext* RT_RESTRICT ctx, ExtraDoppler_dopplerUncertainty* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_ExtraDoppler(rtxContext* RT_RESTRICT ctx, ExtraDoppler* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dopplerFirstOrder */
-   stat = pd_ConsInt8(ctx, &pvalue->dopplerFirstOrder, -42, 21);
-   RT_CHECK(ctx, stat, 0, "dopplerFirstOrder", -1, "ExtraDoppler");
-   /* dopplerUncertainty */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dopplerUncertainty, 0, 7);
-   RT_CHECK(ctx, stat, 0, "dopplerUncertainty", -1, "ExtraDoppler");
-   return 0;
-}
-
-int asn1PD_UMTS_FineSFN_SFN(rtxContext* RT_RESTRICT ctx, FineSFN_SFN* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FineSFN-SFN");
-   return 0;
-}
-
-int asn1PD_UMTS_FreqQualityEstimateQuantity_FDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_FDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FreqQualityEstimateQuantity-FDD");
-   return 0;
-}
-
-int asn1PD_UMTS_FreqQualityEstimateQuantity_TDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_TDD* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UL_EDCH_Information_r9_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_mac_es_e_resetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    {
       uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "FreqQualityEstimateQuantity-TDD");
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "FreqQualityEstimateQuantity-TDD");
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_ReqDataBitAssistance_ganssSatelliteInfo_element(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo_element* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_EDCH_Information_r9_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_mac_es_e_resetIndicator* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r9_mac_es_e_resetIndicator, pvalue);
 }
 
-int asn1PD_UMTS_ReqDataBitAssistance_ganssSatelliteInfo(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 6);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 63) {
-         rtxErrAddStrParm(ctx, "ganssSatelliteInfo");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 63);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, 0, "element", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ReqDataBitAssistance(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UL_EDCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReqDataBitAssistance");
-   /* ganssSignalID */
-   stat = asn1PD_UMTS_DGANSS_Sig_Id_Req(ctx, &pvalue->ganssSignalID);
-   RT_CHECK(ctx, stat, 0, "ganssSignalID", -1, "ReqDataBitAssistance");
-   /* ganssDataBitInterval */
-   stat = pd_ConsUInt8(ctx, &pvalue->ganssDataBitInterval, 0, 15);
-   RT_CHECK(ctx, stat, 0, "ganssDataBitInterval", -1, "ReqDataBitAssistance");
-   /* ganssSatelliteInfo */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-DPCCH-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, 0);
+   }
+   /* e-DPDCH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_DPDCH_Info_r8(ctx, &pvalue->e_DPDCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, 0);
+   }
+   /* schedulingTransmConfiguration */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, 0);
+   }
+   /* ul-16QAM-Settings */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r9_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd384_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pd_BitString32At(ctx, cur, &pvalue->timeslotResourceRelatedInfo, 13, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* powerResourceRelatedInfo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerResourceRelatedInfo, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "powerResourceRelatedInfo", -1, 0);
+   /* activationTime */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   /* repetitionPeriodAndLength */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReqDataBitAssistance_ganssSatelliteInfo(ctx, &pvalue->ganssSatelliteInfo);
-      RT_CHECK(ctx, stat, 0, "ganssSatelliteInfo", -1, "ReqDataBitAssistance");
+      stat = dec_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
+   }
+   /* codeResourceInfo */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->codeResourceInfo, 0, 30);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd384_768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768, pvalue);
+}
+
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_GanssDataBits(rtxContext* RT_RESTRICT ctx, GanssDataBits* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* ganssTod */
-   stat = pd_ConsUInt32(ctx, &pvalue->ganssTod, 0, 86399);
-   RT_CHECK(ctx, stat, 0, "ganssTod", -1, "GanssDataBits");
-   /* dataBitAssistance */
-   stat = asn1PD_UMTS_ReqDataBitAssistance(ctx, &pvalue->dataBitAssistance);
-   RT_CHECK(ctx, stat, 0, "dataBitAssistance", -1, "GanssDataBits");
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
+   /* channelisation-Code */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisation_Code, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, 0);
+   /* signatureSequenceGroupIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->signatureSequenceGroupIndex, 0, 19);
+   RT_CHECK_AT(ctx, cur, stat, 0, "signatureSequenceGroupIndex", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_GANSSDecipheringKeys_currentDecipheringKey(rtxContext* RT_RESTRICT ctx, GANSSDecipheringKeys_currentDecipheringKey* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   RT_SET_SIZE(ctx, 56, 56);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_GANSSDecipheringKeys_nextDecipheringKey(rtxContext* RT_RESTRICT ctx, GANSSDecipheringKeys_nextDecipheringKey* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst* RT_RESTRICT pvalue)
 {
-   int stat;
-   RT_SET_SIZE(ctx, 56, 56);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst, pvalue);
 }
 
-int asn1PD_UMTS_GANSSDecipheringKeys(rtxContext* RT_RESTRICT ctx, GANSSDecipheringKeys* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* currentDecipheringKey */
-   stat = asn1PD_UMTS_GANSSDecipheringKeys_currentDecipheringKey(ctx, &pvalue->currentDecipheringKey);
-   RT_CHECK(ctx, stat, 0, "currentDecipheringKey", -1, "GANSSDecipheringKeys");
-   /* nextDecipheringKey */
-   stat = asn1PD_UMTS_GANSSDecipheringKeys_nextDecipheringKey(ctx, &pvalue->nextDecipheringKey);
-   RT_CHECK(ctx, stat, 0, "nextDecipheringKey", -1, "GANSSDecipheringKeys");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_TimeModel_gnss_to_id(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel_gnss_to_id* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_TimeModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-TimeModel");
-   /* ganss-timeModelreferenceTime */
-   stat = pd_ConsUInt16(ctx, &pvalue->ganss_timeModelreferenceTime, 0, 37799);
-   RT_CHECK(ctx, stat, 0, "ganss-timeModelreferenceTime", -1, "UE-Positioning-GANSS-TimeModel");
-   /* ganss-t-a0 */
-   stat = pd_ConsInteger(ctx, &pvalue->ganss_t_a0, -2147483648LL, 2147483647);
-   RT_CHECK(ctx, stat, 0, "ganss-t-a0", -1, "UE-Positioning-GANSS-TimeModel");
-   /* ganss-t-a1 */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* n-E-UCCH */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_E_UCCH, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "n-E-UCCH", -1, 0);
+   }
+   /* n-E-HICH */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_E_HICH, 4, 15);
+      RT_CHECK_AT(ctx, cur, stat, 0, "n-E-HICH", -1, 0);
+   }
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->timeslotResourceRelatedInfo, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* powerResourceRelatedInfo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerResourceRelatedInfo, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "powerResourceRelatedInfo", -1, 0);
+   /* activationTime */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   /* sfnNum */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->sfnNum, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sfnNum", -1, 0);
+   /* repetitionPeriodAndLength */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
+   }
+   /* codeResourceInfo */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->codeResourceInfo, 0, 30);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   /* e-HICH-Info */
+   stat = dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(ctx, &pvalue->e_HICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   /* t-SI-nst */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_SI_nst, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, 0, "t-SI-nst", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128, pvalue);
+}
+
+static int dec_Non_ScheduledTransGrantInfoTDD_r9(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-r9");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384-768 */
+         pvalue->u.tdd384_768 = (Non_ScheduledTransGrantInfoTDD_r9_tdd384_768*)rtxMemHeapAlloc(ctx, sizeof(Non_ScheduledTransGrantInfoTDD_r9_tdd384_768));
+         if (pvalue->u.tdd384_768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD-r9");
+         asn1Init_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(pvalue->u.tdd384_768);
+         stat = dec_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(ctx, pvalue->u.tdd384_768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD-r9");
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (Non_ScheduledTransGrantInfoTDD_r9_tdd128*)rtxMemHeapAlloc(ctx, sizeof(Non_ScheduledTransGrantInfoTDD_r9_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-r9");
+         asn1Init_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128(pvalue->u.tdd128);
+         stat = dec_Non_ScheduledTransGrantInfoTDD_r9_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-r9");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_r9(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-RUCCH-Info */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsInteger(ctx, &pvalue->ganss_t_a1, -8388608, 8388607);
-      RT_CHECK(ctx, stat, 0, "ganss-t-a1", -1, "UE-Positioning-GANSS-TimeModel");
+      stat = dec_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
    }
-   /* ganss-t-a2 */
+   /* e-PUCH-Info */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->ganss_t_a2, -64, 63);
-      RT_CHECK(ctx, stat, 0, "ganss-t-a2", -1, "UE-Positioning-GANSS-TimeModel");
+      stat = dec_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
    }
-   /* gnss-to-id */
-   stat = pd_ConsUnsigned(ctx, &pvalue->gnss_to_id, 0, 7);
-   RT_CHECK(ctx, stat, 0, "gnss-to-id", -1, "UE-Positioning-GANSS-TimeModel");
-   /* ganss-wk-number */
+   /* non-ScheduledTransGrantInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt16(ctx, &pvalue->ganss_wk_number, 0, 8191);
-      RT_CHECK(ctx, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-TimeModel");
+      stat = dec_Non_ScheduledTransGrantInfoTDD_r9(ctx, &pvalue->non_ScheduledTransGrantInfo, cur);
+      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_GANSSTimeModelsList(rtxContext* RT_RESTRICT ctx, GANSSTimeModelsList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r9_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_EDCH_Information_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r9_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_UL_EDCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_EDCH_Information_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r9_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UL_EDCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_EDCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r9_modeSpecificInfo, pvalue);
+}
+
+static int dec_UL_EDCH_Information_r9(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-EDCH-Information-r9");
+   /* mac-es-e-resetIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r9");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r9");
+         pvalue->mac_es_e_resetIndicator = ui;
+      }
+   }
+   /* modeSpecificInfo */
+   stat = dec_UL_EDCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-EDCH-Information-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_EDCH_Information_r9(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_DLUL_HSPA_Information_r9(rtxContext* RT_RESTRICT ctx, DLUL_HSPA_Information_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-EDCH-Information */
+   stat = dec_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "DLUL-HSPA-Information-r9");
+   /* dl-CommonInformation */
+   stat = dec_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation, cur);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "DLUL-HSPA-Information-r9");
+   /* dl-InformationPerRL-List */
+   stat = dec_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List, cur);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "DLUL-HSPA-Information-r9");
+   /* dl-HSPDSCH-Information */
+   stat = dec_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "DLUL-HSPA-Information-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_DLUL_HSPA_Information_r9(rtxContext* RT_RESTRICT ctx, DLUL_HSPA_Information_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DLUL_HSPA_Information_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_DPCCH_PowerOffset2(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -28, -13);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DPCCH-PowerOffset2");
+   return 0;
+}
+
+int asn1PD_UMTS_DPCCH_PowerOffset2(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DPCCH_PowerOffset2, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGPS_Reconfiguration_CFN(rtxContext* RT_RESTRICT ctx, TGPS_Reconfiguration_CFN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TGPS-Reconfiguration-CFN");
+   return 0;
+}
+
+int asn1PD_UMTS_TGPS_Reconfiguration_CFN(rtxContext* RT_RESTRICT ctx, TGPS_Reconfiguration_CFN* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGPS_Reconfiguration_CFN, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGP_SequenceShort_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_SequenceShort_tgps_Status_activate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tgcfn */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgcfn, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_SequenceShort_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_SequenceShort_tgps_Status_activate* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGP_SequenceShort_tgps_Status_activate, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGP_SequenceShort_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_SequenceShort_tgps_Status* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* activate */
+         pvalue->u.activate = (TGP_SequenceShort_tgps_Status_activate*)rtxMemHeapAllocZ(ctx, sizeof(TGP_SequenceShort_tgps_Status_activate));
+         if (pvalue->u.activate == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "activate", -1, 0);
+         stat = dec_TGP_SequenceShort_tgps_Status_activate(ctx, pvalue->u.activate, cur);
+         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
+         break;
+      case 1: /* deactivate */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_SequenceShort_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_SequenceShort_tgps_Status* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGP_SequenceShort_tgps_Status, pvalue);
+}
+
+RT_MERGED_BODY int dec_TGP_SequenceShort(rtxContext* RT_RESTRICT ctx, TGP_SequenceShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tgpsi */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgpsi, 1, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TGPSI", "tgpsi", -1, "TGP-SequenceShort");
+   /* tgps-Status */
+   stat = dec_TGP_SequenceShort_tgps_Status(ctx, &pvalue->tgps_Status, cur);
+   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-SequenceShort");
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_SequenceShort(rtxContext* RT_RESTRICT ctx, TGP_SequenceShort* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TGP_SequenceShort, pvalue);
+}
+
+RT_MERGED_BODY int dec_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeStatusInfo_tgp_SequenceShortList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSTimeModelsList");
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      UE_Positioning_GANSS_TimeModel* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_GANSS_TimeModel));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "GANSSTimeModelsList");
-      elem = (UE_Positioning_GANSS_TimeModel*)(node + 1);
+      TGP_SequenceShort* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TGP_SequenceShort));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TGP-SequenceShort", (int32_t)i, 0);
+      elem = (TGP_SequenceShort*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_UE_Positioning_GANSS_TimeModel(elem);
+      asn1Init_UMTS_TGP_SequenceShort(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_TimeModel(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "GANSSTimeModelsList");
+      stat = dec_TGP_SequenceShort(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "TGP-SequenceShort", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_DGANSSCorrections(rtxContext* RT_RESTRICT ctx, UE_Positioning_DGANSSCorrections* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeStatusInfo_tgp_SequenceShortList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DPCH_CompressedModeStatusInfo(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeStatusInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* dganssreferencetime */
-   stat = pd_ConsUInt8(ctx, &pvalue->dganssreferencetime, 0, 119);
-   RT_CHECK(ctx, stat, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections");
-   /* dganssInfoList */
-   stat = asn1PD_UMTS_DGANSSInfoList(ctx, &pvalue->dganssInfoList);
-   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections");
+   /* tgps-Reconfiguration-CFN */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tgps_Reconfiguration_CFN, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "TGPS-Reconfiguration-CFN", "tgps-Reconfiguration-CFN", -1, "DPCH-CompressedModeStatusInfo");
+   /* tgp-SequenceShortList */
+   stat = dec_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(ctx, &pvalue->tgp_SequenceShortList, cur);
+   RT_CHECK(ctx, stat, 0, "tgp-SequenceShortList", -1, "DPCH-CompressedModeStatusInfo");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel_non_broadcastIndication* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DPCH_CompressedModeStatusInfo(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeStatusInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DPCH_CompressedModeStatusInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_DRX_Cycle_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle_InactivityThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-DRX-Cycle-InactivityThreshold");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_DRX_Cycle_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle_InactivityThreshold* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_DRX_Cycle_InactivityThreshold, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_DRX_Cycle(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-DRX-Cycle");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_DRX_Cycle(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_DRX_Cycle, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_GrantMonitoring_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_GrantMonitoring_InactivityThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-GrantMonitoring-InactivityThreshold");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_GrantMonitoring_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_GrantMonitoring_InactivityThreshold* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_GrantMonitoring_InactivityThreshold, pvalue);
+}
+
+RT_MERGED_BODY int dec_DRX_Info(rtxContext* RT_RESTRICT ctx, DRX_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-drx-Cycle */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_drx_Cycle, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "UE-DRX-Cycle", "ue-drx-Cycle", -1, "DRX-Info");
+   /* ue-drx-Cycle-InactivityThreshold */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_drx_Cycle_InactivityThreshold, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "UE-DRX-Cycle-InactivityThreshold", "ue-drx-Cycle-InactivityThreshold", -1, "DRX-Info");
+   /* ue-GrantMonitoring-InactivityThreshold */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_GrantMonitoring_InactivityThreshold, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "UE-GrantMonitoring-InactivityThreshold", "ue-GrantMonitoring-InactivityThreshold", -1, "DRX-Info");
+   /* ue-drx-GrantMonitoring */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_drx_GrantMonitoring);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-drx-GrantMonitoring", -1, "DRX-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_DRX_Info(rtxContext* RT_RESTRICT ctx, DRX_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DRX_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_DTX_Cycle1_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_10ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-DTX-Cycle1-10ms");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_DTX_Cycle1_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_10ms* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_DTX_Cycle1_10ms, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_DTX_Cycle2_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_10ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-DTX-Cycle2-10ms");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_DTX_Cycle2_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_10ms* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_DTX_Cycle2_10ms, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_DTX_Cycle_10ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_10ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-DTX-Cycle-10ms");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_DTX_Cycle_10ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_10ms* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_DTX_Cycle_10ms, pvalue);
+}
+
+RT_MERGED_BODY int dec_DTX_E_DCH_TTI_10ms(rtxContext* RT_RESTRICT ctx, DTX_E_DCH_TTI_10ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-dtx-Cycle1-10ms */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_dtx_Cycle1_10ms, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "UE-DTX-Cycle1-10ms", "ue-dtx-Cycle1-10ms", -1, "DTX-E-DCH-TTI-10ms");
+   /* ue-dtx-Cycle2-10ms */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_dtx_Cycle2_10ms, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "UE-DTX-Cycle2-10ms", "ue-dtx-Cycle2-10ms", -1, "DTX-E-DCH-TTI-10ms");
+   /* mac-dtx-Cycle-10ms */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mac_dtx_Cycle_10ms, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-DTX-Cycle-10ms", "mac-dtx-Cycle-10ms", -1, "DTX-E-DCH-TTI-10ms");
+   return 0;
+}
+
+int asn1PD_UMTS_DTX_E_DCH_TTI_10ms(rtxContext* RT_RESTRICT ctx, DTX_E_DCH_TTI_10ms* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DTX_E_DCH_TTI_10ms, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_DTX_Cycle1_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_2ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-DTX-Cycle1-2ms");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_DTX_Cycle1_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_2ms* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_DTX_Cycle1_2ms, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_DTX_Cycle2_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_2ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-DTX-Cycle2-2ms");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_DTX_Cycle2_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_2ms* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_DTX_Cycle2_2ms, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_DTX_Cycle_2ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_2ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-DTX-Cycle-2ms");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_DTX_Cycle_2ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_2ms* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_DTX_Cycle_2ms, pvalue);
+}
+
+RT_MERGED_BODY int dec_DTX_E_DCH_TTI_2ms(rtxContext* RT_RESTRICT ctx, DTX_E_DCH_TTI_2ms* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-dtx-Cycle1-2ms */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_dtx_Cycle1_2ms, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "UE-DTX-Cycle1-2ms", "ue-dtx-Cycle1-2ms", -1, "DTX-E-DCH-TTI-2ms");
+   /* ue-dtx-Cycle2-2ms */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_dtx_Cycle2_2ms, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "UE-DTX-Cycle2-2ms", "ue-dtx-Cycle2-2ms", -1, "DTX-E-DCH-TTI-2ms");
+   /* mac-dtx-Cycle-2ms */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mac_dtx_Cycle_2ms, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-DTX-Cycle-2ms", "mac-dtx-Cycle-2ms", -1, "DTX-E-DCH-TTI-2ms");
+   return 0;
+}
+
+int asn1PD_UMTS_DTX_E_DCH_TTI_2ms(rtxContext* RT_RESTRICT ctx, DTX_E_DCH_TTI_2ms* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DTX_E_DCH_TTI_2ms, pvalue);
+}
+
+RT_MERGED_BODY int dec_DTX_Info_e_dch_TTI_Length(rtxContext* RT_RESTRICT ctx, DTX_Info_e_dch_TTI_Length* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dtx-e-dch-TTI-10ms */
+         pvalue->u.dtx_e_dch_TTI_10ms = (DTX_E_DCH_TTI_10ms*)rtxMemHeapAllocZ(ctx, sizeof(DTX_E_DCH_TTI_10ms));
+         if (pvalue->u.dtx_e_dch_TTI_10ms == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dtx-e-dch-TTI-10ms", -1, 0);
+         stat = dec_DTX_E_DCH_TTI_10ms(ctx, pvalue->u.dtx_e_dch_TTI_10ms, cur);
+         RT_CHECK(ctx, stat, 0, "dtx-e-dch-TTI-10ms", -1, 0);
+         break;
+      case 1: /* dtx-e-dch-TTI-2ms */
+         pvalue->u.dtx_e_dch_TTI_2ms = (DTX_E_DCH_TTI_2ms*)rtxMemHeapAllocZ(ctx, sizeof(DTX_E_DCH_TTI_2ms));
+         if (pvalue->u.dtx_e_dch_TTI_2ms == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dtx-e-dch-TTI-2ms", -1, 0);
+         stat = dec_DTX_E_DCH_TTI_2ms(ctx, pvalue->u.dtx_e_dch_TTI_2ms, cur);
+         RT_CHECK(ctx, stat, 0, "dtx-e-dch-TTI-2ms", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_Satellite_clock_model(rtxContext* RT_RESTRICT ctx, Satellite_clock_model* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DTX_Info_e_dch_TTI_Length(rtxContext* RT_RESTRICT ctx, DTX_Info_e_dch_TTI_Length* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DTX_Info_e_dch_TTI_Length, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_DTX_Cycle2InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2InactivityThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-DTX-Cycle2InactivityThreshold");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_DTX_Cycle2InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2InactivityThreshold* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_DTX_Cycle2InactivityThreshold, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_DTX_long_preamble_length(rtxContext* RT_RESTRICT ctx, UE_DTX_long_preamble_length* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-DTX-long-preamble-length");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_DTX_long_preamble_length(rtxContext* RT_RESTRICT ctx, UE_DTX_long_preamble_length* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_DTX_long_preamble_length, pvalue);
+}
+
+RT_MERGED_BODY int dec_MAC_InactivityThreshold(rtxContext* RT_RESTRICT ctx, MAC_InactivityThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MAC-InactivityThreshold");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_InactivityThreshold(rtxContext* RT_RESTRICT ctx, MAC_InactivityThreshold* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MAC_InactivityThreshold, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_DPCCH_Burst(rtxContext* RT_RESTRICT ctx, UE_DPCCH_Burst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-DPCCH-Burst");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_DPCCH_Burst(rtxContext* RT_RESTRICT ctx, UE_DPCCH_Burst* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_DPCCH_Burst, pvalue);
+}
+
+RT_MERGED_BODY int dec_DTX_Info(rtxContext* RT_RESTRICT ctx, DTX_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Satellite-clock-model");
-   /* t-oc */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->t_oc, 14, 14);
-   RT_CHECK(ctx, stat, 0, "t-oc", -1, "Satellite-clock-model");
-   /* af2 */
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, &pvalue->af2, 12, 12);
-   RT_CHECK(ctx, stat, 0, "af2", -1, "Satellite-clock-model");
-   /* af1 */
-   RT_SET_SIZE(ctx, 18, 18);
-   stat = pd_BitString32(ctx, &pvalue->af1, 18, 18);
-   RT_CHECK(ctx, stat, 0, "af1", -1, "Satellite-clock-model");
-   /* af0 */
-   RT_SET_SIZE(ctx, 28, 28);
-   stat = pd_BitString32(ctx, &pvalue->af0, 28, 28);
-   RT_CHECK(ctx, stat, 0, "af0", -1, "Satellite-clock-model");
-   /* tgd */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DTX-Info");
+   /* e-dch-TTI-Length */
+   stat = dec_DTX_Info_e_dch_TTI_Length(ctx, &pvalue->e_dch_TTI_Length, cur);
+   RT_CHECK(ctx, stat, 0, "e-dch-TTI-Length", -1, "DTX-Info");
+   /* ue-dtx-cycle2InactivityThreshold */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_dtx_cycle2InactivityThreshold, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "UE-DTX-Cycle2InactivityThreshold", "ue-dtx-cycle2InactivityThreshold", -1, "DTX-Info");
+   /* ue-dtx-cycle2DefaultSG */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 10, 10);
-      stat = pd_BitString32(ctx, &pvalue->tgd, 10, 10);
-      RT_CHECK(ctx, stat, 0, "tgd", -1, "Satellite-clock-model");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_dtx_cycle2DefaultSG, 0, 38);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ue-dtx-cycle2DefaultSG", -1, "DTX-Info");
    }
-   /* model-id */
+   /* ue-dtx-long-preamble-length */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->model_id, 0, 1);
-      RT_CHECK(ctx, stat, 0, "model-id", -1, "Satellite-clock-model");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_dtx_long_preamble_length, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "UE-DTX-long-preamble-length", "ue-dtx-long-preamble-length", -1, "DTX-Info");
+   }
+   /* mac-InactivityThreshold */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mac_InactivityThreshold, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MAC-InactivityThreshold", "mac-InactivityThreshold", -1, "DTX-Info");
+   /* cqi-dtx-Timer */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cqi_dtx_Timer, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "CQI-DTX-Timer", "cqi-dtx-Timer", -1, "DTX-Info");
+   /* ue-dpcch-Burst1 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_dpcch_Burst1, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "UE-DPCCH-Burst", "ue-dpcch-Burst1", -1, "DTX-Info");
+   /* ue-dpcch-Burst2 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ue_dpcch_Burst2, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "UE-DPCCH-Burst", "ue-dpcch-Burst2", -1, "DTX-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_DTX_Info(rtxContext* RT_RESTRICT ctx, DTX_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DTX_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_Uplink_DPCCH_Slot_Format_Information(rtxContext* RT_RESTRICT ctx, Uplink_DPCCH_Slot_Format_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Uplink-DPCCH-Slot-Format-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_Uplink_DPCCH_Slot_Format_Information(rtxContext* RT_RESTRICT ctx, Uplink_DPCCH_Slot_Format_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Uplink_DPCCH_Slot_Format_Information, pvalue);
+}
+
+static int dec_DTX_DRX_Info_r7(rtxContext* RT_RESTRICT ctx, DTX_DRX_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DTX-DRX-Info-r7");
+   /* dtx-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DTX_Info(ctx, &pvalue->dtx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-Info", -1, "DTX-DRX-Info-r7");
+   }
+   /* drx-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DRX_Info(ctx, &pvalue->drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "drx-Info", -1, "DTX-DRX-Info-r7");
+   }
+   /* uplink-DPCCHSlotFormatInformation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->uplink_DPCCHSlotFormatInformation, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "Uplink-DPCCH-Slot-Format-Information", "uplink-DPCCHSlotFormatInformation", -1, "DTX-DRX-Info-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_DTX_DRX_Info_r7(rtxContext* RT_RESTRICT ctx, DTX_DRX_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DTX_DRX_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_servingGrant(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_servingGrant* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* value */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->value, 0, 38);
+      RT_CHECK_AT(ctx, cur, stat, 0, "value", -1, 0);
+   }
+   /* primary-Secondary-GrantSelector */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->primary_Secondary_GrantSelector, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_servingGrant* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoNewServingCell_servingGrant, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_Reference_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* reference-E-TFCI */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reference_E_TFCI, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI");
+   /* reference-E-TFCI-PO */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reference_E_TFCI_PO, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reference-E-TFCI-PO", -1, "E-DPDCH-Reference-E-TFCI");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_Reference_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_Reference_E_TFCI, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_Reference_E_TFCIList(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCIList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_DPDCH_Reference_E_TFCI* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DPDCH_Reference_E_TFCI));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-DPDCH-Reference-E-TFCI", (int32_t)i, "E-DPDCH-Reference-E-TFCIList");
+      elem = (E_DPDCH_Reference_E_TFCI*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_DPDCH_Reference_E_TFCI(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-DPDCH-Reference-E-TFCI", (int32_t)i, "E-DPDCH-Reference-E-TFCIList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_Satellite_clock_modelList(rtxContext* RT_RESTRICT ctx, Satellite_clock_modelList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCIList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_Reference_E_TFCIList, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = dec_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoNewServingCell_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 8, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-RL-InfoNewServingCell");
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoNewServingCell");
+   /* e-AGCH-Information */
+   stat = dec_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "E-DCH-RL-InfoNewServingCell");
+   /* servingGrant */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_DCH_RL_InfoNewServingCell_servingGrant(ctx, &pvalue->servingGrant, cur);
+      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "E-DCH-RL-InfoNewServingCell");
+   }
+   /* e-DPCCH-DPCCH-PowerOffset */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoNewServingCell");
+   }
+   /* reference-E-TFCIs */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4u;
+      stat = dec_E_DPDCH_Reference_E_TFCIList(ctx, &pvalue->reference_E_TFCIs, cur);
+      RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DCH-RL-InfoNewServingCell");
+   }
+   /* powerOffsetForSchedInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerOffsetForSchedInfo, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, 0, "powerOffsetForSchedInfo", -1, "E-DCH-RL-InfoNewServingCell");
+   }
+   /* threeIndexStepThreshold */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->threeIndexStepThreshold, 0, 37);
+      RT_CHECK_AT(ctx, cur, stat, 0, "threeIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell");
+   }
+   /* twoIndexStepThreshold */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->twoIndexStepThreshold, 0, 37);
+      RT_CHECK_AT(ctx, cur, stat, 0, "twoIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell");
+   }
+   /* e-HICH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
+      stat = dec_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoNewServingCell");
+   }
+   /* e-RGCH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
+      stat = dec_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoNewServingCell");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoNewServingCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoOtherCell_e_HICH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_e_HICH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-HICH-Information */
+         pvalue->u.e_HICH_Information = (E_HICH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_HICH_Information));
+         if (pvalue->u.e_HICH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-HICH-Information", -1, 0);
+         stat = dec_E_HICH_Information(ctx, pvalue->u.e_HICH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_RL_InfoOtherCell_e_HICH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoOtherCell_e_HICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoOtherCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = dec_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_RL_InfoOtherCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoOtherCell_e_RGCH_Info, pvalue);
+}
+
+static int dec_E_DCH_RL_InfoOtherCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-RL-InfoOtherCell");
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoOtherCell");
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_DCH_RL_InfoOtherCell_e_HICH_Info(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, "E-DCH-RL-InfoOtherCell");
+   }
+   /* e-RGCH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_DCH_RL_InfoOtherCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoOtherCell");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_RL_InfoOtherCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoOtherCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Satellite-clock-modelList");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      Satellite_clock_model* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Satellite_clock_model));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Satellite-clock-model", (int32_t)i, "Satellite-clock-modelList");
-      elem = (Satellite_clock_model*)(node + 1);
+      E_DCH_RL_InfoOtherCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_RL_InfoOtherCell));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
+      elem = (E_DCH_RL_InfoOtherCell*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_Satellite_clock_model(elem);
+      asn1Init_UMTS_E_DCH_RL_InfoOtherCell(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Satellite_clock_model(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Satellite-clock-model", (int32_t)i, "Satellite-clock-modelList");
+      stat = dec_E_DCH_RL_InfoOtherCell(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_ClockModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ClockModel* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* satellite-clock-modelList */
-   stat = asn1PD_UMTS_Satellite_clock_modelList(ctx, &pvalue->satellite_clock_modelList);
-   RT_CHECK(ctx, stat, 0, "satellite-clock-modelList", -1, "UE-Positioning-GANSS-ClockModel");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList, pvalue);
 }
 
-int asn1PD_UMTS_KeplerianParameters(rtxContext* RT_RESTRICT ctx, KeplerianParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* toe-nav */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->toe_nav, 14, 14);
-   RT_CHECK(ctx, stat, 0, "toe-nav", -1, "KeplerianParameters");
-   /* ganss-omega-nav */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->ganss_omega_nav, 32, 32);
-   RT_CHECK(ctx, stat, 0, "ganss-omega-nav", -1, "KeplerianParameters");
-   /* delta-n-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->delta_n_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "delta-n-nav", -1, "KeplerianParameters");
-   /* m-zero-nav */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->m_zero_nav, 32, 32);
-   RT_CHECK(ctx, stat, 0, "m-zero-nav", -1, "KeplerianParameters");
-   /* omegadot-nav */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->omegadot_nav, 24, 24);
-   RT_CHECK(ctx, stat, 0, "omegadot-nav", -1, "KeplerianParameters");
-   /* ganss-e-nav */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->ganss_e_nav, 32, 32);
-   RT_CHECK(ctx, stat, 0, "ganss-e-nav", -1, "KeplerianParameters");
-   /* idot-nav */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->idot_nav, 14, 14);
-   RT_CHECK(ctx, stat, 0, "idot-nav", -1, "KeplerianParameters");
-   /* a-sqrt-nav */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->a_sqrt_nav, 32, 32);
-   RT_CHECK(ctx, stat, 0, "a-sqrt-nav", -1, "KeplerianParameters");
-   /* i-zero-nav */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->i_zero_nav, 32, 32);
-   RT_CHECK(ctx, stat, 0, "i-zero-nav", -1, "KeplerianParameters");
-   /* omega-zero-nav */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->omega_zero_nav, 32, 32);
-   RT_CHECK(ctx, stat, 0, "omega-zero-nav", -1, "KeplerianParameters");
-   /* c-rs-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_rs_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-rs-nav", -1, "KeplerianParameters");
-   /* c-is-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_is_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-is-nav", -1, "KeplerianParameters");
-   /* c-us-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_us_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-us-nav", -1, "KeplerianParameters");
-   /* c-rc-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_rc_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-rc-nav", -1, "KeplerianParameters");
-   /* c-ic-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_ic_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-ic-nav", -1, "KeplerianParameters");
-   /* c-uc-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_uc_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-uc-nav", -1, "KeplerianParameters");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_OrbitModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_OrbitModel* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_E_DCH_ReconfigurationInfo(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-OrbitModel");
-   /* keplerianParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_KeplerianParameters(ctx, &pvalue->keplerianParameters);
-      RT_CHECK(ctx, stat, 0, "keplerianParameters", -1, "UE-Positioning-GANSS-OrbitModel");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Ganss_Sat_Info_Nav(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_Nav* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* satId */
-   stat = pd_ConsUInt8(ctx, &pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satId", -1, "Ganss-Sat-Info-Nav");
-   /* svHealth */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->svHealth, 5, 5);
-   RT_CHECK(ctx, stat, 0, "svHealth", -1, "Ganss-Sat-Info-Nav");
-   /* iod */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->iod, 10, 10);
-   RT_CHECK(ctx, stat, 0, "iod", -1, "Ganss-Sat-Info-Nav");
-   /* ganssClockModel */
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_ClockModel(ctx, &pvalue->ganssClockModel);
-   RT_CHECK(ctx, stat, 0, "ganssClockModel", -1, "Ganss-Sat-Info-Nav");
-   /* ganssOrbitModel */
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_OrbitModel(ctx, &pvalue->ganssOrbitModel);
-   RT_CHECK(ctx, stat, 0, "ganssOrbitModel", -1, "Ganss-Sat-Info-Nav");
-   return 0;
-}
-
-int asn1PD_UMTS_Ganss_Sat_Info_NavList(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_NavList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Ganss-Sat-Info-NavList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Ganss_Sat_Info_Nav* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Ganss_Sat_Info_Nav));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Ganss-Sat-Info-Nav", (int32_t)i, "Ganss-Sat-Info-NavList");
-      elem = (Ganss_Sat_Info_Nav*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Ganss_Sat_Info_Nav(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Ganss_Sat_Info_Nav(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Ganss-Sat-Info-Nav", (int32_t)i, "Ganss-Sat-Info-NavList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-NavigationModel");
-   /* non-broadcastIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-NavigationModel");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-NavigationModel");
-         pvalue->non_broadcastIndication = ui;
-      }
-   }
-   /* ganssSatInfoNavList */
-   stat = asn1PD_UMTS_Ganss_Sat_Info_NavList(ctx, &pvalue->ganssSatInfoNavList);
-   RT_CHECK(ctx, stat, 0, "ganssSatInfoNavList", -1, "UE-Positioning-GANSS-NavigationModel");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_RealTimeIntegrity_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* bad-ganss-satId */
-   stat = pd_ConsUInt8(ctx, &pvalue->bad_ganss_satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "bad-ganss-satId", -1, 0);
-   /* bad-ganss-signalId */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->bad_ganss_signalId, 8, 8);
-      RT_CHECK(ctx, stat, 0, "bad-ganss-signalId", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_RealTimeIntegrity* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-RealTimeIntegrity");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_GANSS_RealTimeIntegrity_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_GANSS_RealTimeIntegrity_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "UE-Positioning-GANSS-RealTimeIntegrity");
-      elem = (UE_Positioning_GANSS_RealTimeIntegrity_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "UE-Positioning-GANSS-RealTimeIntegrity");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Data_Bit_Assistance* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ganss-tod */
-   stat = pd_ConsUInt8(ctx, &pvalue->ganss_tod, 0, 59);
-   RT_CHECK(ctx, stat, 0, "ganss-tod", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
-   /* dataBitAssistanceList */
-   stat = asn1PD_UMTS_DataBitAssistanceList(ctx, &pvalue->dataBitAssistanceList);
-   RT_CHECK(ctx, stat, 0, "dataBitAssistanceList", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSSatelliteInformation(rtxContext* RT_RESTRICT ctx, GANSSSatelliteInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSSatelliteInformation");
-   /* ganssSatId */
-   stat = pd_ConsUInt8(ctx, &pvalue->ganssSatId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "ganssSatId", -1, "GANSSSatelliteInformation");
-   /* dopplerZeroOrder */
-   stat = pd_ConsInt16(ctx, &pvalue->dopplerZeroOrder, -2048, 2047);
-   RT_CHECK(ctx, stat, 0, "dopplerZeroOrder", -1, "GANSSSatelliteInformation");
-   /* extraDoppler */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-ReconfigurationInfo");
+   /* e-DCH-RL-InfoNewServingCell */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ExtraDoppler(ctx, &pvalue->extraDoppler);
-      RT_CHECK(ctx, stat, 0, "extraDoppler", -1, "GANSSSatelliteInformation");
+      stat = dec_E_DCH_RL_InfoNewServingCell(ctx, &pvalue->e_DCH_RL_InfoNewServingCell, cur);
+      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoNewServingCell", -1, "E-DCH-ReconfigurationInfo");
    }
-   /* codePhase */
-   stat = pd_ConsUInt16(ctx, &pvalue->codePhase, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "codePhase", -1, "GANSSSatelliteInformation");
-   /* integerCodePhase */
-   stat = pd_ConsUInt8(ctx, &pvalue->integerCodePhase, 0, 127);
-   RT_CHECK(ctx, stat, 0, "integerCodePhase", -1, "GANSSSatelliteInformation");
-   /* codePhaseSearchWindow */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->codePhaseSearchWindow, 5, 5);
-   RT_CHECK(ctx, stat, 0, "codePhaseSearchWindow", -1, "GANSSSatelliteInformation");
-   /* azimuthandElevation */
+   /* e-DCH-RL-InfoOtherCellList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AzimuthAndElevation(ctx, &pvalue->azimuthandElevation);
-      RT_CHECK(ctx, stat, 0, "azimuthandElevation", -1, "GANSSSatelliteInformation");
+      stat = dec_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(ctx, &pvalue->e_DCH_RL_InfoOtherCellList, cur);
+      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoOtherCellList", -1, "E-DCH-ReconfigurationInfo");
    }
    return 0;
 }
 
-int asn1PD_UMTS_GANSSSatelliteInformationList(rtxContext* RT_RESTRICT ctx, GANSSSatelliteInformationList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_ReconfigurationInfo(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_ReconfigurationInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSSatelliteInformationList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSSatelliteInformation* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSSatelliteInformation));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GANSSSatelliteInformation", (int32_t)i, "GANSSSatelliteInformationList");
-      elem = (GANSSSatelliteInformation*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSSatelliteInformation(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSSatelliteInformation(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GANSSSatelliteInformation", (int32_t)i, "GANSSSatelliteInformationList");
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceMeasurementInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_r7_servingGrant(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
-   /* ganssSignalId */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* value */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->value, 0, 38);
+      RT_CHECK_AT(ctx, cur, stat, 0, "value", -1, 0);
    }
-   /* satelliteInformationList */
-   stat = asn1PD_UMTS_GANSSSatelliteInformationList(ctx, &pvalue->satelliteInformationList);
-   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
+   /* primary-Secondary-GrantSelector */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->primary_Secondary_GrantSelector, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_Almanac(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Almanac* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac");
-   /* ganss-wk-number */
-   stat = pd_ConsUInt8(ctx, &pvalue->ganss_wk_number, 0, 255);
-   RT_CHECK(ctx, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-Almanac");
-   /* alm-keplerianParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianParameters", -1, "UE-Positioning-GANSS-Almanac");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoNewServingCell_r7_servingGrant, pvalue);
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_UTCModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_UTCModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* a-one-utc */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->a_one_utc, 24, 24);
-   RT_CHECK(ctx, stat, 0, "a-one-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* a-zero-utc */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->a_zero_utc, 32, 32);
-   RT_CHECK(ctx, stat, 0, "a-zero-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* t-ot-utc */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->t_ot_utc, 8, 8);
-   RT_CHECK(ctx, stat, 0, "t-ot-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* delta-t-ls-utc */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->delta_t_ls_utc, 8, 8);
-   RT_CHECK(ctx, stat, 0, "delta-t-ls-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* w-n-t-utc */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->w_n_t_utc, 8, 8);
-   RT_CHECK(ctx, stat, 0, "w-n-t-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* w-n-lsf-utc */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->w_n_lsf_utc, 8, 8);
-   RT_CHECK(ctx, stat, 0, "w-n-lsf-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* dn-utc */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->dn_utc, 8, 8);
-   RT_CHECK(ctx, stat, 0, "dn-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* delta-t-lsf-utc */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->delta_t_lsf_utc, 8, 8);
-   RT_CHECK(ctx, stat, 0, "delta-t-lsf-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericData(rtxContext* RT_RESTRICT ctx, GANSSGenericData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData");
-   /* ganssId */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssId", -1, "GANSSGenericData");
-   }
-   /* ganssTimeModelsList */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
-      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData");
-   }
-   /* uePositioningDGANSSCorrections */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData");
-   }
-   /* uePositioningGANSSNavigationModel */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData");
-   }
-   /* uePositioningGANSSRealTimeIntegrity */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData");
-   }
-   /* uePositioningGANSSDataBitAssistance */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData");
-   }
-   /* uePositioningGANSSReferenceMeasurementInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData");
-   }
-   /* uePositioningGANSSAlmanac */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData");
-   }
-   /* uePositioningGANSSUTCModel */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NAVclockModel(rtxContext* RT_RESTRICT ctx, NAVclockModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* navToc */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navToc, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navToc", -1, "NAVclockModel");
-   /* navaf2 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->navaf2, 8, 8);
-   RT_CHECK(ctx, stat, 0, "navaf2", -1, "NAVclockModel");
-   /* navaf1 */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navaf1, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navaf1", -1, "NAVclockModel");
-   /* navaf0 */
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pd_BitString32(ctx, &pvalue->navaf0, 22, 22);
-   RT_CHECK(ctx, stat, 0, "navaf0", -1, "NAVclockModel");
-   /* navTgd */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->navTgd, 8, 8);
-   RT_CHECK(ctx, stat, 0, "navTgd", -1, "NAVclockModel");
-   return 0;
-}
-
-int asn1PD_UMTS_GLONASSclockModel(rtxContext* RT_RESTRICT ctx, GLONASSclockModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GLONASSclockModel");
-   /* gloTau */
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pd_BitString32(ctx, &pvalue->gloTau, 22, 22);
-   RT_CHECK(ctx, stat, 0, "gloTau", -1, "GLONASSclockModel");
-   /* gloGamma */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->gloGamma, 11, 11);
-   RT_CHECK(ctx, stat, 0, "gloGamma", -1, "GLONASSclockModel");
-   /* gloDeltaTau */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 5, 5);
-      stat = pd_BitString32(ctx, &pvalue->gloDeltaTau, 5, 5);
-      RT_CHECK(ctx, stat, 0, "gloDeltaTau", -1, "GLONASSclockModel");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SBASclockModel(rtxContext* RT_RESTRICT ctx, SBASclockModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* sbasTo */
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pd_BitString32(ctx, &pvalue->sbasTo, 13, 13);
-   RT_CHECK(ctx, stat, 0, "sbasTo", -1, "SBASclockModel");
-   /* sbasAgfo */
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, &pvalue->sbasAgfo, 12, 12);
-   RT_CHECK(ctx, stat, 0, "sbasAgfo", -1, "SBASclockModel");
-   /* sbasAgf1 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->sbasAgf1, 8, 8);
-   RT_CHECK(ctx, stat, 0, "sbasAgf1", -1, "SBASclockModel");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AddClockModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddClockModels* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AddClockModels");
-   /* navClockModel */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NAVclockModel(ctx, &pvalue->navClockModel);
-      RT_CHECK(ctx, stat, 0, "navClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
-   }
-   /* cnavClockModel */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CNAVclockModel(ctx, &pvalue->cnavClockModel);
-      RT_CHECK(ctx, stat, 0, "cnavClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
-   }
-   /* glonassClockModel */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_GLONASSclockModel(ctx, &pvalue->glonassClockModel);
-      RT_CHECK(ctx, stat, 0, "glonassClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
-   }
-   /* sbasClockModel */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_SBASclockModel(ctx, &pvalue->sbasClockModel);
-      RT_CHECK(ctx, stat, 0, "sbasClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, NavModel_NAVKeplerianSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* navURA */
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, &pvalue->navURA, 4, 4);
-   RT_CHECK(ctx, stat, 0, "navURA", -1, "NavModel-NAVKeplerianSet");
-   /* navFitFlag */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->navFitFlag, 1, 1);
-   RT_CHECK(ctx, stat, 0, "navFitFlag", -1, "NavModel-NAVKeplerianSet");
-   /* navToe */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navToe, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navToe", -1, "NavModel-NAVKeplerianSet");
-   /* navOmega */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->navOmega, 32, 32);
-   RT_CHECK(ctx, stat, 0, "navOmega", -1, "NavModel-NAVKeplerianSet");
-   /* navDeltaN */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navDeltaN, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navDeltaN", -1, "NavModel-NAVKeplerianSet");
-   /* navM0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->navM0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "navM0", -1, "NavModel-NAVKeplerianSet");
-   /* navOmegaADot */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->navOmegaADot, 24, 24);
-   RT_CHECK(ctx, stat, 0, "navOmegaADot", -1, "NavModel-NAVKeplerianSet");
-   /* navE */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->navE, 32, 32);
-   RT_CHECK(ctx, stat, 0, "navE", -1, "NavModel-NAVKeplerianSet");
-   /* navIDot */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->navIDot, 14, 14);
-   RT_CHECK(ctx, stat, 0, "navIDot", -1, "NavModel-NAVKeplerianSet");
-   /* navAPowerHalf */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->navAPowerHalf, 32, 32);
-   RT_CHECK(ctx, stat, 0, "navAPowerHalf", -1, "NavModel-NAVKeplerianSet");
-   /* navI0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->navI0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "navI0", -1, "NavModel-NAVKeplerianSet");
-   /* navOmegaA0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->navOmegaA0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "navOmegaA0", -1, "NavModel-NAVKeplerianSet");
-   /* navCrs */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navCrs, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navCrs", -1, "NavModel-NAVKeplerianSet");
-   /* navCis */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navCis, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navCis", -1, "NavModel-NAVKeplerianSet");
-   /* navCus */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navCus, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navCus", -1, "NavModel-NAVKeplerianSet");
-   /* navCrc */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navCrc, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navCrc", -1, "NavModel-NAVKeplerianSet");
-   /* navCic */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navCic, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navCic", -1, "NavModel-NAVKeplerianSet");
-   /* navCuc */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navCuc, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navCuc", -1, "NavModel-NAVKeplerianSet");
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavMo(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavMo* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavE(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavE* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavOmega(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavOmega* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavOMEGA0(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavOMEGA0* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavIo(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavIo* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_CNAVKeplerianSet(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cnavTop */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->cnavTop, 11, 11);
-   RT_CHECK(ctx, stat, 0, "cnavTop", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavURAindex */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->cnavURAindex, 5, 5);
-   RT_CHECK(ctx, stat, 0, "cnavURAindex", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavDeltaA */
-   RT_SET_SIZE(ctx, 26, 26);
-   stat = pd_BitString32(ctx, &pvalue->cnavDeltaA, 26, 26);
-   RT_CHECK(ctx, stat, 0, "cnavDeltaA", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavAdot */
-   RT_SET_SIZE(ctx, 25, 25);
-   stat = pd_BitString32(ctx, &pvalue->cnavAdot, 25, 25);
-   RT_CHECK(ctx, stat, 0, "cnavAdot", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavDeltaNo */
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pd_BitString32(ctx, &pvalue->cnavDeltaNo, 17, 17);
-   RT_CHECK(ctx, stat, 0, "cnavDeltaNo", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavDeltaNoDot */
-   RT_SET_SIZE(ctx, 23, 23);
-   stat = pd_BitString32(ctx, &pvalue->cnavDeltaNoDot, 23, 23);
-   RT_CHECK(ctx, stat, 0, "cnavDeltaNoDot", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavMo */
-   stat = asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavMo(ctx, &pvalue->cnavMo);
-   RT_CHECK(ctx, stat, 0, "cnavMo", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavE */
-   stat = asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavE(ctx, &pvalue->cnavE);
-   RT_CHECK(ctx, stat, 0, "cnavE", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavOmega */
-   stat = asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavOmega(ctx, &pvalue->cnavOmega);
-   RT_CHECK(ctx, stat, 0, "cnavOmega", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavOMEGA0 */
-   stat = asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavOMEGA0(ctx, &pvalue->cnavOMEGA0);
-   RT_CHECK(ctx, stat, 0, "cnavOMEGA0", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavDeltaOmegaDot */
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pd_BitString32(ctx, &pvalue->cnavDeltaOmegaDot, 17, 17);
-   RT_CHECK(ctx, stat, 0, "cnavDeltaOmegaDot", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavIo */
-   stat = asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavIo(ctx, &pvalue->cnavIo);
-   RT_CHECK(ctx, stat, 0, "cnavIo", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavIoDot */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->cnavIoDot, 15, 15);
-   RT_CHECK(ctx, stat, 0, "cnavIoDot", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavCis */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->cnavCis, 16, 16);
-   RT_CHECK(ctx, stat, 0, "cnavCis", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavCic */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->cnavCic, 16, 16);
-   RT_CHECK(ctx, stat, 0, "cnavCic", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavCrs */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->cnavCrs, 24, 24);
-   RT_CHECK(ctx, stat, 0, "cnavCrs", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavCrc */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->cnavCrc, 24, 24);
-   RT_CHECK(ctx, stat, 0, "cnavCrc", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavCus */
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pd_BitString32(ctx, &pvalue->cnavCus, 21, 21);
-   RT_CHECK(ctx, stat, 0, "cnavCus", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavCuc */
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pd_BitString32(ctx, &pvalue->cnavCuc, 21, 21);
-   RT_CHECK(ctx, stat, 0, "cnavCuc", -1, "NavModel-CNAVKeplerianSet");
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_GLONASSecef(rtxContext* RT_RESTRICT ctx, NavModel_GLONASSecef* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NavModel-GLONASSecef");
-   /* gloEn */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->gloEn, 5, 5);
-   RT_CHECK(ctx, stat, 0, "gloEn", -1, "NavModel-GLONASSecef");
-   /* gloP1 */
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_BitString32(ctx, &pvalue->gloP1, 2, 2);
-   RT_CHECK(ctx, stat, 0, "gloP1", -1, "NavModel-GLONASSecef");
-   /* gloP2 */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->gloP2, 1, 1);
-   RT_CHECK(ctx, stat, 0, "gloP2", -1, "NavModel-GLONASSecef");
-   /* gloM */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pd_BitString32(ctx, &pvalue->gloM, 2, 2);
-      RT_CHECK(ctx, stat, 0, "gloM", -1, "NavModel-GLONASSecef");
-   }
-   /* gloX */
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pd_BitString32(ctx, &pvalue->gloX, 27, 27);
-   RT_CHECK(ctx, stat, 0, "gloX", -1, "NavModel-GLONASSecef");
-   /* gloXdot */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->gloXdot, 24, 24);
-   RT_CHECK(ctx, stat, 0, "gloXdot", -1, "NavModel-GLONASSecef");
-   /* gloXdotdot */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->gloXdotdot, 5, 5);
-   RT_CHECK(ctx, stat, 0, "gloXdotdot", -1, "NavModel-GLONASSecef");
-   /* gloY */
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pd_BitString32(ctx, &pvalue->gloY, 27, 27);
-   RT_CHECK(ctx, stat, 0, "gloY", -1, "NavModel-GLONASSecef");
-   /* gloYdot */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->gloYdot, 24, 24);
-   RT_CHECK(ctx, stat, 0, "gloYdot", -1, "NavModel-GLONASSecef");
-   /* gloYdotdot */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->gloYdotdot, 5, 5);
-   RT_CHECK(ctx, stat, 0, "gloYdotdot", -1, "NavModel-GLONASSecef");
-   /* gloZ */
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pd_BitString32(ctx, &pvalue->gloZ, 27, 27);
-   RT_CHECK(ctx, stat, 0, "gloZ", -1, "NavModel-GLONASSecef");
-   /* gloZdot */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->gloZdot, 24, 24);
-   RT_CHECK(ctx, stat, 0, "gloZdot", -1, "NavModel-GLONASSecef");
-   /* gloZdotdot */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->gloZdotdot, 5, 5);
-   RT_CHECK(ctx, stat, 0, "gloZdotdot", -1, "NavModel-GLONASSecef");
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_SBASecef(rtxContext* RT_RESTRICT ctx, NavModel_SBASecef* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NavModel-SBASecef");
-   /* sbasTo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->sbasTo, 13, 13);
-      RT_CHECK(ctx, stat, 0, "sbasTo", -1, "NavModel-SBASecef");
-   }
-   /* sbasAccuracy */
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, &pvalue->sbasAccuracy, 4, 4);
-   RT_CHECK(ctx, stat, 0, "sbasAccuracy", -1, "NavModel-SBASecef");
-   /* sbasXg */
-   RT_SET_SIZE(ctx, 30, 30);
-   stat = pd_BitString32(ctx, &pvalue->sbasXg, 30, 30);
-   RT_CHECK(ctx, stat, 0, "sbasXg", -1, "NavModel-SBASecef");
-   /* sbasYg */
-   RT_SET_SIZE(ctx, 30, 30);
-   stat = pd_BitString32(ctx, &pvalue->sbasYg, 30, 30);
-   RT_CHECK(ctx, stat, 0, "sbasYg", -1, "NavModel-SBASecef");
-   /* sbasZg */
-   RT_SET_SIZE(ctx, 25, 25);
-   stat = pd_BitString32(ctx, &pvalue->sbasZg, 25, 25);
-   RT_CHECK(ctx, stat, 0, "sbasZg", -1, "NavModel-SBASecef");
-   /* sbasXgDot */
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pd_BitString32(ctx, &pvalue->sbasXgDot, 17, 17);
-   RT_CHECK(ctx, stat, 0, "sbasXgDot", -1, "NavModel-SBASecef");
-   /* sbasYgDot */
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pd_BitString32(ctx, &pvalue->sbasYgDot, 17, 17);
-   RT_CHECK(ctx, stat, 0, "sbasYgDot", -1, "NavModel-SBASecef");
-   /* sbasZgDot */
-   RT_SET_SIZE(ctx, 18, 18);
-   stat = pd_BitString32(ctx, &pvalue->sbasZgDot, 18, 18);
-   RT_CHECK(ctx, stat, 0, "sbasZgDot", -1, "NavModel-SBASecef");
-   /* sbasXgDotDot */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->sbasXgDotDot, 10, 10);
-   RT_CHECK(ctx, stat, 0, "sbasXgDotDot", -1, "NavModel-SBASecef");
-   /* sbagYgDotDot */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->sbagYgDotDot, 10, 10);
-   RT_CHECK(ctx, stat, 0, "sbagYgDotDot", -1, "NavModel-SBASecef");
-   /* sbasZgDotDot */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->sbasZgDotDot, 10, 10);
-   RT_CHECK(ctx, stat, 0, "sbasZgDotDot", -1, "NavModel-SBASecef");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AddOrbitModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddOrbitModels* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AddOrbitModels");
-   /* navKeplerianSet */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NavModel_NAVKeplerianSet(ctx, &pvalue->navKeplerianSet);
-      RT_CHECK(ctx, stat, 0, "navKeplerianSet", -1, "UE-Positioning-GANSS-AddOrbitModels");
-   }
-   /* cnavKeplerianSet */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NavModel_CNAVKeplerianSet(ctx, &pvalue->cnavKeplerianSet);
-      RT_CHECK(ctx, stat, 0, "cnavKeplerianSet", -1, "UE-Positioning-GANSS-AddOrbitModels");
-   }
-   /* glonassECEF */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_NavModel_GLONASSecef(ctx, &pvalue->glonassECEF);
-      RT_CHECK(ctx, stat, 0, "glonassECEF", -1, "UE-Positioning-GANSS-AddOrbitModels");
-   }
-   /* sbasECEF */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_NavModel_SBASecef(ctx, &pvalue->sbasECEF);
-      RT_CHECK(ctx, stat, 0, "sbasECEF", -1, "UE-Positioning-GANSS-AddOrbitModels");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Ganss_Sat_Info_AddNav(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_AddNav* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* satId */
-   stat = pd_ConsUInt8(ctx, &pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satId", -1, "Ganss-Sat-Info-AddNav");
-   /* svHealth */
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pd_BitString32(ctx, &pvalue->svHealth, 6, 6);
-   RT_CHECK(ctx, stat, 0, "svHealth", -1, "Ganss-Sat-Info-AddNav");
-   /* iod */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->iod, 11, 11);
-   RT_CHECK(ctx, stat, 0, "iod", -1, "Ganss-Sat-Info-AddNav");
-   /* ganssClockModel */
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_AddClockModels(ctx, &pvalue->ganssClockModel);
-   RT_CHECK(ctx, stat, 0, "ganssClockModel", -1, "Ganss-Sat-Info-AddNav");
-   /* ganssOrbitModel */
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_AddOrbitModels(ctx, &pvalue->ganssOrbitModel);
-   RT_CHECK(ctx, stat, 0, "ganssOrbitModel", -1, "Ganss-Sat-Info-AddNav");
-   return 0;
-}
-
-int asn1PD_UMTS_Ganss_Sat_Info_AddNavList(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_AddNavList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Ganss-Sat-Info-AddNavList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Ganss_Sat_Info_AddNav* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Ganss_Sat_Info_AddNav));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Ganss-Sat-Info-AddNav", (int32_t)i, "Ganss-Sat-Info-AddNavList");
-      elem = (Ganss_Sat_Info_AddNav*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Ganss_Sat_Info_AddNav(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Ganss_Sat_Info_AddNav(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Ganss-Sat-Info-AddNav", (int32_t)i, "Ganss-Sat-Info-AddNavList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AddNavigationModels");
-   /* non-broadcastIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-AddNavigationModels");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-AddNavigationModels");
-         pvalue->non_broadcastIndication = ui;
-      }
-   }
-   /* ganssSatInfoNavList */
-   stat = asn1PD_UMTS_Ganss_Sat_Info_AddNavList(ctx, &pvalue->ganssSatInfoNavList);
-   RT_CHECK(ctx, stat, 0, "ganssSatInfoNavList", -1, "UE-Positioning-GANSS-AddNavigationModels");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_Almanac_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Almanac_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   /* alm-keplerianNAVAlmanac */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianNAVAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   }
-   /* alm-keplerianReducedAlmanac */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianReducedAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   }
-   /* alm-keplerianMidiAlmanac */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianMidiAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   }
-   /* alm-keplerianGLONASS */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianGLONASS", -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   }
-   /* alm-ecefSBASAlmanac */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-ecefSBASAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTCmodelSet1(rtxContext* RT_RESTRICT ctx, UTCmodelSet1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* utcA0 */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->utcA0, 16, 16);
-   RT_CHECK(ctx, stat, 0, "utcA0", -1, "UTCmodelSet1");
-   /* utcA1 */
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pd_BitString32(ctx, &pvalue->utcA1, 13, 13);
-   RT_CHECK(ctx, stat, 0, "utcA1", -1, "UTCmodelSet1");
-   /* utcA2 */
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pd_BitString32(ctx, &pvalue->utcA2, 7, 7);
-   RT_CHECK(ctx, stat, 0, "utcA2", -1, "UTCmodelSet1");
-   /* utcDeltaTls */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcDeltaTls, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcDeltaTls", -1, "UTCmodelSet1");
-   /* utcTot */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->utcTot, 16, 16);
-   RT_CHECK(ctx, stat, 0, "utcTot", -1, "UTCmodelSet1");
-   /* utcWNot */
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pd_BitString32(ctx, &pvalue->utcWNot, 13, 13);
-   RT_CHECK(ctx, stat, 0, "utcWNot", -1, "UTCmodelSet1");
-   /* utcWNlsf */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcWNlsf, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcWNlsf", -1, "UTCmodelSet1");
-   /* utcDN */
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, &pvalue->utcDN, 4, 4);
-   RT_CHECK(ctx, stat, 0, "utcDN", -1, "UTCmodelSet1");
-   /* utcDeltaTlsf */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcDeltaTlsf, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcDeltaTlsf", -1, "UTCmodelSet1");
-   return 0;
-}
-
-int asn1PD_UMTS_UTCmodelSet2(rtxContext* RT_RESTRICT ctx, UTCmodelSet2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTCmodelSet2");
-   /* nA */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->nA, 11, 11);
-   RT_CHECK(ctx, stat, 0, "nA", -1, "UTCmodelSet2");
-   /* tauC */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->tauC, 32, 32);
-   RT_CHECK(ctx, stat, 0, "tauC", -1, "UTCmodelSet2");
-   /* deltaUT1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DeltaUT1(ctx, &pvalue->deltaUT1);
-      RT_CHECK(ctx, stat, 0, "deltaUT1", -1, "UTCmodelSet2");
-   }
-   /* kp */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pd_BitString32(ctx, &pvalue->kp, 2, 2);
-      RT_CHECK(ctx, stat, 0, "kp", -1, "UTCmodelSet2");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTCmodelSet3(rtxContext* RT_RESTRICT ctx, UTCmodelSet3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* utcA1wnt */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->utcA1wnt, 24, 24);
-   RT_CHECK(ctx, stat, 0, "utcA1wnt", -1, "UTCmodelSet3");
-   /* utcA0wnt */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->utcA0wnt, 32, 32);
-   RT_CHECK(ctx, stat, 0, "utcA0wnt", -1, "UTCmodelSet3");
-   /* utcTot */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcTot, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcTot", -1, "UTCmodelSet3");
-   /* utcWNt */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcWNt, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcWNt", -1, "UTCmodelSet3");
-   /* utcDeltaTls */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcDeltaTls, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcDeltaTls", -1, "UTCmodelSet3");
-   /* utcWNlsf */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcWNlsf, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcWNlsf", -1, "UTCmodelSet3");
-   /* utcDN */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcDN, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcDN", -1, "UTCmodelSet3");
-   /* utcDeltaTlsf */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcDeltaTlsf, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcDeltaTlsf", -1, "UTCmodelSet3");
-   /* utcStandardID */
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, &pvalue->utcStandardID, 3, 3);
-   RT_CHECK(ctx, stat, 0, "utcStandardID", -1, "UTCmodelSet3");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AddUTCModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddUTCModels* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AddUTCModels");
-   /* utcModel1 */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTCmodelSet1(ctx, &pvalue->utcModel1);
-      RT_CHECK(ctx, stat, 0, "utcModel1", -1, "UE-Positioning-GANSS-AddUTCModels");
-   }
-   /* utcModel2 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UTCmodelSet2(ctx, &pvalue->utcModel2);
-      RT_CHECK(ctx, stat, 0, "utcModel2", -1, "UE-Positioning-GANSS-AddUTCModels");
-   }
-   /* utcModel3 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UTCmodelSet3(ctx, &pvalue->utcModel3);
-      RT_CHECK(ctx, stat, 0, "utcModel3", -1, "UE-Positioning-GANSS-AddUTCModels");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AuxiliaryInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* ganssID1 */
-         pvalue->u.ganssID1 = (AuxInfoGANSS_ID1*)rtxMemHeapAlloc(ctx, sizeof(AuxInfoGANSS_ID1));
-         if (pvalue->u.ganssID1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ganssID1", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
-         asn1Init_UMTS_AuxInfoGANSS_ID1(pvalue->u.ganssID1);
-         stat = asn1PD_UMTS_AuxInfoGANSS_ID1(ctx, pvalue->u.ganssID1);
-         RT_CHECK(ctx, stat, 0, "ganssID1", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = dec_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
          break;
-      case 1: /* ganssID3 */
-         pvalue->u.ganssID3 = (AuxInfoGANSS_ID3*)rtxMemHeapAlloc(ctx, sizeof(AuxInfoGANSS_ID3));
-         if (pvalue->u.ganssID3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ganssID3", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
-         asn1Init_UMTS_AuxInfoGANSS_ID3(pvalue->u.ganssID3);
-         stat = asn1PD_UMTS_AuxInfoGANSS_ID3(ctx, pvalue->u.ganssID3);
-         RT_CHECK(ctx, stat, 0, "ganssID3", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+      case 1: /* releaseIndicator */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_GANSSGenericData_v860ext(rtxContext* RT_RESTRICT ctx, GANSSGenericData_v860ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewServingCell_r7(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData-v860ext");
-   /* uePositiningGANSSsbasID */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->uePositiningGANSSsbasID, 0, 7);
-      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-v860ext");
-   }
-   /* uePositioningGANSSAddNavigationModels */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-v860ext");
-   }
-   /* uePositioningGANSSAlmanac */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-v860ext");
-   }
-   /* uePositioningGANSSAddUTCModels */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-v860ext");
-   }
-   /* uePositioningGANSSAuxiliaryInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_Almanac_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Almanac_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac-r8");
-   /* ganss-wk-number */
-   stat = pd_ConsUInt8(ctx, &pvalue->ganss_wk_number, 0, 255);
-   RT_CHECK(ctx, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-Almanac-r8");
-   /* alm-keplerianParameters */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianParameters", -1, "UE-Positioning-GANSS-Almanac-r8");
-   }
-   /* alm-keplerianNAVAlmanac */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianNAVAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
-   }
-   /* alm-keplerianReducedAlmanac */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianReducedAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
-   }
-   /* alm-keplerianMidiAlmanac */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianMidiAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
-   }
-   /* alm-keplerianGLONASS */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianGLONASS", -1, "UE-Positioning-GANSS-Almanac-r8");
-   }
-   /* alm-ecefSBASAlmanac */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-ecefSBASAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericData_r8(rtxContext* RT_RESTRICT ctx, GANSSGenericData_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData-r8");
-   /* ganssId */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssId", -1, "GANSSGenericData-r8");
-   }
-   /* uePositiningGANSSsbasID */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->uePositiningGANSSsbasID, 0, 7);
-      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r8");
-   }
-   /* ganssTimeModelsList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
-      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningDGANSSCorrections */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSNavigationModel */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSAddNavigationModels */
+   stat = rtxDecBitsAt(ctx, cur, 8, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-RL-InfoNewServingCell-r7");
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoNewServingCell-r7");
+   /* e-AGCH-Information */
+   stat = dec_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "E-DCH-RL-InfoNewServingCell-r7");
+   /* servingGrant */
    if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-r8");
+      pvalue->m |= 0x1u;
+      stat = dec_E_DCH_RL_InfoNewServingCell_r7_servingGrant(ctx, &pvalue->servingGrant, cur);
+      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "E-DCH-RL-InfoNewServingCell-r7");
    }
-   /* uePositioningGANSSRealTimeIntegrity */
+   /* e-DPCCH-DPCCH-PowerOffset */
    if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSDataBitAssistance */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSReferenceMeasurementInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSAlmanac */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSUTCModel */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSAddUTCModels */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSAuxiliaryInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_DGANSSCorrections_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_DGANSSCorrections_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dganssreferencetime */
-   stat = pd_ConsUInt8(ctx, &pvalue->dganssreferencetime, 0, 119);
-   RT_CHECK(ctx, stat, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections-r9");
-   /* dganssInfoList */
-   stat = asn1PD_UMTS_DGANSSInfoList_r9(ctx, &pvalue->dganssInfoList);
-   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections-r9");
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericData_r9(rtxContext* RT_RESTRICT ctx, GANSSGenericData_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData-r9");
-   /* ganssId */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssId", -1, "GANSSGenericData-r9");
-   }
-   /* uePositiningGANSSsbasID */
-   if (present & ((uint32_t)1 << 11)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->uePositiningGANSSsbasID, 0, 7);
-      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r9");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoNewServingCell-r7");
    }
-   /* ganssTimeModelsList */
-   if (present & ((uint32_t)1 << 10)) {
+   /* reference-E-TFCIs */
+   if (present & ((uint32_t)1 << 5)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
-      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData-r9");
+      stat = dec_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs, cur);
+      RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DCH-RL-InfoNewServingCell-r7");
    }
-   /* uePositioningDGANSSCorrections */
-   if (present & ((uint32_t)1 << 9)) {
+   /* powerOffsetForSchedInfo */
+   if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections_r9(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-r9");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerOffsetForSchedInfo, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, 0, "powerOffsetForSchedInfo", -1, "E-DCH-RL-InfoNewServingCell-r7");
    }
-   /* uePositioningGANSSNavigationModel */
-   if (present & ((uint32_t)1 << 8)) {
+   /* threeIndexStepThreshold */
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData-r9");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->threeIndexStepThreshold, 0, 37);
+      RT_CHECK_AT(ctx, cur, stat, 0, "threeIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell-r7");
    }
-   /* uePositioningGANSSAddNavigationModels */
-   if (present & ((uint32_t)1 << 7)) {
+   /* twoIndexStepThreshold */
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-r9");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->twoIndexStepThreshold, 0, 37);
+      RT_CHECK_AT(ctx, cur, stat, 0, "twoIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell-r7");
    }
-   /* uePositioningGANSSRealTimeIntegrity */
-   if (present & ((uint32_t)1 << 6)) {
+   /* e-HICH-Information */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData-r9");
+      stat = dec_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoNewServingCell-r7");
    }
-   /* uePositioningGANSSDataBitAssistance */
-   if (present & ((uint32_t)1 << 5)) {
+   /* e-RGCH-Info */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSReferenceMeasurementInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSAlmanac */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSUTCModel */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSAddUTCModels */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSAuxiliaryInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-r9");
+      stat = dec_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoNewServingCell-r7");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_DGANSSCorrections_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_DGANSSCorrections_v920ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_RL_InfoNewServingCell_r7(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* dganssInfoList */
-   stat = asn1PD_UMTS_DGANSSInfoList_v920ext(ctx, &pvalue->dganssInfoList);
-   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections-v920ext");
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoNewServingCell_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_DCH_RL_InfoOtherCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_RL_InfoOtherCell));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
+      elem = (E_DCH_RL_InfoOtherCell*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_DCH_RL_InfoOtherCell(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_DCH_RL_InfoOtherCell(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_GANSSGenericData_v920ext(rtxContext* RT_RESTRICT ctx, GANSSGenericData_v920ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList, pvalue);
+}
+
+static int dec_E_DCH_ReconfigurationInfo_r7(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData-v920ext");
-   /* uePositioningDGANSSCorrections */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericDataList(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericDataList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericData* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GANSSGenericData", (int32_t)i, "GANSSGenericDataList");
-      elem = (GANSSGenericData*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericData(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericData(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GANSSGenericData", (int32_t)i, "GANSSGenericDataList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericDataList_v860ext(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericDataList-v860ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericData_v860ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData_v860ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GANSSGenericData-v860ext", (int32_t)i, "GANSSGenericDataList-v860ext");
-      elem = (GANSSGenericData_v860ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericData_v860ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericData_v860ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GANSSGenericData-v860ext", (int32_t)i, "GANSSGenericDataList-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericDataList_r8(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericDataList-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericData_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GANSSGenericData-r8", (int32_t)i, "GANSSGenericDataList-r8");
-      elem = (GANSSGenericData_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericData_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericData_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GANSSGenericData-r8", (int32_t)i, "GANSSGenericDataList-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericDataList_r9(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericDataList-r9");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericData_r9* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData_r9));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GANSSGenericData-r9", (int32_t)i, "GANSSGenericDataList-r9");
-      elem = (GANSSGenericData_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericData_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericData_r9(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GANSSGenericData-r9", (int32_t)i, "GANSSGenericDataList-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericDataList_v920ext(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericDataList-v920ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericData_v920ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData_v920ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GANSSGenericData-v920ext", (int32_t)i, "GANSSGenericDataList-v920ext");
-      elem = (GANSSGenericData_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericData_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericData_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GANSSGenericData-v920ext", (int32_t)i, "GANSSGenericDataList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SatellitesListRelatedData(rtxContext* RT_RESTRICT ctx, SatellitesListRelatedData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* satId */
-   stat = pd_ConsUInt8(ctx, &pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satId", -1, "SatellitesListRelatedData");
-   /* iod */
-   stat = pd_ConsUInt16(ctx, &pvalue->iod, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "iod", -1, "SatellitesListRelatedData");
-   return 0;
-}
-
-int asn1PD_UMTS_SatellitesListRelatedDataList(rtxContext* RT_RESTRICT ctx, SatellitesListRelatedDataList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SatellitesListRelatedDataList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SatellitesListRelatedData* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SatellitesListRelatedData));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SatellitesListRelatedData", (int32_t)i, "SatellitesListRelatedDataList");
-      elem = (SatellitesListRelatedData*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SatellitesListRelatedData(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SatellitesListRelatedData", (int32_t)i, "SatellitesListRelatedDataList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GanssNavigationModelAdditionalData(rtxContext* RT_RESTRICT ctx, GanssNavigationModelAdditionalData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GanssNavigationModelAdditionalData");
-   /* ganssWeek */
-   stat = pd_ConsUInt16(ctx, &pvalue->ganssWeek, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "ganssWeek", -1, "GanssNavigationModelAdditionalData");
-   /* ganssToe */
-   stat = pd_ConsUInt8(ctx, &pvalue->ganssToe, 0, 167);
-   RT_CHECK(ctx, stat, 0, "ganssToe", -1, "GanssNavigationModelAdditionalData");
-   /* t-toeLimit */
-   stat = pd_ConsUInt8(ctx, &pvalue->t_toeLimit, 0, 10);
-   RT_CHECK(ctx, stat, 0, "t-toeLimit", -1, "GanssNavigationModelAdditionalData");
-   /* satellitesListRelatedDataList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SatellitesListRelatedDataList(ctx, &pvalue->satellitesListRelatedDataList);
-      RT_CHECK(ctx, stat, 0, "satellitesListRelatedDataList", -1, "GanssNavigationModelAdditionalData");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GanssReqGenericData(rtxContext* RT_RESTRICT ctx, GanssReqGenericData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GanssReqGenericData");
-   /* ganssId */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssId", -1, "GanssReqGenericData");
-   }
-   /* ganssRealTimeIntegrity */
-   stat = rtxDecBitInline(ctx, &pvalue->ganssRealTimeIntegrity);
-   RT_CHECK(ctx, stat, 0, "ganssRealTimeIntegrity", -1, "GanssReqGenericData");
-   /* ganssDifferentialCorrection */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DGANSS_Sig_Id_Req(ctx, &pvalue->ganssDifferentialCorrection);
-      RT_CHECK(ctx, stat, 0, "ganssDifferentialCorrection", -1, "GanssReqGenericData");
-   }
-   /* ganssAlmanac */
-   stat = rtxDecBitInline(ctx, &pvalue->ganssAlmanac);
-   RT_CHECK(ctx, stat, 0, "ganssAlmanac", -1, "GanssReqGenericData");
-   /* ganssNavigationModel */
-   stat = rtxDecBitInline(ctx, &pvalue->ganssNavigationModel);
-   RT_CHECK(ctx, stat, 0, "ganssNavigationModel", -1, "GanssReqGenericData");
-   /* ganssTimeModelGNSS-GNSS */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->ganssTimeModelGNSS_GNSS, 8, 8);
-      RT_CHECK(ctx, stat, 0, "ganssTimeModelGNSS-GNSS", -1, "GanssReqGenericData");
-   }
-   /* ganssReferenceMeasurementInfo */
-   stat = rtxDecBitInline(ctx, &pvalue->ganssReferenceMeasurementInfo);
-   RT_CHECK(ctx, stat, 0, "ganssReferenceMeasurementInfo", -1, "GanssReqGenericData");
-   /* ganssDataBits */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_GanssDataBits(ctx, &pvalue->ganssDataBits);
-      RT_CHECK(ctx, stat, 0, "ganssDataBits", -1, "GanssReqGenericData");
-   }
-   /* ganssUTCModel */
-   stat = rtxDecBitInline(ctx, &pvalue->ganssUTCModel);
-   RT_CHECK(ctx, stat, 0, "ganssUTCModel", -1, "GanssReqGenericData");
-   /* ganssNavigationModelAdditionalData */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_GanssNavigationModelAdditionalData(ctx, &pvalue->ganssNavigationModelAdditionalData);
-      RT_CHECK(ctx, stat, 0, "ganssNavigationModelAdditionalData", -1, "GanssReqGenericData");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAddNavigationModel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddNavigationModel* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAddUTCmodel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddUTCmodel* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAuxInfo(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAuxInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAddADchoices(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddADchoices* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* orbitModelID */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->orbitModelID, 0, 7);
-      RT_CHECK(ctx, stat, 0, "orbitModelID", -1, 0);
-   }
-   /* clockModelID */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->clockModelID, 0, 7);
-      RT_CHECK(ctx, stat, 0, "clockModelID", -1, 0);
-   }
-   /* utcModelID */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utcModelID, 0, 7);
-      RT_CHECK(ctx, stat, 0, "utcModelID", -1, 0);
-   }
-   /* almanacModelID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->almanacModelID, 0, 7);
-      RT_CHECK(ctx, stat, 0, "almanacModelID", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GanssReqGenericData_v860ext(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GanssReqGenericData-v860ext");
-   /* sbasId */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->sbasId, 0, 7);
-      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "sbasId", -1, "GanssReqGenericData-v860ext");
-   }
-   /* ganssAddNavigationModel */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "ganssAddNavigationModel", -1, "GanssReqGenericData-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "ganssAddNavigationModel", -1, "GanssReqGenericData-v860ext");
-         pvalue->ganssAddNavigationModel = ui;
-      }
-   }
-   /* ganssAddUTCmodel */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "ganssAddUTCmodel", -1, "GanssReqGenericData-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "ganssAddUTCmodel", -1, "GanssReqGenericData-v860ext");
-         pvalue->ganssAddUTCmodel = ui;
-      }
-   }
-   /* ganssAuxInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "ganssAuxInfo", -1, "GanssReqGenericData-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "ganssAuxInfo", -1, "GanssReqGenericData-v860ext");
-         pvalue->ganssAuxInfo = ui;
-      }
-   }
-   /* ganssAddADchoices */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAddADchoices(ctx, &pvalue->ganssAddADchoices);
-      RT_CHECK(ctx, stat, 0, "ganssAddADchoices", -1, "GanssReqGenericData-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GanssRequestedGenericAssistanceDataList(rtxContext* RT_RESTRICT ctx, GanssRequestedGenericAssistanceDataList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GanssRequestedGenericAssistanceDataList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GanssReqGenericData* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GanssReqGenericData));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GanssReqGenericData", (int32_t)i, "GanssRequestedGenericAssistanceDataList");
-      elem = (GanssReqGenericData*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GanssReqGenericData(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GanssReqGenericData(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GanssReqGenericData", (int32_t)i, "GanssRequestedGenericAssistanceDataList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GanssRequestedGenericAssistanceDataList_v860ext(rtxContext* RT_RESTRICT ctx, GanssRequestedGenericAssistanceDataList_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GanssRequestedGenericAssistanceDataList-v860ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GanssReqGenericData_v860ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GanssReqGenericData_v860ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GanssReqGenericData-v860ext", (int32_t)i, "GanssRequestedGenericAssistanceDataList-v860ext");
-      elem = (GanssReqGenericData_v860ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GanssReqGenericData_v860ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GanssReqGenericData_v860ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GanssReqGenericData-v860ext", (int32_t)i, "GanssRequestedGenericAssistanceDataList-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_Storm_Flag(rtxContext* RT_RESTRICT ctx, GANSS_Storm_Flag* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* storm-flag-one */
-   stat = rtxDecBitInline(ctx, &pvalue->storm_flag_one);
-   RT_CHECK(ctx, stat, 0, "storm-flag-one", -1, "GANSS-Storm-Flag");
-   /* storm-flag-two */
-   stat = rtxDecBitInline(ctx, &pvalue->storm_flag_two);
-   RT_CHECK(ctx, stat, 0, "storm-flag-two", -1, "GANSS-Storm-Flag");
-   /* storm-flag-three */
-   stat = rtxDecBitInline(ctx, &pvalue->storm_flag_three);
-   RT_CHECK(ctx, stat, 0, "storm-flag-three", -1, "GANSS-Storm-Flag");
-   /* storm-flag-four */
-   stat = rtxDecBitInline(ctx, &pvalue->storm_flag_four);
-   RT_CHECK(ctx, stat, 0, "storm-flag-four", -1, "GANSS-Storm-Flag");
-   /* storm-flag-five */
-   stat = rtxDecBitInline(ctx, &pvalue->storm_flag_five);
-   RT_CHECK(ctx, stat, 0, "storm-flag-five", -1, "GANSS-Storm-Flag");
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_CarrierRSSI(rtxContext* RT_RESTRICT ctx, GSM_CarrierRSSI* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pd_BitString32(ctx, pvalue, 6, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-CarrierRSSI");
-   return 0;
-}
-
-int asn1PD_UMTS_ObservedTimeDifferenceToGSM(rtxContext* RT_RESTRICT ctx, ObservedTimeDifferenceToGSM* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 4095);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ObservedTimeDifferenceToGSM");
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_MeasuredResults(rtxContext* RT_RESTRICT ctx, GSM_MeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-MeasuredResults");
-   /* gsm-CarrierRSSI */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GSM_CarrierRSSI(ctx, &pvalue->gsm_CarrierRSSI);
-      RT_CHECK(ctx, stat, 0, "gsm-CarrierRSSI", -1, "GSM-MeasuredResults");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 46, 173);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "GSM-MeasuredResults");
-   }
-   /* bsicReported */
-   stat = asn1PD_UMTS_BSICReported(ctx, &pvalue->bsicReported);
-   RT_CHECK(ctx, stat, 0, "bsicReported", -1, "GSM-MeasuredResults");
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt16(ctx, &pvalue->dummy2, 0, 4095);
-      RT_CHECK(ctx, stat, "ObservedTimeDifferenceToGSM", "dummy2", -1, "GSM-MeasuredResults");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, GSM_MeasuredResultsList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-MeasuredResultsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GSM_MeasuredResults* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_MeasuredResults));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GSM-MeasuredResults", (int32_t)i, "GSM-MeasuredResultsList");
-      elem = (GSM_MeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GSM_MeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GSM_MeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GSM-MeasuredResults", (int32_t)i, "GSM-MeasuredResultsList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GPS_TOW_1sec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1sec* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt32(ctx, pvalue, 0, 604799);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GPS-TOW-1sec");
-   return 0;
-}
-
-int asn1PD_UMTS_GPS_TOW_Assist(rtxContext* RT_RESTRICT ctx, GPS_TOW_Assist* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* satID */
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "GPS-TOW-Assist");
-   /* tlm-Message */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->tlm_Message, 14, 14);
-   RT_CHECK(ctx, stat, 0, "tlm-Message", -1, "GPS-TOW-Assist");
-   /* tlm-Reserved */
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_BitString32(ctx, &pvalue->tlm_Reserved, 2, 2);
-   RT_CHECK(ctx, stat, 0, "tlm-Reserved", -1, "GPS-TOW-Assist");
-   /* alert */
-   stat = rtxDecBitInline(ctx, &pvalue->alert);
-   RT_CHECK(ctx, stat, 0, "alert", -1, "GPS-TOW-Assist");
-   /* antiSpoof */
-   stat = rtxDecBitInline(ctx, &pvalue->antiSpoof);
-   RT_CHECK(ctx, stat, 0, "antiSpoof", -1, "GPS-TOW-Assist");
-   return 0;
-}
-
-int asn1PD_UMTS_GPS_TOW_AssistList(rtxContext* RT_RESTRICT ctx, GPS_TOW_AssistList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GPS-TOW-AssistList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GPS_TOW_Assist* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GPS_TOW_Assist));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GPS-TOW-Assist", (int32_t)i, "GPS-TOW-AssistList");
-      elem = (GPS_TOW_Assist*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GPS_TOW_Assist(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GPS-TOW-Assist", (int32_t)i, "GPS-TOW-AssistList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_CellID(rtxContext* RT_RESTRICT ctx, GSM_CellID* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gsm-CellID */
-   stat = pd_ConsUInt8(ctx, &pvalue->gsm_CellID, 0, 31);
-   RT_CHECK(ctx, stat, 0, "gsm-CellID", -1, "GSM-CellID");
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_PriorityInfo(rtxContext* RT_RESTRICT ctx, GSM_PriorityInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gsmCellGroup */
-   stat = asn1PD_UMTS_GSM_CellGroup(ctx, &pvalue->gsmCellGroup);
-   RT_CHECK(ctx, stat, 0, "gsmCellGroup", -1, "GSM-PriorityInfo");
-   /* priority */
-   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat, 0, "priority", -1, "GSM-PriorityInfo");
-   /* qRxLevMinGSM */
-   stat = pd_ConsInt8(ctx, &pvalue->qRxLevMinGSM, -58, -13);
-   RT_CHECK(ctx, stat, 0, "qRxLevMinGSM", -1, "GSM-PriorityInfo");
-   /* threshXhigh */
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "GSM-PriorityInfo");
-   /* threshXlow */
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "GSM-PriorityInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_PriorityInfoList(rtxContext* RT_RESTRICT ctx, GSM_PriorityInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-PriorityInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GSM_PriorityInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_PriorityInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GSM-PriorityInfo", (int32_t)i, "GSM-PriorityInfoList");
-      elem = (GSM_PriorityInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GSM_PriorityInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GSM_PriorityInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GSM-PriorityInfo", (int32_t)i, "GSM-PriorityInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GSMCellGroupingList(rtxContext* RT_RESTRICT ctx, GSMCellGroupingList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSMCellGroupingList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GSM_CellID* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_CellID));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GSM-CellID", (int32_t)i, "GSMCellGroupingList");
-      elem = (GSM_CellID*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GSM_CellID(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GSM-CellID", (int32_t)i, "GSMCellGroupingList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IdleIntervalInfo(rtxContext* RT_RESTRICT ctx, IdleIntervalInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IdleIntervalInfo");
-   /* k */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-ReconfigurationInfo-r7");
+   /* e-DCH-RL-InfoNewServingCell */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->k, 2, 3);
-      RT_CHECK(ctx, stat, 0, "k", -1, "IdleIntervalInfo");
+      stat = dec_E_DCH_RL_InfoNewServingCell_r7(ctx, &pvalue->e_DCH_RL_InfoNewServingCell, cur);
+      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoNewServingCell", -1, "E-DCH-ReconfigurationInfo-r7");
    }
-   /* offset */
+   /* e-DCH-RL-InfoOtherCellList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 7);
-      RT_CHECK(ctx, stat, 0, "offset", -1, "IdleIntervalInfo");
+      stat = dec_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(ctx, &pvalue->e_DCH_RL_InfoOtherCellList, cur);
+      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoOtherCellList", -1, "E-DCH-ReconfigurationInfo-r7");
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqCell_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqCell_LCR_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_r7* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqCell-LCR-r4");
-   /* nonFreqRelatedEventResults */
-   stat = asn1PD_UMTS_CellMeasurementEventResults_LCR_r4(ctx, &pvalue->nonFreqRelatedEventResults);
-   RT_CHECK(ctx, stat, 0, "nonFreqRelatedEventResults", -1, "InterFreqCell-LCR-r4");
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_ReconfigurationInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = dec_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCell(rtxContext* RT_RESTRICT ctx, NewInterFreqCell* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoNewSecServingCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewSecServingCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell");
-   /* interFreqCellID */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-RL-InfoNewSecServingCell");
+   /* e-AGCH-Information */
+   stat = dec_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "E-DCH-RL-InfoNewSecServingCell");
+   /* e-HICH-Information */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell");
+      stat = dec_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoNewSecServingCell");
    }
-   /* frequencyInfo */
+   /* e-RGCH-Info */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell");
+      stat = dec_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoNewSecServingCell");
    }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfo(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellList(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_RL_InfoNewSecServingCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewSecServingCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoNewSecServingCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = dec_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoOtherCell_SecULFreq(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_SecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
+   /* e-HICH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
+   }
+   /* e-RGCH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoOtherCell_SecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoOtherCell_SecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellList");
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      NewInterFreqCell* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCell", (int32_t)i, "NewInterFreqCellList");
-      elem = (NewInterFreqCell*)(node + 1);
+      E_DCH_RL_InfoOtherCell_SecULFreq* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_RL_InfoOtherCell_SecULFreq));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "E-DCH-RL-InfoOtherCell-SecULFreq", (int32_t)i, 0);
+      elem = (E_DCH_RL_InfoOtherCell_SecULFreq*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_NewInterFreqCell(elem);
+      asn1Init_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCell(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCell", (int32_t)i, "NewInterFreqCellList");
+      stat = dec_E_DCH_RL_InfoOtherCell_SecULFreq(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "E-DCH-RL-InfoOtherCell-SecULFreq", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq, pvalue);
+}
+
+static int dec_E_DCH_ReconfigurationInfo_SecULFrequency(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_SecULFrequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoList");
-   /* removedInterFreqCellList */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
+   /* e-DCH-RL-InfoNewSecServingCell */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_DCH_RL_InfoNewSecServingCell(ctx, &pvalue->e_DCH_RL_InfoNewSecServingCell, cur);
+      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoNewSecServingCell", -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
+   }
+   /* e-DCH-RL-InfoOtherCellList-SecULFreq */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(ctx, &pvalue->e_DCH_RL_InfoOtherCellList_SecULFreq, cur);
+      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoOtherCellList-SecULFreq", -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(rtxContext* RT_RESTRICT ctx, E_DCH_ReconfigurationInfo_SecULFrequency* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_ReconfigurationInfo_SecULFrequency, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_RL_InfoSameServingCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoSameServingCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-RL-InfoSameServingCell");
+   /* e-DPCCH-DPCCH-PowerOffset */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoSameServingCell");
+   }
+   /* reference-E-TFCIs */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs, cur);
+      RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DCH-RL-InfoSameServingCell");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_RL_InfoSameServingCell(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoSameServingCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_RL_InfoSameServingCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode_implicit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ei */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ei, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ei", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode_implicit* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
+   /* channelisation-Code */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisation_Code, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
+   /* midambleAllocationMode */
+   stat = dec_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_For_SPS_TDD128_configurationmode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* implicit */
+         pvalue->u.implicit = (E_HICH_Information_For_SPS_TDD128_configurationmode_implicit*)rtxMemHeapAlloc(ctx, sizeof(E_HICH_Information_For_SPS_TDD128_configurationmode_implicit));
+         if (pvalue->u.implicit == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "implicit", -1, 0);
+         asn1Init_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(pvalue->u.implicit);
+         stat = dec_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(ctx, pvalue->u.implicit, cur);
+         RT_CHECK(ctx, stat, 0, "implicit", -1, 0);
+         break;
+      case 1: /* explicit */
+         pvalue->u.explicit_ = (E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_*)rtxMemHeapAlloc(ctx, sizeof(E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_));
+         if (pvalue->u.explicit_ == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit", -1, 0);
+         asn1Init_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(pvalue->u.explicit_);
+         stat = dec_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(ctx, pvalue->u.explicit_, cur);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128_configurationmode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_For_SPS_TDD128_configurationmode, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_HICH_Information_For_SPS_TDD128(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* configurationmode */
+   stat = dec_E_HICH_Information_For_SPS_TDD128_configurationmode(ctx, &pvalue->configurationmode, cur);
+   RT_CHECK(ctx, stat, 0, "configurationmode", -1, "E-HICH-Information-For-SPS-TDD128");
+   /* signatureSequenceGroupIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->signatureSequenceGroupIndex, 0, 19);
+   RT_CHECK_AT(ctx, cur, stat, 0, "signatureSequenceGroupIndex", -1, "E-HICH-Information-For-SPS-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_For_SPS_TDD128(rtxContext* RT_RESTRICT ctx, E_HICH_Information_For_SPS_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_HICH_Information_For_SPS_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_RepetitionPeriodAndLengthForSPS(rtxContext* RT_RESTRICT ctx, RepetitionPeriodAndLengthForSPS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RepetitionPeriodAndLengthForSPS");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* repetitionPeriod1 */
+         break;
+      case 1: /* repetitionPeriod2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.repetitionPeriod2, 1, 1);
+         RT_CHECK_AT(ctx, cur, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLengthForSPS");
+         break;
+      case 2: /* repetitionPeriod4 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.repetitionPeriod4, 1, 3);
+         RT_CHECK_AT(ctx, cur, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLengthForSPS");
+         break;
+      case 3: /* repetitionPeriod8 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.repetitionPeriod8, 1, 7);
+         RT_CHECK_AT(ctx, cur, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLengthForSPS");
+         break;
+      case 4: /* repetitionPeriod16 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.repetitionPeriod16, 1, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLengthForSPS");
+         break;
+      case 5: /* repetitionPeriod32 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.repetitionPeriod32, 1, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLengthForSPS");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodAndLengthForSPS");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RepetitionPeriodAndLengthForSPS(rtxContext* RT_RESTRICT ctx, RepetitionPeriodAndLengthForSPS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RepetitionPeriodAndLengthForSPS, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_TxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, E_DCH_TxPatternList_TDD128_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* repetitionPeriodAndLength */
+   stat = dec_RepetitionPeriodAndLengthForSPS(ctx, &pvalue->repetitionPeriodAndLength, cur);
+   RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_TxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, E_DCH_TxPatternList_TDD128_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_TxPatternList_TDD128_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_TxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, E_DCH_TxPatternList_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-TxPatternList-TDD128");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_DCH_TxPatternList_TDD128_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_TxPatternList_TDD128_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "E-DCH-TxPatternList-TDD128");
+      elem = (E_DCH_TxPatternList_TDD128_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_DCH_TxPatternList_TDD128_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_E_DCH_TxPatternList_TDD128_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "E-DCH-TxPatternList-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_TxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, E_DCH_TxPatternList_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_TxPatternList_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* n-E-UCCH */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->n_E_UCCH, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "n-E-UCCH", -1, 0);
+   /* codeResourceInfo */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->codeResourceInfo, 0, 30);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->timeslotResourceRelatedInfo, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* powerResourceRelatedInfo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerResourceRelatedInfo, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "powerResourceRelatedInfo", -1, 0);
+   /* activationTime */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   /* subframeNum */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->subframeNum, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "subframeNum", -1, 0);
+   /* initialTxPatternIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->initialTxPatternIndex, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "initialTxPatternIndex", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DCH-SPS-NewOperation-TDD128");
+   /* e-hich-Info */
+   stat = dec_E_HICH_Information_For_SPS_TDD128(ctx, &pvalue->e_hich_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-hich-Info", -1, "E-DCH-SPS-NewOperation-TDD128");
+   /* e-dch-TxPattern */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_DCH_TxPatternList_TDD128(ctx, &pvalue->e_dch_TxPattern, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-TxPattern", -1, "E-DCH-SPS-NewOperation-TDD128");
+   }
+   /* initialSPSInfoForEDCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(ctx, &pvalue->initialSPSInfoForEDCH, cur);
+      RT_CHECK(ctx, stat, 0, "initialSPSInfoForEDCH", -1, "E-DCH-SPS-NewOperation-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_SPS_NewOperation_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* continue */
+         break;
+      case 1: /* newOperation */
+         pvalue->u.newOperation = (E_DCH_SPS_NewOperation_TDD128*)rtxMemHeapAlloc(ctx, sizeof(E_DCH_SPS_NewOperation_TDD128));
+         if (pvalue->u.newOperation == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newOperation", -1, 0);
+         asn1Init_UMTS_E_DCH_SPS_NewOperation_TDD128(pvalue->u.newOperation);
+         stat = dec_E_DCH_SPS_NewOperation_TDD128(ctx, pvalue->u.newOperation, cur);
+         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_Information_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* e-dch-SPS-Operation */
+   stat = dec_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(ctx, &pvalue->e_dch_SPS_Operation, cur);
+   RT_CHECK(ctx, stat, 0, "e-dch-SPS-Operation", -1, "E-DCH-SPS-Information-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_DCH_SPS_Information_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DCH_SPS_Information_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPCCH_Info(rtxContext* RT_RESTRICT ctx, E_DPCCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* e-DPCCH-DPCCH-PowerOffset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info");
+   /* happyBit-DelayCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->happyBit_DelayCondition, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPCCH_Info(rtxContext* RT_RESTRICT ctx, E_DPCCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPCCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_Info(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-Info");
+   /* e-TFCI-TableIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_TFCI_TableIndex, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info");
+   /* e-DCH-MinimumSet-E-TFCI */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info");
    }
-   /* newInterFreqCellList */
+   /* reference-E-TFCIs */
+   stat = dec_E_DPDCH_Reference_E_TFCIList(ctx, &pvalue->reference_E_TFCIs, cur);
+   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info");
+   /* maxChannelisationCodes */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxChannelisationCodes, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info");
+   /* pl-NonMax */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pl_NonMax, 11, 25);
+   RT_CHECK_AT(ctx, cur, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info");
+   /* schedulingInfoConfiguration */
+   stat = dec_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info");
+   /* threeIndexStepThreshold */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellList(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->threeIndexStepThreshold, 0, 37);
+      RT_CHECK_AT(ctx, cur, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info");
    }
-   /* cellsForInterFreqMeasList */
+   /* twoIndexStepThreshold */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->twoIndexStepThreshold, 0, 37);
+      RT_CHECK_AT(ctx, cur, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info");
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCell_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DPDCH_Info(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_E_DPDCH_Info_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-r4");
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-Info-r7");
+   /* e-TFCI-TableIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_TFCI_TableIndex, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r7");
+   /* e-DCH-MinimumSet-E-TFCI */
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r4");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r7");
    }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
+   /* reference-E-TFCIs */
+   stat = dec_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs, cur);
+   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info-r7");
+   /* maxChannelisationCodes */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->maxChannelisationCodes, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r7");
+   /* pl-NonMax */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pl_NonMax, 11, 25);
+   RT_CHECK_AT(ctx, cur, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r7");
+   /* schedulingInfoConfiguration */
+   stat = dec_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info-r7");
+   /* threeIndexStepThreshold */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r4");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->threeIndexStepThreshold, 0, 37);
+      RT_CHECK_AT(ctx, cur, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r7");
    }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r4");
+   /* twoIndexStepThreshold */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->twoIndexStepThreshold, 0, 37);
+      RT_CHECK_AT(ctx, cur, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r7");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellList_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_E_DPDCH_Info_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_E_DPDCH_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_EnablingDelay(rtxContext* RT_RESTRICT ctx, EnablingDelay* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellList-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCell_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCell-r4", (int32_t)i, "NewInterFreqCellList-r4");
-      elem = (NewInterFreqCell_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCell_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCell_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r4", (int32_t)i, "NewInterFreqCellList-r4");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EnablingDelay");
+   return 0;
+}
+
+int asn1PD_UMTS_EnablingDelay(rtxContext* RT_RESTRICT ctx, EnablingDelay* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EnablingDelay, pvalue);
+}
+
+RT_MERGED_BODY int dec_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ex-ul-TimingAdvance */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ex_ul_TimingAdvance, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ex-ul-TimingAdvance", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ex-ul-TimingAdvance */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ex_ul_TimingAdvance, 0, 511);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ex-ul-TimingAdvance", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_EXT_UL_TimingAdvance_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (EXT_UL_TimingAdvance_modeSpecificInfo_tdd384*)rtxMemHeapAllocZ(ctx, sizeof(EXT_UL_TimingAdvance_modeSpecificInfo_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         stat = dec_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (EXT_UL_TimingAdvance_modeSpecificInfo_tdd768*)rtxMemHeapAllocZ(ctx, sizeof(EXT_UL_TimingAdvance_modeSpecificInfo_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         stat = dec_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
+}
+
+int asn1PD_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EXT_UL_TimingAdvance_modeSpecificInfo, pvalue);
 }
 

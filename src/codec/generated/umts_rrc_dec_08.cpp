@@ -6,9023 +6,9415 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_InterFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList_r4* RT_RESTRICT pvalue)
+/* The bodies of this unit. */
+RT_MERGED_BODY int dec_EXT_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_ChannelisationCodeSetInfo_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCodeSetInfo_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_RxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, HS_DSCH_RxPatternList_TDD128_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_RxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_RxPatternList_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_TbsList_TDD128_element(rtxContext* RT_RESTRICT ctx, HS_DSCH_TbsList_TDD128_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_TbsList_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_TbsList_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_List_TDD128_element_implicit(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128_element_implicit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_List_TDD128_element_explicit_(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128_element_explicit_* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_List_TDD128_element(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_List_TDD128(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_HS_DSCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_DSCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_Information_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_LessTFSList_element(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessTFSList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_LessTFSList(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessTFSList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_Less_NewOperation(rtxContext* RT_RESTRICT ctx, HS_SCCH_Less_NewOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_LessInfo_r7_hs_scchLessOperation(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessInfo_r7_hs_scchLessOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SCCH_LessInfo_r7(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_ReferenceSignalInfoList_element(rtxContext* RT_RESTRICT ctx, HS_SICH_ReferenceSignalInfoList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HS_SICH_ReferenceSignalInfoList(rtxContext* RT_RESTRICT ctx, HS_SICH_ReferenceSignalInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Operation(rtxContext* RT_RESTRICT ctx, MIMO_Operation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_secondCPICH_Pattern* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_r7(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration_v7f0ext(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_v7f0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_v7f0ext(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7f0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7g0ext_precodingWeightSetRestriction* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_v7g0ext(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7g0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MIMO_Parameters_r8(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MIMO_Parameters_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MIMO_Parameters_r9(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Multi_frequencyInfo_LCR_r7(rtxContext* RT_RESTRICT ctx, Multi_frequencyInfo_LCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_DTX_DRX_Offset(rtxContext* RT_RESTRICT ctx, UE_DTX_DRX_Offset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewTiming(rtxContext* RT_RESTRICT ctx, NewTiming* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_ext_tdd128(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_ext(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NumberOfDPDCH(rtxContext* RT_RESTRICT ctx, NumberOfDPDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NumberOfFBI_Bits(rtxContext* RT_RESTRICT ctx, NumberOfFBI_Bits* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, PDSCH_PowerControlInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_configuration_old_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_configuration_new_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_Info_r4(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PDSCH_CapacityAllocationInfo_r4_configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4_configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r7_configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7_configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TPC_CommandTargetRate(rtxContext* RT_RESTRICT ctx, TPC_CommandTargetRate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PLCCH_Info(rtxContext* RT_RESTRICT ctx, PLCCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_pusch_Allocation(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_PowerControlInfo_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_PowerControlInfo_r4_tddOption(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r4_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_Info_r4(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_PowerControlInfo_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_PowerControlInfo_r7_tddOption(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r7_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReducedScramblingCodeNumber(rtxContext* RT_RESTRICT ctx, ReducedScramblingCodeNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RepPerLengthOffset_MICH(rtxContext* RT_RESTRICT ctx, RepPerLengthOffset_MICH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformation(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformation_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r6_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformation_r6(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformation_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r7_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformation_r7(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformation_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r8_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DTX_DRX_TimingInfo_r7_timing(rtxContext* RT_RESTRICT ctx, DTX_DRX_TimingInfo_r7_timing* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DTX_DRX_TimingInfo_r7(rtxContext* RT_RESTRICT ctx, DTX_DRX_TimingInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TargetCellPreconfigInfo(rtxContext* RT_RESTRICT ctx, TargetCellPreconfigInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_RL_AdditionInformation_r8(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformation_r9_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r9_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TargetCellPreconfigInfo_r9(rtxContext* RT_RESTRICT ctx, TargetCellPreconfigInfo_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformation_r9(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformation_v6b0ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TargetCellPreconfigInfo_v890ext(rtxContext* RT_RESTRICT ctx, TargetCellPreconfigInfo_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformation_v890ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformationList(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformationList_r6(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformationList_r7(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformation_list_v6b0ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_list_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformationList_r8(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformationList_v890ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformationList_r9(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformation_SecULFreq(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_SecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_SecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_RemovalInformationList(rtxContext* RT_RESTRICT ctx, RL_RemovalInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_RemovalInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, RL_RemovalInformationList_SecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHFrameType2Info_modulation_mod16QAM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHFrameType2Info_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHFrameType2Info_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHFrameType2Info(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHFrameType2Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SecondaryCCPCHInfoDiff_MBMS(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfoDiff_MBMS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ServingCellChangeMACreset(rtxContext* RT_RESTRICT ctx, ServingCellChangeMACreset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ServingCellChangeMsgType(rtxContext* RT_RESTRICT ctx, ServingCellChangeMsgType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ServingCellChangeTrId(rtxContext* RT_RESTRICT ctx, ServingCellChangeTrId* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ServingCellChangeParameters(rtxContext* RT_RESTRICT ctx, ServingCellChangeParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SpecialBurstScheduling(rtxContext* RT_RESTRICT ctx, SpecialBurstScheduling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SpreadingFactor(rtxContext* RT_RESTRICT ctx, SpreadingFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SPS_Information_TDD128_r8(rtxContext* RT_RESTRICT ctx, SPS_Information_TDD128_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SynchronisationParameters_r4_sync_UL_CodesBitmap(rtxContext* RT_RESTRICT ctx, SynchronisationParameters_r4_sync_UL_CodesBitmap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SYNC_UL_Procedure_r4(rtxContext* RT_RESTRICT ctx, SYNC_UL_Procedure_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, SynchronisationParameters_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TFC_ControlDuration(rtxContext* RT_RESTRICT ctx, TFC_ControlDuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotList(rtxContext* RT_RESTRICT ctx, TimeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotList_r4_tdd384(rtxContext* RT_RESTRICT ctx, TimeslotList_r4_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotList_r4_tdd128(rtxContext* RT_RESTRICT ctx, TimeslotList_r4_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotList_r4(rtxContext* RT_RESTRICT ctx, TimeslotList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_16QAM_Config_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_16QAM_Config_mac_es_e_resetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_16QAM_Config(rtxContext* RT_RESTRICT ctx, UL_16QAM_Config* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrCH(rtxContext* RT_RESTRICT ctx, UL_CCTrCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrCH_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrCH_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrCH_r4_tddOption(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrCH_r4(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrCH_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrCH_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TS_ChannelisationCodeList_r7_element(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList_r7_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TS_ChannelisationCodeList_r7(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r7_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r7(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r7(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrCH_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrCH_r7_tddOption(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_CCTrCH_r7(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrCHList(rtxContext* RT_RESTRICT ctx, UL_CCTrCHList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_CCTrCHList_r4(rtxContext* RT_RESTRICT ctx, UL_CCTrCHList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrCHList_r7(rtxContext* RT_RESTRICT ctx, UL_CCTrCHList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_CCTrCHListToRemove(rtxContext* RT_RESTRICT ctx, UL_CCTrCHListToRemove* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, UL_TimingAdvance* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_enabled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_DPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_ChannelRequirement(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r4_enabled_tddOption(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r4_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_TimingAdvanceControl_r4(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_DPCH_Info_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_ChannelRequirement_r4(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_DPCH_Info_r5(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_ChannelRequirement_r5(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirement_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_ChannelRequirementWithCPCH_SetID(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirementWithCPCH_SetID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_ChannelRequirementWithCPCH_SetID_r4(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirementWithCPCH_SetID_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_ChannelRequirementWithCPCH_SetID_r5(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirementWithCPCH_SetID_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_DPCH_Info_r6(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r7_enabled_tddOption(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r7_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_TimingAdvanceControl_r7(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_DPCH_Info_r7(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfoPostFDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPostFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_InfoPostFDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPostFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfoPostTDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPostTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_InfoPostTDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPostTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPostTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_LCR_r4_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_LCR_r4_enabled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_DPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_ext_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_ext_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_ext(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r6_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r6_mac_es_e_resetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_EDCH_Information_r6(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r7_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_mac_es_e_resetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UL_EDCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UL_EDCH_Information_r7(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SatID(rtxContext* RT_RESTRICT ctx, SatID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DopplerUncertainty(rtxContext* RT_RESTRICT ctx, DopplerUncertainty* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ExtraDopplerInfo(rtxContext* RT_RESTRICT ctx, ExtraDopplerInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CodePhaseSearchWindow(rtxContext* RT_RESTRICT ctx, CodePhaseSearchWindow* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AzimuthAndElevation(rtxContext* RT_RESTRICT ctx, AzimuthAndElevation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AcquisitionSatInfo(rtxContext* RT_RESTRICT ctx, AcquisitionSatInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_AcquisitionSatInfoList(rtxContext* RT_RESTRICT ctx, AcquisitionSatInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AdditionalMeasurementID_List(rtxContext* RT_RESTRICT ctx, AdditionalMeasurementID_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AlmanacSatInfo(rtxContext* RT_RESTRICT ctx, AlmanacSatInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AlmanacSatInfoList(rtxContext* RT_RESTRICT ctx, AlmanacSatInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_SBASecef(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_SBASecef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_SBASecefList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_SBASecefList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ALM_ECEFsbasAlmanacSet(rtxContext* RT_RESTRICT ctx, ALM_ECEFsbasAlmanacSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_GLOkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_GLOkp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_GLOkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_GLOkpList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ALM_GlonassAlmanacSet(rtxContext* RT_RESTRICT ctx, ALM_GlonassAlmanacSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_Kp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_Kp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_KpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_KpList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ALM_keplerianParameters(rtxContext* RT_RESTRICT ctx, ALM_keplerianParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_MIDIkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_MIDIkp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_MIDIkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_MIDIkpList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ALM_MidiAlmanacSet(rtxContext* RT_RESTRICT ctx, ALM_MidiAlmanacSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_NAVkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_NAVkp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_NAVkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_NAVkpList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ALM_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, ALM_NAVKeplerianSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_REDkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_REDkp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_REDkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_REDkpList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ALM_ReducedKeplerianSet(rtxContext* RT_RESTRICT ctx, ALM_ReducedKeplerianSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AuxInfoGANSS_ID1_element(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID1_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AuxInfoGANSS_ID1(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AuxInfoGANSS_ID3_element(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID3_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AuxInfoGANSS_ID3(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AverageRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, AverageRLC_BufferPayload* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BadSatList_element(rtxContext* RT_RESTRICT ctx, BadSatList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BadSatList(rtxContext* RT_RESTRICT ctx, BadSatList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DL_TransportChannelBLER(rtxContext* RT_RESTRICT ctx, DL_TransportChannelBLER* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BLER_MeasurementResults(rtxContext* RT_RESTRICT ctx, BLER_MeasurementResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BLER_MeasurementResultsList(rtxContext* RT_RESTRICT ctx, BLER_MeasurementResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BLER_TransChIdList(rtxContext* RT_RESTRICT ctx, BLER_TransChIdList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BSIC_VerificationRequired(rtxContext* RT_RESTRICT ctx, BSIC_VerificationRequired* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BSICReported(rtxContext* RT_RESTRICT ctx, BSICReported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BurstModeParameters(rtxContext* RT_RESTRICT ctx, BurstModeParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellDCHMeasOccasionPattern_LCR_statusFlag(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionPattern_LCR_statusFlag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementOccasionPatternParameter(rtxContext* RT_RESTRICT ctx, MeasurementOccasionPatternParameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellDCHMeasOccasionPattern_LCR(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionPattern_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellDCHMeasOccasionInfo_TDD128_r9(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionInfo_TDD128_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellInfo(rtxContext* RT_RESTRICT ctx, CellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotInfoList_r4_tdd384(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_r4_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotInfoList_r4_tdd128(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_r4_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TimeslotInfoList_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellInfo_r4(rtxContext* RT_RESTRICT ctx, CellInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellSelectReselectInfoMC_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfo_LCR_r8_ext(rtxContext* RT_RESTRICT ctx, CellInfo_LCR_r8_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfo_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfo_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfo_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfo_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellInfo_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfo_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellInfo_r9(rtxContext* RT_RESTRICT ctx, CellInfo_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SFN_SFN_ObsTimeDifference1(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SFN_SFN_ObsTimeDifference2(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SFN_SFN_ObsTimeDifference(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CountC_SFN_Frame_difference(rtxContext* RT_RESTRICT ctx, CountC_SFN_Frame_difference* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSynchronisationInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSynchronisationInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSynchronisationInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellSynchronisationInfo(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CPICH_Ec_N0(rtxContext* RT_RESTRICT ctx, CPICH_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CPICH_RSCP(rtxContext* RT_RESTRICT ctx, CPICH_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Pathloss(rtxContext* RT_RESTRICT ctx, Pathloss* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PrimaryCCPCH_RSCP(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+
+/* Bodies held by other units. */
+RT_DECODE_EXTERN(EXT_UL_TimingAdvance_modeSpecificInfo)
+RT_DECODE_EXTERN(RepetitionPeriodAndLengthForSPS)
+RT_DECODE_EXTERN(HS_SICH_Configuration_TDD128_r6)
+RT_DECODE_EXTERN(MIMO_PilotConfiguration_r9)
+RT_DECODE_EXTERN(FrequencyInfoTDD)
+RT_DECODE_EXTERN(UL_CCTrChTPCList)
+RT_DECODE_EXTERN(PDSCH_Info)
+RT_DECODE_EXTERN(AllocationPeriodInfo)
+RT_DECODE_EXTERN(DownlinkTimeslotsCodes)
+RT_DECODE_EXTERN(DownlinkTimeslotsCodes_LCR_r4)
+RT_DECODE_EXTERN(CommonTimeslotInfo)
+RT_DECODE_EXTERN(PDSCH_Info_r7)
+RT_DECODE_EXTERN(PDSCH_SysInfo)
+RT_DECODE_EXTERN(PDSCH_SysInfo_HCR_r5)
+RT_DECODE_EXTERN(PDSCH_SysInfo_LCR_r4)
+RT_DECODE_EXTERN(PUSCH_Info)
+RT_DECODE_EXTERN(UplinkTimeslotsCodes)
+RT_DECODE_EXTERN(UplinkTimeslotsCodes_LCR_r4)
+RT_DECODE_EXTERN(PUSCH_Info_VHCR)
+RT_DECODE_EXTERN(PUSCH_SysInfo)
+RT_DECODE_EXTERN(PUSCH_SysInfo_HCR_r5)
+RT_DECODE_EXTERN(PUSCH_SysInfo_LCR_r4)
+RT_DECODE_EXTERN(PrimaryCPICH_Info)
+RT_DECODE_EXTERN(DL_DPCH_InfoPerRL)
+RT_DECODE_EXTERN(SCCPCH_InfoForFACH)
+RT_DECODE_EXTERN(DL_DPCH_InfoPerRL_r5)
+RT_DECODE_EXTERN(DL_FDPCH_InfoPerRL_r6)
+RT_DECODE_EXTERN(CellIdentity)
+RT_DECODE_EXTERN(E_HICH_Information)
+RT_DECODE_EXTERN(E_RGCH_Information)
+RT_DECODE_EXTERN(DL_FDPCH_InfoPerRL_r7)
+RT_DECODE_EXTERN(H_RNTI)
+RT_DECODE_EXTERN(E_RNTI)
+RT_DECODE_EXTERN(Serving_HSDSCH_CellInformation_r8)
+RT_DECODE_EXTERN(E_DCH_ReconfigurationInfo_r7)
+RT_DECODE_EXTERN(DTX_DRX_Info_r7)
+RT_DECODE_EXTERN(DL_SecondaryCellInfoFDD)
+RT_DECODE_EXTERN(Serving_HSDSCH_CellInformation_r9)
+RT_DECODE_EXTERN(DL_SecondaryCellInfoFDD_r9)
+RT_DECODE_EXTERN(UL_SecondaryCellInfoFDD)
+RT_DECODE_EXTERN(E_DCH_ReconfigurationInfo_SecULFrequency)
+RT_DECODE_EXTERN(DL_ChannelCodes_MBSFN_IMB384)
+RT_DECODE_EXTERN(SF256_AndCodeNumber)
+RT_DECODE_EXTERN(E_DCH_SPS_Information_TDD128)
+RT_DECODE_EXTERN(FPACH_Info_r4)
+RT_DECODE_EXTERN(UL_16QAM_Settings)
+RT_DECODE_EXTERN(TimeInfo)
+RT_DECODE_EXTERN(UplinkTimeslotsCodes_VHCR)
+RT_DECODE_EXTERN(IndividualTimeslotInfo_LCR_r4)
+RT_DECODE_EXTERN(UL_DPCH_PowerControlInfo)
+RT_DECODE_EXTERN(CPCH_SetInfo)
+RT_DECODE_EXTERN(UL_SynchronisationParameters_r4)
+RT_DECODE_EXTERN(UL_DPCH_PowerControlInfo_r4)
+RT_DECODE_EXTERN(UL_DPCH_PowerControlInfo_r5)
+RT_DECODE_EXTERN(PowerControlAlgorithm)
+RT_DECODE_EXTERN(IndividualTS_InterferenceList)
+RT_DECODE_EXTERN(UL_DPCH_PowerControlInfo_r7)
+RT_DECODE_EXTERN(E_DPCCH_Info)
+RT_DECODE_EXTERN(E_DPDCH_Info)
+RT_DECODE_EXTERN(E_DPDCH_SchedulingTransmConfiguration)
+RT_DECODE_EXTERN(E_DPCCH_Info_r7)
+RT_DECODE_EXTERN(E_DPDCH_Info_r7)
+RT_DECODE_EXTERN(E_RUCCH_Info)
+RT_DECODE_EXTERN(E_PUCH_Info)
+RT_DECODE_EXTERN(Non_ScheduledTransGrantInfoTDD)
+RT_DECODE_EXTERN(PrimaryCCPCH_Info)
+RT_DECODE_EXTERN(TimeslotInfoList)
+RT_DECODE_EXTERN(ReferenceTimeDifferenceToCell)
+RT_DECODE_EXTERN(TimeslotInfo)
+RT_DECODE_EXTERN(TimeslotInfo_LCR_r4)
+RT_DECODE_EXTERN(PrimaryCCPCH_Info_r4)
+RT_DECODE_EXTERN(HCS_NeighbouringCellInformation_RSCP)
+
+RT_MERGED_BODY int dec_EXT_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoList-r4");
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r4");
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r4");
-   }
-   /* cellsForInterFreqMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_r8_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r8_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* intraSecondaryFreqIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->intraSecondaryFreqIndicator);
-   RT_CHECK(ctx, stat, 0, "intraSecondaryFreqIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r8_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* noInfo */
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (NewInterFreqCell_r8_modeSpecificInfo_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(NewInterFreqCell_r8_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         stat = asn1PD_UMTS_NewInterFreqCell_r8_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_r8(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-r8");
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r8");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r8");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r8");
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_NewInterFreqCell_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "NewInterFreqCell-r8");
+   stat = dec_EXT_UL_TimingAdvance_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "EXT-UL-TimingAdvance");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellList_r8(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_r8* RT_RESTRICT pvalue)
+int asn1PD_UMTS_EXT_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, EXT_UL_TimingAdvance* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellList-r8");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCell_r8* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_r8));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCell-r8", (int32_t)i, "NewInterFreqCellList-r8");
-      elem = (NewInterFreqCell_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCell_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCell_r8(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r8", (int32_t)i, "NewInterFreqCellList-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoList_r8(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoList-r8");
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r8");
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_r8(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r8");
-   }
-   /* cellsForInterFreqMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_r9_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r9_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* intraSecondaryFreqIndicator */
-   stat = rtxDecBitInline(ctx, &pvalue->intraSecondaryFreqIndicator);
-   RT_CHECK(ctx, stat, 0, "intraSecondaryFreqIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r9_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* noInfo */
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (NewInterFreqCell_r9_modeSpecificInfo_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(NewInterFreqCell_r9_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         stat = asn1PD_UMTS_NewInterFreqCell_r9_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_r9(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-r9");
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r9");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r9");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfo_r9(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r9");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_NewInterFreqCell_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "NewInterFreqCell-r9");
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellList_r9(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellList-r9");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCell_r9* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_r9));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCell-r9", (int32_t)i, "NewInterFreqCellList-r9");
-      elem = (NewInterFreqCell_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCell_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCell_r9(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r9", (int32_t)i, "NewInterFreqCellList-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryScramblingCode */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryScramblingCode);
-   RT_CHECK(ctx, stat, 0, "primaryScramblingCode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (InterFreqSIAcquisition_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqSIAcquisition_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_InterFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, InterFreqSIAcquisition* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqSIAcquisition");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_InterFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "InterFreqSIAcquisition");
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoList-r9");
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r9");
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_r9(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r9");
-   }
-   /* cellsForInterFreqMeasList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r9");
-   }
-   /* cSGInterFreqCellInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CSGInterFreqCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "cSGInterFreqCellInfoList", -1, "InterFreqCellInfoList-r9");
-   }
-   /* interFreqSIAcquisition */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_InterFreqSIAcquisition(ctx, &pvalue->interFreqSIAcquisition);
-      RT_CHECK(ctx, stat, 0, "interFreqSIAcquisition", -1, "InterFreqCellInfoList-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, InterFreqCellList_LCR_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellList-LCR-r4-ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterFreqCell_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqCell_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "InterFreqCell-LCR-r4", (int32_t)i, "InterFreqCellList-LCR-r4-ext");
-      elem = (InterFreqCell_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterFreqCell_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterFreqCell_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "InterFreqCell-LCR-r4", (int32_t)i, "InterFreqCellList-LCR-r4-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellMeasuredResultsList(rtxContext* RT_RESTRICT ctx, InterFreqCellMeasuredResultsList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellMeasuredResultsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellMeasuredResults* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellMeasuredResults", (int32_t)i, "InterFreqCellMeasuredResultsList");
-      elem = (CellMeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellMeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellMeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellMeasuredResults", (int32_t)i, "InterFreqCellMeasuredResultsList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, InterFreqCellMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellMeasuredResultsList-v920ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellMeasuredResults_v920ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults_v920ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellMeasuredResults-v920ext", (int32_t)i, "InterFreqCellMeasuredResultsList-v920ext");
-      elem = (CellMeasuredResults_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellMeasuredResults_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellMeasuredResults_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-v920ext", (int32_t)i, "InterFreqCellMeasuredResultsList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqEvent(rtxContext* RT_RESTRICT ctx, InterFreqEvent* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqEvent");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* event2a */
-         pvalue->u.event2a = (Event2a*)rtxMemHeapAlloc(ctx, sizeof(Event2a));
-         if (pvalue->u.event2a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event2a", -1, "InterFreqEvent");
-         asn1Init_UMTS_Event2a(pvalue->u.event2a);
-         stat = asn1PD_UMTS_Event2a(ctx, pvalue->u.event2a);
-         RT_CHECK(ctx, stat, 0, "event2a", -1, "InterFreqEvent");
-         break;
-      case 1: /* event2b */
-         pvalue->u.event2b = (Event2b*)rtxMemHeapAlloc(ctx, sizeof(Event2b));
-         if (pvalue->u.event2b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event2b", -1, "InterFreqEvent");
-         asn1Init_UMTS_Event2b(pvalue->u.event2b);
-         stat = asn1PD_UMTS_Event2b(ctx, pvalue->u.event2b);
-         RT_CHECK(ctx, stat, 0, "event2b", -1, "InterFreqEvent");
-         break;
-      case 2: /* event2c */
-         pvalue->u.event2c = (Event2c*)rtxMemHeapAlloc(ctx, sizeof(Event2c));
-         if (pvalue->u.event2c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event2c", -1, "InterFreqEvent");
-         asn1Init_UMTS_Event2c(pvalue->u.event2c);
-         stat = asn1PD_UMTS_Event2c(ctx, pvalue->u.event2c);
-         RT_CHECK(ctx, stat, 0, "event2c", -1, "InterFreqEvent");
-         break;
-      case 3: /* event2d */
-         pvalue->u.event2d = (Event2d*)rtxMemHeapAlloc(ctx, sizeof(Event2d));
-         if (pvalue->u.event2d == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event2d", -1, "InterFreqEvent");
-         asn1Init_UMTS_Event2d(pvalue->u.event2d);
-         stat = asn1PD_UMTS_Event2d(ctx, pvalue->u.event2d);
-         RT_CHECK(ctx, stat, 0, "event2d", -1, "InterFreqEvent");
-         break;
-      case 4: /* event2e */
-         pvalue->u.event2e = (Event2e*)rtxMemHeapAlloc(ctx, sizeof(Event2e));
-         if (pvalue->u.event2e == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event2e", -1, "InterFreqEvent");
-         asn1Init_UMTS_Event2e(pvalue->u.event2e);
-         stat = asn1PD_UMTS_Event2e(ctx, pvalue->u.event2e);
-         RT_CHECK(ctx, stat, 0, "event2e", -1, "InterFreqEvent");
-         break;
-      case 5: /* event2f */
-         pvalue->u.event2f = (Event2f*)rtxMemHeapAlloc(ctx, sizeof(Event2f));
-         if (pvalue->u.event2f == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event2f", -1, "InterFreqEvent");
-         asn1Init_UMTS_Event2f(pvalue->u.event2f);
-         stat = asn1PD_UMTS_Event2f(ctx, pvalue->u.event2f);
-         RT_CHECK(ctx, stat, 0, "event2f", -1, "InterFreqEvent");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqEvent");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqEvent_r6(rtxContext* RT_RESTRICT ctx, InterFreqEvent_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqEvent-r6");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* event2a */
-         pvalue->u.event2a = (Event2a_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2a_r6));
-         if (pvalue->u.event2a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event2a", -1, "InterFreqEvent-r6");
-         asn1Init_UMTS_Event2a_r6(pvalue->u.event2a);
-         stat = asn1PD_UMTS_Event2a_r6(ctx, pvalue->u.event2a);
-         RT_CHECK(ctx, stat, 0, "event2a", -1, "InterFreqEvent-r6");
-         break;
-      case 1: /* event2b */
-         pvalue->u.event2b = (Event2b_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2b_r6));
-         if (pvalue->u.event2b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event2b", -1, "InterFreqEvent-r6");
-         asn1Init_UMTS_Event2b_r6(pvalue->u.event2b);
-         stat = asn1PD_UMTS_Event2b_r6(ctx, pvalue->u.event2b);
-         RT_CHECK(ctx, stat, 0, "event2b", -1, "InterFreqEvent-r6");
-         break;
-      case 2: /* event2c */
-         pvalue->u.event2c = (Event2c_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2c_r6));
-         if (pvalue->u.event2c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event2c", -1, "InterFreqEvent-r6");
-         asn1Init_UMTS_Event2c_r6(pvalue->u.event2c);
-         stat = asn1PD_UMTS_Event2c_r6(ctx, pvalue->u.event2c);
-         RT_CHECK(ctx, stat, 0, "event2c", -1, "InterFreqEvent-r6");
-         break;
-      case 3: /* event2d */
-         pvalue->u.event2d = (Event2d_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2d_r6));
-         if (pvalue->u.event2d == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event2d", -1, "InterFreqEvent-r6");
-         asn1Init_UMTS_Event2d_r6(pvalue->u.event2d);
-         stat = asn1PD_UMTS_Event2d_r6(ctx, pvalue->u.event2d);
-         RT_CHECK(ctx, stat, 0, "event2d", -1, "InterFreqEvent-r6");
-         break;
-      case 4: /* event2e */
-         pvalue->u.event2e = (Event2e_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2e_r6));
-         if (pvalue->u.event2e == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event2e", -1, "InterFreqEvent-r6");
-         asn1Init_UMTS_Event2e_r6(pvalue->u.event2e);
-         stat = asn1PD_UMTS_Event2e_r6(ctx, pvalue->u.event2e);
-         RT_CHECK(ctx, stat, 0, "event2e", -1, "InterFreqEvent-r6");
-         break;
-      case 5: /* event2f */
-         pvalue->u.event2f = (Event2f_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2f_r6));
-         if (pvalue->u.event2f == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event2f", -1, "InterFreqEvent-r6");
-         asn1Init_UMTS_Event2f_r6(pvalue->u.event2f);
-         stat = asn1PD_UMTS_Event2f_r6(ctx, pvalue->u.event2f);
-         RT_CHECK(ctx, stat, 0, "event2f", -1, "InterFreqEvent-r6");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqEvent-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqEventList(rtxContext* RT_RESTRICT ctx, InterFreqEventList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqEventList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterFreqEvent* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqEvent));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "InterFreqEvent", (int32_t)i, "InterFreqEventList");
-      elem = (InterFreqEvent*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterFreqEvent(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterFreqEvent(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "InterFreqEvent", (int32_t)i, "InterFreqEventList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqEventList_r6(rtxContext* RT_RESTRICT ctx, InterFreqEventList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqEventList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterFreqEvent_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqEvent_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "InterFreqEvent-r6", (int32_t)i, "InterFreqEventList-r6");
-      elem = (InterFreqEvent_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterFreqEvent_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterFreqEvent_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "InterFreqEvent-r6", (int32_t)i, "InterFreqEventList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasuredResultsList-v590ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DeltaRSCPPerCell* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DeltaRSCPPerCell));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DeltaRSCPPerCell", (int32_t)i, "InterFrequencyMeasuredResultsList-v590ext");
-      elem = (DeltaRSCPPerCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DeltaRSCPPerCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DeltaRSCPPerCell(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "InterFrequencyMeasuredResultsList-v590ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ThreholdNonUsedFrequency_deltaList(rtxContext* RT_RESTRICT ctx, ThreholdNonUsedFrequency_deltaList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThreholdNonUsedFrequency-deltaList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DeltaRSCPPerCell* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DeltaRSCPPerCell));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DeltaRSCPPerCell", (int32_t)i, "ThreholdNonUsedFrequency-deltaList");
-      elem = (DeltaRSCPPerCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DeltaRSCPPerCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DeltaRSCPPerCell(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "ThreholdNonUsedFrequency-deltaList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Inter_FreqEventCriteria_v590ext(rtxContext* RT_RESTRICT ctx, Inter_FreqEventCriteria_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Inter-FreqEventCriteria-v590ext");
-   /* threholdUsedFrequency-delta */
-   stat = pd_ConsInt8(ctx, &pvalue->threholdUsedFrequency_delta, -5, -1);
-   RT_CHECK(ctx, stat, "DeltaRSCP", "threholdUsedFrequency-delta", -1, "Inter-FreqEventCriteria-v590ext");
-   /* threholdNonUsedFrequency-deltaList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ThreholdNonUsedFrequency_deltaList(ctx, &pvalue->threholdNonUsedFrequency_deltaList);
-      RT_CHECK(ctx, stat, 0, "threholdNonUsedFrequency-deltaList", -1, "Inter-FreqEventCriteria-v590ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Inter_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, Inter_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Inter-FreqEventCriteriaList-v590ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Inter_FreqEventCriteria_v590ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Inter_FreqEventCriteria_v590ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Inter-FreqEventCriteria-v590ext", (int32_t)i, "Inter-FreqEventCriteriaList-v590ext");
-      elem = (Inter_FreqEventCriteria_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Inter_FreqEventCriteria_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Inter_FreqEventCriteria_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Inter-FreqEventCriteria-v590ext", (int32_t)i, "Inter-FreqEventCriteriaList-v590ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasuredResultsList-v590ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DeltaRSCPPerCell* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DeltaRSCPPerCell));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DeltaRSCPPerCell", (int32_t)i, "IntraFrequencyMeasuredResultsList-v590ext");
-      elem = (DeltaRSCPPerCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DeltaRSCPPerCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DeltaRSCPPerCell(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "IntraFrequencyMeasuredResultsList-v590ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqEventResults_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, InterFreqEventResults_LCR_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqEventResults-LCR-r4-ext");
-   /* eventID */
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 7);
-   RT_CHECK(ctx, stat, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults-LCR-r4-ext");
-   /* interFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellList_LCR_r4_ext(ctx, &pvalue->interFreqCellList);
-      RT_CHECK(ctx, stat, 0, "interFreqCellList", -1, "InterFreqEventResults-LCR-r4-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* intraFreqMeasQuantity */
-   stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* freqQualityEstimateQuantity-FDD */
-   stat = pd_ConsUnsigned(ctx, &pvalue->freqQualityEstimateQuantity_FDD, 0, 1);
-   RT_CHECK(ctx, stat, "FreqQualityEstimateQuantity-FDD", "freqQualityEstimateQuantity-FDD", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* freqQualityEstimateQuantity-TDD */
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, "FreqQualityEstimateQuantity-TDD", "freqQualityEstimateQuantity-TDD", -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, "FreqQualityEstimateQuantity-TDD", "freqQualityEstimateQuantity-TDD", -1, 0);
-      pvalue->freqQualityEstimateQuantity_TDD = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* filterCoefficient */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
-   }
-   else {
-      pvalue->filterCoefficient = 0;
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, 0);
-         asn1Init_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, 0);
-         break;
-      case 1: /* interFreqReportingCriteria */
-         pvalue->u.interFreqReportingCriteria = (InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria));
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFreqReportingCriteria", -1, 0);
-         asn1Init_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(pvalue->u.interFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* reportingCriteria */
-   stat = asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria(ctx, &pvalue->reportingCriteria);
-   RT_CHECK(ctx, stat, 0, "reportingCriteria", -1, "InterFreqMeasQuantity");
-   return 0;
-}
-
-int asn1PD_UMTS_UTRA_CarrierRSSI(rtxContext* RT_RESTRICT ctx, UTRA_CarrierRSSI* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRA-CarrierRSSI");
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasuredResults(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasuredResults");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqMeasuredResults");
-   }
-   /* utra-CarrierRSSI */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utra_CarrierRSSI, 0, 127);
-      RT_CHECK(ctx, stat, "UTRA-CarrierRSSI", "utra-CarrierRSSI", -1, "InterFreqMeasuredResults");
-   }
-   /* interFreqCellMeasuredResultsList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_InterFreqCellMeasuredResultsList(ctx, &pvalue->interFreqCellMeasuredResultsList);
-      RT_CHECK(ctx, stat, 0, "interFreqCellMeasuredResultsList", -1, "InterFreqMeasuredResults");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResults_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasuredResults-v920ext");
-   /* interFreqCellMeasuredResultsList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellMeasuredResultsList_v920ext(ctx, &pvalue->interFreqCellMeasuredResultsList);
-      RT_CHECK(ctx, stat, 0, "interFreqCellMeasuredResultsList", -1, "InterFreqMeasuredResults-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResultsList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasuredResultsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterFreqMeasuredResults* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqMeasuredResults));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "InterFreqMeasuredResults", (int32_t)i, "InterFreqMeasuredResultsList");
-      elem = (InterFreqMeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterFreqMeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterFreqMeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "InterFreqMeasuredResults", (int32_t)i, "InterFreqMeasuredResultsList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasuredResultsList-v920ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterFreqMeasuredResults_v920ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqMeasuredResults_v920ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "InterFreqMeasuredResults-v920ext", (int32_t)i, "InterFreqMeasuredResultsList-v920ext");
-      elem = (InterFreqMeasuredResults_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterFreqMeasuredResults_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterFreqMeasuredResults_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "InterFreqMeasuredResults-v920ext", (int32_t)i, "InterFreqMeasuredResultsList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRACHRepCellsList(rtxContext* RT_RESTRICT ctx, InterFreqRACHRepCellsList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqRACHRepCellsList");
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "InterFreqRACHRepCellsList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InterFreqRACHRepCellsList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "InterFreqRACHRepCellsList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqReportingCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqReportingCriteria");
-   /* interFreqEventList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqEventList(ctx, &pvalue->interFreqEventList);
-      RT_CHECK(ctx, stat, 0, "interFreqEventList", -1, "InterFreqReportingCriteria");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PeriodicalWithReportingCellStatus(rtxContext* RT_RESTRICT ctx, PeriodicalWithReportingCellStatus* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PeriodicalWithReportingCellStatus");
-   /* periodicalReportingCriteria */
-   stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, &pvalue->periodicalReportingCriteria);
-   RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "PeriodicalWithReportingCellStatus");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "PeriodicalWithReportingCellStatus");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ReportingCellStatusOpt(rtxContext* RT_RESTRICT ctx, ReportingCellStatusOpt* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingCellStatusOpt");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "ReportingCellStatusOpt");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportCriteria(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqReportCriteria");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria");
-         asn1Init_UMTS_IntraFreqReportingCriteria(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria");
-         break;
-      case 1: /* interFreqReportingCriteria */
-         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria));
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria");
-         asn1Init_UMTS_InterFreqReportingCriteria(pvalue->u.interFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria");
-         break;
-      case 2: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria");
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria");
-         break;
-      case 3: /* noReporting */
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "noReporting", -1, "InterFreqReportCriteria");
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEvent_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEvent-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e1a */
-         pvalue->u.e1a = (Event1a_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_r4));
-         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEvent-r4");
-         asn1Init_UMTS_Event1a_r4(pvalue->u.e1a);
-         stat = asn1PD_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r4");
-         break;
-      case 1: /* e1b */
-         pvalue->u.e1b = (Event1b_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1b_r4));
-         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEvent-r4");
-         asn1Init_UMTS_Event1b_r4(pvalue->u.e1b);
-         stat = asn1PD_UMTS_Event1b_r4(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r4");
-         break;
-      case 2: /* e1c */
-         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
-         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEvent-r4");
-         stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r4");
-         break;
-      case 3: /* e1d */
-         break;
-      case 4: /* e1e */
-         pvalue->u.e1e = (Event1e*)rtxMemHeapAllocZ(ctx, sizeof(Event1e));
-         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEvent-r4");
-         stat = asn1PD_UMTS_Event1e(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r4");
-         break;
-      case 5: /* e1f */
-         pvalue->u.e1f = (Event1f*)rtxMemHeapAllocZ(ctx, sizeof(Event1f));
-         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEvent-r4");
-         stat = asn1PD_UMTS_Event1f(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r4");
-         break;
-      case 6: /* e1g */
-         break;
-      case 7: /* e1h */
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1h, -115, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-r4");
-         break;
-      case 8: /* e1i */
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1i, -115, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteria_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-r4");
-   /* event */
-   stat = asn1PD_UMTS_IntraFreqEvent_r4(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r4");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r4");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r4");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaList_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IntraFreqEventCriteria_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IntraFreqEventCriteria-r4", (int32_t)i, "IntraFreqEventCriteriaList-r4");
-      elem = (IntraFreqEventCriteria_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IntraFreqEventCriteria_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IntraFreqEventCriteria_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r4", (int32_t)i, "IntraFreqEventCriteriaList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingCriteria_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r4");
-   /* eventCriteriaList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaList_r4(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqReportCriteria-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r4));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
-         asn1Init_UMTS_IntraFreqReportingCriteria_r4(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
-         break;
-      case 1: /* interFreqReportingCriteria */
-         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria));
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
-         asn1Init_UMTS_InterFreqReportingCriteria(pvalue->u.interFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
-         break;
-      case 2: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r4");
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r4");
-         break;
-      case 3: /* noReporting */
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "noReporting", -1, "InterFreqReportCriteria-r4");
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEvent_r6(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEvent-r6");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e1a */
-         pvalue->u.e1a = (Event1a_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_r4));
-         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEvent-r6");
-         asn1Init_UMTS_Event1a_r4(pvalue->u.e1a);
-         stat = asn1PD_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r6");
-         break;
-      case 1: /* e1b */
-         pvalue->u.e1b = (Event1b_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1b_r4));
-         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEvent-r6");
-         asn1Init_UMTS_Event1b_r4(pvalue->u.e1b);
-         stat = asn1PD_UMTS_Event1b_r4(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r6");
-         break;
-      case 2: /* e1c */
-         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
-         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEvent-r6");
-         stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r6");
-         break;
-      case 3: /* e1d */
-         pvalue->u.e1d = (Event1d*)rtxMemHeapAlloc(ctx, sizeof(Event1d));
-         if (pvalue->u.e1d == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1d", -1, "IntraFreqEvent-r6");
-         asn1Init_UMTS_Event1d(pvalue->u.e1d);
-         stat = asn1PD_UMTS_Event1d(ctx, pvalue->u.e1d);
-         RT_CHECK(ctx, stat, 0, "e1d", -1, "IntraFreqEvent-r6");
-         break;
-      case 4: /* e1e */
-         pvalue->u.e1e = (Event1e_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1e_r6));
-         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEvent-r6");
-         stat = asn1PD_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r6");
-         break;
-      case 5: /* e1f */
-         pvalue->u.e1f = (Event1f_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1f_r6));
-         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEvent-r6");
-         stat = asn1PD_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r6");
-         break;
-      case 6: /* e1g */
-         break;
-      case 7: /* e1h */
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1h, -120, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r6");
-         break;
-      case 8: /* e1i */
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1i, -120, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r6");
-         break;
-      case 9: /* e1j */
-         pvalue->u.e1j = (Event1j_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1j_r6));
-         if (pvalue->u.e1j == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1j", -1, "IntraFreqEvent-r6");
-         stat = asn1PD_UMTS_Event1j_r6(ctx, pvalue->u.e1j);
-         RT_CHECK(ctx, stat, 0, "e1j", -1, "IntraFreqEvent-r6");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteria_r6(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-r6");
-   /* event */
-   stat = asn1PD_UMTS_IntraFreqEvent_r6(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r6");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r6");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r6");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaList_r6(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IntraFreqEventCriteria_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IntraFreqEventCriteria-r6", (int32_t)i, "IntraFreqEventCriteriaList-r6");
-      elem = (IntraFreqEventCriteria_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IntraFreqEventCriteria_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IntraFreqEventCriteria_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r6", (int32_t)i, "IntraFreqEventCriteriaList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r6");
-   /* eventCriteriaList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaList_r6(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, InterFreqReportingCriteria_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqReportingCriteria-r6");
-   /* interFreqEventList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqEventList_r6(ctx, &pvalue->interFreqEventList);
-      RT_CHECK(ctx, stat, 0, "interFreqEventList", -1, "InterFreqReportingCriteria-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqReportCriteria-r6");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r6));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
-         asn1Init_UMTS_IntraFreqReportingCriteria_r6(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
-         break;
-      case 1: /* interFreqReportingCriteria */
-         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria_r6));
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
-         asn1Init_UMTS_InterFreqReportingCriteria_r6(pvalue->u.interFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
-         break;
-      case 2: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r6");
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r6");
-         break;
-      case 3: /* noReporting */
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "noReporting", -1, "InterFreqReportCriteria-r6");
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r6");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEvent_r7(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEvent-r7");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e1a */
-         pvalue->u.e1a = (Event1a_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_r4));
-         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEvent-r7");
-         asn1Init_UMTS_Event1a_r4(pvalue->u.e1a);
-         stat = asn1PD_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r7");
-         break;
-      case 1: /* e1b */
-         pvalue->u.e1b = (Event1b_r7*)rtxMemHeapAlloc(ctx, sizeof(Event1b_r7));
-         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEvent-r7");
-         asn1Init_UMTS_Event1b_r7(pvalue->u.e1b);
-         stat = asn1PD_UMTS_Event1b_r7(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r7");
-         break;
-      case 2: /* e1c */
-         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
-         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEvent-r7");
-         stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r7");
-         break;
-      case 3: /* e1d */
-         pvalue->u.e1d = (Event1d*)rtxMemHeapAlloc(ctx, sizeof(Event1d));
-         if (pvalue->u.e1d == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1d", -1, "IntraFreqEvent-r7");
-         asn1Init_UMTS_Event1d(pvalue->u.e1d);
-         stat = asn1PD_UMTS_Event1d(ctx, pvalue->u.e1d);
-         RT_CHECK(ctx, stat, 0, "e1d", -1, "IntraFreqEvent-r7");
-         break;
-      case 4: /* e1e */
-         pvalue->u.e1e = (Event1e_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1e_r6));
-         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEvent-r7");
-         stat = asn1PD_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r7");
-         break;
-      case 5: /* e1f */
-         pvalue->u.e1f = (Event1f_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1f_r6));
-         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEvent-r7");
-         stat = asn1PD_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r7");
-         break;
-      case 6: /* e1g */
-         break;
-      case 7: /* e1h */
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1h, -120, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r7");
-         break;
-      case 8: /* e1i */
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1i, -120, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r7");
-         break;
-      case 9: /* e1j */
-         pvalue->u.e1j = (Event1j_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1j_r6));
-         if (pvalue->u.e1j == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1j", -1, "IntraFreqEvent-r7");
-         stat = asn1PD_UMTS_Event1j_r6(ctx, pvalue->u.e1j);
-         RT_CHECK(ctx, stat, 0, "e1j", -1, "IntraFreqEvent-r7");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteria_r7(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-r7");
-   /* event */
-   stat = asn1PD_UMTS_IntraFreqEvent_r7(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r7");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r7");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r7");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaList_r7(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IntraFreqEventCriteria_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IntraFreqEventCriteria-r7", (int32_t)i, "IntraFreqEventCriteriaList-r7");
-      elem = (IntraFreqEventCriteria_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IntraFreqEventCriteria_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IntraFreqEventCriteria_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r7", (int32_t)i, "IntraFreqEventCriteriaList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingCriteria_r7(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r7");
-   /* eventCriteriaList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqReportCriteria-r7");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r7));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
-         asn1Init_UMTS_IntraFreqReportingCriteria_r7(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
-         break;
-      case 1: /* interFreqReportingCriteria */
-         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria_r6));
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
-         asn1Init_UMTS_InterFreqReportingCriteria_r6(pvalue->u.interFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
-         break;
-      case 2: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r7");
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r7");
-         break;
-      case 3: /* noReporting */
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "noReporting", -1, "InterFreqReportCriteria-r7");
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r7");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventOnSecULFreq");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e1a */
-         pvalue->u.e1a = (Event1a_OnSecUlFreq_r9*)rtxMemHeapAlloc(ctx, sizeof(Event1a_OnSecUlFreq_r9));
-         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEventOnSecULFreq");
-         asn1Init_UMTS_Event1a_OnSecUlFreq_r9(pvalue->u.e1a);
-         stat = asn1PD_UMTS_Event1a_OnSecUlFreq_r9(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEventOnSecULFreq");
-         break;
-      case 1: /* e1b */
-         pvalue->u.e1b = (Event1b_OnSecUlFreq_r9*)rtxMemHeapAlloc(ctx, sizeof(Event1b_OnSecUlFreq_r9));
-         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEventOnSecULFreq");
-         asn1Init_UMTS_Event1b_OnSecUlFreq_r9(pvalue->u.e1b);
-         stat = asn1PD_UMTS_Event1b_OnSecUlFreq_r9(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEventOnSecULFreq");
-         break;
-      case 2: /* e1c */
-         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
-         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEventOnSecULFreq");
-         stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEventOnSecULFreq");
-         break;
-      case 3: /* e1e */
-         pvalue->u.e1e = (Event1e_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1e_r6));
-         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEventOnSecULFreq");
-         stat = asn1PD_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEventOnSecULFreq");
-         break;
-      case 4: /* e1f */
-         pvalue->u.e1f = (Event1f_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1f_r6));
-         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEventOnSecULFreq");
-         stat = asn1PD_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEventOnSecULFreq");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEventOnSecULFreq");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaOnSecULFreq");
-   /* event */
-   stat = asn1PD_UMTS_IntraFreqEventOnSecULFreq(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteriaOnSecULFreq");
-   /* hysteresis */
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteriaOnSecULFreq");
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteriaOnSecULFreq");
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteriaOnSecULFreq");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IntraFreqEventCriteriaOnSecULFreq* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteriaOnSecULFreq));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IntraFreqEventCriteriaOnSecULFreq", (int32_t)i, 0);
-      elem = (IntraFreqEventCriteriaOnSecULFreq*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IntraFreqEventCriteriaOnSecULFreq(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaOnSecULFreq(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteriaOnSecULFreq", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaListOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaListOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "IntraFreqEventCriteriaListOnSecULFreq");
-   /* intraFreqEventCriteria */
-   stat = asn1PD_UMTS_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(ctx, &pvalue->intraFreqEventCriteria);
-   RT_CHECK(ctx, stat, 0, "intraFreqEventCriteria", -1, "IntraFreqEventCriteriaListOnSecULFreq");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingCriteria_r9(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r9");
-   /* eventCriteriaList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r9");
-   }
-   /* eventCriteriaListOnSecULFreq */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaListOnSecULFreq(ctx, &pvalue->eventCriteriaListOnSecULFreq);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaListOnSecULFreq", -1, "IntraFreqReportingCriteria-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqReportCriteria-r9");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r9*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r9));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
-         asn1Init_UMTS_IntraFreqReportingCriteria_r9(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
-         break;
-      case 1: /* interFreqReportingCriteria */
-         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria_r6));
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
-         asn1Init_UMTS_InterFreqReportingCriteria_r6(pvalue->u.interFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
-         break;
-      case 2: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r9");
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r9");
-         break;
-      case 3: /* noReporting */
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "noReporting", -1, "InterFreqReportCriteria-r9");
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r9");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, InterFreqReportingQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* utra-Carrier-RSSI */
-   stat = rtxDecBitInline(ctx, &pvalue->utra_Carrier_RSSI);
-   RT_CHECK(ctx, stat, 0, "utra-Carrier-RSSI", -1, "InterFreqReportingQuantity");
-   /* frequencyQualityEstimate */
-   stat = rtxDecBitInline(ctx, &pvalue->frequencyQualityEstimate);
-   RT_CHECK(ctx, stat, 0, "frequencyQualityEstimate", -1, "InterFreqReportingQuantity");
-   /* nonFreqRelatedQuantities */
-   stat = asn1PD_UMTS_CellReportingQuantities(ctx, &pvalue->nonFreqRelatedQuantities);
-   RT_CHECK(ctx, stat, 0, "nonFreqRelatedQuantities", -1, "InterFreqReportingQuantity");
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInfoList(rtxContext* RT_RESTRICT ctx, RL_AdditionInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCPICH_Info* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-AdditionInfoList");
-      elem = (PrimaryCPICH_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-AdditionInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RL_InformationLists(rtxContext* RT_RESTRICT ctx, RL_InformationLists* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-InformationLists");
-   /* rl-AdditionInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RL_AdditionInfoList(ctx, &pvalue->rl_AdditionInfoList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInfoList", -1, "RL-InformationLists");
-   }
-   /* rL-RemovalInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rL_RemovalInformationList);
-      RT_CHECK(ctx, stat, 0, "rL-RemovalInformationList", -1, "RL-InformationLists");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_AutonomousUpdateMode(rtxContext* RT_RESTRICT ctx, UE_AutonomousUpdateMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-AutonomousUpdateMode");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* dummy */
-         break;
-      case 1: /* onWithNoReporting */
-         break;
-      case 2: /* dummy2 */
-         pvalue->u.dummy2 = (RL_InformationLists*)rtxMemHeapAlloc(ctx, sizeof(RL_InformationLists));
-         if (pvalue->u.dummy2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dummy2", -1, "UE-AutonomousUpdateMode");
-         asn1Init_UMTS_RL_InformationLists(pvalue->u.dummy2);
-         stat = asn1PD_UMTS_RL_InformationLists(ctx, pvalue->u.dummy2);
-         RT_CHECK(ctx, stat, 0, "dummy2", -1, "UE-AutonomousUpdateMode");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-AutonomousUpdateMode");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement");
-   /* interFreqCellInfoList */
-   stat = asn1PD_UMTS_InterFreqCellInfoList(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement");
-   /* interFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement");
-   }
-   /* interFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement");
-   }
-   /* interFreqSetUpdate */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_InterFreqReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement");
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r4");
-   /* interFreqCellInfoList */
-   stat = asn1PD_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r4");
-   /* interFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r4");
-   }
-   /* interFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r4");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r4");
-   }
-   /* interFreqSetUpdate */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r4");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_InterFreqReportCriteria_r4(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r6");
-   /* interFreqCellInfoList */
-   stat = asn1PD_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r6");
-   /* interFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r6");
-   }
-   /* interFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r6");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r6");
-   }
-   /* interFreqSetUpdate */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r6");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_InterFreqReportCriteria_r6(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r7");
-   /* interFreqCellInfoList */
-   stat = asn1PD_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r7");
-   /* interFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r7");
-   }
-   /* interFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r7");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r7");
-   }
-   /* interFreqSetUpdate */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r7");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasurement_r8(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r8");
-   /* interFreqCellInfoList */
-   stat = asn1PD_UMTS_InterFreqCellInfoList_r8(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r8");
-   /* interFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r8");
-   }
-   /* interFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r8");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r8");
-   }
-   /* interFreqSetUpdate */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r8");
-   }
-   /* adjacentFrequencyIndex */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->adjacentFrequencyIndex, 0, 31);
-      RT_CHECK(ctx, stat, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r8");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r9");
-   /* interFreqCellInfoList */
-   stat = asn1PD_UMTS_InterFreqCellInfoList_r9(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r9");
-   /* interFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r9");
-   }
-   /* interFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r9");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r9");
-   }
-   /* interFreqSetUpdate */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r9");
-   }
-   /* adjacentFrequencyIndex */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->adjacentFrequencyIndex, 0, 31);
-      RT_CHECK(ctx, stat, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
-   }
-   /* interBandFrequencyIndex */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interBandFrequencyIndex, 0, 31);
-      RT_CHECK(ctx, stat, 0, "interBandFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_InterFreqReportCriteria_r9(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r9");
-   return 0;
-}
-
-int asn1PD_UMTS_NC_Mode(rtxContext* RT_RESTRICT ctx, NC_Mode* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, pvalue, 3, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NC-Mode");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_TargetCellDescription_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* bsic */
-   stat = asn1PD_UMTS_BSIC(ctx, &pvalue->bsic);
-   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
-   /* frequency-band */
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, 0);
-   /* bcch-ARFCN */
-   stat = pd_ConsUInt16(ctx, &pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
-   /* ncMode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NC_Mode(ctx, &pvalue->ncMode);
-      RT_CHECK(ctx, stat, 0, "ncMode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, InterRAT_TargetCellDescription_technologySpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* gsm */
-         pvalue->u.gsm = (InterRAT_TargetCellDescription_technologySpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_TargetCellDescription_technologySpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         asn1Init_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      case 1: /* is-2000 */
-         break;
-      case 2: /* spare2 */
-         break;
-      case 3: /* spare1 */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_TargetCellDescription(rtxContext* RT_RESTRICT ctx, InterRAT_TargetCellDescription* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* technologySpecificInfo */
-   stat = asn1PD_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
-   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "InterRAT-TargetCellDescription");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATCellInfoIndication(rtxContext* RT_RESTRICT ctx, InterRATCellInfoIndication* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoIndication");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATCellInfoList_r4(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoList-r4");
-   /* removedInterRATCellList */
-   stat = asn1PD_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-r4");
-   /* newInterRATCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-r4");
-   }
-   /* cellsForInterRATMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATCellInfoList_r6(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoList-r6");
-   /* removedInterRATCellList */
-   stat = asn1PD_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-r6");
-   /* newInterRATCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-r6");
-   }
-   /* cellsForInterRATMeasList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList-r6");
-   }
-   /* interRATCellInfoIndication-r6 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication_r6, 0, 3);
-      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication-r6", -1, "InterRATCellInfoList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATEvent(rtxContext* RT_RESTRICT ctx, InterRATEvent* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATEvent");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* event3a */
-         pvalue->u.event3a = (Event3a*)rtxMemHeapAlloc(ctx, sizeof(Event3a));
-         if (pvalue->u.event3a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event3a", -1, "InterRATEvent");
-         asn1Init_UMTS_Event3a(pvalue->u.event3a);
-         stat = asn1PD_UMTS_Event3a(ctx, pvalue->u.event3a);
-         RT_CHECK(ctx, stat, 0, "event3a", -1, "InterRATEvent");
-         break;
-      case 1: /* event3b */
-         pvalue->u.event3b = (Event3b*)rtxMemHeapAlloc(ctx, sizeof(Event3b));
-         if (pvalue->u.event3b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event3b", -1, "InterRATEvent");
-         asn1Init_UMTS_Event3b(pvalue->u.event3b);
-         stat = asn1PD_UMTS_Event3b(ctx, pvalue->u.event3b);
-         RT_CHECK(ctx, stat, 0, "event3b", -1, "InterRATEvent");
-         break;
-      case 2: /* event3c */
-         pvalue->u.event3c = (Event3c*)rtxMemHeapAlloc(ctx, sizeof(Event3c));
-         if (pvalue->u.event3c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event3c", -1, "InterRATEvent");
-         asn1Init_UMTS_Event3c(pvalue->u.event3c);
-         stat = asn1PD_UMTS_Event3c(ctx, pvalue->u.event3c);
-         RT_CHECK(ctx, stat, 0, "event3c", -1, "InterRATEvent");
-         break;
-      case 3: /* event3d */
-         pvalue->u.event3d = (Event3d*)rtxMemHeapAlloc(ctx, sizeof(Event3d));
-         if (pvalue->u.event3d == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event3d", -1, "InterRATEvent");
-         asn1Init_UMTS_Event3d(pvalue->u.event3d);
-         stat = asn1PD_UMTS_Event3d(ctx, pvalue->u.event3d);
-         RT_CHECK(ctx, stat, 0, "event3d", -1, "InterRATEvent");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATEvent");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATEventList(rtxContext* RT_RESTRICT ctx, InterRATEventList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATEventList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterRATEvent* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRATEvent));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "InterRATEvent", (int32_t)i, "InterRATEventList");
-      elem = (InterRATEvent*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterRATEvent(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterRATEvent(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "InterRATEvent", (int32_t)i, "InterRATEventList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementQuantityGSM(rtxContext* RT_RESTRICT ctx, MeasurementQuantityGSM* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementQuantityGSM");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementQuantity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementQuantity, 0, 1);
-   RT_CHECK(ctx, stat, "MeasurementQuantityGSM", "measurementQuantity", -1, 0);
-   /* filterCoefficient */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
-   }
-   else {
-      pvalue->filterCoefficient = 0;
-   }
-   /* bsic-VerificationRequired */
-   stat = pd_ConsUnsigned(ctx, &pvalue->bsic_VerificationRequired, 0, 1);
-   RT_CHECK(ctx, stat, "BSIC-VerificationRequired", "bsic-VerificationRequired", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_ratSpecificInfo_is_2000* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tadd-EcIo */
-   stat = pd_ConsUInt8(ctx, &pvalue->tadd_EcIo, 0, 63);
-   RT_CHECK(ctx, stat, 0, "tadd-EcIo", -1, 0);
-   /* tcomp-EcIo */
-   stat = pd_ConsUInt8(ctx, &pvalue->tcomp_EcIo, 0, 15);
-   RT_CHECK(ctx, stat, 0, "tcomp-EcIo", -1, 0);
-   /* softSlope */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->softSlope, 0, 63);
-      RT_CHECK(ctx, stat, 0, "softSlope", -1, 0);
-   }
-   /* addIntercept */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->addIntercept, 0, 63);
-      RT_CHECK(ctx, stat, 0, "addIntercept", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_ratSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* gsm */
-         pvalue->u.gsm = (InterRATMeasQuantity_ratSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_ratSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         asn1Init_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      case 1: /* is-2000 */
-         pvalue->u.is_2000 = (InterRATMeasQuantity_ratSpecificInfo_is_2000*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_ratSpecificInfo_is_2000));
-         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "is-2000", -1, 0);
-         asn1Init_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(pvalue->u.is_2000);
-         stat = asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasQuantity");
-   /* measQuantityUTRAN-QualityEstimate */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->measQuantityUTRAN_QualityEstimate);
-      RT_CHECK(ctx, stat, 0, "measQuantityUTRAN-QualityEstimate", -1, "InterRATMeasQuantity");
-   }
-   /* ratSpecificInfo */
-   stat = asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATMeasQuantity");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementQuantity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementQuantity, 0, 1);
-   RT_CHECK(ctx, stat, "MeasurementQuantityGSM", "measurementQuantity", -1, 0);
-   /* filterCoefficient */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
-   }
-   else {
-      pvalue->filterCoefficient = 0;
-   }
-   /* bsic-VerificationRequired */
-   stat = pd_ConsUnsigned(ctx, &pvalue->bsic_VerificationRequired, 0, 1);
-   RT_CHECK(ctx, stat, "BSIC-VerificationRequired", "bsic-VerificationRequired", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo_is_2000* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tadd-EcIo */
-   stat = pd_ConsUInt8(ctx, &pvalue->tadd_EcIo, 0, 63);
-   RT_CHECK(ctx, stat, 0, "tadd-EcIo", -1, 0);
-   /* tcomp-EcIo */
-   stat = pd_ConsUInt8(ctx, &pvalue->tcomp_EcIo, 0, 15);
-   RT_CHECK(ctx, stat, 0, "tcomp-EcIo", -1, 0);
-   /* softSlope */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->softSlope, 0, 63);
-      RT_CHECK(ctx, stat, 0, "softSlope", -1, 0);
-   }
-   /* addIntercept */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->addIntercept, 0, 63);
-      RT_CHECK(ctx, stat, 0, "addIntercept", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementQuantityEUTRA(rtxContext* RT_RESTRICT ctx, MeasurementQuantityEUTRA* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementQuantityEUTRA");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementQuantity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementQuantity, 0, 1);
-   RT_CHECK(ctx, stat, "MeasurementQuantityEUTRA", "measurementQuantity", -1, 0);
-   /* filterCoefficient */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
-   }
-   else {
-      pvalue->filterCoefficient = 0;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* gsm */
-         pvalue->u.gsm = (InterRATMeasQuantity_r8_ratSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_r8_ratSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         asn1Init_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      case 1: /* is-2000 */
-         pvalue->u.is_2000 = (InterRATMeasQuantity_r8_ratSpecificInfo_is_2000*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_r8_ratSpecificInfo_is_2000));
-         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "is-2000", -1, 0);
-         asn1Init_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(pvalue->u.is_2000);
-         stat = asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
-         break;
-      case 2: /* e-UTRA */
-         pvalue->u.e_UTRA = (InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA));
-         if (pvalue->u.e_UTRA == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-UTRA", -1, 0);
-         asn1Init_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(pvalue->u.e_UTRA);
-         stat = asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(ctx, pvalue->u.e_UTRA);
-         RT_CHECK(ctx, stat, 0, "e-UTRA", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_r8(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasQuantity-r8");
-   /* measQuantityUTRAN-QualityEstimate */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->measQuantityUTRAN_QualityEstimate);
-      RT_CHECK(ctx, stat, 0, "measQuantityUTRAN-QualityEstimate", -1, "InterRATMeasQuantity-r8");
-   }
-   /* ratSpecificInfo */
-   stat = asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATMeasQuantity-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasuredResults(rtxContext* RT_RESTRICT ctx, InterRATMeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasuredResults");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* gsm */
-         pvalue->u.gsm = (GSM_MeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(GSM_MeasuredResultsList));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, "InterRATMeasuredResults");
-         asn1Init_UMTS_GSM_MeasuredResultsList(pvalue->u.gsm);
-         stat = asn1PD_UMTS_GSM_MeasuredResultsList(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRATMeasuredResults");
-         break;
-      case 1: /* spare */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATMeasuredResults");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasuredResultsList(rtxContext* RT_RESTRICT ctx, InterRATMeasuredResultsList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasuredResultsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterRATMeasuredResults* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRATMeasuredResults));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "InterRATMeasuredResults", (int32_t)i, "InterRATMeasuredResultsList");
-      elem = (InterRATMeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterRATMeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterRATMeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "InterRATMeasuredResults", (int32_t)i, "InterRATMeasuredResultsList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dummy */
-   stat = rtxDecBitInline(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   /* dummy2 */
-   stat = rtxDecBitInline(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   /* gsm-Carrier-RSSI */
-   stat = rtxDecBitInline(ctx, &pvalue->gsm_Carrier_RSSI);
-   RT_CHECK(ctx, stat, 0, "gsm-Carrier-RSSI", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_ratSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* gsm */
-         pvalue->u.gsm = (InterRATReportingQuantity_ratSpecificInfo_gsm*)rtxMemHeapAllocZ(ctx, sizeof(InterRATReportingQuantity_ratSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         stat = asn1PD_UMTS_InterRATReportingQuantity_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* utran-EstimatedQuality */
-   stat = rtxDecBitInline(ctx, &pvalue->utran_EstimatedQuality);
-   RT_CHECK(ctx, stat, 0, "utran-EstimatedQuality", -1, "InterRATReportingQuantity");
-   /* ratSpecificInfo */
-   stat = asn1PD_UMTS_InterRATReportingQuantity_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATReportingQuantity");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingCriteria(rtxContext* RT_RESTRICT ctx, InterRATReportingCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATReportingCriteria");
-   /* interRATEventList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATEventList(ctx, &pvalue->interRATEventList);
-      RT_CHECK(ctx, stat, 0, "interRATEventList", -1, "InterRATReportingCriteria");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportCriteria(rtxContext* RT_RESTRICT ctx, InterRATReportCriteria* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATReportCriteria");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* interRATReportingCriteria */
-         pvalue->u.interRATReportingCriteria = (InterRATReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterRATReportingCriteria));
-         if (pvalue->u.interRATReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATReportingCriteria", -1, "InterRATReportCriteria");
-         asn1Init_UMTS_InterRATReportingCriteria(pvalue->u.interRATReportingCriteria);
-         stat = asn1PD_UMTS_InterRATReportingCriteria(ctx, pvalue->u.interRATReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interRATReportingCriteria", -1, "InterRATReportCriteria");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "InterRATReportCriteria");
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterRATReportCriteria");
-         break;
-      case 2: /* noReporting */
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "noReporting", -1, "InterRATReportCriteria");
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterRATReportCriteria");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATReportCriteria");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement(rtxContext* RT_RESTRICT ctx, InterRATMeasurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement");
-   /* interRATCellInfoList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurement");
-   }
-   /* interRATMeasQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement");
-   }
-   /* interRATReportingQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement_r4(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement-r4");
-   /* interRATCellInfoList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATCellInfoList_r4(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurement-r4");
-   }
-   /* interRATMeasQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r4");
-   }
-   /* interRATReportingQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r4");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement_r6(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement-r6");
-   /* interRATCellInfoList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATCellInfoList_r6(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurement-r6");
-   }
-   /* interRATMeasQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r6");
-   }
-   /* interRATReportingQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r6");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement_r8_interRATMeasurementObjects(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r8_interRATMeasurementObjects* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* interRATCellInfoList */
-         pvalue->u.interRATCellInfoList = (InterRATCellInfoList_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATCellInfoList_r6));
-         if (pvalue->u.interRATCellInfoList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATCellInfoList", -1, 0);
-         asn1Init_UMTS_InterRATCellInfoList_r6(pvalue->u.interRATCellInfoList);
-         stat = asn1PD_UMTS_InterRATCellInfoList_r6(ctx, pvalue->u.interRATCellInfoList);
-         RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, 0);
-         break;
-      case 1: /* eutra-FrequencyList */
-         pvalue->u.eutra_FrequencyList = (EUTRA_FrequencyList*)rtxMemHeapAlloc(ctx, sizeof(EUTRA_FrequencyList));
-         if (pvalue->u.eutra_FrequencyList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "eutra-FrequencyList", -1, 0);
-         asn1Init_UMTS_EUTRA_FrequencyList(pvalue->u.eutra_FrequencyList);
-         stat = asn1PD_UMTS_EUTRA_FrequencyList(ctx, pvalue->u.eutra_FrequencyList);
-         RT_CHECK(ctx, stat, 0, "eutra-FrequencyList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gsm-Carrier-RSSI */
-   stat = rtxDecBitInline(ctx, &pvalue->gsm_Carrier_RSSI);
-   RT_CHECK(ctx, stat, 0, "gsm-Carrier-RSSI", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* reportingQuantity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingQuantity, 0, 1);
-   RT_CHECK(ctx, stat, 0, "reportingQuantity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* gsm */
-         pvalue->u.gsm = (InterRATReportingQuantity_r8_ratSpecificInfo_gsm*)rtxMemHeapAllocZ(ctx, sizeof(InterRATReportingQuantity_r8_ratSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         stat = asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      case 1: /* eutra */
-         pvalue->u.eutra = (InterRATReportingQuantity_r8_ratSpecificInfo_eutra*)rtxMemHeapAllocZ(ctx, sizeof(InterRATReportingQuantity_r8_ratSpecificInfo_eutra));
-         if (pvalue->u.eutra == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "eutra", -1, 0);
-         stat = asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(ctx, pvalue->u.eutra);
-         RT_CHECK(ctx, stat, 0, "eutra", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* utran-EstimatedQuality */
-   stat = rtxDecBitInline(ctx, &pvalue->utran_EstimatedQuality);
-   RT_CHECK(ctx, stat, 0, "utran-EstimatedQuality", -1, "InterRATReportingQuantity-r8");
-   /* ratSpecificInfo */
-   stat = asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATReportingQuantity-r8");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement_r8(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement-r8");
-   /* interRATMeasurementObjects */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATMeasurement_r8_interRATMeasurementObjects(ctx, &pvalue->interRATMeasurementObjects);
-      RT_CHECK(ctx, stat, 0, "interRATMeasurementObjects", -1, "InterRATMeasurement-r8");
-   }
-   /* interRATMeasQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterRATMeasQuantity_r8(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r8");
-   }
-   /* interRATReportingQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_InterRATReportingQuantity_r8(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r8");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r8");
-   /* idleIntervalInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_IdleIntervalInfo(ctx, &pvalue->idleIntervalInfo);
-      RT_CHECK(ctx, stat, 0, "idleIntervalInfo", -1, "InterRATMeasurement-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement_r9_interRATMeasurementObjects(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r9_interRATMeasurementObjects* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* interRATCellInfoList */
-         pvalue->u.interRATCellInfoList = (InterRATCellInfoList_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATCellInfoList_r6));
-         if (pvalue->u.interRATCellInfoList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATCellInfoList", -1, 0);
-         asn1Init_UMTS_InterRATCellInfoList_r6(pvalue->u.interRATCellInfoList);
-         stat = asn1PD_UMTS_InterRATCellInfoList_r6(ctx, pvalue->u.interRATCellInfoList);
-         RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, 0);
-         break;
-      case 1: /* eutra-FrequencyList */
-         pvalue->u.eutra_FrequencyList = (EUTRA_FrequencyList_r9*)rtxMemHeapAlloc(ctx, sizeof(EUTRA_FrequencyList_r9));
-         if (pvalue->u.eutra_FrequencyList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "eutra-FrequencyList", -1, 0);
-         asn1Init_UMTS_EUTRA_FrequencyList_r9(pvalue->u.eutra_FrequencyList);
-         stat = asn1PD_UMTS_EUTRA_FrequencyList_r9(ctx, pvalue->u.eutra_FrequencyList);
-         RT_CHECK(ctx, stat, 0, "eutra-FrequencyList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement_r9(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement-r9");
-   /* interRATMeasurementObjects */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATMeasurement_r9_interRATMeasurementObjects(ctx, &pvalue->interRATMeasurementObjects);
-      RT_CHECK(ctx, stat, 0, "interRATMeasurementObjects", -1, "InterRATMeasurement-r9");
-   }
-   /* interRATMeasQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterRATMeasQuantity_r8(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r9");
-   }
-   /* interRATReportingQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_InterRATReportingQuantity_r8(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r9");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r9");
-   /* idleIntervalInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_IdleIntervalInfo(ctx, &pvalue->idleIntervalInfo);
-      RT_CHECK(ctx, stat, 0, "idleIntervalInfo", -1, "InterRATMeasurement-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCell(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell");
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfo(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCell");
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellList(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCell* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCell", (int32_t)i, "NewIntraFreqCellList");
-      elem = (NewIntraFreqCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCell(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell", (int32_t)i, "NewIntraFreqCellList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoList");
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoList");
-   }
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewIntraFreqCellList(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoList");
-   }
-   /* cellsForIntraFreqMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCell_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell-r4");
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell-r4");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCell-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellList_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellList-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCell_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCell-r4", (int32_t)i, "NewIntraFreqCellList-r4");
-      elem = (NewIntraFreqCell_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCell_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCell_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-r4", (int32_t)i, "NewIntraFreqCellList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoList-r4");
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoList-r4");
-   }
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewIntraFreqCellList_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoList-r4");
-   }
-   /* cellsForIntraFreqMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddStrParm(ctx, "removeSomeIntraFreqCells");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "IntraFreqCellIDOnSecULFreq", "IntraFreqCellIDOnSecULFreq", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RemovedIntraFreqCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellListOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RemovedIntraFreqCellListOnSecULFreq");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* removeAllIntraFreqCells */
-         break;
-      case 1: /* removeSomeIntraFreqCells */
-         pvalue->u.removeSomeIntraFreqCells = (RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells*)rtxMemHeapAlloc(ctx, sizeof(RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells));
-         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellListOnSecULFreq");
-         asn1Init_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(pvalue->u.removeSomeIntraFreqCells);
-         stat = asn1PD_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells);
-         RT_CHECK(ctx, stat, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellListOnSecULFreq");
-         break;
-      case 2: /* removeNoIntraFreqCells */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedIntraFreqCellListOnSecULFreq");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellOnSecULFreq");
-   /* intraFreqCellIDOnSecULFreq */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellIDOnSecULFreq, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellIDOnSecULFreq", "intraFreqCellIDOnSecULFreq", -1, "NewIntraFreqCellOnSecULFreq");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellOnSecULFreq");
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellListOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellListOnSecULFreq");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCellOnSecULFreq* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellOnSecULFreq));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellOnSecULFreq", (int32_t)i, "NewIntraFreqCellListOnSecULFreq");
-      elem = (NewIntraFreqCellOnSecULFreq*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellOnSecULFreq(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellOnSecULFreq(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellOnSecULFreq", (int32_t)i, "NewIntraFreqCellListOnSecULFreq");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_EXT_UL_TimingAdvance, pvalue);
 }
 
-int asn1PD_UMTS_IntraFreqCellInfoListInfoOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoListInfoOnSecULFreq* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HS_ChannelisationCodeSetInfo_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCodeSetInfo_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoListInfoOnSecULFreq");
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellListOnSecULFreq(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoListInfoOnSecULFreq");
-   }
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewIntraFreqCellListOnSecULFreq(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoListInfoOnSecULFreq");
-   }
-   /* cellsForIntraFreqMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForIntraFreqMeasListOnSecULFreq(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoListInfoOnSecULFreq");
-   }
+   /* startCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->startCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "startCode", -1, "HS-ChannelisationCodeSetInfo-LCR");
+   /* stopCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->stopCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "stopCode", -1, "HS-ChannelisationCodeSetInfo-LCR");
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqCellInfoListOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoListOnSecULFreq* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_ChannelisationCodeSetInfo_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCodeSetInfo_LCR* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* intraFreqCellInfoListOnSecULFreq */
-   stat = asn1PD_UMTS_IntraFreqCellInfoListInfoOnSecULFreq(ctx, &pvalue->intraFreqCellInfoListOnSecULFreq);
-   RT_CHECK(ctx, stat, 0, "intraFreqCellInfoListOnSecULFreq", -1, "IntraFreqCellInfoListOnSecULFreq");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HS_ChannelisationCodeSetInfo_LCR, pvalue);
 }
 
-int asn1PD_UMTS_NewIntraFreqCell_r9(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_r9* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HS_DSCH_RxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, HS_DSCH_RxPatternList_TDD128_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell-r9");
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell-r9");
-   }
-   /* cellInfo */
-   stat = asn1PD_UMTS_CellInfo_r9(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCell-r9");
+   /* repetitionPeriodAndLength */
+   stat = dec_RepetitionPeriodAndLengthForSPS(ctx, &pvalue->repetitionPeriodAndLength, cur);
+   RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellList_r9(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_r9* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_DSCH_RxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, HS_DSCH_RxPatternList_TDD128_element* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellList-r9");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCell_r9* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell_r9));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCell-r9", (int32_t)i, "NewIntraFreqCellList-r9");
-      elem = (NewIntraFreqCell_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCell_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCell_r9(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-r9", (int32_t)i, "NewIntraFreqCellList-r9");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_RxPatternList_TDD128_element, pvalue);
 }
 
-int asn1PD_UMTS_IntraFreqSIAcquisitionInfo(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisitionInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_HS_DSCH_RxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_RxPatternList_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqSIAcquisitionInfo");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-RxPatternList-TDD128");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      PrimaryCPICH_Info* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, "IntraFreqSIAcquisitionInfo");
-      elem = (PrimaryCPICH_Info*)(node + 1);
+      HS_DSCH_RxPatternList_TDD128_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_DSCH_RxPatternList_TDD128_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "HS-DSCH-RxPatternList-TDD128");
+      elem = (HS_DSCH_RxPatternList_TDD128_element*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_HS_DSCH_RxPatternList_TDD128_element(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "IntraFreqSIAcquisitionInfo");
+      stat = dec_HS_DSCH_RxPatternList_TDD128_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-DSCH-RxPatternList-TDD128");
    }
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_DSCH_RxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_RxPatternList_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_RxPatternList_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_TbsList_TDD128_element(rtxContext* RT_RESTRICT ctx, HS_DSCH_TbsList_TDD128_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* hs-dsch-TBSizeIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hs_dsch_TBSizeIndex, 1, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "hs-dsch-TBSizeIndex", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_TbsList_TDD128_element(rtxContext* RT_RESTRICT ctx, HS_DSCH_TbsList_TDD128_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_TbsList_TDD128_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_TbsList_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_TbsList_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-TbsList-TDD128");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_DSCH_TbsList_TDD128_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_DSCH_TbsList_TDD128_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "HS-DSCH-TbsList-TDD128");
+      elem = (HS_DSCH_TbsList_TDD128_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_DSCH_TbsList_TDD128_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-DSCH-TbsList-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_TbsList_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_TbsList_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_TbsList_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* numberOfProcesses */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfProcesses, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numberOfProcesses", -1, 0);
+   /* memorySize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->memorySize, 0, 60);
+   RT_CHECK_AT(ctx, cur, stat, "HARQMemorySize", "memorySize", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_List_TDD128_element_implicit(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128_element_implicit* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* hS-SCCH-Index */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hS_SCCH_Index, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "hS-SCCH-Index", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_List_TDD128_element_implicit(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128_element_implicit* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_List_TDD128_element_implicit, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_List_TDD128_element_explicit_(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128_element_explicit_* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* hS-SICH-Info */
+   stat = dec_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hS_SICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_List_TDD128_element_explicit_(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128_element_explicit_* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_List_TDD128_element_explicit_, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_List_TDD128_element(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* implicit */
+         pvalue->u.implicit = (HS_SICH_List_TDD128_element_implicit*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_List_TDD128_element_implicit));
+         if (pvalue->u.implicit == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "implicit", -1, 0);
+         stat = dec_HS_SICH_List_TDD128_element_implicit(ctx, pvalue->u.implicit, cur);
+         RT_CHECK(ctx, stat, 0, "implicit", -1, 0);
+         break;
+      case 1: /* explicit */
+         pvalue->u.explicit_ = (HS_SICH_List_TDD128_element_explicit_*)rtxMemHeapAlloc(ctx, sizeof(HS_SICH_List_TDD128_element_explicit_));
+         if (pvalue->u.explicit_ == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicit", -1, 0);
+         asn1Init_UMTS_HS_SICH_List_TDD128_element_explicit_(pvalue->u.explicit_);
+         stat = dec_HS_SICH_List_TDD128_element_explicit_(ctx, pvalue->u.explicit_, cur);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_List_TDD128_element(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_List_TDD128_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_List_TDD128(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-SICH-List-TDD128");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SICH_List_TDD128_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SICH_List_TDD128_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "HS-SICH-List-TDD128");
+      elem = (HS_SICH_List_TDD128_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SICH_List_TDD128_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_SICH_List_TDD128_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-SICH-List-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_List_TDD128(rtxContext* RT_RESTRICT ctx, HS_SICH_List_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_List_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotInfo */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->timeslotInfo, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "timeslotInfo", -1, 0);
+   /* codeResourceInfo */
+   stat = dec_HS_ChannelisationCodeSetInfo_LCR(ctx, &pvalue->codeResourceInfo, cur);
+   RT_CHECK(ctx, stat, 0, "codeResourceInfo", -1, 0);
+   /* activationTime */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   /* sfnNum */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->sfnNum, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sfnNum", -1, 0);
+   /* initialRxPatternIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->initialRxPatternIndex, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "initialRxPatternIndex", -1, 0);
+   /* initialTfsIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->initialTfsIndex, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "initialTfsIndex", -1, 0);
+   /* modulation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->modulation, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "modulation", -1, 0);
+   /* hs-sich-Index */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hs_sich_Index, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "hs-sich-Index", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH, pvalue);
+}
+
+static int dec_HS_DSCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqSIAcquisitionInfo */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-SPS-NewOperation-TDD128");
+   /* hs-dsch-TbsList */
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqSIAcquisitionInfo(ctx, &pvalue->intraFreqSIAcquisitionInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqSIAcquisitionInfo", -1, 0);
+      stat = dec_HS_DSCH_TbsList_TDD128(ctx, &pvalue->hs_dsch_TbsList, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-TbsList", -1, "HS-DSCH-SPS-NewOperation-TDD128");
+   }
+   /* hs-dsch-RxPatternList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_HS_DSCH_RxPatternList_TDD128(ctx, &pvalue->hs_dsch_RxPatternList, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-RxPatternList", -1, "HS-DSCH-SPS-NewOperation-TDD128");
+   }
+   /* hARQInfoForSPS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(ctx, &pvalue->hARQInfoForSPS, cur);
+      RT_CHECK(ctx, stat, 0, "hARQInfoForSPS", -1, "HS-DSCH-SPS-NewOperation-TDD128");
+   }
+   /* hs-sich-List */
+   stat = dec_HS_SICH_List_TDD128(ctx, &pvalue->hs_sich_List, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-List", -1, "HS-DSCH-SPS-NewOperation-TDD128");
+   /* initialSPSInfoForHSDSCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(ctx, &pvalue->initialSPSInfoForHSDSCH, cur);
+      RT_CHECK(ctx, stat, 0, "initialSPSInfoForHSDSCH", -1, "HS-DSCH-SPS-NewOperation-TDD128");
    }
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_HS_DSCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_SPS_NewOperation_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* continue */
+         break;
+      case 1: /* newOperation */
+         pvalue->u.newOperation = (HS_DSCH_SPS_NewOperation_TDD128*)rtxMemHeapAlloc(ctx, sizeof(HS_DSCH_SPS_NewOperation_TDD128));
+         if (pvalue->u.newOperation == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newOperation", -1, 0);
+         asn1Init_UMTS_HS_DSCH_SPS_NewOperation_TDD128(pvalue->u.newOperation);
+         stat = dec_HS_DSCH_SPS_NewOperation_TDD128(ctx, pvalue->u.newOperation, cur);
+         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_DSCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_Information_TDD128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* hs-dsch-SPS-Operation */
+   stat = dec_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(ctx, &pvalue->hs_dsch_SPS_Operation, cur);
+   RT_CHECK(ctx, stat, 0, "hs-dsch-SPS-Operation", -1, "HS-DSCH-SPS-Information-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_Information_TDD128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_DSCH_SPS_Information_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_LessTFSList_element(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessTFSList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* hs-scch-LessTFSI */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hs_scch_LessTFSI, 1, 90);
+   RT_CHECK_AT(ctx, cur, stat, 0, "hs-scch-LessTFSI", -1, 0);
+   /* hs-scch-LessSecondCodeSupport */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->hs_scch_LessSecondCodeSupport);
+   RT_CHECK_AT(ctx, cur, stat, 0, "hs-scch-LessSecondCodeSupport", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_LessTFSList_element(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessTFSList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_LessTFSList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_LessTFSList(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessTFSList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-SCCH-LessTFSList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_LessTFSList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_LessTFSList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "HS-SCCH-LessTFSList");
+      elem = (HS_SCCH_LessTFSList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_SCCH_LessTFSList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-SCCH-LessTFSList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_LessTFSList(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessTFSList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_LessTFSList, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_Less_NewOperation(rtxContext* RT_RESTRICT ctx, HS_SCCH_Less_NewOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* hs-pdsch-CodeIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hs_pdsch_CodeIndex, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "hs-pdsch-CodeIndex", -1, "HS-SCCH-Less-NewOperation");
+   /* hs-scch-LessTFS */
+   stat = dec_HS_SCCH_LessTFSList(ctx, &pvalue->hs_scch_LessTFS, cur);
+   RT_CHECK(ctx, stat, 0, "hs-scch-LessTFS", -1, "HS-SCCH-Less-NewOperation");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Less_NewOperation(rtxContext* RT_RESTRICT ctx, HS_SCCH_Less_NewOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_Less_NewOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_LessInfo_r7_hs_scchLessOperation(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessInfo_r7_hs_scchLessOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* continue */
+         break;
+      case 1: /* newOperation */
+         pvalue->u.newOperation = (HS_SCCH_Less_NewOperation*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Less_NewOperation));
+         if (pvalue->u.newOperation == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newOperation", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Less_NewOperation(pvalue->u.newOperation);
+         stat = dec_HS_SCCH_Less_NewOperation(ctx, pvalue->u.newOperation, cur);
+         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_LessInfo_r7_hs_scchLessOperation(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessInfo_r7_hs_scchLessOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_LessInfo_r7_hs_scchLessOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SCCH_LessInfo_r7(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* hs-scchLessOperation */
+   stat = dec_HS_SCCH_LessInfo_r7_hs_scchLessOperation(ctx, &pvalue->hs_scchLessOperation, cur);
+   RT_CHECK(ctx, stat, 0, "hs-scchLessOperation", -1, "HS-SCCH-LessInfo-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_LessInfo_r7(rtxContext* RT_RESTRICT ctx, HS_SCCH_LessInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SCCH_LessInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_ReferenceSignalInfoList_element(rtxContext* RT_RESTRICT ctx, HS_SICH_ReferenceSignalInfoList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleConfiguration", -1, 0);
+   /* midambleShift */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->midambleShift, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midambleShift", -1, 0);
+   /* timeSlot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeSlot, 1, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "timeSlot", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_ReferenceSignalInfoList_element(rtxContext* RT_RESTRICT ctx, HS_SICH_ReferenceSignalInfoList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_ReferenceSignalInfoList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_HS_SICH_ReferenceSignalInfoList(rtxContext* RT_RESTRICT ctx, HS_SICH_ReferenceSignalInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HS-SICH-ReferenceSignalInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SICH_ReferenceSignalInfoList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SICH_ReferenceSignalInfoList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "HS-SICH-ReferenceSignalInfoList");
+      elem = (HS_SICH_ReferenceSignalInfoList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_HS_SICH_ReferenceSignalInfoList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-SICH-ReferenceSignalInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_ReferenceSignalInfoList(rtxContext* RT_RESTRICT ctx, HS_SICH_ReferenceSignalInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HS_SICH_ReferenceSignalInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Operation(rtxContext* RT_RESTRICT ctx, MIMO_Operation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MIMO-Operation");
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_Operation(rtxContext* RT_RESTRICT ctx, MIMO_Operation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Operation, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* channelisationCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->channelisationCode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ChannelisationCode256", "channelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_secondCPICH_Pattern* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* normalPattern */
+         break;
+      case 1: /* diversityPattern */
+         pvalue->u.diversityPattern = (MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern*)rtxMemHeapAllocZ(ctx, sizeof(MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern));
+         if (pvalue->u.diversityPattern == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "diversityPattern", -1, 0);
+         stat = dec_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(ctx, pvalue->u.diversityPattern, cur);
+         RT_CHECK(ctx, stat, 0, "diversityPattern", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_secondCPICH_Pattern* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_PilotConfiguration_secondCPICH_Pattern, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* secondCPICH-Pattern */
+   stat = dec_MIMO_PilotConfiguration_secondCPICH_Pattern(ctx, &pvalue->secondCPICH_Pattern, cur);
+   RT_CHECK(ctx, stat, 0, "secondCPICH-Pattern", -1, "MIMO-PilotConfiguration");
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_PilotConfiguration(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_PilotConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_r7(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MIMO-Parameters-r7");
+   /* mimoOperation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mimoOperation, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r7");
+   /* mimoN-M-Ratio */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mimoN_M_Ratio, 0, 9);
+      RT_CHECK_AT(ctx, cur, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, "MIMO-Parameters-r7");
+   }
+   /* mimoPilotConfiguration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MIMO_PilotConfiguration(ctx, &pvalue->mimoPilotConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, "MIMO-Parameters-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_Parameters_r7(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_PilotConfiguration_v7f0ext(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_v7f0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MIMO-PilotConfiguration-v7f0ext");
+   /* s-cpich-PowerOffset-Mimo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->s_cpich_PowerOffset_Mimo, -6, 0);
+      RT_CHECK_AT(ctx, cur, stat, "S-CPICH-PowerOffset-MIMO", "s-cpich-PowerOffset-Mimo", -1, "MIMO-PilotConfiguration-v7f0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_PilotConfiguration_v7f0ext(rtxContext* RT_RESTRICT ctx, MIMO_PilotConfiguration_v7f0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_PilotConfiguration_v7f0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_v7f0ext(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7f0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = dec_MIMO_PilotConfiguration_v7f0ext(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-Parameters-v7f0ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_Parameters_v7f0ext(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7f0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_v7f0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7g0ext_precodingWeightSetRestriction* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7g0ext_precodingWeightSetRestriction* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_v7g0ext(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7g0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MIMO-Parameters-v7g0ext");
+   /* precodingWeightSetRestriction */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "precodingWeightSetRestriction", -1, "MIMO-Parameters-v7g0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "precodingWeightSetRestriction", -1, "MIMO-Parameters-v7g0ext");
+         pvalue->precodingWeightSetRestriction = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_Parameters_v7g0ext(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7g0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_v7g0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* mimoN-M-Ratio */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mimoN_M_Ratio, 0, 9);
+      RT_CHECK_AT(ctx, cur, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
+   }
+   /* mimoPilotConfiguration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MIMO_PilotConfiguration(ctx, &pvalue->mimoPilotConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r8_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* mimoSFModeForHSPDSCHDualStream */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mimoSFModeForHSPDSCHDualStream, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "mimoSFModeForHSPDSCHDualStream", -1, 0);
+   /* hs-sich-ReferenceSignalInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HS_SICH_ReferenceSignalInfoList(ctx, &pvalue->hs_sich_ReferenceSignalInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "hs-sich-ReferenceSignalInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd128 */
+         pvalue->u.tdd128 = (MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      case 1: /* tdd384-tdd768 */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r8_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (IntraFreqSIAcquisition_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqSIAcquisition_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (MIMO_Parameters_r8_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(MIMO_Parameters_r8_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_MIMO_Parameters_r8_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_MIMO_Parameters_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisition* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_IntraFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqSIAcquisition");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoList_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoList-r9");
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoList-r9");
-   }
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewIntraFreqCellList_r9(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoList-r9");
-   }
-   /* cellsForIntraFreqMeasList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoList-r9");
-   }
-   /* cSGIntraFreqCellInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CSGIntraFreqCellInfoList(ctx, &pvalue->cSGIntraFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "cSGIntraFreqCellInfoList", -1, "IntraFreqCellInfoList-r9");
-   }
-   /* intraFreqSIAcquisition */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_IntraFreqSIAcquisition(ctx, &pvalue->intraFreqSIAcquisition);
-      RT_CHECK(ctx, stat, 0, "intraFreqSIAcquisition", -1, "IntraFreqCellInfoList-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, IntraFreqMeasuredResultsList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasuredResultsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellMeasuredResults* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellMeasuredResults", (int32_t)i, "IntraFreqMeasuredResultsList");
-      elem = (CellMeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellMeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellMeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellMeasuredResults", (int32_t)i, "IntraFreqMeasuredResultsList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, IntraFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasuredResultsList-v920ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellMeasuredResults_v920ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults_v920ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellMeasuredResults-v920ext", (int32_t)i, "IntraFreqMeasuredResultsList-v920ext");
-      elem = (CellMeasuredResults_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellMeasuredResults_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellMeasuredResults_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-v920ext", (int32_t)i, "IntraFreqMeasuredResultsList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportCriteria");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria");
-         asn1Init_UMTS_IntraFreqReportingCriteria(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria");
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria");
-         break;
-      case 2: /* noReporting */
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "noReporting", -1, "IntraFreqReportCriteria");
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportCriteria-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r4));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r4");
-         asn1Init_UMTS_IntraFreqReportingCriteria_r4(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r4");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r4");
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r4");
-         break;
-      case 2: /* noReporting */
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "noReporting", -1, "IntraFreqReportCriteria-r4");
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportCriteria-r6");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r6));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r6");
-         asn1Init_UMTS_IntraFreqReportingCriteria_r6(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r6");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r6");
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r6");
-         break;
-      case 2: /* noReporting */
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "noReporting", -1, "IntraFreqReportCriteria-r6");
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r6");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportCriteria-r7");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r7));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r7");
-         asn1Init_UMTS_IntraFreqReportingCriteria_r7(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r7");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r7");
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r7");
-         break;
-      case 2: /* noReporting */
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "noReporting", -1, "IntraFreqReportCriteria-r7");
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r7");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportCriteria-r9");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqReportingCriteria */
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r9*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r9));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r9");
-         asn1Init_UMTS_IntraFreqReportingCriteria_r9(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r9");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r9");
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r9");
-         break;
-      case 2: /* noReporting */
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "noReporting", -1, "IntraFreqReportCriteria-r9");
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r9");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement");
-   /* intraFreqCellInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoList(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement");
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement");
-   }
-   /* intraFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement");
-   }
-   /* reportCriteria */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_IntraFreqReportCriteria(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement-r4");
-   /* intraFreqCellInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r4");
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r4");
-   }
-   /* intraFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r4");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r4");
-   }
-   /* reportCriteria */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_IntraFreqReportCriteria_r4(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement-r6");
-   /* intraFreqCellInfoList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r6");
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r6");
-   }
-   /* intraFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r6");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r6");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_IntraFreqReportCriteria_r6(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement-r7");
-   /* intraFreqCellInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r7");
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r7");
-   }
-   /* intraFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r7");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r7");
-   }
-   /* reportCriteria */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_IntraFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement-r9");
-   /* intraFreqCellInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoList_r9(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r9");
-   }
-   /* intraFreqCellInfoListOnSecULFreq */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoListOnSecULFreq(ctx, &pvalue->intraFreqCellInfoListOnSecULFreq);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoListOnSecULFreq", -1, "IntraFrequencyMeasurement-r9");
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r9");
-   }
-   /* intraFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r9");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r9");
-   }
-   /* reportCriteria */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_IntraFreqReportCriteria_r9(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasuredResultsListOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasuredResultsListOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasuredResultsListOnSecULFreq");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellMeasuredResults_r9* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults_r9));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellMeasuredResults-r9", (int32_t)i, "IntraFrequencyMeasuredResultsListOnSecULFreq");
-      elem = (CellMeasuredResults_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellMeasuredResults_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellMeasuredResults_r9(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-r9", (int32_t)i, "IntraFrequencyMeasuredResultsListOnSecULFreq");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IP_Length(rtxContext* RT_RESTRICT ctx, IP_Length* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IP-Length");
-   return 0;
-}
-
-int asn1PD_UMTS_IP_PCCPCH_r4(rtxContext* RT_RESTRICT ctx, IP_PCCPCH_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = rtxDecBitInline(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IP-PCCPCH-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_IP_Spacing(rtxContext* RT_RESTRICT ctx, IP_Spacing* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IP-Spacing");
-   return 0;
-}
-
-int asn1PD_UMTS_IP_Spacing_TDD(rtxContext* RT_RESTRICT ctx, IP_Spacing_TDD* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IP-Spacing-TDD");
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_BuffersPayload(rtxContext* RT_RESTRICT ctx, RLC_BuffersPayload* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-BuffersPayload");
-   return 0;
-}
-
-int asn1PD_UMTS_VarianceOfRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, VarianceOfRLC_BufferPayload* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "VarianceOfRLC-BufferPayload");
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeMeasuredResults(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasuredResults");
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "TrafficVolumeMeasuredResults");
-   /* rlc-BuffersPayload */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->rlc_BuffersPayload, 0, 31);
-      RT_CHECK(ctx, stat, "RLC-BuffersPayload", "rlc-BuffersPayload", -1, "TrafficVolumeMeasuredResults");
-   }
-   /* averageRLC-BufferPayload */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->averageRLC_BufferPayload, 0, 31);
-      RT_CHECK(ctx, stat, "AverageRLC-BufferPayload", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasuredResults");
-   }
-   /* varianceOfRLC-BufferPayload */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->varianceOfRLC_BufferPayload, 0, 15);
-      RT_CHECK(ctx, stat, "VarianceOfRLC-BufferPayload", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasuredResults");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeMeasuredResultsList(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasuredResultsList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasuredResultsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TrafficVolumeMeasuredResults* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TrafficVolumeMeasuredResults));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TrafficVolumeMeasuredResults", (int32_t)i, "TrafficVolumeMeasuredResultsList");
-      elem = (TrafficVolumeMeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TrafficVolumeMeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TrafficVolumeMeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "TrafficVolumeMeasuredResults", (int32_t)i, "TrafficVolumeMeasuredResultsList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SIR(rtxContext* RT_RESTRICT ctx, SIR* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIR");
-   return 0;
-}
-
-int asn1PD_UMTS_SIR_TimeslotList(rtxContext* RT_RESTRICT ctx, SIR_TimeslotList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "SIR-TimeslotList");
-      pvalue->n = raw + 1;
-      if (raw > 13) {
-         rtxErrAddStrParm(ctx, "SIR-TimeslotList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SIR-TimeslotList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 63);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "SIR", "SIR", (int32_t)i, "SIR-TimeslotList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SIR_MeasurementResults(rtxContext* RT_RESTRICT ctx, SIR_MeasurementResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* tfcs-ID */
-   stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-   RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "SIR-MeasurementResults");
-   /* sir-TimeslotList */
-   stat = asn1PD_UMTS_SIR_TimeslotList(ctx, &pvalue->sir_TimeslotList);
-   RT_CHECK(ctx, stat, 0, "sir-TimeslotList", -1, "SIR-MeasurementResults");
-   return 0;
-}
-
-int asn1PD_UMTS_SIR_MeasurementList(rtxContext* RT_RESTRICT ctx, SIR_MeasurementList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIR-MeasurementList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SIR_MeasurementResults* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SIR_MeasurementResults));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SIR-MeasurementResults", (int32_t)i, "SIR-MeasurementList");
-      elem = (SIR_MeasurementResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SIR_MeasurementResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SIR_MeasurementResults(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SIR-MeasurementResults", (int32_t)i, "SIR-MeasurementList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, QualityMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sir-MeasurementResults */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SIR_MeasurementList(ctx, &pvalue->sir_MeasurementResults);
-      RT_CHECK(ctx, stat, 0, "sir-MeasurementResults", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_QualityMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, QualityMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (QualityMeasuredResults_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasuredResults_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (MIMO_Parameters_r8_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(MIMO_Parameters_r8_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_MIMO_Parameters_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_QualityMeasuredResults(rtxContext* RT_RESTRICT ctx, QualityMeasuredResults* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MIMO_Parameters_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r8_modeSpecificInfo, pvalue);
+}
+
+static int dec_MIMO_Parameters_r8(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "QualityMeasuredResults");
-   /* blerMeasurementResultsList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_BLER_MeasurementResultsList(ctx, &pvalue->blerMeasurementResultsList);
-      RT_CHECK(ctx, stat, 0, "blerMeasurementResultsList", -1, "QualityMeasuredResults");
-   }
+   /* mimoOperation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mimoOperation, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r8");
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_QualityMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "QualityMeasuredResults");
+   stat = dec_MIMO_Parameters_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "MIMO-Parameters-r8");
    return 0;
 }
 
-int asn1PD_UMTS_UE_TransmittedPower(rtxContext* RT_RESTRICT ctx, UE_TransmittedPower* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MIMO_Parameters_r8(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 104);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-TransmittedPower");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RX_TX_TimeDifferenceType1(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType1* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 768, 1791);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceType1");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RX_TX_ReportEntry(rtxContext* RT_RESTRICT ctx, UE_RX_TX_ReportEntry* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "UE-RX-TX-ReportEntry");
-   /* ue-RX-TX-TimeDifferenceType1 */
-   stat = pd_ConsUInt16(ctx, &pvalue->ue_RX_TX_TimeDifferenceType1, 768, 1791);
-   RT_CHECK(ctx, stat, "UE-RX-TX-TimeDifferenceType1", "ue-RX-TX-TimeDifferenceType1", -1, "UE-RX-TX-ReportEntry");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RX_TX_ReportEntryList(rtxContext* RT_RESTRICT ctx, UE_RX_TX_ReportEntryList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RX-TX-ReportEntryList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_RX_TX_ReportEntry* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RX_TX_ReportEntry));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-RX-TX-ReportEntry", (int32_t)i, "UE-RX-TX-ReportEntryList");
-      elem = (UE_RX_TX_ReportEntry*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_RX_TX_ReportEntry(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-RX-TX-ReportEntry", (int32_t)i, "UE-RX-TX-ReportEntryList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-TransmittedPowerFDD */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_TransmittedPowerFDD, 0, 104);
-      RT_CHECK(ctx, stat, "UE-TransmittedPower", "ue-TransmittedPowerFDD", -1, 0);
-   }
-   /* ue-RX-TX-ReportEntryList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RX_TX_ReportEntryList(ctx, &pvalue->ue_RX_TX_ReportEntryList);
-      RT_CHECK(ctx, stat, 0, "ue-RX-TX-ReportEntryList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_TransmittedPowerTDD_List(rtxContext* RT_RESTRICT ctx, UE_TransmittedPowerTDD_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
    {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "UE-TransmittedPowerTDD-List");
-      pvalue->n = raw + 1;
-      if (raw > 13) {
-         rtxErrAddStrParm(ctx, "UE-TransmittedPowerTDD-List");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-TransmittedPowerTDD-List");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 104);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "UE-TransmittedPower", "UE-TransmittedPower", (int32_t)i, "UE-TransmittedPowerTDD-List");
-      }
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-TransmittedPowerTDD-List */
-   if (present & ((uint32_t)1 << 1)) {
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* mimoN-M-Ratio */
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_TransmittedPowerTDD_List(ctx, &pvalue->ue_TransmittedPowerTDD_List);
-      RT_CHECK(ctx, stat, 0, "ue-TransmittedPowerTDD-List", -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mimoN_M_Ratio, 0, 9);
+      RT_CHECK_AT(ctx, cur, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
    }
-   /* appliedTA */
-   if (present & ((uint32_t)1 << 0)) {
+   /* mimoPilotConfiguration */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->appliedTA, 0, 63);
-      RT_CHECK(ctx, stat, "UL-TimingAdvance", "appliedTA", -1, 0);
+      stat = dec_MIMO_PilotConfiguration_r9(ctx, &pvalue->mimoPilotConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, 0);
+   }
+   /* precodingWeightSetRestriction */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "precodingWeightSetRestriction", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "precodingWeightSetRestriction", -1, 0);
+         pvalue->precodingWeightSetRestriction = ui;
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r9_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* mimoSFModeForHSPDSCHDualStream */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mimoSFModeForHSPDSCHDualStream, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "mimoSFModeForHSPDSCHDualStream", -1, 0);
+   /* hs-sich-ReferenceSignalInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_HS_SICH_ReferenceSignalInfoList(ctx, &pvalue->hs_sich_ReferenceSignalInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "hs-sich-ReferenceSignalInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd128 */
+         pvalue->u.tdd128 = (MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = dec_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      case 1: /* tdd384-tdd768 */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r9_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MIMO_Parameters_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (UE_InternalMeasuredResults_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (MIMO_Parameters_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(MIMO_Parameters_r9_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_MIMO_Parameters_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (UE_InternalMeasuredResults_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (MIMO_Parameters_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(MIMO_Parameters_r9_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_MIMO_Parameters_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_InternalMeasuredResults(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MIMO_Parameters_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r9_modeSpecificInfo, pvalue);
+}
+
+static int dec_MIMO_Parameters_r9(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
+   /* mimoOperation */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mimoOperation, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r9");
    /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalMeasuredResults");
+   stat = dec_MIMO_Parameters_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "MIMO-Parameters-r9");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_ErrorCause(rtxContext* RT_RESTRICT ctx, UE_Positioning_ErrorCause* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MIMO_Parameters_r9(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ErrorCause");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MIMO_Parameters_r9, pvalue);
 }
 
-int asn1PD_UMTS_SatData(rtxContext* RT_RESTRICT ctx, SatData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* satID */
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "SatData");
-   /* iode */
-   stat = pd_ConsUInt8(ctx, &pvalue->iode, 0, 255);
-   RT_CHECK(ctx, stat, "IODE", "iode", -1, "SatData");
-   return 0;
-}
-
-int asn1PD_UMTS_SatDataList(rtxContext* RT_RESTRICT ctx, SatDataList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 0, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SatDataList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SatData* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SatData));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SatData", (int32_t)i, "SatDataList");
-      elem = (SatData*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SatData(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "SatData", (int32_t)i, "SatDataList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_NavModelAddDataReq(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_NavModelAddDataReq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gps-Week */
-   stat = pd_ConsUInt16(ctx, &pvalue->gps_Week, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "gps-Week", -1, "UE-Positioning-GPS-NavModelAddDataReq");
-   /* gps-Toe */
-   stat = pd_ConsUInt8(ctx, &pvalue->gps_Toe, 0, 255);
-   RT_CHECK(ctx, stat, 0, "gps-Toe", -1, "UE-Positioning-GPS-NavModelAddDataReq");
-   /* tToeLimit */
-   stat = pd_ConsUInt8(ctx, &pvalue->tToeLimit, 0, 15);
-   RT_CHECK(ctx, stat, 0, "tToeLimit", -1, "UE-Positioning-GPS-NavModelAddDataReq");
-   /* satDataList */
-   stat = asn1PD_UMTS_SatDataList(ctx, &pvalue->satDataList);
-   RT_CHECK(ctx, stat, 0, "satDataList", -1, "UE-Positioning-GPS-NavModelAddDataReq");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AdditionalAssistanceDataRequest* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_Multi_frequencyInfo_LCR_r7(rtxContext* RT_RESTRICT ctx, Multi_frequencyInfo_LCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* almanacRequest */
-   stat = rtxDecBitInline(ctx, &pvalue->almanacRequest);
-   RT_CHECK(ctx, stat, 0, "almanacRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* utcModelRequest */
-   stat = rtxDecBitInline(ctx, &pvalue->utcModelRequest);
-   RT_CHECK(ctx, stat, 0, "utcModelRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* ionosphericModelRequest */
-   stat = rtxDecBitInline(ctx, &pvalue->ionosphericModelRequest);
-   RT_CHECK(ctx, stat, 0, "ionosphericModelRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* navigationModelRequest */
-   stat = rtxDecBitInline(ctx, &pvalue->navigationModelRequest);
-   RT_CHECK(ctx, stat, 0, "navigationModelRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* dgpsCorrectionsRequest */
-   stat = rtxDecBitInline(ctx, &pvalue->dgpsCorrectionsRequest);
-   RT_CHECK(ctx, stat, 0, "dgpsCorrectionsRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* referenceLocationRequest */
-   stat = rtxDecBitInline(ctx, &pvalue->referenceLocationRequest);
-   RT_CHECK(ctx, stat, 0, "referenceLocationRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* referenceTimeRequest */
-   stat = rtxDecBitInline(ctx, &pvalue->referenceTimeRequest);
-   RT_CHECK(ctx, stat, 0, "referenceTimeRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* aquisitionAssistanceRequest */
-   stat = rtxDecBitInline(ctx, &pvalue->aquisitionAssistanceRequest);
-   RT_CHECK(ctx, stat, 0, "aquisitionAssistanceRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* realTimeIntegrityRequest */
-   stat = rtxDecBitInline(ctx, &pvalue->realTimeIntegrityRequest);
-   RT_CHECK(ctx, stat, 0, "realTimeIntegrityRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* navModelAddDataRequest */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_NavModelAddDataReq(ctx, &pvalue->navModelAddDataRequest);
-      RT_CHECK(ctx, stat, 0, "navModelAddDataRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Error(rtxContext* RT_RESTRICT ctx, UE_Positioning_Error* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Error");
-   /* errorReason */
-   stat = pd_ConsUnsigned(ctx, &pvalue->errorReason, 0, 7);
-   RT_CHECK(ctx, stat, "UE-Positioning-ErrorCause", "errorReason", -1, "UE-Positioning-Error");
-   /* ue-positioning-GPS-additionalAssistanceDataRequest */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GPS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MeasuredResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasuredResults");
-   /* ue-positioning-OTDOA-Measurement */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_Measurement(ctx, &pvalue->ue_positioning_OTDOA_Measurement);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-Measurement", -1, "UE-Positioning-MeasuredResults");
-   }
-   /* ue-positioning-PositionEstimateInfo */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Multi-frequencyInfo-LCR-r7");
+   /* secondFrequencyInfo */
    if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo(ctx, &pvalue->ue_positioning_PositionEstimateInfo);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-PositionEstimateInfo", -1, "UE-Positioning-MeasuredResults");
+      pvalue->m |= 0x1u;
+      stat = dec_FrequencyInfoTDD(ctx, &pvalue->secondFrequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "secondFrequencyInfo", -1, "Multi-frequencyInfo-LCR-r7");
    }
-   /* ue-positioning-GPS-Measurement */
+   /* fPachFrequencyInfo */
    if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FrequencyInfoTDD(ctx, &pvalue->fPachFrequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "fPachFrequencyInfo", -1, "Multi-frequencyInfo-LCR-r7");
+   }
+   /* upPCHpositionInfo */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults(ctx, &pvalue->ue_positioning_GPS_Measurement);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Measurement", -1, "UE-Positioning-MeasuredResults");
-   }
-   /* ue-positioning-Error */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_Error(ctx, &pvalue->ue_positioning_Error);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-Error", -1, "UE-Positioning-MeasuredResults");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->upPCHpositionInfo, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "Multi-frequencyInfo-LCR-r7");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasuredResults(rtxContext* RT_RESTRICT ctx, MeasuredResults* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(rtxContext* RT_RESTRICT ctx, Multi_frequencyInfo_LCR_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Multi_frequencyInfo_LCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_DTX_DRX_Offset(rtxContext* RT_RESTRICT ctx, UE_DTX_DRX_Offset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResults");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqMeasuredResultsList */
-         pvalue->u.intraFreqMeasuredResultsList = (IntraFreqMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasuredResultsList));
-         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults");
-         asn1Init_UMTS_IntraFreqMeasuredResultsList(pvalue->u.intraFreqMeasuredResultsList);
-         stat = asn1PD_UMTS_IntraFreqMeasuredResultsList(ctx, pvalue->u.intraFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults");
-         break;
-      case 1: /* interFreqMeasuredResultsList */
-         pvalue->u.interFreqMeasuredResultsList = (InterFreqMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasuredResultsList));
-         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults");
-         asn1Init_UMTS_InterFreqMeasuredResultsList(pvalue->u.interFreqMeasuredResultsList);
-         stat = asn1PD_UMTS_InterFreqMeasuredResultsList(ctx, pvalue->u.interFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults");
-         break;
-      case 2: /* interRATMeasuredResultsList */
-         pvalue->u.interRATMeasuredResultsList = (InterRATMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasuredResultsList));
-         if (pvalue->u.interRATMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATMeasuredResultsList", -1, "MeasuredResults");
-         asn1Init_UMTS_InterRATMeasuredResultsList(pvalue->u.interRATMeasuredResultsList);
-         stat = asn1PD_UMTS_InterRATMeasuredResultsList(ctx, pvalue->u.interRATMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "interRATMeasuredResultsList", -1, "MeasuredResults");
-         break;
-      case 3: /* trafficVolumeMeasuredResultsList */
-         pvalue->u.trafficVolumeMeasuredResultsList = (TrafficVolumeMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasuredResultsList));
-         if (pvalue->u.trafficVolumeMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults");
-         asn1Init_UMTS_TrafficVolumeMeasuredResultsList(pvalue->u.trafficVolumeMeasuredResultsList);
-         stat = asn1PD_UMTS_TrafficVolumeMeasuredResultsList(ctx, pvalue->u.trafficVolumeMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults");
-         break;
-      case 4: /* qualityMeasuredResults */
-         pvalue->u.qualityMeasuredResults = (QualityMeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasuredResults));
-         if (pvalue->u.qualityMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityMeasuredResults", -1, "MeasuredResults");
-         asn1Init_UMTS_QualityMeasuredResults(pvalue->u.qualityMeasuredResults);
-         stat = asn1PD_UMTS_QualityMeasuredResults(ctx, pvalue->u.qualityMeasuredResults);
-         RT_CHECK(ctx, stat, 0, "qualityMeasuredResults", -1, "MeasuredResults");
-         break;
-      case 5: /* ue-InternalMeasuredResults */
-         pvalue->u.ue_InternalMeasuredResults = (UE_InternalMeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults));
-         if (pvalue->u.ue_InternalMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults");
-         asn1Init_UMTS_UE_InternalMeasuredResults(pvalue->u.ue_InternalMeasuredResults);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults(ctx, pvalue->u.ue_InternalMeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults");
-         break;
-      case 6: /* ue-positioning-MeasuredResults */
-         pvalue->u.ue_positioning_MeasuredResults = (UE_Positioning_MeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasuredResults));
-         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults");
-         asn1Init_UMTS_UE_Positioning_MeasuredResults(pvalue->u.ue_positioning_MeasuredResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasuredResults(ctx, pvalue->u.ue_positioning_MeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults");
-         break;
-      case 7: /* spare */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults");
-   }
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 159);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-DTX-DRX-Offset");
    return 0;
 }
 
-int asn1PD_UMTS_MeasuredResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnSecUlFreq* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_DTX_DRX_Offset(rtxContext* RT_RESTRICT ctx, UE_DTX_DRX_Offset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_DTX_DRX_Offset, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewTiming(rtxContext* RT_RESTRICT ctx, NewTiming* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* intraFreqMeasuredResultsList */
-   stat = asn1PD_UMTS_IntraFrequencyMeasuredResultsListOnSecULFreq(ctx, &pvalue->intraFreqMeasuredResultsList);
-   RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResultsOnSecUlFreq");
+   /* enablingDelay */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->enablingDelay, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "EnablingDelay", "enablingDelay", -1, "NewTiming");
+   /* ue-dtx-drx-Offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_dtx_drx_Offset, 0, 159);
+   RT_CHECK_AT(ctx, cur, stat, "UE-DTX-DRX-Offset", "ue-dtx-drx-Offset", -1, "NewTiming");
    return 0;
 }
 
-int asn1PD_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Neighbour_v390ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewTiming(rtxContext* RT_RESTRICT ctx, NewTiming* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_NewTiming, pvalue);
 }
 
-int asn1PD_UMTS_Neighbour_v390ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Neighbour_v390ext_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (Neighbour_v390ext_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(Neighbour_v390ext_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_Neighbour_v390ext(rtxContext* RT_RESTRICT ctx, Neighbour_v390ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_Neighbour_v390ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Neighbour-v390ext");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst, pvalue);
 }
 
-int asn1PD_UMTS_NeighbourList_v390ext(rtxContext* RT_RESTRICT ctx, NeighbourList_v390ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NeighbourList-v390ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Neighbour_v390ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Neighbour_v390ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Neighbour-v390ext", (int32_t)i, "NeighbourList-v390ext");
-      elem = (Neighbour_v390ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Neighbour_v390ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Neighbour_v390ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Neighbour-v390ext", (int32_t)i, "NeighbourList-v390ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* neighbourList-v390ext */
-   stat = asn1PD_UMTS_NeighbourList_v390ext(ctx, &pvalue->neighbourList_v390ext);
-   RT_CHECK(ctx, stat, 0, "neighbourList-v390ext", -1, "UE-Positioning-OTDOA-Measurement-v390ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MeasuredResults_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-Positioning-OTDOA-Measurement-v390ext */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_v390ext(ctx, &pvalue->ue_Positioning_OTDOA_Measurement_v390ext);
-   RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-Measurement-v390ext", -1, "UE-Positioning-MeasuredResults-v390ext");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResults_v390ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-positioning-MeasuredResults-v390ext */
-   stat = asn1PD_UMTS_UE_Positioning_MeasuredResults_v390ext(ctx, &pvalue->ue_positioning_MeasuredResults_v390ext);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults-v390ext", -1, "MeasuredResults-v390ext");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResults_v590ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v590ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResults-v590ext");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFrequencyMeasuredResultsList */
-         pvalue->u.intraFrequencyMeasuredResultsList = (IntraFrequencyMeasuredResultsList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasuredResultsList_v590ext));
-         if (pvalue->u.intraFrequencyMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
-         asn1Init_UMTS_IntraFrequencyMeasuredResultsList_v590ext(pvalue->u.intraFrequencyMeasuredResultsList);
-         stat = asn1PD_UMTS_IntraFrequencyMeasuredResultsList_v590ext(ctx, pvalue->u.intraFrequencyMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
-         break;
-      case 1: /* interFrequencyMeasuredResultsList */
-         pvalue->u.interFrequencyMeasuredResultsList = (InterFrequencyMeasuredResultsList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasuredResultsList_v590ext));
-         if (pvalue->u.interFrequencyMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
-         asn1Init_UMTS_InterFrequencyMeasuredResultsList_v590ext(pvalue->u.interFrequencyMeasuredResultsList);
-         stat = asn1PD_UMTS_InterFrequencyMeasuredResultsList_v590ext(ctx, pvalue->u.interFrequencyMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v590ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_ext_tdd128(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* appliedTA */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* t-SI-nst */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->appliedTA);
-      RT_CHECK(ctx, stat, 0, "appliedTA", -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_SI_nst, 0, 6);
+      RT_CHECK_AT(ctx, cur, stat, 0, "t-SI-nst", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_T_ADVinfo_ext(rtxContext* RT_RESTRICT ctx, T_ADVinfo_ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* t-ADV */
-   stat = pd_ConsUInt16(ctx, &pvalue->t_ADV, 0, 8191);
-   RT_CHECK(ctx, stat, 0, "t-ADV", -1, "T-ADVinfo-ext");
-   /* sfn */
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn", -1, "T-ADVinfo-ext");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_ext_tdd128, pvalue);
 }
 
-int asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* t-ADVinfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_T_ADVinfo_ext(ctx, &pvalue->t_ADVinfo);
-      RT_CHECK(ctx, stat, 0, "t-ADVinfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_Non_ScheduledTransGrantInfoTDD_ext(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-ext");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* tdd384-768 */
-         pvalue->u.tdd384_768 = (UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768));
-         if (pvalue->u.tdd384_768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384-768", -1, 0);
-         asn1Init_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(pvalue->u.tdd384_768);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(ctx, pvalue->u.tdd384_768);
-         RT_CHECK(ctx, stat, 0, "tdd384-768", -1, 0);
          break;
       case 1: /* tdd128 */
-         pvalue->u.tdd128 = (UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         pvalue->u.tdd128 = (Non_ScheduledTransGrantInfoTDD_ext_tdd128*)rtxMemHeapAlloc(ctx, sizeof(Non_ScheduledTransGrantInfoTDD_ext_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-ext");
+         asn1Init_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128(pvalue->u.tdd128);
+         stat = dec_Non_ScheduledTransGrantInfoTDD_ext_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-ext");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_InternalMeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_ext(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalMeasuredResults-v770ext");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_Non_ScheduledTransGrantInfoTDD_ext, pvalue);
 }
 
-int asn1PD_UMTS_UE_Positioning_ErrorCause_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ErrorCause_r7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_NumberOfDPDCH(rtxContext* RT_RESTRICT ctx, NumberOfDPDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ErrorCause-r7");
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NumberOfDPDCH");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NumberOfDPDCH(rtxContext* RT_RESTRICT ctx, NumberOfDPDCH* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* ganssReferenceTime */
-   stat = rtxDecBitInline(ctx, &pvalue->ganssReferenceTime);
-   RT_CHECK(ctx, stat, 0, "ganssReferenceTime", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
-   /* ganssreferenceLocation */
-   stat = rtxDecBitInline(ctx, &pvalue->ganssreferenceLocation);
-   RT_CHECK(ctx, stat, 0, "ganssreferenceLocation", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
-   /* ganssIonosphericModel */
-   stat = rtxDecBitInline(ctx, &pvalue->ganssIonosphericModel);
-   RT_CHECK(ctx, stat, 0, "ganssIonosphericModel", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
-   /* ganssRequestedGenericAssistanceDataList */
-   stat = asn1PD_UMTS_GanssRequestedGenericAssistanceDataList(ctx, &pvalue->ganssRequestedGenericAssistanceDataList);
-   RT_CHECK(ctx, stat, 0, "ganssRequestedGenericAssistanceDataList", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
+   RT_DECODE_ENTRY(ctx, dec_NumberOfDPDCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_NumberOfFBI_Bits(rtxContext* RT_RESTRICT ctx, NumberOfFBI_Bits* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NumberOfFBI-Bits");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_Error_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_Error_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NumberOfFBI_Bits(rtxContext* RT_RESTRICT ctx, NumberOfFBI_Bits* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NumberOfFBI_Bits, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, PDSCH_PowerControlInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Error-r7");
-   /* errorReason */
-   stat = pd_ConsUnsigned(ctx, &pvalue->errorReason, 0, 15);
-   RT_CHECK(ctx, stat, "UE-Positioning-ErrorCause-r7", "errorReason", -1, "UE-Positioning-Error-r7");
-   /* ue-positioning-GPS-additionalAssistanceDataRequest */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-PowerControlInfo");
+   /* tpc-StepSizeTDD */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GPS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error-r7");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSizeTDD, 1, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, "PDSCH-PowerControlInfo");
    }
-   /* ue-positioning-GANSS-additionalAssistanceDataRequest */
+   /* ul-CCTrChTPCList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GANSS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error-r7");
+      stat = dec_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "PDSCH-PowerControlInfo");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults_v770ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PDSCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, PDSCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_PowerControlInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_configuration_old_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* pdsch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_configuration_old_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CapacityAllocationInfo_configuration_old_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_configuration_new_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasuredResults-v770ext");
-   /* ue-positioning-PositionEstimateInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(ctx, &pvalue->ue_positioning_PositionEstimateInfo);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-PositionEstimateInfo", -1, "UE-Positioning-MeasuredResults-v770ext");
-   }
-   /* ue-positioning-GPS-Measurement */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, &pvalue->ue_positioning_GPS_Measurement);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Measurement", -1, "UE-Positioning-MeasuredResults-v770ext");
-   }
-   /* ue-positioning-Error */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_Error_r7(ctx, &pvalue->ue_positioning_Error);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-Error", -1, "UE-Positioning-MeasuredResults-v770ext");
-   }
-   /* ue-positioning-Ganss-MeasuredResults */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-Info */
+   stat = dec_PDSCH_Info(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, 0);
+   /* pdsch-Identity */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults(ctx, &pvalue->ue_positioning_Ganss_MeasuredResults);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-Ganss-MeasuredResults", -1, "UE-Positioning-MeasuredResults-v770ext");
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pdsch_Identity, 1, 64);
+      RT_CHECK_AT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v770ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_configuration_new_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CapacityAllocationInfo_configuration_new_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResults-v770ext");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* ueInternalMeasuredResults */
-         pvalue->u.ueInternalMeasuredResults = (UE_InternalMeasuredResults_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_v770ext));
-         if (pvalue->u.ueInternalMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueInternalMeasuredResults", -1, "MeasuredResults-v770ext");
-         asn1Init_UMTS_UE_InternalMeasuredResults_v770ext(pvalue->u.ueInternalMeasuredResults);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults_v770ext(ctx, pvalue->u.ueInternalMeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ueInternalMeasuredResults", -1, "MeasuredResults-v770ext");
+      case 0: /* old-Configuration */
+         pvalue->u.old_Configuration = (PDSCH_CapacityAllocationInfo_configuration_old_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CapacityAllocationInfo_configuration_old_Configuration));
+         if (pvalue->u.old_Configuration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "old-Configuration", -1, 0);
+         asn1Init_UMTS_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(pvalue->u.old_Configuration);
+         stat = dec_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(ctx, pvalue->u.old_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
          break;
-      case 1: /* ue-positioning-MeasuredResults */
-         pvalue->u.ue_positioning_MeasuredResults = (UE_Positioning_MeasuredResults_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasuredResults_v770ext));
-         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v770ext");
-         asn1Init_UMTS_UE_Positioning_MeasuredResults_v770ext(pvalue->u.ue_positioning_MeasuredResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasuredResults_v770ext(ctx, pvalue->u.ue_positioning_MeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v770ext");
+      case 1: /* new-Configuration */
+         pvalue->u.new_Configuration = (PDSCH_CapacityAllocationInfo_configuration_new_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CapacityAllocationInfo_configuration_new_Configuration));
+         if (pvalue->u.new_Configuration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "new-Configuration", -1, 0);
+         asn1Init_UMTS_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(pvalue->u.new_Configuration);
+         stat = dec_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(ctx, pvalue->u.new_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v770ext");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_configuration* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CapacityAllocationInfo_configuration, pvalue);
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
-   /* ganssAddIonoModelReq */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pd_BitString32(ctx, &pvalue->ganssAddIonoModelReq, 2, 2);
-      RT_CHECK(ctx, stat, 0, "ganssAddIonoModelReq", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
-   }
-   /* ganssEOPreq */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-CapacityAllocationInfo");
+   /* pdsch-PowerControlInfo */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "ganssEOPreq", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "ganssEOPreq", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
-         pvalue->ganssEOPreq = ui;
-      }
+      pvalue->m |= 0x1u;
+      stat = dec_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-PowerControlInfo", -1, "PDSCH-CapacityAllocationInfo");
    }
-   /* ganssRequestedGenericAssistanceDataList */
-   stat = asn1PD_UMTS_GanssRequestedGenericAssistanceDataList_v860ext(ctx, &pvalue->ganssRequestedGenericAssistanceDataList);
-   RT_CHECK(ctx, stat, 0, "ganssRequestedGenericAssistanceDataList", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+   /* pdsch-AllocationPeriodInfo */
+   stat = dec_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-AllocationPeriodInfo", -1, "PDSCH-CapacityAllocationInfo");
+   /* configuration */
+   stat = dec_PDSCH_CapacityAllocationInfo_configuration(ctx, &pvalue->configuration, cur);
+   RT_CHECK(ctx, stat, 0, "configuration", -1, "PDSCH-CapacityAllocationInfo");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_Error_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Error_v860ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PDSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CapacityAllocationInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* pdsch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Error-v860ext");
-   /* ue-positioning-GANSS-additionalAssistanceDataRequest */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-TimeslotsCodes */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(ctx, &pvalue->ue_positioning_GANSS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error-v860ext");
+      stat = dec_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults_v860ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PDSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_Info_r4_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasuredResults-v860ext");
-   /* ue-positioning-Error */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_Error_v860ext(ctx, &pvalue->ue_positioning_Error);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-Error", -1, "UE-Positioning-MeasuredResults-v860ext");
-   }
-   /* ue-positioning-Ganss-MeasurementResults */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-TimeslotsCodes */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, &pvalue->ue_positioning_Ganss_MeasurementResults);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-Ganss-MeasurementResults", -1, "UE-Positioning-MeasuredResults-v860ext");
+      pvalue->m |= 0x1u;
+      stat = dec_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v860ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PDSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_Info_r4_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResults-v860ext");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ue-positioning-MeasuredResults */
-         pvalue->u.ue_positioning_MeasuredResults = (UE_Positioning_MeasuredResults_v860ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasuredResults_v860ext));
-         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v860ext");
-         asn1Init_UMTS_UE_Positioning_MeasuredResults_v860ext(pvalue->u.ue_positioning_MeasuredResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasuredResults_v860ext(ctx, pvalue->u.ue_positioning_MeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v860ext");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResults-v920ext");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqMeasuredResultsList */
-         pvalue->u.intraFreqMeasuredResultsList = (IntraFreqMeasuredResultsList_v920ext*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasuredResultsList_v920ext));
-         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
-         asn1Init_UMTS_IntraFreqMeasuredResultsList_v920ext(pvalue->u.intraFreqMeasuredResultsList);
-         stat = asn1PD_UMTS_IntraFreqMeasuredResultsList_v920ext(ctx, pvalue->u.intraFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
-         break;
-      case 1: /* interFreqMeasuredResultsList */
-         pvalue->u.interFreqMeasuredResultsList = (InterFreqMeasuredResultsList_v920ext*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasuredResultsList_v920ext));
-         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
-         asn1Init_UMTS_InterFreqMeasuredResultsList_v920ext(pvalue->u.interFreqMeasuredResultsList);
-         stat = asn1PD_UMTS_InterFreqMeasuredResultsList_v920ext(ctx, pvalue->u.interFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResultsList-v920ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MeasuredResults_v920ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResults_v920ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MeasuredResults-v920ext", (int32_t)i, "MeasuredResultsList-v920ext");
-      elem = (MeasuredResults_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MeasuredResults_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MeasuredResults_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MeasuredResults-v920ext", (int32_t)i, "MeasuredResultsList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsListOnSecUlFreq(rtxContext* RT_RESTRICT ctx, MeasuredResultsListOnSecUlFreq* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResultsListOnSecUlFreq");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MeasuredResultsOnSecUlFreq* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResultsOnSecUlFreq));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MeasuredResultsOnSecUlFreq", (int32_t)i, "MeasuredResultsListOnSecUlFreq");
-      elem = (MeasuredResultsOnSecUlFreq*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MeasuredResultsOnSecUlFreq(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MeasuredResultsOnSecUlFreq(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MeasuredResultsOnSecUlFreq", (int32_t)i, "MeasuredResultsListOnSecUlFreq");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_T_ADVinfo(rtxContext* RT_RESTRICT ctx, T_ADVinfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* t-ADV */
-   stat = pd_ConsUInt16(ctx, &pvalue->t_ADV, 0, 2047);
-   RT_CHECK(ctx, stat, 0, "t-ADV", -1, "T-ADVinfo");
-   /* sfn */
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn", -1, "T-ADVinfo");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasuredResults-LCR-r4");
-   /* ue-TransmittedPowerTDD-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_TransmittedPowerTDD_List(ctx, &pvalue->ue_TransmittedPowerTDD_List);
-      RT_CHECK(ctx, stat, 0, "ue-TransmittedPowerTDD-List", -1, "UE-InternalMeasuredResults-LCR-r4");
-   }
-   /* t-ADVinfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_T_ADVinfo(ctx, &pvalue->t_ADVinfo);
-      RT_CHECK(ctx, stat, 0, "t-ADVinfo", -1, "UE-InternalMeasuredResults-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, MeasuredResults_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResults-LCR-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFreqMeasuredResultsList */
-         pvalue->u.intraFreqMeasuredResultsList = (IntraFreqMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasuredResultsList));
-         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         asn1Init_UMTS_IntraFreqMeasuredResultsList(pvalue->u.intraFreqMeasuredResultsList);
-         stat = asn1PD_UMTS_IntraFreqMeasuredResultsList(ctx, pvalue->u.intraFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         break;
-      case 1: /* interFreqMeasuredResultsList */
-         pvalue->u.interFreqMeasuredResultsList = (InterFreqMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasuredResultsList));
-         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         asn1Init_UMTS_InterFreqMeasuredResultsList(pvalue->u.interFreqMeasuredResultsList);
-         stat = asn1PD_UMTS_InterFreqMeasuredResultsList(ctx, pvalue->u.interFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         break;
-      case 2: /* interRATMeasuredResultsList */
-         pvalue->u.interRATMeasuredResultsList = (InterRATMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasuredResultsList));
-         if (pvalue->u.interRATMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         asn1Init_UMTS_InterRATMeasuredResultsList(pvalue->u.interRATMeasuredResultsList);
-         stat = asn1PD_UMTS_InterRATMeasuredResultsList(ctx, pvalue->u.interRATMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "interRATMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         break;
-      case 3: /* trafficVolumeMeasuredResultsList */
-         pvalue->u.trafficVolumeMeasuredResultsList = (TrafficVolumeMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasuredResultsList));
-         if (pvalue->u.trafficVolumeMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         asn1Init_UMTS_TrafficVolumeMeasuredResultsList(pvalue->u.trafficVolumeMeasuredResultsList);
-         stat = asn1PD_UMTS_TrafficVolumeMeasuredResultsList(ctx, pvalue->u.trafficVolumeMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         break;
-      case 4: /* qualityMeasuredResults */
-         pvalue->u.qualityMeasuredResults = (QualityMeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasuredResults));
-         if (pvalue->u.qualityMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityMeasuredResults", -1, "MeasuredResults-LCR-r4");
-         asn1Init_UMTS_QualityMeasuredResults(pvalue->u.qualityMeasuredResults);
-         stat = asn1PD_UMTS_QualityMeasuredResults(ctx, pvalue->u.qualityMeasuredResults);
-         RT_CHECK(ctx, stat, 0, "qualityMeasuredResults", -1, "MeasuredResults-LCR-r4");
-         break;
-      case 5: /* ue-InternalMeasuredResults */
-         pvalue->u.ue_InternalMeasuredResults = (UE_InternalMeasuredResults_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_LCR_r4));
-         if (pvalue->u.ue_InternalMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults-LCR-r4");
-         asn1Init_UMTS_UE_InternalMeasuredResults_LCR_r4(pvalue->u.ue_InternalMeasuredResults);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults_LCR_r4(ctx, pvalue->u.ue_InternalMeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults-LCR-r4");
-         break;
-      case 6: /* ue-positioniing-MeasuredResults */
-         pvalue->u.ue_positioniing_MeasuredResults = (UE_Positioning_MeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasuredResults));
-         if (pvalue->u.ue_positioniing_MeasuredResults == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-positioniing-MeasuredResults", -1, "MeasuredResults-LCR-r4");
-         asn1Init_UMTS_UE_Positioning_MeasuredResults(pvalue->u.ue_positioniing_MeasuredResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasuredResults(ctx, pvalue->u.ue_positioniing_MeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioniing-MeasuredResults", -1, "MeasuredResults-LCR-r4");
-         break;
-      case 7: /* spare */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, MeasuredResultsList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResultsList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MeasuredResults* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResults));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MeasuredResults", (int32_t)i, "MeasuredResultsList");
-      elem = (MeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MeasuredResults", (int32_t)i, "MeasuredResultsList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_LCR_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResultsList-LCR-r4-ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MeasuredResults_LCR_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResults_LCR_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MeasuredResults-LCR-r4", (int32_t)i, "MeasuredResultsList-LCR-r4-ext");
-      elem = (MeasuredResults_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MeasuredResults_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MeasuredResults_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MeasuredResults-LCR-r4", (int32_t)i, "MeasuredResultsList-LCR-r4-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList_v770xet_element(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v770xet_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measuredResults */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResults_v770ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat, 0, "measuredResults", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList_v770xet(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v770xet* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResultsList-v770xet");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MeasuredResultsList_v770xet_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResultsList_v770xet_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "MeasuredResultsList-v770xet");
-      elem = (MeasuredResultsList_v770xet_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MeasuredResultsList_v770xet_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MeasuredResultsList_v770xet_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MeasuredResultsList-v770xet");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList_v860ext_element(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v860ext_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measuredResults */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResults_v860ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat, 0, "measuredResults", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList_v860ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResultsList-v860ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MeasuredResultsList_v860ext_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResultsList_v860ext_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "MeasuredResultsList-v860ext");
-      elem = (MeasuredResultsList_v860ext_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MeasuredResultsList_v860ext_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MeasuredResultsList_v860ext_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MeasuredResultsList-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cpich-Ec-N0 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.cpich_Ec_N0, 0, 63);
-         RT_CHECK(ctx, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
-         break;
-      case 1: /* cpich-RSCP */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.cpich_RSCP, 0, 127);
-         RT_CHECK(ctx, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
-         break;
-      case 2: /* pathloss */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.pathloss, 46, 173);
-         RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
-         break;
-      case 3: /* spare */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* measurementQuantity */
-   stat = asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(ctx, &pvalue->measurementQuantity);
-   RT_CHECK(ctx, stat, 0, "measurementQuantity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timeslotISCP */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP);
-      RT_CHECK(ctx, stat, 0, "timeslotISCP", -1, 0);
-   }
-   /* primaryCCPCH-RSCP */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cpich-Ec-N0 */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.cpich_Ec_N0, 0, 63);
-         RT_CHECK(ctx, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
-         break;
-      case 1: /* cpich-RSCP */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.cpich_RSCP, 0, 127);
-         RT_CHECK(ctx, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
-         break;
-      case 2: /* pathloss */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.pathloss, 46, 173);
-         RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
-         break;
-      case 3: /* spare */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* measurementQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(ctx, &pvalue->measurementQuantity);
-      RT_CHECK(ctx, stat, 0, "measurementQuantity", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellParametersID */
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
-   /* primaryCCPCH-RSCP */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_RSCP, 0, 127);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (MonitoredCellRACH_Result_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(MonitoredCellRACH_Result_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (MonitoredCellRACH_Result_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(MonitoredCellRACH_Result_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_Result(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MonitoredCellRACH-Result");
-   /* sfn-SFN-ObsTimeDifference */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SFN_SFN_ObsTimeDifference(ctx, &pvalue->sfn_SFN_ObsTimeDifference);
-      RT_CHECK(ctx, stat, 0, "sfn-SFN-ObsTimeDifference", -1, "MonitoredCellRACH-Result");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "MonitoredCellRACH-Result");
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_List(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MonitoredCellRACH-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MonitoredCellRACH_Result* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MonitoredCellRACH_Result));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MonitoredCellRACH-Result", (int32_t)i, "MonitoredCellRACH-List");
-      elem = (MonitoredCellRACH_Result*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MonitoredCellRACH_Result(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MonitoredCellRACH_Result(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MonitoredCellRACH-Result", (int32_t)i, "MonitoredCellRACH-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResultsOnRACH");
-   /* currentCell */
-   stat = asn1PD_UMTS_MeasuredResultsOnRACH_currentCell(ctx, &pvalue->currentCell);
-   RT_CHECK(ctx, stat, 0, "currentCell", -1, "MeasuredResultsOnRACH");
-   /* monitoredCells */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MonitoredCellRACH_List(ctx, &pvalue->monitoredCells);
-      RT_CHECK(ctx, stat, 0, "monitoredCells", -1, "MeasuredResultsOnRACH");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_List_v7g0ext(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_List_v7g0ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MonitoredCellRACH-List-v7g0ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DeltaRSCPPerCell* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DeltaRSCPPerCell));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DeltaRSCPPerCell", (int32_t)i, "MonitoredCellRACH-List-v7g0ext");
-      elem = (DeltaRSCPPerCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DeltaRSCPPerCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DeltaRSCPPerCell(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "MonitoredCellRACH-List-v7g0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH_v7g0ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_v7g0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResultsOnRACH-v7g0ext");
-   /* currentCell-DeltaRSCP */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DeltaRSCPPerCell(ctx, &pvalue->currentCell_DeltaRSCP);
-      RT_CHECK(ctx, stat, 0, "currentCell-DeltaRSCP", -1, "MeasuredResultsOnRACH-v7g0ext");
-   }
-   /* monitoredCellRACH-List-v7g0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MonitoredCellRACH_List_v7g0ext(ctx, &pvalue->monitoredCellRACH_List_v7g0ext);
-      RT_CHECK(ctx, stat, 0, "monitoredCellRACH-List-v7g0ext", -1, "MeasuredResultsOnRACH-v7g0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACHinterFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* interFreqCellIndication-SIB11 */
-   stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellIndication_SIB11, 0, 1);
-   RT_CHECK(ctx, stat, 0, "interFreqCellIndication-SIB11", -1, "MeasuredResultsOnRACHinterFreq");
-   /* interFreqCellIndication-SIB12 */
-   stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellIndication_SIB12, 0, 1);
-   RT_CHECK(ctx, stat, 0, "interFreqCellIndication-SIB12", -1, "MeasuredResultsOnRACHinterFreq");
-   /* interFreqRACHRepCellsList */
-   stat = asn1PD_UMTS_InterFreqRACHRepCellsList(ctx, &pvalue->interFreqRACHRepCellsList);
-   RT_CHECK(ctx, stat, 0, "interFreqRACHRepCellsList", -1, "MeasuredResultsOnRACHinterFreq");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MethodType(rtxContext* RT_RESTRICT ctx, UE_Positioning_MethodType* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MethodType");
-   return 0;
-}
-
-int asn1PD_UMTS_PositioningMethod(rtxContext* RT_RESTRICT ctx, PositioningMethod* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PositioningMethod");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ResponseTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_ResponseTime* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ResponseTime");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Accuracy(rtxContext* RT_RESTRICT ctx, UE_Positioning_Accuracy* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pd_BitString32(ctx, pvalue, 7, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Accuracy");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity");
-   /* methodType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity");
-   /* positioningMethod */
-   stat = pd_ConsUnsigned(ctx, &pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity");
-   /* dummy1 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dummy1, 0, 7);
-   RT_CHECK(ctx, stat, "UE-Positioning-ResponseTime", "dummy1", -1, "UE-Positioning-ReportingQuantity");
-   /* horizontal-Accuracy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->horizontal_Accuracy);
-      RT_CHECK(ctx, stat, 0, "horizontal-Accuracy", -1, "UE-Positioning-ReportingQuantity");
-   }
-   /* gps-TimingOfCellWanted */
-   stat = rtxDecBitInline(ctx, &pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity");
-   /* dummy2 */
-   stat = rtxDecBitInline(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat, 0, "dummy2", -1, "UE-Positioning-ReportingQuantity");
-   /* additionalAssistanceDataRequest */
-   stat = rtxDecBitInline(ctx, &pvalue->additionalAssistanceDataRequest);
-   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataRequest", -1, "UE-Positioning-ReportingQuantity");
-   /* environmentCharacterisation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MeasurementInterval(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementInterval* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasurementInterval");
-   return 0;
-}
-
-int asn1PD_UMTS_ThresholdPositionChange(rtxContext* RT_RESTRICT ctx, ThresholdPositionChange* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdPositionChange");
-   return 0;
-}
-
-int asn1PD_UMTS_ThresholdSFN_SFN_Change(rtxContext* RT_RESTRICT ctx, ThresholdSFN_SFN_Change* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdSFN-SFN-Change");
-   return 0;
-}
-
-int asn1PD_UMTS_ThresholdSFN_GPS_TOW(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GPS_TOW* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdSFN-GPS-TOW");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_EventSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-EventSpecificInfo");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* e7a */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7a, 0, 15);
-         RT_CHECK(ctx, stat, "ThresholdPositionChange", "e7a", -1, "UE-Positioning-EventSpecificInfo");
-         break;
-      case 1: /* e7b */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7b, 0, 15);
-         RT_CHECK(ctx, stat, "ThresholdSFN-SFN-Change", "e7b", -1, "UE-Positioning-EventSpecificInfo");
-         break;
-      case 2: /* e7c */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7c, 0, 7);
-         RT_CHECK(ctx, stat, "ThresholdSFN-GPS-TOW", "e7c", -1, "UE-Positioning-EventSpecificInfo");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-EventSpecificInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_EventParam(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParam* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* reportingAmount */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "UE-Positioning-EventParam");
-   /* reportFirstFix */
-   stat = rtxDecBitInline(ctx, &pvalue->reportFirstFix);
-   RT_CHECK(ctx, stat, 0, "reportFirstFix", -1, "UE-Positioning-EventParam");
-   /* measurementInterval */
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementInterval, 0, 7);
-   RT_CHECK(ctx, stat, "UE-Positioning-MeasurementInterval", "measurementInterval", -1, "UE-Positioning-EventParam");
-   /* eventSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_EventSpecificInfo(ctx, &pvalue->eventSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "eventSpecificInfo", -1, "UE-Positioning-EventParam");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_EventParamList(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParamList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-EventParamList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_EventParam* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_EventParam));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-EventParam", (int32_t)i, "UE-Positioning-EventParamList");
-      elem = (UE_Positioning_EventParam*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_EventParam(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_EventParam(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-EventParam", (int32_t)i, "UE-Positioning-EventParamList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ReportCriteria(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportCriteria* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportCriteria");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ue-positioning-ReportingCriteria */
-         pvalue->u.ue_positioning_ReportingCriteria = (UE_Positioning_EventParamList*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_EventParamList));
-         if (pvalue->u.ue_positioning_ReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria");
-         asn1Init_UMTS_UE_Positioning_EventParamList(pvalue->u.ue_positioning_ReportingCriteria);
-         stat = asn1PD_UMTS_UE_Positioning_EventParamList(ctx, pvalue->u.ue_positioning_ReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria");
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria");
-         break;
-      case 2: /* noReporting */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-ReportCriteria");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ueBased */
-         pvalue->u.ueBased = (UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased));
-         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueBased", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
-         break;
-      case 1: /* ueAssisted */
-         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted));
-         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueAssisted", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters");
-   /* ip-Spacing */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Spacing, 0, 7);
-   RT_CHECK(ctx, stat, "IP-Spacing", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters");
-   /* ip-Length */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Length, 0, 1);
-   RT_CHECK(ctx, stat, "IP-Length", "ip-Length", -1, "UE-Positioning-IPDL-Parameters");
-   /* ip-Offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->ip_Offset, 0, 9);
-   RT_CHECK(ctx, stat, 0, "ip-Offset", -1, "UE-Positioning-IPDL-Parameters");
-   /* seed */
-   stat = pd_ConsUInt8(ctx, &pvalue->seed, 0, 63);
-   RT_CHECK(ctx, stat, 0, "seed", -1, "UE-Positioning-IPDL-Parameters");
-   /* burstModeParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
-      RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   /* sfn */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   }
-   /* positioningMode */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_SFN_RelTimeDifference1(rtxContext* RT_RESTRICT ctx, SFN_SFN_RelTimeDifference1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* sfn-Offset */
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn_Offset, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn-Offset", -1, "SFN-SFN-RelTimeDifference1");
-   /* sfn-sfn-Reltimedifference */
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn_sfn_Reltimedifference, 0, 38399);
-   RT_CHECK(ctx, stat, 0, "sfn-sfn-Reltimedifference", -1, "SFN-SFN-RelTimeDifference1");
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_SFN_Drift(rtxContext* RT_RESTRICT ctx, SFN_SFN_Drift* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 28);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-SFN-Drift");
-   return 0;
-}
-
-int asn1PD_UMTS_OTDOA_SearchWindowSize(rtxContext* RT_RESTRICT ctx, OTDOA_SearchWindowSize* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "OTDOA-SearchWindowSize");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ueBased */
-         pvalue->u.ueBased = (UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased));
-         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueBased", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
-         break;
-      case 1: /* ueAssisted */
-         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted));
-         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueAssisted", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   }
-   /* sfn-SFN-RelTimeDifference */
-   stat = asn1PD_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   /* sfn-SFN-Drift */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   }
-   /* searchWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   /* positioningMode */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_OTDOA_NeighbourCellInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList");
-      elem = (UE_Positioning_OTDOA_NeighbourCellInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData");
-   /* ue-positioning-OTDOA-ReferenceCellInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo", -1, "UE-Positioning-OTDOA-AssistanceData");
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList", -1, "UE-Positioning-OTDOA-AssistanceData");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_utran_GPSTimingOfCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ms-part */
-   stat = pd_ConsUInt16(ctx, &pvalue->ms_part, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "ms-part", -1, 0);
-   /* ls-part */
-   stat = pd_ConsUInt32(ctx, &pvalue->ls_part, 0, 4294967295LL);
-   RT_CHECK(ctx, stat, 0, "ls-part", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* referenceIdentity */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
-   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* referenceIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->referenceIdentity, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "referenceIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UTRAN_GPSReferenceTime_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GPSReferenceTime_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UTRAN_GPSReferenceTime_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GPSReferenceTime_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTime(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-GPSReferenceTime");
-   /* utran-GPSTimingOfCell */
-   stat = asn1PD_UMTS_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(ctx, &pvalue->utran_GPSTimingOfCell);
-   RT_CHECK(ctx, stat, 0, "utran-GPSTimingOfCell", -1, "UTRAN-GPSReferenceTime");
-   /* modeSpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UTRAN-GPSReferenceTime");
-   }
-   /* sfn */
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn", -1, "UTRAN-GPSReferenceTime");
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_TOW_Uncertainty(rtxContext* RT_RESTRICT ctx, SFN_TOW_Uncertainty* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-TOW-Uncertainty");
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPS_DriftRate(rtxContext* RT_RESTRICT ctx, UTRAN_GPS_DriftRate* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-GPS-DriftRate");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime");
-   /* gps-Week */
-   stat = pd_ConsUInt16(ctx, &pvalue->gps_Week, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "gps-Week", -1, "UE-Positioning-GPS-ReferenceTime");
-   /* gps-tow-1msec */
-   stat = pd_ConsUInt32(ctx, &pvalue->gps_tow_1msec, 0, 604799999);
-   RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-tow-1msec", -1, "UE-Positioning-GPS-ReferenceTime");
-   /* utran-GPSReferenceTime */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-ReferenceTime");
-   }
-   /* sfn-tow-Uncertainty */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_tow_Uncertainty, 0, 1);
-      RT_CHECK(ctx, stat, "SFN-TOW-Uncertainty", "sfn-tow-Uncertainty", -1, "UE-Positioning-GPS-ReferenceTime");
-   }
-   /* utran-GPS-DriftRate */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->utran_GPS_DriftRate, 0, 14);
-      RT_CHECK(ctx, stat, "UTRAN-GPS-DriftRate", "utran-GPS-DriftRate", -1, "UE-Positioning-GPS-ReferenceTime");
-   }
-   /* gps-TOW-AssistList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_GPS_TOW_AssistList(ctx, &pvalue->gps_TOW_AssistList);
-      RT_CHECK(ctx, stat, 0, "gps-TOW-AssistList", -1, "UE-Positioning-GPS-ReferenceTime");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ReferenceLocation(rtxContext* RT_RESTRICT ctx, ReferenceLocation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ellipsoidPointAltitudeEllipsoide */
-   stat = asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide);
-   RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipsoide", -1, "ReferenceLocation");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gps-TOW */
-   stat = pd_ConsUInt32(ctx, &pvalue->gps_TOW, 0, 604799);
-   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections");
-   /* statusHealth */
-   stat = pd_ConsUnsigned(ctx, &pvalue->statusHealth, 0, 7);
-   RT_CHECK(ctx, stat, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections");
-   /* dgps-CorrectionSatInfoList */
-   stat = asn1PD_UMTS_DGPS_CorrectionSatInfoList(ctx, &pvalue->dgps_CorrectionSatInfoList);
-   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections");
-   return 0;
-}
-
-int asn1PD_UMTS_SatelliteStatus(rtxContext* RT_RESTRICT ctx, SatelliteStatus* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SatelliteStatus");
-   return 0;
-}
-
-int asn1PD_UMTS_SubFrame1Reserved(rtxContext* RT_RESTRICT ctx, SubFrame1Reserved* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* reserved1 */
-   RT_SET_SIZE(ctx, 23, 23);
-   stat = pd_BitString32(ctx, &pvalue->reserved1, 23, 23);
-   RT_CHECK(ctx, stat, 0, "reserved1", -1, "SubFrame1Reserved");
-   /* reserved2 */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->reserved2, 24, 24);
-   RT_CHECK(ctx, stat, 0, "reserved2", -1, "SubFrame1Reserved");
-   /* reserved3 */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->reserved3, 24, 24);
-   RT_CHECK(ctx, stat, 0, "reserved3", -1, "SubFrame1Reserved");
-   /* reserved4 */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->reserved4, 16, 16);
-   RT_CHECK(ctx, stat, 0, "reserved4", -1, "SubFrame1Reserved");
-   return 0;
-}
-
-int asn1PD_UMTS_EphemerisParameter(rtxContext* RT_RESTRICT ctx, EphemerisParameter* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* codeOnL2 */
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_BitString32(ctx, &pvalue->codeOnL2, 2, 2);
-   RT_CHECK(ctx, stat, 0, "codeOnL2", -1, "EphemerisParameter");
-   /* uraIndex */
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, &pvalue->uraIndex, 4, 4);
-   RT_CHECK(ctx, stat, 0, "uraIndex", -1, "EphemerisParameter");
-   /* satHealth */
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pd_BitString32(ctx, &pvalue->satHealth, 6, 6);
-   RT_CHECK(ctx, stat, 0, "satHealth", -1, "EphemerisParameter");
-   /* iodc */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->iodc, 10, 10);
-   RT_CHECK(ctx, stat, 0, "iodc", -1, "EphemerisParameter");
-   /* l2Pflag */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->l2Pflag, 1, 1);
-   RT_CHECK(ctx, stat, 0, "l2Pflag", -1, "EphemerisParameter");
-   /* sf1Revd */
-   stat = asn1PD_UMTS_SubFrame1Reserved(ctx, &pvalue->sf1Revd);
-   RT_CHECK(ctx, stat, 0, "sf1Revd", -1, "EphemerisParameter");
-   /* t-GD */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->t_GD, 8, 8);
-   RT_CHECK(ctx, stat, 0, "t-GD", -1, "EphemerisParameter");
-   /* t-oc */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->t_oc, 16, 16);
-   RT_CHECK(ctx, stat, 0, "t-oc", -1, "EphemerisParameter");
-   /* af2 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->af2, 8, 8);
-   RT_CHECK(ctx, stat, 0, "af2", -1, "EphemerisParameter");
-   /* af1 */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->af1, 16, 16);
-   RT_CHECK(ctx, stat, 0, "af1", -1, "EphemerisParameter");
-   /* af0 */
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pd_BitString32(ctx, &pvalue->af0, 22, 22);
-   RT_CHECK(ctx, stat, 0, "af0", -1, "EphemerisParameter");
-   /* c-rs */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_rs, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-rs", -1, "EphemerisParameter");
-   /* delta-n */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->delta_n, 16, 16);
-   RT_CHECK(ctx, stat, 0, "delta-n", -1, "EphemerisParameter");
-   /* m0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->m0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "m0", -1, "EphemerisParameter");
-   /* c-uc */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_uc, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-uc", -1, "EphemerisParameter");
-   /* e */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->e, 32, 32);
-   RT_CHECK(ctx, stat, 0, "e", -1, "EphemerisParameter");
-   /* c-us */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_us, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-us", -1, "EphemerisParameter");
-   /* a-Sqrt */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->a_Sqrt, 32, 32);
-   RT_CHECK(ctx, stat, 0, "a-Sqrt", -1, "EphemerisParameter");
-   /* t-oe */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->t_oe, 16, 16);
-   RT_CHECK(ctx, stat, 0, "t-oe", -1, "EphemerisParameter");
-   /* fitInterval */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->fitInterval, 1, 1);
-   RT_CHECK(ctx, stat, 0, "fitInterval", -1, "EphemerisParameter");
-   /* aodo */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->aodo, 5, 5);
-   RT_CHECK(ctx, stat, 0, "aodo", -1, "EphemerisParameter");
-   /* c-ic */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_ic, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-ic", -1, "EphemerisParameter");
-   /* omega0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->omega0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "omega0", -1, "EphemerisParameter");
-   /* c-is */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_is, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-is", -1, "EphemerisParameter");
-   /* i0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->i0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "i0", -1, "EphemerisParameter");
-   /* c-rc */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_rc, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-rc", -1, "EphemerisParameter");
-   /* omega */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->omega, 32, 32);
-   RT_CHECK(ctx, stat, 0, "omega", -1, "EphemerisParameter");
-   /* omegaDot */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->omegaDot, 24, 24);
-   RT_CHECK(ctx, stat, 0, "omegaDot", -1, "EphemerisParameter");
-   /* iDot */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->iDot, 14, 14);
-   RT_CHECK(ctx, stat, 0, "iDot", -1, "EphemerisParameter");
-   return 0;
-}
-
-int asn1PD_UMTS_NavigationModelSatInfo(rtxContext* RT_RESTRICT ctx, NavigationModelSatInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NavigationModelSatInfo");
-   /* satID */
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "NavigationModelSatInfo");
-   /* satelliteStatus */
-   stat = pd_ConsUnsigned(ctx, &pvalue->satelliteStatus, 0, 4);
-   RT_CHECK(ctx, stat, "SatelliteStatus", "satelliteStatus", -1, "NavigationModelSatInfo");
-   /* ephemerisParameter */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EphemerisParameter(ctx, &pvalue->ephemerisParameter);
-      RT_CHECK(ctx, stat, 0, "ephemerisParameter", -1, "NavigationModelSatInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NavigationModelSatInfoList(rtxContext* RT_RESTRICT ctx, NavigationModelSatInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NavigationModelSatInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NavigationModelSatInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NavigationModelSatInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NavigationModelSatInfo", (int32_t)i, "NavigationModelSatInfoList");
-      elem = (NavigationModelSatInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NavigationModelSatInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NavigationModelSatInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NavigationModelSatInfo", (int32_t)i, "NavigationModelSatInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_NavigationModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_NavigationModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* navigationModelSatInfoList */
-   stat = asn1PD_UMTS_NavigationModelSatInfoList(ctx, &pvalue->navigationModelSatInfoList);
-   RT_CHECK(ctx, stat, 0, "navigationModelSatInfoList", -1, "UE-Positioning-GPS-NavigationModel");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_IonosphericModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* alpha0 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->alpha0, 8, 8);
-   RT_CHECK(ctx, stat, 0, "alpha0", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* alpha1 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->alpha1, 8, 8);
-   RT_CHECK(ctx, stat, 0, "alpha1", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* alpha2 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->alpha2, 8, 8);
-   RT_CHECK(ctx, stat, 0, "alpha2", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* alpha3 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->alpha3, 8, 8);
-   RT_CHECK(ctx, stat, 0, "alpha3", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* beta0 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->beta0, 8, 8);
-   RT_CHECK(ctx, stat, 0, "beta0", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* beta1 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->beta1, 8, 8);
-   RT_CHECK(ctx, stat, 0, "beta1", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* beta2 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->beta2, 8, 8);
-   RT_CHECK(ctx, stat, 0, "beta2", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* beta3 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->beta3, 8, 8);
-   RT_CHECK(ctx, stat, 0, "beta3", -1, "UE-Positioning-GPS-IonosphericModel");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_UTC_Model* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* a1 */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->a1, 24, 24);
-   RT_CHECK(ctx, stat, 0, "a1", -1, "UE-Positioning-GPS-UTC-Model");
-   /* a0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->a0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "a0", -1, "UE-Positioning-GPS-UTC-Model");
-   /* t-ot */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->t_ot, 8, 8);
-   RT_CHECK(ctx, stat, 0, "t-ot", -1, "UE-Positioning-GPS-UTC-Model");
-   /* wn-t */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->wn_t, 8, 8);
-   RT_CHECK(ctx, stat, 0, "wn-t", -1, "UE-Positioning-GPS-UTC-Model");
-   /* delta-t-LS */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->delta_t_LS, 8, 8);
-   RT_CHECK(ctx, stat, 0, "delta-t-LS", -1, "UE-Positioning-GPS-UTC-Model");
-   /* wn-lsf */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->wn_lsf, 8, 8);
-   RT_CHECK(ctx, stat, 0, "wn-lsf", -1, "UE-Positioning-GPS-UTC-Model");
-   /* dn */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->dn, 8, 8);
-   RT_CHECK(ctx, stat, 0, "dn", -1, "UE-Positioning-GPS-UTC-Model");
-   /* delta-t-LSF */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->delta_t_LSF, 8, 8);
-   RT_CHECK(ctx, stat, 0, "delta-t-LSF", -1, "UE-Positioning-GPS-UTC-Model");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_Almanac_sv_GlobalHealth(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_Almanac_sv_GlobalHealth* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 364, 364);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_Almanac(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_Almanac* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-Almanac");
-   /* wn-a */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->wn_a, 8, 8);
-   RT_CHECK(ctx, stat, 0, "wn-a", -1, "UE-Positioning-GPS-Almanac");
-   /* almanacSatInfoList */
-   stat = asn1PD_UMTS_AlmanacSatInfoList(ctx, &pvalue->almanacSatInfoList);
-   RT_CHECK(ctx, stat, 0, "almanacSatInfoList", -1, "UE-Positioning-GPS-Almanac");
-   /* sv-GlobalHealth */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_Almanac_sv_GlobalHealth(ctx, &pvalue->sv_GlobalHealth);
-      RT_CHECK(ctx, stat, 0, "sv-GlobalHealth", -1, "UE-Positioning-GPS-Almanac");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance");
-   /* gps-ReferenceTime */
-   stat = pd_ConsUInt32(ctx, &pvalue->gps_ReferenceTime, 0, 604799999);
-   RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-ReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance");
-   /* utran-GPSReferenceTime */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance");
-   }
-   /* satelliteInformationList */
-   stat = asn1PD_UMTS_AcquisitionSatInfoList(ctx, &pvalue->satelliteInformationList);
-   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GPS-AcquisitionAssistance");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* referenceIdentity */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
-   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* referenceIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->referenceIdentity, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "referenceIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-GPS-ReferenceCellInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData");
-   /* ue-positioning-GPS-ReferenceTime */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-DGPS-Corrections */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-NavigationModel */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-Almanac */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-AcquisitionAssistance */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-Real-timeIntegrity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Measurement(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement");
-   /* ue-positioning-ReportingQuantity */
-   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement");
-   /* reportCriteria */
-   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement");
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement");
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeReportCriteria(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportCriteria* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeReportCriteria");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* trafficVolumeReportingCriteria */
-         pvalue->u.trafficVolumeReportingCriteria = (TrafficVolumeReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeReportingCriteria));
-         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteria");
-         asn1Init_UMTS_TrafficVolumeReportingCriteria(pvalue->u.trafficVolumeReportingCriteria);
-         stat = asn1PD_UMTS_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteria");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteria");
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteria");
-         break;
-      case 2: /* noReporting */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeReportCriteria");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeMeasurement(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasurement");
-   /* trafficVolumeMeasurementObjectList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurementObjectList", -1, "TrafficVolumeMeasurement");
-   }
-   /* trafficVolumeMeasQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasQuantity", -1, "TrafficVolumeMeasurement");
-   }
-   /* trafficVolumeReportingQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeReportingQuantity", -1, "TrafficVolumeMeasurement");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "TrafficVolumeMeasurement");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_TrafficVolumeReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "TrafficVolumeMeasurement");
-   return 0;
-}
-
-int asn1PD_UMTS_SIR_TFCS(rtxContext* RT_RESTRICT ctx, SIR_TFCS* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = asn1PD_UMTS_TFCS_IdentityPlain(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIR-TFCS");
-   return 0;
-}
-
-int asn1PD_UMTS_SIR_TFCS_List(rtxContext* RT_RESTRICT ctx, SIR_TFCS_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "SIR-TFCS-List");
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "SIR-TFCS-List");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SIR-TFCS-List");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = asn1PD_UMTS_SIR_TFCS(ctx, &pvalue->elem[i]);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, 0, "SIR-TFCS", (int32_t)i, "SIR-TFCS-List");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, QualityReportingQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sir-TFCS-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SIR_TFCS_List(ctx, &pvalue->sir_TFCS_List);
-      RT_CHECK(ctx, stat, 0, "sir-TFCS-List", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_QualityReportingQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, QualityReportingQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (QualityReportingQuantity_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(QualityReportingQuantity_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_QualityReportingQuantity(rtxContext* RT_RESTRICT ctx, QualityReportingQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "QualityReportingQuantity");
-   /* dl-TransChBLER */
-   stat = rtxDecBitInline(ctx, &pvalue->dl_TransChBLER);
-   RT_CHECK(ctx, stat, 0, "dl-TransChBLER", -1, "QualityReportingQuantity");
-   /* bler-dl-TransChIdList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_BLER_TransChIdList(ctx, &pvalue->bler_dl_TransChIdList);
-      RT_CHECK(ctx, stat, 0, "bler-dl-TransChIdList", -1, "QualityReportingQuantity");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_QualityReportingQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "QualityReportingQuantity");
-   return 0;
-}
-
-int asn1PD_UMTS_QualityReportingCriteriaSingle(rtxContext* RT_RESTRICT ctx, QualityReportingCriteriaSingle* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* transportChannelIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "QualityReportingCriteriaSingle");
-   /* totalCRC */
-   stat = pd_ConsUInt16(ctx, &pvalue->totalCRC, 1, 512);
-   RT_CHECK(ctx, stat, 0, "totalCRC", -1, "QualityReportingCriteriaSingle");
-   /* badCRC */
-   stat = pd_ConsUInt16(ctx, &pvalue->badCRC, 1, 512);
-   RT_CHECK(ctx, stat, 0, "badCRC", -1, "QualityReportingCriteriaSingle");
-   /* pendingAfterTrigger */
-   stat = pd_ConsUInt16(ctx, &pvalue->pendingAfterTrigger, 1, 512);
-   RT_CHECK(ctx, stat, 0, "pendingAfterTrigger", -1, "QualityReportingCriteriaSingle");
-   return 0;
-}
-
-int asn1PD_UMTS_QualityReportingCriteria(rtxContext* RT_RESTRICT ctx, QualityReportingCriteria* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "QualityReportingCriteria");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      QualityReportingCriteriaSingle* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(QualityReportingCriteriaSingle));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "QualityReportingCriteriaSingle", (int32_t)i, "QualityReportingCriteria");
-      elem = (QualityReportingCriteriaSingle*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_QualityReportingCriteriaSingle(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "QualityReportingCriteriaSingle", (int32_t)i, "QualityReportingCriteria");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_QualityReportCriteria(rtxContext* RT_RESTRICT ctx, QualityReportCriteria* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "QualityReportCriteria");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* qualityReportingCriteria */
-         pvalue->u.qualityReportingCriteria = (QualityReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(QualityReportingCriteria));
-         if (pvalue->u.qualityReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityReportingCriteria", -1, "QualityReportCriteria");
-         asn1Init_UMTS_QualityReportingCriteria(pvalue->u.qualityReportingCriteria);
-         stat = asn1PD_UMTS_QualityReportingCriteria(ctx, pvalue->u.qualityReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "qualityReportingCriteria", -1, "QualityReportCriteria");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "QualityReportCriteria");
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "QualityReportCriteria");
-         break;
-      case 2: /* noReporting */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "QualityReportCriteria");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_QualityMeasurement(rtxContext* RT_RESTRICT ctx, QualityMeasurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "QualityMeasurement");
-   /* qualityReportingQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_QualityReportingQuantity(ctx, &pvalue->qualityReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "qualityReportingQuantity", -1, "QualityMeasurement");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_QualityReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "QualityMeasurement");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-RX-TX-TimeDifference */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RX_TX_TimeDifference);
-   RT_CHECK(ctx, stat, 0, "ue-RX-TX-TimeDifference", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* appliedTA */
-   stat = rtxDecBitInline(ctx, &pvalue->appliedTA);
-   RT_CHECK(ctx, stat, 0, "appliedTA", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_InternalReportingQuantity_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_InternalReportingQuantity_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-TransmittedPower */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_TransmittedPower);
-   RT_CHECK(ctx, stat, 0, "ue-TransmittedPower", -1, "UE-InternalReportingQuantity");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalReportingQuantity");
-   return 0;
-}
-
-int asn1PD_UMTS_TransmittedPowerThreshold(rtxContext* RT_RESTRICT ctx, TransmittedPowerThreshold* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -50, 33);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransmittedPowerThreshold");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_6AB_Event(rtxContext* RT_RESTRICT ctx, UE_6AB_Event* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "UE-6AB-Event");
-   /* transmittedPowerThreshold */
-   stat = pd_ConsInt8(ctx, &pvalue->transmittedPowerThreshold, -50, 33);
-   RT_CHECK(ctx, stat, "TransmittedPowerThreshold", "transmittedPowerThreshold", -1, "UE-6AB-Event");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RX_TX_TimeDifferenceThreshold(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceThreshold* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 768, 1280);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceThreshold");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_6FG_Event(rtxContext* RT_RESTRICT ctx, UE_6FG_Event* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeToTrigger */
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "UE-6FG-Event");
-   /* ue-RX-TX-TimeDifferenceThreshold */
-   stat = pd_ConsUInt16(ctx, &pvalue->ue_RX_TX_TimeDifferenceThreshold, 768, 1280);
-   RT_CHECK(ctx, stat, "UE-RX-TX-TimeDifferenceThreshold", "ue-RX-TX-TimeDifferenceThreshold", -1, "UE-6FG-Event");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalEventParam(rtxContext* RT_RESTRICT ctx, UE_InternalEventParam* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalEventParam");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* event6a */
-         pvalue->u.event6a = (UE_6AB_Event*)rtxMemHeapAllocZ(ctx, sizeof(UE_6AB_Event));
-         if (pvalue->u.event6a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event6a", -1, "UE-InternalEventParam");
-         stat = asn1PD_UMTS_UE_6AB_Event(ctx, pvalue->u.event6a);
-         RT_CHECK(ctx, stat, 0, "event6a", -1, "UE-InternalEventParam");
-         break;
-      case 1: /* event6b */
-         pvalue->u.event6b = (UE_6AB_Event*)rtxMemHeapAllocZ(ctx, sizeof(UE_6AB_Event));
-         if (pvalue->u.event6b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event6b", -1, "UE-InternalEventParam");
-         stat = asn1PD_UMTS_UE_6AB_Event(ctx, pvalue->u.event6b);
-         RT_CHECK(ctx, stat, 0, "event6b", -1, "UE-InternalEventParam");
-         break;
-      case 2: /* event6c */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.event6c, 0, 15);
-         RT_CHECK(ctx, stat, "TimeToTrigger", "event6c", -1, "UE-InternalEventParam");
-         break;
-      case 3: /* event6d */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.event6d, 0, 15);
-         RT_CHECK(ctx, stat, "TimeToTrigger", "event6d", -1, "UE-InternalEventParam");
-         break;
-      case 4: /* event6e */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.event6e, 0, 15);
-         RT_CHECK(ctx, stat, "TimeToTrigger", "event6e", -1, "UE-InternalEventParam");
-         break;
-      case 5: /* event6f */
-         pvalue->u.event6f = (UE_6FG_Event*)rtxMemHeapAllocZ(ctx, sizeof(UE_6FG_Event));
-         if (pvalue->u.event6f == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event6f", -1, "UE-InternalEventParam");
-         stat = asn1PD_UMTS_UE_6FG_Event(ctx, pvalue->u.event6f);
-         RT_CHECK(ctx, stat, 0, "event6f", -1, "UE-InternalEventParam");
-         break;
-      case 6: /* event6g */
-         pvalue->u.event6g = (UE_6FG_Event*)rtxMemHeapAllocZ(ctx, sizeof(UE_6FG_Event));
-         if (pvalue->u.event6g == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "event6g", -1, "UE-InternalEventParam");
-         stat = asn1PD_UMTS_UE_6FG_Event(ctx, pvalue->u.event6g);
-         RT_CHECK(ctx, stat, 0, "event6g", -1, "UE-InternalEventParam");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalEventParam");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalEventParamList(rtxContext* RT_RESTRICT ctx, UE_InternalEventParamList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalEventParamList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_InternalEventParam* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_InternalEventParam));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-InternalEventParam", (int32_t)i, "UE-InternalEventParamList");
-      elem = (UE_InternalEventParam*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_InternalEventParam(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_InternalEventParam(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-InternalEventParam", (int32_t)i, "UE-InternalEventParamList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingCriteria(rtxContext* RT_RESTRICT ctx, UE_InternalReportingCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalReportingCriteria");
-   /* ue-InternalEventParamList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_InternalEventParamList(ctx, &pvalue->ue_InternalEventParamList);
-      RT_CHECK(ctx, stat, 0, "ue-InternalEventParamList", -1, "UE-InternalReportingCriteria");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportCriteria(rtxContext* RT_RESTRICT ctx, UE_InternalReportCriteria* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalReportCriteria");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ue-InternalReportingCriteria */
-         pvalue->u.ue_InternalReportingCriteria = (UE_InternalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalReportingCriteria));
-         if (pvalue->u.ue_InternalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalReportingCriteria", -1, "UE-InternalReportCriteria");
-         asn1Init_UMTS_UE_InternalReportingCriteria(pvalue->u.ue_InternalReportingCriteria);
-         stat = asn1PD_UMTS_UE_InternalReportingCriteria(ctx, pvalue->u.ue_InternalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "ue-InternalReportingCriteria", -1, "UE-InternalReportCriteria");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "UE-InternalReportCriteria");
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "UE-InternalReportCriteria");
-         break;
-      case 2: /* noReporting */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalReportCriteria");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasurement(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasurement");
-   /* ue-InternalMeasQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurement");
-   }
-   /* ue-InternalReportingQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_InternalReportingQuantity(ctx, &pvalue->ue_InternalReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "ue-InternalReportingQuantity", -1, "UE-InternalMeasurement");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_UE_InternalReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-InternalMeasurement");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementType(rtxContext* RT_RESTRICT ctx, MeasurementType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementType");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFrequencyMeasurement */
-         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement));
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType");
-         asn1Init_UMTS_IntraFrequencyMeasurement(pvalue->u.intraFrequencyMeasurement);
-         stat = asn1PD_UMTS_IntraFrequencyMeasurement(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType");
-         break;
-      case 1: /* interFrequencyMeasurement */
-         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement));
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType");
-         asn1Init_UMTS_InterFrequencyMeasurement(pvalue->u.interFrequencyMeasurement);
-         stat = asn1PD_UMTS_InterFrequencyMeasurement(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType");
-         break;
-      case 2: /* interRATMeasurement */
-         pvalue->u.interRATMeasurement = (InterRATMeasurement*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement));
-         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType");
-         asn1Init_UMTS_InterRATMeasurement(pvalue->u.interRATMeasurement);
-         stat = asn1PD_UMTS_InterRATMeasurement(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType");
-         break;
-      case 3: /* ue-positioning-Measurement */
-         pvalue->u.ue_positioning_Measurement = (UE_Positioning_Measurement*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement));
-         if (pvalue->u.ue_positioning_Measurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-positioning-Measurement", -1, "MeasurementType");
-         asn1Init_UMTS_UE_Positioning_Measurement(pvalue->u.ue_positioning_Measurement);
-         stat = asn1PD_UMTS_UE_Positioning_Measurement(ctx, pvalue->u.ue_positioning_Measurement);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-Measurement", -1, "MeasurementType");
-         break;
-      case 4: /* trafficVolumeMeasurement */
-         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType");
-         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
-         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType");
-         break;
-      case 5: /* qualityMeasurement */
-         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
-         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType");
-         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
-         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType");
-         break;
-      case 6: /* ue-InternalMeasurement */
-         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement));
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType");
-         asn1Init_UMTS_UE_InternalMeasurement(pvalue->u.ue_InternalMeasurement);
-         stat = asn1PD_UMTS_UE_InternalMeasurement(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_modify* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementType */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementType(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand(rtxContext* RT_RESTRICT ctx, MeasurementCommand* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommand");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* setup */
-         pvalue->u.setup = (MeasurementType*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType));
-         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand");
-         asn1Init_UMTS_MeasurementType(pvalue->u.setup);
-         stat = asn1PD_UMTS_MeasurementType(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand");
-         break;
-      case 1: /* modify */
-         pvalue->u.modify = (MeasurementCommand_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_modify));
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand");
-         asn1Init_UMTS_MeasurementCommand_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_MeasurementCommand_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand");
-         break;
-      case 2: /* release */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r4");
-   /* methodType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r4");
-   /* positioningMethod */
-   stat = pd_ConsUnsigned(ctx, &pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r4");
-   /* horizontalAccuracy */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->horizontalAccuracy);
-      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r4");
-   }
-   /* verticalAccuracy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->verticalAccuracy);
-      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r4");
-   }
-   /* gps-TimingOfCellWanted */
-   stat = rtxDecBitInline(ctx, &pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r4");
-   /* additionalAssistanceDataReq */
-   stat = rtxDecBitInline(ctx, &pvalue->additionalAssistanceDataReq);
-   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r4");
-   /* environmentCharacterisation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ReferenceCellPosition(rtxContext* RT_RESTRICT ctx, ReferenceCellPosition* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReferenceCellPosition");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ellipsoidPoint */
-         pvalue->u.ellipsoidPoint = (EllipsoidPoint*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPoint));
-         if (pvalue->u.ellipsoidPoint == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ellipsoidPoint", -1, "ReferenceCellPosition");
-         stat = asn1PD_UMTS_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPoint", -1, "ReferenceCellPosition");
-         break;
-      case 1: /* ellipsoidPointWithAltitude */
-         pvalue->u.ellipsoidPointWithAltitude = (EllipsoidPointAltitude*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointAltitude));
-         if (pvalue->u.ellipsoidPointWithAltitude == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ellipsoidPointWithAltitude", -1, "ReferenceCellPosition");
-         stat = asn1PD_UMTS_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointWithAltitude);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPointWithAltitude", -1, "ReferenceCellPosition");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ReferenceCellPosition");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellPosition */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
-      RT_CHECK(ctx, stat, 0, "cellPosition", -1, 0);
-   }
-   /* roundTripTime */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ueBased */
-         pvalue->u.ueBased = (UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased));
-         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueBased", -1, 0);
-         asn1Init_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(pvalue->u.ueBased);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
-         break;
-      case 1: /* ueAssisted */
-         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted));
-         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueAssisted", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ip-Spacing */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Spacing, 0, 7);
-   RT_CHECK(ctx, stat, "IP-Spacing", "ip-Spacing", -1, 0);
-   /* ip-Length */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Length, 0, 1);
-   RT_CHECK(ctx, stat, "IP-Length", "ip-Length", -1, 0);
-   /* ip-Offset */
-   stat = pd_ConsUInt8(ctx, &pvalue->ip_Offset, 0, 9);
-   RT_CHECK(ctx, stat, 0, "ip-Offset", -1, 0);
-   /* seed */
-   stat = pd_ConsUInt8(ctx, &pvalue->seed, 0, 63);
-   RT_CHECK(ctx, stat, 0, "seed", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ip-Spacing-TDD */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Spacing_TDD, 0, 4);
-   RT_CHECK(ctx, stat, "IP-Spacing-TDD", "ip-Spacing-TDD", -1, 0);
-   /* ip-slot */
-   stat = pd_ConsUInt8(ctx, &pvalue->ip_slot, 0, 14);
-   RT_CHECK(ctx, stat, 0, "ip-slot", -1, 0);
-   /* ip-Start */
-   stat = pd_ConsUInt16(ctx, &pvalue->ip_Start, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "ip-Start", -1, 0);
-   /* ip-PCCPCG */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = rtxDecBitInline(ctx, &pvalue->ip_PCCPCG);
-      RT_CHECK(ctx, stat, "IP-PCCPCH-r4", "ip-PCCPCG", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-r4");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-IPDL-Parameters-r4");
-   /* burstModeParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
-      RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   /* sfn */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   }
-   /* positioningMode */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_Offset_Validity(rtxContext* RT_RESTRICT ctx, SFN_Offset_Validity* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "SFN-Offset-Validity");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "SFN-Offset-Validity");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* relativeNorth */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeNorth, -20000, 20000);
-      RT_CHECK(ctx, stat, 0, "relativeNorth", -1, 0);
-   }
-   /* relativeEast */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeEast, -20000, 20000);
-      RT_CHECK(ctx, stat, 0, "relativeEast", -1, 0);
-   }
-   /* relativeAltitude */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeAltitude, -4000, 4000);
-      RT_CHECK(ctx, stat, 0, "relativeAltitude", -1, 0);
-   }
-   /* fineSFN-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->fineSFN_SFN, 0, 15);
-      RT_CHECK(ctx, stat, "FineSFN-SFN", "fineSFN-SFN", -1, 0);
-   }
-   /* roundTripTime */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ueBased */
-         pvalue->u.ueBased = (UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased));
-         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueBased", -1, 0);
-         asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(pvalue->u.ueBased);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
-         break;
-      case 1: /* ueAssisted */
-         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted));
-         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueAssisted", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   }
-   /* sfn-SFN-RelTimeDifference */
-   stat = asn1PD_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   /* sfn-Offset-Validity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-         pvalue->sfn_Offset_Validity = ui;
-      }
-   }
-   /* sfn-SFN-Drift */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   }
-   /* searchWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   /* positioningMode */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_r4* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-r4");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_OTDOA_NeighbourCellInfo_r4* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r4", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r4");
-      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r4", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4");
-   /* ue-positioning-OTDOA-ReferenceCellInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo", -1, "UE-Positioning-OTDOA-AssistanceData-r4");
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r4(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList", -1, "UE-Positioning-OTDOA-AssistanceData-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Measurement_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r4");
-   /* ue-positioning-ReportingQuantity */
-   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_r4(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r4");
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r4");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r4");
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r4");
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-RX-TX-TimeDifference */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RX_TX_TimeDifference);
-   RT_CHECK(ctx, stat, 0, "ue-RX-TX-TimeDifference", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* appliedTA */
-   stat = rtxDecBitInline(ctx, &pvalue->appliedTA);
-   RT_CHECK(ctx, stat, 0, "appliedTA", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* t-ADVinfo */
-   stat = rtxDecBitInline(ctx, &pvalue->t_ADVinfo);
-   RT_CHECK(ctx, stat, 0, "t-ADVinfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* tdd384 */
-         pvalue->u.tdd384 = (UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         pvalue->u.tdd384 = (PDSCH_Info_r4_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r4_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_PDSCH_Info_r4_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_PDSCH_Info_r4_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
          RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 1: /* tdd128 */
-         pvalue->u.tdd128 = (UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         pvalue->u.tdd128 = (PDSCH_Info_r4_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r4_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_PDSCH_Info_r4_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_PDSCH_Info_r4_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_PDSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_Info_r4_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_Info_r4(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-Info-r4");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r4");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* commonTimeslotInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info-r4");
+   }
+   /* tddOption */
+   stat = dec_PDSCH_Info_r4_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PDSCH-Info-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_Info_r4(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-Info */
+   stat = dec_PDSCH_Info_r4(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, 0);
+   /* pdsch-Identity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pdsch_Identity, 1, 64);
+      RT_CHECK_AT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   }
+   /* pdsch-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration, pvalue);
+}
+
+static int dec_PDSCH_CapacityAllocationInfo_r4_configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4_configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* old-Configuration */
+         pvalue->u.old_Configuration = (PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration));
+         if (pvalue->u.old_Configuration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "old-Configuration", -1, 0);
+         asn1Init_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(pvalue->u.old_Configuration);
+         stat = dec_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(ctx, pvalue->u.old_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
+         break;
+      case 1: /* new-Configuration */
+         pvalue->u.new_Configuration = (PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration));
+         if (pvalue->u.new_Configuration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "new-Configuration", -1, 0);
+         asn1Init_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(pvalue->u.new_Configuration);
+         stat = dec_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(ctx, pvalue->u.new_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4_configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CapacityAllocationInfo_r4_configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pdsch-AllocationPeriodInfo */
+   stat = dec_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-AllocationPeriodInfo", -1, "PDSCH-CapacityAllocationInfo-r4");
+   /* configuration */
+   stat = dec_PDSCH_CapacityAllocationInfo_r4_configuration(ctx, &pvalue->configuration, cur);
+   RT_CHECK(ctx, stat, 0, "configuration", -1, "PDSCH-CapacityAllocationInfo-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CapacityAllocationInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* pdsch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-Info */
+   stat = dec_PDSCH_Info_r7(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, 0);
+   /* pdsch-Identity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pdsch_Identity, 1, 64);
+      RT_CHECK_AT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   }
+   /* pdsch-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r7_configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7_configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* old-Configuration */
+         pvalue->u.old_Configuration = (PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration));
+         if (pvalue->u.old_Configuration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "old-Configuration", -1, 0);
+         asn1Init_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(pvalue->u.old_Configuration);
+         stat = dec_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(ctx, pvalue->u.old_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
+         break;
+      case 1: /* new-Configuration */
+         pvalue->u.new_Configuration = (PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration));
+         if (pvalue->u.new_Configuration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "new-Configuration", -1, 0);
+         asn1Init_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(pvalue->u.new_Configuration);
+         stat = dec_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(ctx, pvalue->u.new_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7_configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CapacityAllocationInfo_r7_configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pdsch-AllocationPeriodInfo */
+   stat = dec_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-AllocationPeriodInfo", -1, "PDSCH-CapacityAllocationInfo-r7");
+   /* configuration */
+   stat = dec_PDSCH_CapacityAllocationInfo_r7_configuration(ctx, &pvalue->configuration, cur);
+   RT_CHECK(ctx, stat, 0, "configuration", -1, "PDSCH-CapacityAllocationInfo-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, PDSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_CapacityAllocationInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PDSCH_SysInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PDSCH-SysInfo", (int32_t)i, "PDSCH-SysInfoList");
+      elem = (PDSCH_SysInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PDSCH_SysInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PDSCH_SysInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo", (int32_t)i, "PDSCH-SysInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList-HCR-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PDSCH_SysInfo_HCR_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfo_HCR_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PDSCH-SysInfo-HCR-r5", (int32_t)i, "PDSCH-SysInfoList-HCR-r5");
+      elem = (PDSCH_SysInfo_HCR_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PDSCH_SysInfo_HCR_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PDSCH_SysInfo_HCR_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-HCR-r5", (int32_t)i, "PDSCH-SysInfoList-HCR-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfoList_HCR_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_PDSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PDSCH_SysInfo_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfo_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PDSCH-SysInfo-LCR-r4", (int32_t)i, "PDSCH-SysInfoList-LCR-r4");
+      elem = (PDSCH_SysInfo_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PDSCH_SysInfo_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PDSCH_SysInfo_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-LCR-r4", (int32_t)i, "PDSCH-SysInfoList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PDSCH_SysInfoList_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_TPC_CommandTargetRate(rtxContext* RT_RESTRICT ctx, TPC_CommandTargetRate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TPC-CommandTargetRate");
+   return 0;
+}
+
+int asn1PD_UMTS_TPC_CommandTargetRate(rtxContext* RT_RESTRICT ctx, TPC_CommandTargetRate* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TPC_CommandTargetRate, pvalue);
+}
+
+RT_MERGED_BODY int dec_PLCCH_Info(rtxContext* RT_RESTRICT ctx, PLCCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* plcchSequenceNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->plcchSequenceNumber, 1, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "plcchSequenceNumber", -1, "PLCCH-Info");
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "PLCCH-Info");
+   /* channelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "PLCCH-Info");
+   /* tpcCommandTargetRate */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpcCommandTargetRate, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-CommandTargetRate", "tpcCommandTargetRate", -1, "PLCCH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_PLCCH_Info(rtxContext* RT_RESTRICT ctx, PLCCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PLCCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* pusch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-Info */
+   stat = dec_PUSCH_Info(ctx, &pvalue->pusch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, 0);
+   /* pusch-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pusch_Identity, 1, 64);
+      RT_CHECK_AT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* old-Configuration */
+         pvalue->u.old_Configuration = (PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration));
+         if (pvalue->u.old_Configuration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "old-Configuration", -1, 0);
+         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(pvalue->u.old_Configuration);
+         stat = dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
+         break;
+      case 1: /* new-Configuration */
+         pvalue->u.new_Configuration = (PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration));
+         if (pvalue->u.new_Configuration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "new-Configuration", -1, 0);
+         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(pvalue->u.new_Configuration);
+         stat = dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-AllocationPeriodInfo */
+   stat = dec_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-AllocationPeriodInfo", -1, 0);
+   /* pusch-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pusch_PowerControlInfo, 0, 62);
+      RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "pusch-PowerControlInfo", -1, 0);
+   }
+   /* configuration */
+   stat = dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration, cur);
+   RT_CHECK(ctx, stat, 0, "configuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_pusch_Allocation(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* pusch-AllocationPending */
+         break;
+      case 1: /* pusch-AllocationAssignment */
+         pvalue->u.pusch_AllocationAssignment = (PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment));
+         if (pvalue->u.pusch_AllocationAssignment == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "pusch-AllocationAssignment", -1, 0);
+         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(pvalue->u.pusch_AllocationAssignment);
+         stat = dec_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment, cur);
+         RT_CHECK(ctx, stat, 0, "pusch-AllocationAssignment", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_pusch_Allocation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_pusch_Allocation, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pusch-Allocation */
+   stat = dec_PUSCH_CapacityAllocationInfo_pusch_Allocation(ctx, &pvalue->pusch_Allocation, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Allocation", -1, "PUSCH-CapacityAllocationInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_PowerControlInfo_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tpc-StepSize */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSize, 1, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_PowerControlInfo_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r4_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_PowerControlInfo_r4_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_PowerControlInfo_r4_tddOption(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r4_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (PUSCH_PowerControlInfo_r4_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_PowerControlInfo_r4_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_PUSCH_PowerControlInfo_r4_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_PUSCH_PowerControlInfo_r4_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_PowerControlInfo_r4_tddOption(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r4_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_PowerControlInfo_r4_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TargetSIR */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "PUSCH-PowerControlInfo-r4");
+   /* tddOption */
+   stat = dec_PUSCH_PowerControlInfo_r4_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PUSCH-PowerControlInfo-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_PowerControlInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* pusch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UplinkTimeslotsCodes(ctx, &pvalue->pusch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_Info_r4_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pusch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_Info_r4_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (PUSCH_Info_r4_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_Info_r4_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_PUSCH_Info_r4_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_PUSCH_Info_r4_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (PUSCH_Info_r4_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_Info_r4_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_PUSCH_Info_r4_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_PUSCH_Info_r4_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_Info_r4_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_Info_r4(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-Info-r4");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-r4");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* commonTimeslotInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info-r4");
+   }
+   /* tddOption */
+   stat = dec_PUSCH_Info_r4_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PUSCH-Info-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_Info_r4(rtxContext* RT_RESTRICT ctx, PUSCH_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-Info */
+   stat = dec_PUSCH_Info_r4(ctx, &pvalue->pusch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, 0);
+   /* pusch-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pusch_Identity, 1, 64);
+      RT_CHECK_AT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* old-Configuration */
+         pvalue->u.old_Configuration = (PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration));
+         if (pvalue->u.old_Configuration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "old-Configuration", -1, 0);
+         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(pvalue->u.old_Configuration);
+         stat = dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
+         break;
+      case 1: /* new-Configuration */
+         pvalue->u.new_Configuration = (PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration));
+         if (pvalue->u.new_Configuration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "new-Configuration", -1, 0);
+         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(pvalue->u.new_Configuration);
+         stat = dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration, pvalue);
+}
+
+static int dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-AllocationPeriodInfo */
+   stat = dec_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-AllocationPeriodInfo", -1, 0);
+   /* pusch-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PUSCH_PowerControlInfo_r4(ctx, &pvalue->pusch_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-PowerControlInfo", -1, 0);
+   }
+   /* configuration */
+   stat = dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration, cur);
+   RT_CHECK(ctx, stat, 0, "configuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* pusch-AllocationPending */
+         break;
+      case 1: /* pusch-AllocationAssignment */
+         pvalue->u.pusch_AllocationAssignment = (PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment));
+         if (pvalue->u.pusch_AllocationAssignment == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "pusch-AllocationAssignment", -1, 0);
+         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(pvalue->u.pusch_AllocationAssignment);
+         stat = dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment, cur);
+         RT_CHECK(ctx, stat, 0, "pusch-AllocationAssignment", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4_pusch_Allocation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pusch-Allocation */
+   stat = dec_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(ctx, &pvalue->pusch_Allocation, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Allocation", -1, "PUSCH-CapacityAllocationInfo-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_PowerControlInfo_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tpc-StepSize */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSize, 1, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_PowerControlInfo_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r7_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_PowerControlInfo_r7_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_PowerControlInfo_r7_tddOption(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r7_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd768 */
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (PUSCH_PowerControlInfo_r7_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_PowerControlInfo_r7_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_PUSCH_PowerControlInfo_r7_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_PUSCH_PowerControlInfo_r7_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_PowerControlInfo_r7_tddOption(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r7_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_PowerControlInfo_r7_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TargetSIR */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "PUSCH-PowerControlInfo-r7");
+   /* tddOption */
+   stat = dec_PUSCH_PowerControlInfo_r7_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PUSCH-PowerControlInfo-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, PUSCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_PowerControlInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* pusch-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-Info */
+   stat = dec_PUSCH_Info_VHCR(ctx, &pvalue->pusch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, 0);
+   /* pusch-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pusch_Identity, 1, 64);
+      RT_CHECK_AT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* old-Configuration */
+         pvalue->u.old_Configuration = (PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration));
+         if (pvalue->u.old_Configuration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "old-Configuration", -1, 0);
+         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(pvalue->u.old_Configuration);
+         stat = dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
+         break;
+      case 1: /* new-Configuration */
+         pvalue->u.new_Configuration = (PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration));
+         if (pvalue->u.new_Configuration == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "new-Configuration", -1, 0);
+         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(pvalue->u.new_Configuration);
+         stat = dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-AllocationPeriodInfo */
+   stat = dec_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-AllocationPeriodInfo", -1, 0);
+   /* pusch-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PUSCH_PowerControlInfo_r7(ctx, &pvalue->pusch_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-PowerControlInfo", -1, 0);
+   }
+   /* configuration */
+   stat = dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration, cur);
+   RT_CHECK(ctx, stat, 0, "configuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* pusch-AllocationPending */
+         break;
+      case 1: /* pusch-AllocationAssignment */
+         pvalue->u.pusch_AllocationAssignment = (PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment*)rtxMemHeapAlloc(ctx, sizeof(PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment));
+         if (pvalue->u.pusch_AllocationAssignment == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "pusch-AllocationAssignment", -1, 0);
+         asn1Init_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(pvalue->u.pusch_AllocationAssignment);
+         stat = dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment, cur);
+         RT_CHECK(ctx, stat, 0, "pusch-AllocationAssignment", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7_pusch_Allocation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* pusch-Allocation */
+   stat = dec_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(ctx, &pvalue->pusch_Allocation, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Allocation", -1, "PUSCH-CapacityAllocationInfo-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, PUSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_CapacityAllocationInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PUSCH_SysInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PUSCH-SysInfo", (int32_t)i, "PUSCH-SysInfoList");
+      elem = (PUSCH_SysInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PUSCH_SysInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PUSCH_SysInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PUSCH-SysInfo", (int32_t)i, "PUSCH-SysInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList-HCR-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PUSCH_SysInfo_HCR_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfo_HCR_r5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PUSCH-SysInfo-HCR-r5", (int32_t)i, "PUSCH-SysInfoList-HCR-r5");
+      elem = (PUSCH_SysInfo_HCR_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PUSCH_SysInfo_HCR_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PUSCH_SysInfo_HCR_r5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PUSCH-SysInfo-HCR-r5", (int32_t)i, "PUSCH-SysInfoList-HCR-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfoList_HCR_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_PUSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PUSCH_SysInfo_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfo_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PUSCH-SysInfo-LCR-r4", (int32_t)i, "PUSCH-SysInfoList-LCR-r4");
+      elem = (PUSCH_SysInfo_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PUSCH_SysInfo_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PUSCH_SysInfo_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PUSCH-SysInfo-LCR-r4", (int32_t)i, "PUSCH-SysInfoList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PUSCH_SysInfoList_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReducedScramblingCodeNumber(rtxContext* RT_RESTRICT ctx, ReducedScramblingCodeNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 8191);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReducedScramblingCodeNumber");
+   return 0;
+}
+
+int asn1PD_UMTS_ReducedScramblingCodeNumber(rtxContext* RT_RESTRICT ctx, ReducedScramblingCodeNumber* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReducedScramblingCodeNumber, pvalue);
+}
+
+RT_MERGED_BODY int dec_RepPerLengthOffset_MICH(rtxContext* RT_RESTRICT ctx, RepPerLengthOffset_MICH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RepPerLengthOffset-MICH");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rpp4-2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp4_2, 0, 3);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp4-2", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 1: /* rpp8-2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp8_2, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp8-2", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 2: /* rpp8-4 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp8_4, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp8-4", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 3: /* rpp16-2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp16_2, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp16-2", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 4: /* rpp16-4 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp16_4, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp16-4", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 5: /* rpp32-2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp32_2, 0, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp32-2", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 6: /* rpp32-4 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp32_4, 0, 31);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp32-4", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 7: /* rpp64-2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp64_2, 0, 63);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp64-2", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 8: /* rpp64-4 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.rpp64_4, 0, 63);
+         RT_CHECK_AT(ctx, cur, stat, 0, "rpp64-4", -1, "RepPerLengthOffset-MICH");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RepPerLengthOffset-MICH");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RepPerLengthOffset_MICH(rtxContext* RT_RESTRICT ctx, RepPerLengthOffset_MICH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RepPerLengthOffset_MICH, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformation(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation");
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation");
+   /* dl-DPCH-InfoPerRL */
+   stat = dec_DL_DPCH_InfoPerRL(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "RL-AdditionInformation");
+   /* dummy */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dummy);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dummy", -1, "RL-AdditionInformation");
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SCCPCH_InfoForFACH(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, "RL-AdditionInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformation_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r6_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoPerRL */
+         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5));
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5(pvalue->u.dl_DPCH_InfoPerRL);
+         stat = dec_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoPerRL */
+         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r6));
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r6(pvalue->u.dl_FDPCH_InfoPerRL);
+         stat = dec_DL_FDPCH_InfoPerRL_r6(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r6_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation_r6_dl_dpchInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformation_r6(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-r6");
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r6");
+   /* cell-Id */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellIdentity(ctx, &pvalue->cell_Id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r6");
+   }
+   /* dl-dpchInfo */
+   stat = dec_RL_AdditionInformation_r6_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r6");
+   /* e-HICH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r6");
+   }
+   /* e-RGCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation_r6(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformation_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r7_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoPerRL */
+         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5));
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5(pvalue->u.dl_DPCH_InfoPerRL);
+         stat = dec_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoPerRL */
+         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r7));
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r7(pvalue->u.dl_FDPCH_InfoPerRL);
+         stat = dec_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r7_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation_r7_dl_dpchInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformation_r7(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-r7");
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r7");
+   /* cell-Id */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellIdentity(ctx, &pvalue->cell_Id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r7");
+   }
+   /* dl-dpchInfo */
+   stat = dec_RL_AdditionInformation_r7_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r7");
+   /* e-HICH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r7");
+   }
+   /* e-RGCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation_r7(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformation_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r8_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoPerRL */
+         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5));
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5(pvalue->u.dl_DPCH_InfoPerRL);
+         stat = dec_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoPerRL */
+         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r7));
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r7(pvalue->u.dl_FDPCH_InfoPerRL);
+         stat = dec_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r8_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation_r8_dl_dpchInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DTX_DRX_TimingInfo_r7_timing(rtxContext* RT_RESTRICT ctx, DTX_DRX_TimingInfo_r7_timing* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* continue */
+         break;
+      case 1: /* newTiming */
+         pvalue->u.newTiming = (NewTiming*)rtxMemHeapAllocZ(ctx, sizeof(NewTiming));
+         if (pvalue->u.newTiming == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newTiming", -1, 0);
+         stat = dec_NewTiming(ctx, pvalue->u.newTiming, cur);
+         RT_CHECK(ctx, stat, 0, "newTiming", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DTX_DRX_TimingInfo_r7_timing(rtxContext* RT_RESTRICT ctx, DTX_DRX_TimingInfo_r7_timing* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DTX_DRX_TimingInfo_r7_timing, pvalue);
+}
+
+RT_MERGED_BODY int dec_DTX_DRX_TimingInfo_r7(rtxContext* RT_RESTRICT ctx, DTX_DRX_TimingInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timing */
+   stat = dec_DTX_DRX_TimingInfo_r7_timing(ctx, &pvalue->timing, cur);
+   RT_CHECK(ctx, stat, 0, "timing", -1, "DTX-DRX-TimingInfo-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_DTX_DRX_TimingInfo_r7(rtxContext* RT_RESTRICT ctx, DTX_DRX_TimingInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DTX_DRX_TimingInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_TargetCellPreconfigInfo(rtxContext* RT_RESTRICT ctx, TargetCellPreconfigInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 8, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TargetCellPreconfigInfo");
+   /* activationTimeOffset */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTimeOffset, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTimeOffset", "activationTimeOffset", -1, "TargetCellPreconfigInfo");
+   }
+   /* new-H-RNTI */
+   stat = dec_H_RNTI(ctx, &pvalue->new_H_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TargetCellPreconfigInfo");
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TargetCellPreconfigInfo");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4u;
+      stat = dec_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TargetCellPreconfigInfo");
+   }
+   /* serving-HSDSCH-CellInformation */
+   stat = dec_Serving_HSDSCH_CellInformation_r8(ctx, &pvalue->serving_HSDSCH_CellInformation, cur);
+   RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "TargetCellPreconfigInfo");
+   /* e-dch-ReconfigurationInfo */
+   stat = dec_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo, cur);
+   RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "TargetCellPreconfigInfo");
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8u;
+      stat = dec_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TargetCellPreconfigInfo");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10u;
+      stat = dec_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TargetCellPreconfigInfo");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
+      stat = dec_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TargetCellPreconfigInfo");
+   }
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
+      stat = dec_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TargetCellPreconfigInfo");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
+      stat = dec_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "TargetCellPreconfigInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TargetCellPreconfigInfo(rtxContext* RT_RESTRICT ctx, TargetCellPreconfigInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TargetCellPreconfigInfo, pvalue);
+}
+
+static int dec_RL_AdditionInformation_r8(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-r8");
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r8");
+   /* cell-Id */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellIdentity(ctx, &pvalue->cell_Id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r8");
+   }
+   /* dl-dpchInfo */
+   stat = dec_RL_AdditionInformation_r8_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r8");
+   /* e-HICH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r8");
+   }
+   /* e-RGCH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r8");
+   }
+   /* targetCellPreconfigInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_TargetCellPreconfigInfo(ctx, &pvalue->targetCellPreconfigInfo, cur);
+      RT_CHECK(ctx, stat, 0, "targetCellPreconfigInfo", -1, "RL-AdditionInformation-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation_r8(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformation_r9_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r9_dl_dpchInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoPerRL */
+         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5));
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5(pvalue->u.dl_DPCH_InfoPerRL);
+         stat = dec_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoPerRL */
+         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r7));
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r7(pvalue->u.dl_FDPCH_InfoPerRL);
+         stat = dec_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation_r9_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r9_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation_r9_dl_dpchInfo, pvalue);
+}
+
+static int dec_TargetCellPreconfigInfo_r9(rtxContext* RT_RESTRICT ctx, TargetCellPreconfigInfo_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 10, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TargetCellPreconfigInfo-r9");
+   /* activationTimeOffset */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTimeOffset, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTimeOffset", "activationTimeOffset", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* new-H-RNTI */
+   stat = dec_H_RNTI(ctx, &pvalue->new_H_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TargetCellPreconfigInfo-r9");
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x4u;
+      stat = dec_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* serving-HSDSCH-CellInformation */
+   stat = dec_Serving_HSDSCH_CellInformation_r9(ctx, &pvalue->serving_HSDSCH_CellInformation, cur);
+   RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "TargetCellPreconfigInfo-r9");
+   /* e-dch-ReconfigurationInfo */
+   stat = dec_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo, cur);
+   RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "TargetCellPreconfigInfo-r9");
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x8u;
+      stat = dec_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x10u;
+      stat = dec_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x20u;
+      stat = dec_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x40u;
+      stat = dec_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x80u;
+      stat = dec_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x100u;
+      stat = dec_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* e-dch-ReconfigurationInfo-SecULFrequency */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x200u;
+      stat = dec_E_DCH_ReconfigurationInfo_SecULFrequency(ctx, &pvalue->e_dch_ReconfigurationInfo_SecULFrequency, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo-SecULFrequency", -1, "TargetCellPreconfigInfo-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TargetCellPreconfigInfo_r9(rtxContext* RT_RESTRICT ctx, TargetCellPreconfigInfo_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TargetCellPreconfigInfo_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformation_r9(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-r9");
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r9");
+   /* cell-Id */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellIdentity(ctx, &pvalue->cell_Id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r9");
+   }
+   /* dl-dpchInfo */
+   stat = dec_RL_AdditionInformation_r9_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r9");
+   /* e-HICH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r9");
+   }
+   /* e-RGCH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r9");
+   }
+   /* targetCellPreconfigInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_TargetCellPreconfigInfo_r9(ctx, &pvalue->targetCellPreconfigInfo, cur);
+      RT_CHECK(ctx, stat, 0, "targetCellPreconfigInfo", -1, "RL-AdditionInformation-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation_r9(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformation_v6b0ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-v6b0ext");
+   /* sttdIndication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "STTDIndication", "sttdIndication", -1, "RL-AdditionInformation-v6b0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "STTDIndication", "sttdIndication", -1, "RL-AdditionInformation-v6b0ext");
+         pvalue->sttdIndication = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation_v6b0ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_TargetCellPreconfigInfo_v890ext(rtxContext* RT_RESTRICT ctx, TargetCellPreconfigInfo_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = dec_MIMO_Parameters_v7f0ext(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TargetCellPreconfigInfo-v890ext");
+   return 0;
+}
+
+int asn1PD_UMTS_TargetCellPreconfigInfo_v890ext(rtxContext* RT_RESTRICT ctx, TargetCellPreconfigInfo_v890ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TargetCellPreconfigInfo_v890ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformation_v890ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-v890ext");
+   /* targetCellPreconfigInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TargetCellPreconfigInfo_v890ext(ctx, &pvalue->targetCellPreconfigInfo, cur);
+      RT_CHECK(ctx, stat, 0, "targetCellPreconfigInfo", -1, "RL-AdditionInformation-v890ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation_v890ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_v890ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation_v890ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformationList(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RL_AdditionInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RL-AdditionInformation", (int32_t)i, "RL-AdditionInformationList");
+      elem = (RL_AdditionInformation*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RL_AdditionInformation(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RL_AdditionInformation(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation", (int32_t)i, "RL-AdditionInformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformationList(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformationList_r6(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RL_AdditionInformation_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RL-AdditionInformation-r6", (int32_t)i, "RL-AdditionInformationList-r6");
+      elem = (RL_AdditionInformation_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RL_AdditionInformation_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RL_AdditionInformation_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r6", (int32_t)i, "RL-AdditionInformationList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformationList_r6(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformationList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformationList_r7(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RL_AdditionInformation_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RL-AdditionInformation-r7", (int32_t)i, "RL-AdditionInformationList-r7");
+      elem = (RL_AdditionInformation_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RL_AdditionInformation_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RL_AdditionInformation_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r7", (int32_t)i, "RL-AdditionInformationList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformationList_r7(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformationList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformation_list_v6b0ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_list_v6b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-list-v6b0ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RL_AdditionInformation_v6b0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_v6b0ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RL-AdditionInformation-v6b0ext", (int32_t)i, "RL-AdditionInformation-list-v6b0ext");
+      elem = (RL_AdditionInformation_v6b0ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RL_AdditionInformation_v6b0ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RL_AdditionInformation_v6b0ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-v6b0ext", (int32_t)i, "RL-AdditionInformation-list-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation_list_v6b0ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_list_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation_list_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformationList_r8(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RL_AdditionInformation_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RL-AdditionInformation-r8", (int32_t)i, "RL-AdditionInformationList-r8");
+      elem = (RL_AdditionInformation_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RL_AdditionInformation_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RL_AdditionInformation_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r8", (int32_t)i, "RL-AdditionInformationList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformationList_r8(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformationList_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformationList_v890ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList-v890ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RL_AdditionInformation_v890ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_v890ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RL-AdditionInformation-v890ext", (int32_t)i, "RL-AdditionInformationList-v890ext");
+      elem = (RL_AdditionInformation_v890ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RL_AdditionInformation_v890ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RL_AdditionInformation_v890ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-v890ext", (int32_t)i, "RL-AdditionInformationList-v890ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformationList_v890ext(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_v890ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformationList_v890ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformationList_r9(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RL_AdditionInformation_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_r9));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RL-AdditionInformation-r9", (int32_t)i, "RL-AdditionInformationList-r9");
+      elem = (RL_AdditionInformation_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RL_AdditionInformation_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RL_AdditionInformation_r9(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r9", (int32_t)i, "RL-AdditionInformationList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformationList_r9(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformationList_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformation_SecULFreq(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_SecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-SecULFreq");
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-SecULFreq");
+   /* cell-id */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellIdentity(ctx, &pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "RL-AdditionInformation-SecULFreq");
+   }
+   /* dl-FDPCH-InfoPerRL */
+   stat = dec_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCH_InfoPerRL, cur);
+   RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, "RL-AdditionInformation-SecULFreq");
+   /* e-HICH-Information */
+   stat = dec_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-SecULFreq");
+   /* e-RGCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-SecULFreq");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformation_SecULFreq(rtxContext* RT_RESTRICT ctx, RL_AdditionInformation_SecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformation_SecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_SecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 3);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList-SecULFreq");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RL_AdditionInformation_SecULFreq* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RL_AdditionInformation_SecULFreq));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "RL-AdditionInformation-SecULFreq", (int32_t)i, "RL-AdditionInformationList-SecULFreq");
+      elem = (RL_AdditionInformation_SecULFreq*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RL_AdditionInformation_SecULFreq(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_RL_AdditionInformation_SecULFreq(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-SecULFreq", (int32_t)i, "RL-AdditionInformationList-SecULFreq");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, RL_AdditionInformationList_SecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInformationList_SecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_RemovalInformationList(rtxContext* RT_RESTRICT ctx, RL_RemovalInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-RemovalInformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PrimaryCPICH_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList");
+      elem = (PrimaryCPICH_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PrimaryCPICH_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_RemovalInformationList(rtxContext* RT_RESTRICT ctx, RL_RemovalInformationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_RemovalInformationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_RemovalInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, RL_RemovalInformationList_SecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-RemovalInformationList-SecULFreq");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PrimaryCPICH_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList-SecULFreq");
+      elem = (PrimaryCPICH_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PrimaryCPICH_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList-SecULFreq");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_RemovalInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, RL_RemovalInformationList_SecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_RemovalInformationList_SecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHFrameType2Info_modulation_mod16QAM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cpich-SecCCPCH-PowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->cpich_SecCCPCH_PowerOffset, -11, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cpich-SecCCPCH-PowerOffset", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHFrameType2Info_modulation_mod16QAM* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHFrameType2Info_modulation_mod16QAM, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHFrameType2Info_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHFrameType2Info_modulation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* modQPSK */
+         break;
+      case 1: /* mod16QAM */
+         pvalue->u.mod16QAM = (SecondaryCCPCHFrameType2Info_modulation_mod16QAM*)rtxMemHeapAllocZ(ctx, sizeof(SecondaryCCPCHFrameType2Info_modulation_mod16QAM));
+         if (pvalue->u.mod16QAM == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "mod16QAM", -1, 0);
+         stat = dec_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(ctx, pvalue->u.mod16QAM, cur);
+         RT_CHECK(ctx, stat, 0, "mod16QAM", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCHFrameType2Info_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHFrameType2Info_modulation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHFrameType2Info_modulation, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHFrameType2Info(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHFrameType2Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* subFrameNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->subFrameNumber, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "subFrameNumber", -1, "SecondaryCCPCHFrameType2Info");
+   /* dl-ChannelisationCodes */
+   stat = dec_DL_ChannelCodes_MBSFN_IMB384(ctx, &pvalue->dl_ChannelisationCodes, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodes", -1, "SecondaryCCPCHFrameType2Info");
+   /* modulation */
+   stat = dec_SecondaryCCPCHFrameType2Info_modulation(ctx, &pvalue->modulation, cur);
+   RT_CHECK(ctx, stat, 0, "modulation", -1, "SecondaryCCPCHFrameType2Info");
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCHFrameType2Info(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHFrameType2Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHFrameType2Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_SecondaryCCPCHInfoDiff_MBMS(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfoDiff_MBMS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SecondaryCCPCHInfoDiff-MBMS");
+   /* secondaryScramblingCode */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_AT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "SecondaryCCPCHInfoDiff-MBMS");
+   }
+   /* sttd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sttd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sttd-Indicator", -1, "SecondaryCCPCHInfoDiff-MBMS");
+   /* sf-AndCodeNumber */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber, cur);
+      RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, "SecondaryCCPCHInfoDiff-MBMS");
+   }
+   /* timingOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->timingOffset, 0, 149);
+      RT_CHECK_AT(ctx, cur, stat, "TimingOffset", "timingOffset", -1, "SecondaryCCPCHInfoDiff-MBMS");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCHInfoDiff_MBMS(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfoDiff_MBMS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SecondaryCCPCHInfoDiff_MBMS, pvalue);
+}
+
+RT_MERGED_BODY int dec_ServingCellChangeMACreset(rtxContext* RT_RESTRICT ctx, ServingCellChangeMACreset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = rtxDecBitAt(ctx, cur, pvalue);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ServingCellChangeMACreset");
+   return 0;
+}
+
+int asn1PD_UMTS_ServingCellChangeMACreset(rtxContext* RT_RESTRICT ctx, ServingCellChangeMACreset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ServingCellChangeMACreset, pvalue);
+}
+
+RT_MERGED_BODY int dec_ServingCellChangeMsgType(rtxContext* RT_RESTRICT ctx, ServingCellChangeMsgType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ServingCellChangeMsgType");
+   return 0;
+}
+
+int asn1PD_UMTS_ServingCellChangeMsgType(rtxContext* RT_RESTRICT ctx, ServingCellChangeMsgType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ServingCellChangeMsgType, pvalue);
+}
+
+RT_MERGED_BODY int dec_ServingCellChangeTrId(rtxContext* RT_RESTRICT ctx, ServingCellChangeTrId* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ServingCellChangeTrId");
+   return 0;
+}
+
+int asn1PD_UMTS_ServingCellChangeTrId(rtxContext* RT_RESTRICT ctx, ServingCellChangeTrId* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ServingCellChangeTrId, pvalue);
+}
+
+RT_MERGED_BODY int dec_ServingCellChangeParameters(rtxContext* RT_RESTRICT ctx, ServingCellChangeParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* servingCellChangeMACreset */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->servingCellChangeMACreset);
+   RT_CHECK_AT(ctx, cur, stat, "ServingCellChangeMACreset", "servingCellChangeMACreset", -1, "ServingCellChangeParameters");
+   /* servingCellChangeMsgType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->servingCellChangeMsgType, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "ServingCellChangeMsgType", "servingCellChangeMsgType", -1, "ServingCellChangeParameters");
+   /* servingCellChangeTrId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->servingCellChangeTrId, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "ServingCellChangeTrId", "servingCellChangeTrId", -1, "ServingCellChangeParameters");
+   return 0;
+}
+
+int asn1PD_UMTS_ServingCellChangeParameters(rtxContext* RT_RESTRICT ctx, ServingCellChangeParameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ServingCellChangeParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_SpecialBurstScheduling(rtxContext* RT_RESTRICT ctx, SpecialBurstScheduling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SpecialBurstScheduling");
+   return 0;
+}
+
+int asn1PD_UMTS_SpecialBurstScheduling(rtxContext* RT_RESTRICT ctx, SpecialBurstScheduling* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SpecialBurstScheduling, pvalue);
+}
+
+RT_MERGED_BODY int dec_SpreadingFactor(rtxContext* RT_RESTRICT ctx, SpreadingFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SpreadingFactor");
+   return 0;
+}
+
+int asn1PD_UMTS_SpreadingFactor(rtxContext* RT_RESTRICT ctx, SpreadingFactor* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SpreadingFactor, pvalue);
+}
+
+static int dec_SPS_Information_TDD128_r8(rtxContext* RT_RESTRICT ctx, SPS_Information_TDD128_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SPS-Information-TDD128-r8");
+   /* e-dch-SPS-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_DCH_SPS_Information_TDD128(ctx, &pvalue->e_dch_SPS_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-SPS-Info", -1, "SPS-Information-TDD128-r8");
+   }
+   /* hs-dsch-SPS-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_HS_DSCH_SPS_Information_TDD128(ctx, &pvalue->hs_dsch_SPS_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-SPS-Info", -1, "SPS-Information-TDD128-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SPS_Information_TDD128_r8(rtxContext* RT_RESTRICT ctx, SPS_Information_TDD128_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SPS_Information_TDD128_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_SynchronisationParameters_r4_sync_UL_CodesBitmap(rtxContext* RT_RESTRICT ctx, SynchronisationParameters_r4_sync_UL_CodesBitmap* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SynchronisationParameters_r4_sync_UL_CodesBitmap(rtxContext* RT_RESTRICT ctx, SynchronisationParameters_r4_sync_UL_CodesBitmap* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SynchronisationParameters_r4_sync_UL_CodesBitmap, pvalue);
+}
+
+RT_MERGED_BODY int dec_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SYNC_UL_Procedure_r4(rtxContext* RT_RESTRICT ctx, SYNC_UL_Procedure_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* max-SYNC-UL-Transmissions */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->max_SYNC_UL_Transmissions, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Procedure-r4");
+   /* powerRampStep */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->powerRampStep, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "powerRampStep", -1, "SYNC-UL-Procedure-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_SYNC_UL_Procedure_r4(rtxContext* RT_RESTRICT ctx, SYNC_UL_Procedure_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SYNC_UL_Procedure_r4, pvalue);
+}
+
+static int dec_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, SynchronisationParameters_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SynchronisationParameters-r4");
+   /* sync-UL-CodesBitmap */
+   stat = dec_SynchronisationParameters_r4_sync_UL_CodesBitmap(ctx, &pvalue->sync_UL_CodesBitmap, cur);
+   RT_CHECK(ctx, stat, 0, "sync-UL-CodesBitmap", -1, "SynchronisationParameters-r4");
+   /* fpach-Info */
+   stat = dec_FPACH_Info_r4(ctx, &pvalue->fpach_Info, cur);
+   RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "SynchronisationParameters-r4");
+   /* prxUpPCHdes */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->prxUpPCHdes, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, 0, "prxUpPCHdes", -1, "SynchronisationParameters-r4");
+   /* sync-UL-Procedure */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SYNC_UL_Procedure_r4(ctx, &pvalue->sync_UL_Procedure, cur);
+      RT_CHECK(ctx, stat, 0, "sync-UL-Procedure", -1, "SynchronisationParameters-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, SynchronisationParameters_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SynchronisationParameters_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_TFC_ControlDuration(rtxContext* RT_RESTRICT ctx, TFC_ControlDuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TFC-ControlDuration");
+   return 0;
+}
+
+int asn1PD_UMTS_TFC_ControlDuration(rtxContext* RT_RESTRICT ctx, TFC_ControlDuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TFC_ControlDuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotList(rtxContext* RT_RESTRICT ctx, TimeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeslotList");
+      pvalue->n = n = raw + 1;
+      if (raw > 13) {
+         rtxErrAddStrParm(ctx, "TimeslotList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 14);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TimeslotNumber", "TimeslotNumber", (int32_t)i, "TimeslotList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotList(rtxContext* RT_RESTRICT ctx, TimeslotList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotList, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotList_r4_tdd384(rtxContext* RT_RESTRICT ctx, TimeslotList_r4_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 13) {
+         rtxErrAddStrParm(ctx, "tdd384");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 14);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TimeslotNumber", "TimeslotNumber", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotList_r4_tdd384(rtxContext* RT_RESTRICT ctx, TimeslotList_r4_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotList_r4_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotList_r4_tdd128(rtxContext* RT_RESTRICT ctx, TimeslotList_r4_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 5) {
+         rtxErrAddStrParm(ctx, "tdd128");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 6);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "TimeslotNumber-LCR-r4", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotList_r4_tdd128(rtxContext* RT_RESTRICT ctx, TimeslotList_r4_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotList_r4_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotList_r4(rtxContext* RT_RESTRICT ctx, TimeslotList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeslotList-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (TimeslotList_r4_tdd384*)rtxMemHeapAlloc(ctx, sizeof(TimeslotList_r4_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, "TimeslotList-r4");
+         asn1Init_UMTS_TimeslotList_r4_tdd384(pvalue->u.tdd384);
+         stat = dec_TimeslotList_r4_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, "TimeslotList-r4");
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (TimeslotList_r4_tdd128*)rtxMemHeapAlloc(ctx, sizeof(TimeslotList_r4_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, "TimeslotList-r4");
+         asn1Init_UMTS_TimeslotList_r4_tdd128(pvalue->u.tdd128);
+         stat = dec_TimeslotList_r4_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, "TimeslotList-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TimeslotList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotList_r4(rtxContext* RT_RESTRICT ctx, TimeslotList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_16QAM_Config_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_16QAM_Config_mac_es_e_resetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_16QAM_Config_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_16QAM_Config_mac_es_e_resetIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_16QAM_Config_mac_es_e_resetIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_16QAM_Config(rtxContext* RT_RESTRICT ctx, UL_16QAM_Config* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-16QAM-Config");
+   /* ul-16QAM-Settings */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, "UL-16QAM-Config");
+   }
+   /* e-TFCI-TableIndex */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->e_TFCI_TableIndex, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "UL-16QAM-Config");
+   }
+   /* mac-es-e-resetIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-16QAM-Config");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-16QAM-Config");
+         pvalue->mac_es_e_resetIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_16QAM_Config(rtxContext* RT_RESTRICT ctx, UL_16QAM_Config* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_16QAM_Config, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrCH(rtxContext* RT_RESTRICT ctx, UL_CCTrCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCH");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* ul-TargetSIR */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH");
+   /* timeInfo */
+   stat = dec_TimeInfo(ctx, &pvalue->timeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "UL-CCTrCH");
+   /* commonTimeslotInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "UL-CCTrCH");
+   }
+   /* ul-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, "UL-CCTrCH");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCH(rtxContext* RT_RESTRICT ctx, UL_CCTrCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrCH_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCH_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCH_r4_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrCH_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCH_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCH_r4_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrCH_r4_tddOption(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UL_CCTrCH_r4_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_CCTrCH_r4_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UL_CCTrCH_r4_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_UL_CCTrCH_r4_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (UL_CCTrCH_r4_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_CCTrCH_r4_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_UL_CCTrCH_r4_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_UL_CCTrCH_r4_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCH_r4_tddOption(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCH_r4_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrCH_r4(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCH-r4");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH-r4");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* ul-TargetSIR */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH-r4");
+   /* timeInfo */
+   stat = dec_TimeInfo(ctx, &pvalue->timeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "UL-CCTrCH-r4");
+   /* commonTimeslotInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "UL-CCTrCH-r4");
+   }
+   /* tddOption */
+   stat = dec_UL_CCTrCH_r4_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UL-CCTrCH-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCH_r4(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCH_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrCH_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCH_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCH_r7_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrCH_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UplinkTimeslotsCodes_VHCR(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCH_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCH_r7_tddOption_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TS_ChannelisationCodeList_r7_element(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList_r7_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TS-Channelisation-Code */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ul_TS_Channelisation_Code, 0, 30);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TS-ChannelisationCode", "ul-TS-Channelisation-Code", -1, 0);
+   /* plcch-info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PLCCH_Info(ctx, &pvalue->plcch_info, cur);
+      RT_CHECK(ctx, stat, 0, "plcch-info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TS_ChannelisationCodeList_r7_element(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList_r7_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TS_ChannelisationCodeList_r7_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TS_ChannelisationCodeList_r7(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_TS_ChannelisationCodeList_r7_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_TS_ChannelisationCodeList_r7_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "UL-TS-ChannelisationCodeList-r7");
+      elem = (UL_TS_ChannelisationCodeList_r7_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_TS_ChannelisationCodeList_r7_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UL_TS_ChannelisationCodeList_r7_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "UL-TS-ChannelisationCodeList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TS_ChannelisationCodeList_r7(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TS_ChannelisationCodeList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* numAdditionalTimeslots */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->numAdditionalTimeslots, 1, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numAdditionalTimeslots", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* individualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* ul-TS-ChannelisationCodeList */
+   stat = dec_UL_TS_ChannelisationCodeList_r7(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r7_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7_parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsLast */
+         pvalue->u.sameAsLast = (UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast));
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
+         stat = dec_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
+         break;
+      case 1: /* newParameters */
+         pvalue->u.newParameters = (UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters));
+         if (pvalue->u.newParameters == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
+         asn1Init_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(pvalue->u.newParameters);
+         stat = dec_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7_parameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_LCR_r7_parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkAdditionalTimeslots_LCR_r7(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* parameters */
+   stat = dec_UplinkAdditionalTimeslots_LCR_r7_parameters(ctx, &pvalue->parameters, cur);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-LCR-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r7(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkAdditionalTimeslots_LCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 5);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UplinkAdditionalTimeslots_LCR_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UplinkAdditionalTimeslots_LCR_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UplinkAdditionalTimeslots-LCR-r7", (int32_t)i, 0);
+      elem = (UplinkAdditionalTimeslots_LCR_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UplinkAdditionalTimeslots_LCR_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UplinkAdditionalTimeslots_LCR_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-LCR-r7", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* consecutive */
+         pvalue->u.consecutive = (UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive));
+         if (pvalue->u.consecutive == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
+         stat = dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive, cur);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 1: /* timeslotList */
+         pvalue->u.timeslotList = (UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList));
+         if (pvalue->u.timeslotList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
+         asn1Init_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
+         stat = dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots, pvalue);
+}
+
+static int dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* noMore */
+         break;
+      case 1: /* additionalTimeslots */
+         pvalue->u.additionalTimeslots = (UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots));
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
+         asn1Init_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
+         stat = dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7_moreTimeslots* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots, pvalue);
+}
+
+RT_MERGED_BODY int dec_UplinkTimeslotsCodes_LCR_r7(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dynamicSFusage */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dynamicSFusage);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-LCR-r7");
+   /* firstIndividualTimeslotInfo */
+   stat = dec_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-LCR-r7");
+   /* ul-TS-ChannelisationCodeList */
+   stat = dec_UL_TS_ChannelisationCodeList_r7(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-LCR-r7");
+   /* moreTimeslots */
+   stat = dec_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-LCR-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r7(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UplinkTimeslotsCodes_LCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrCH_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UplinkTimeslotsCodes_LCR_r7(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCH_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCH_r7_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrCH_r7_tddOption(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UL_CCTrCH_r7_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_CCTrCH_r7_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UL_CCTrCH_r7_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_UL_CCTrCH_r7_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (UL_CCTrCH_r7_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(UL_CCTrCH_r7_tddOption_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_UL_CCTrCH_r7_tddOption_tdd768(pvalue->u.tdd768);
+         stat = dec_UL_CCTrCH_r7_tddOption_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (UL_CCTrCH_r7_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_CCTrCH_r7_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_UL_CCTrCH_r7_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_UL_CCTrCH_r7_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCH_r7_tddOption(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCH_r7_tddOption, pvalue);
+}
+
+static int dec_UL_CCTrCH_r7(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCH-r7");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH-r7");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* ul-TargetSIR */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH-r7");
+   /* timeInfo */
+   stat = dec_TimeInfo(ctx, &pvalue->timeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "UL-CCTrCH-r7");
+   /* commonTimeslotInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "UL-CCTrCH-r7");
+   }
+   /* tddOption */
+   stat = dec_UL_CCTrCH_r7_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UL-CCTrCH-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCH_r7(rtxContext* RT_RESTRICT ctx, UL_CCTrCH_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCH_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrCHList(rtxContext* RT_RESTRICT ctx, UL_CCTrCHList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCHList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_CCTrCH* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_CCTrCH));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-CCTrCH", (int32_t)i, "UL-CCTrCHList");
+      elem = (UL_CCTrCH*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_CCTrCH(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UL_CCTrCH(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-CCTrCH", (int32_t)i, "UL-CCTrCHList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCHList(rtxContext* RT_RESTRICT ctx, UL_CCTrCHList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCHList, pvalue);
+}
+
+static int dec_UL_CCTrCHList_r4(rtxContext* RT_RESTRICT ctx, UL_CCTrCHList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCHList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_CCTrCH_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_CCTrCH_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-CCTrCH-r4", (int32_t)i, "UL-CCTrCHList-r4");
+      elem = (UL_CCTrCH_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_CCTrCH_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UL_CCTrCH_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-CCTrCH-r4", (int32_t)i, "UL-CCTrCHList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCHList_r4(rtxContext* RT_RESTRICT ctx, UL_CCTrCHList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCHList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrCHList_r7(rtxContext* RT_RESTRICT ctx, UL_CCTrCHList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCHList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_CCTrCH_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_CCTrCH_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UL-CCTrCH-r7", (int32_t)i, "UL-CCTrCHList-r7");
+      elem = (UL_CCTrCH_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_CCTrCH_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UL_CCTrCH_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UL-CCTrCH-r7", (int32_t)i, "UL-CCTrCHList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCHList_r7(rtxContext* RT_RESTRICT ctx, UL_CCTrCHList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCHList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_CCTrCHListToRemove(rtxContext* RT_RESTRICT ctx, UL_CCTrCHListToRemove* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCHListToRemove");
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "UL-CCTrCHListToRemove");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UL-CCTrCHListToRemove");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 8);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "UL-CCTrCHListToRemove");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrCHListToRemove(rtxContext* RT_RESTRICT ctx, UL_CCTrCHListToRemove* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_CCTrCHListToRemove, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* scramblingCodeType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   /* scramblingCode */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->scramblingCode, 0, 16777215);
+   RT_CHECK_AT(ctx, cur, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   /* numberOfDPDCH */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfDPDCH, 1, 6);
+      RT_CHECK_AT(ctx, cur, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+   }
+   else {
+      pvalue->numberOfDPDCH = 1;
+   }
+   /* spreadingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_AT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   /* puncturingLimit */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, UL_TimingAdvance* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TimingAdvance");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, UL_TimingAdvance* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvance, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_enabled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvanceControl_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_enabled* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_enabled, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TimingAdvanceControl");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* disabled */
+         break;
+      case 1: /* enabled */
+         pvalue->u.enabled = (UL_TimingAdvanceControl_enabled*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_enabled));
+         if (pvalue->u.enabled == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "enabled", -1, "UL-TimingAdvanceControl");
+         asn1Init_UMTS_UL_TimingAdvanceControl_enabled(pvalue->u.enabled);
+         stat = dec_UL_TimingAdvanceControl_enabled(ctx, pvalue->u.enabled, cur);
+         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvanceControl(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
+   }
+   /* ul-CCTrCHList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UL_CCTrCHList(ctx, &pvalue->ul_CCTrCHList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
+   }
+   /* ul-CCTrCHListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_modeSpecificInfo_tdd, pvalue);
+}
+
+static int dec_UL_DPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_Info_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_UL_DPCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_Info_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UL_DPCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-Info");
+   /* ul-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_DPCH_PowerControlInfo(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info");
+   }
+   /* modeSpecificInfo */
+   stat = dec_UL_DPCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info, pvalue);
+}
+
+static int dec_UL_ChannelRequirement(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-ChannelRequirement");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ul-DPCH-Info */
+         pvalue->u.ul_DPCH_Info = (UL_DPCH_Info*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info));
+         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement");
+         asn1Init_UMTS_UL_DPCH_Info(pvalue->u.ul_DPCH_Info);
+         stat = dec_UL_DPCH_Info(ctx, pvalue->u.ul_DPCH_Info, cur);
+         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement");
+         break;
+      case 1: /* dummy */
+         pvalue->u.dummy = (CPCH_SetInfo*)rtxMemHeapAlloc(ctx, sizeof(CPCH_SetInfo));
+         if (pvalue->u.dummy == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dummy", -1, "UL-ChannelRequirement");
+         asn1Init_UMTS_CPCH_SetInfo(pvalue->u.dummy);
+         stat = dec_CPCH_SetInfo(ctx, pvalue->u.dummy, cur);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-ChannelRequirement");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirement");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_ChannelRequirement(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirement* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_ChannelRequirement, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* scramblingCodeType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   /* scramblingCode */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->scramblingCode, 0, 16777215);
+   RT_CHECK_AT(ctx, cur, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   /* numberOfDPDCH */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfDPDCH, 1, 6);
+      RT_CHECK_AT(ctx, cur, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+   }
+   else {
+      pvalue->numberOfDPDCH = 1;
+   }
+   /* spreadingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_AT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   /* puncturingLimit */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-SynchronisationParameters */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+   }
+   /* synchronisationParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "synchronisationParameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r4_enabled_tddOption(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_r4_enabled_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r4_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* tddOption */
-   stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
+   stat = dec_UL_TimingAdvanceControl_r4_enabled_tddOption(ctx, &pvalue->tddOption, cur);
    RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_TimingAdvanceControl_r4_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4_enabled* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_r4_enabled, pvalue);
+}
+
+static int dec_UL_TimingAdvanceControl_r4(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TimingAdvanceControl-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* disabled */
+         break;
+      case 1: /* enabled */
+         pvalue->u.enabled = (UL_TimingAdvanceControl_r4_enabled*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r4_enabled));
+         if (pvalue->u.enabled == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "enabled", -1, "UL-TimingAdvanceControl-r4");
+         asn1Init_UMTS_UL_TimingAdvanceControl_r4_enabled(pvalue->u.enabled);
+         stat = dec_UL_TimingAdvanceControl_r4_enabled(ctx, pvalue->u.enabled, cur);
+         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvanceControl_r4(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
+   }
+   /* ul-CCTrCHList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
+   }
+   /* ul-CCTrCHListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* fdd */
-         pvalue->u.fdd = (UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         pvalue->u.fdd = (UL_DPCH_Info_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_UL_DPCH_Info_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 1: /* tdd */
-         pvalue->u.tdd = (UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         pvalue->u.tdd = (UL_DPCH_Info_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UL_DPCH_Info_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* ue-TransmittedPower */
-   stat = rtxDecBitInline(ctx, &pvalue->ue_TransmittedPower);
-   RT_CHECK(ctx, stat, 0, "ue-TransmittedPower", -1, "UE-InternalReportingQuantity-r4");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalReportingQuantity-r4");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r4_modeSpecificInfo, pvalue);
 }
 
-int asn1PD_UMTS_UE_InternalMeasurement_r4(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurement_r4* RT_RESTRICT pvalue)
+static int dec_UL_DPCH_Info_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasurement-r4");
-   /* ue-InternalMeasQuantity */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-Info-r4");
+   /* ul-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_DPCH_PowerControlInfo_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r4");
+   }
+   /* modeSpecificInfo */
+   stat = dec_UL_DPCH_Info_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_ChannelRequirement_r4(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-ChannelRequirement-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ul-DPCH-Info */
+         pvalue->u.ul_DPCH_Info = (UL_DPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r4));
+         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r4");
+         asn1Init_UMTS_UL_DPCH_Info_r4(pvalue->u.ul_DPCH_Info);
+         stat = dec_UL_DPCH_Info_r4(ctx, pvalue->u.ul_DPCH_Info, cur);
+         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r4");
+         break;
+      case 1: /* dummy */
+         pvalue->u.dummy = (CPCH_SetInfo*)rtxMemHeapAlloc(ctx, sizeof(CPCH_SetInfo));
+         if (pvalue->u.dummy == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dummy", -1, "UL-ChannelRequirement-r4");
+         asn1Init_UMTS_CPCH_SetInfo(pvalue->u.dummy);
+         stat = dec_CPCH_SetInfo(ctx, pvalue->u.dummy, cur);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-ChannelRequirement-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirement-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_ChannelRequirement_r4(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirement_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_ChannelRequirement_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* scramblingCodeType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   /* scramblingCode */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->scramblingCode, 0, 16777215);
+   RT_CHECK_AT(ctx, cur, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   /* numberOfDPDCH */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfDPDCH, 1, 6);
+      RT_CHECK_AT(ctx, cur, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+   }
+   else {
+      pvalue->numberOfDPDCH = 1;
+   }
+   /* spreadingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_AT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   /* puncturingLimit */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r5_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
+   }
+   /* ul-CCTrCHList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
+   }
+   /* ul-CCTrCHListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r5_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_Info_r5_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r5_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_UL_DPCH_Info_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_Info_r5_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r5_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UL_DPCH_Info_r5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r5_modeSpecificInfo, pvalue);
+}
+
+static int dec_UL_DPCH_Info_r5(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-Info-r5");
+   /* ul-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_DPCH_PowerControlInfo_r5(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r5");
+   }
+   /* modeSpecificInfo */
+   stat = dec_UL_DPCH_Info_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r5(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_ChannelRequirement_r5(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirement_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-ChannelRequirement-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ul-DPCH-Info */
+         pvalue->u.ul_DPCH_Info = (UL_DPCH_Info_r5*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r5));
+         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r5");
+         asn1Init_UMTS_UL_DPCH_Info_r5(pvalue->u.ul_DPCH_Info);
+         stat = dec_UL_DPCH_Info_r5(ctx, pvalue->u.ul_DPCH_Info, cur);
+         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r5");
+         break;
+      case 1: /* dummy */
+         pvalue->u.dummy = (CPCH_SetInfo*)rtxMemHeapAlloc(ctx, sizeof(CPCH_SetInfo));
+         if (pvalue->u.dummy == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dummy", -1, "UL-ChannelRequirement-r5");
+         asn1Init_UMTS_CPCH_SetInfo(pvalue->u.dummy);
+         stat = dec_CPCH_SetInfo(ctx, pvalue->u.dummy, cur);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-ChannelRequirement-r5");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirement-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_ChannelRequirement_r5(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirement_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_ChannelRequirement_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_ChannelRequirementWithCPCH_SetID(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirementWithCPCH_SetID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ul-DPCH-Info */
+         pvalue->u.ul_DPCH_Info = (UL_DPCH_Info*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info));
+         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID");
+         asn1Init_UMTS_UL_DPCH_Info(pvalue->u.ul_DPCH_Info);
+         stat = dec_UL_DPCH_Info(ctx, pvalue->u.ul_DPCH_Info, cur);
+         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID");
+         break;
+      case 1: /* dummy1 */
+         pvalue->u.dummy1 = (CPCH_SetInfo*)rtxMemHeapAlloc(ctx, sizeof(CPCH_SetInfo));
+         if (pvalue->u.dummy1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID");
+         asn1Init_UMTS_CPCH_SetInfo(pvalue->u.dummy1);
+         stat = dec_CPCH_SetInfo(ctx, pvalue->u.dummy1, cur);
+         RT_CHECK(ctx, stat, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID");
+         break;
+      case 2: /* dummy2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dummy2, 1, 16);
+         RT_CHECK_AT(ctx, cur, stat, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirementWithCPCH_SetID* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_ChannelRequirementWithCPCH_SetID, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_ChannelRequirementWithCPCH_SetID_r4(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirementWithCPCH_SetID_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ul-DPCH-Info */
+         pvalue->u.ul_DPCH_Info = (UL_DPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r4));
+         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+         asn1Init_UMTS_UL_DPCH_Info_r4(pvalue->u.ul_DPCH_Info);
+         stat = dec_UL_DPCH_Info_r4(ctx, pvalue->u.ul_DPCH_Info, cur);
+         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+         break;
+      case 1: /* dummy1 */
+         pvalue->u.dummy1 = (CPCH_SetInfo*)rtxMemHeapAlloc(ctx, sizeof(CPCH_SetInfo));
+         if (pvalue->u.dummy1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+         asn1Init_UMTS_CPCH_SetInfo(pvalue->u.dummy1);
+         stat = dec_CPCH_SetInfo(ctx, pvalue->u.dummy1, cur);
+         RT_CHECK(ctx, stat, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+         break;
+      case 2: /* dummy2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dummy2, 1, 16);
+         RT_CHECK_AT(ctx, cur, stat, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID_r4(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirementWithCPCH_SetID_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_ChannelRequirementWithCPCH_SetID_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_ChannelRequirementWithCPCH_SetID_r5(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirementWithCPCH_SetID_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ul-DPCH-Info */
+         pvalue->u.ul_DPCH_Info = (UL_DPCH_Info_r5*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r5));
+         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+         asn1Init_UMTS_UL_DPCH_Info_r5(pvalue->u.ul_DPCH_Info);
+         stat = dec_UL_DPCH_Info_r5(ctx, pvalue->u.ul_DPCH_Info, cur);
+         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+         break;
+      case 1: /* dummy1 */
+         pvalue->u.dummy1 = (CPCH_SetInfo*)rtxMemHeapAlloc(ctx, sizeof(CPCH_SetInfo));
+         if (pvalue->u.dummy1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+         asn1Init_UMTS_CPCH_SetInfo(pvalue->u.dummy1);
+         stat = dec_CPCH_SetInfo(ctx, pvalue->u.dummy1, cur);
+         RT_CHECK(ctx, stat, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+         break;
+      case 2: /* dummy2 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.dummy2, 1, 16);
+         RT_CHECK_AT(ctx, cur, stat, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID_r5(rtxContext* RT_RESTRICT ctx, UL_ChannelRequirementWithCPCH_SetID_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_ChannelRequirementWithCPCH_SetID_r5, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK_AT(ctx, cur, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->sRB_delay, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = dec_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   /* deltaACK */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, 0);
+   }
+   /* deltaNACK */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, 0);
+   }
+   /* ack-NACK-repetition-factor */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK_AT(ctx, cur, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
+   }
+   /* harq-Preamble-Mode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r6_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* individualTS-InterferenceList */
+   stat = dec_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK_AT(ctx, cur, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
+         pvalue->beaconPLEst = ui;
+      }
+   }
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_AT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tddOption */
+   stat = dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* broadcast-UL-OL-PC-info */
+         break;
+      case 1: /* individuallySignalled */
+         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled));
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
+         stat = dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled, cur);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   stat = dec_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling, cur);
+   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r6_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfo_r6(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_r6_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r6_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r6");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r6_fdd(pvalue->u.fdd);
+         stat = dec_UL_DPCH_PowerControlInfo_r6_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r6");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_r6_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r6_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r6");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r6_tdd(pvalue->u.tdd);
+         stat = dec_UL_DPCH_PowerControlInfo_r6_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r6");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r6(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* numberOfDPDCH */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfDPDCH, 1, 6);
+      RT_CHECK_AT(ctx, cur, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+   }
+   else {
+      pvalue->numberOfDPDCH = 1;
+   }
+   /* spreadingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_AT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   /* puncturingLimit */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_AT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* present */
+         pvalue->u.present = (UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present));
+         if (pvalue->u.present == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "present", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(pvalue->u.present);
+         stat = dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(ctx, pvalue->u.present, cur);
+         RT_CHECK(ctx, stat, 0, "present", -1, 0);
+         break;
+      case 1: /* notPresent */
+         pvalue->u.notPresent = (UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent));
+         if (pvalue->u.notPresent == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "notPresent", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(pvalue->u.notPresent);
+         stat = dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(ctx, pvalue->u.notPresent, cur);
+         RT_CHECK(ctx, stat, 0, "notPresent", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* scramblingCodeType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   /* scramblingCode */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->scramblingCode, 0, 16777215);
+   RT_CHECK_AT(ctx, cur, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   /* dpdchPresence */
+   stat = dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(ctx, &pvalue->dpdchPresence, cur);
+   RT_CHECK(ctx, stat, 0, "dpdchPresence", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
+   }
+   /* ul-CCTrCHList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
+   }
+   /* ul-CCTrCHListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r6_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_Info_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r6_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_UL_DPCH_Info_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_Info_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r6_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UL_DPCH_Info_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r6_modeSpecificInfo, pvalue);
+}
+
+static int dec_UL_DPCH_Info_r6(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-Info-r6");
+   /* ul-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_DPCH_PowerControlInfo_r6(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r6");
+   }
+   /* modeSpecificInfo */
+   stat = dec_UL_DPCH_Info_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r6(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* numberOfDPDCH */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfDPDCH, 1, 6);
+      RT_CHECK_AT(ctx, cur, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+   }
+   else {
+      pvalue->numberOfDPDCH = 1;
+   }
+   /* spreadingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurement-r4");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_AT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
    }
-   /* ue-InternalReportingQuantity */
+   /* numberOfTPC-Bits */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4(ctx, &pvalue->ue_InternalReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "ue-InternalReportingQuantity", -1, "UE-InternalMeasurement-r4");
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+         pvalue->numberOfTPC_Bits = ui;
+      }
    }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_UE_InternalReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-InternalMeasurement-r4");
+   /* puncturingLimit */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementType_r4(rtxContext* RT_RESTRICT ctx, MeasurementType_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementType-r4");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFrequencyMeasurement */
-         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r4));
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r4");
-         asn1Init_UMTS_IntraFrequencyMeasurement_r4(pvalue->u.intraFrequencyMeasurement);
-         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r4(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r4");
-         break;
-      case 1: /* interFrequencyMeasurement */
-         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r4));
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r4");
-         asn1Init_UMTS_InterFrequencyMeasurement_r4(pvalue->u.interFrequencyMeasurement);
-         stat = asn1PD_UMTS_InterFrequencyMeasurement_r4(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r4");
-         break;
-      case 2: /* interRATMeasurement */
-         pvalue->u.interRATMeasurement = (InterRATMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r4));
-         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r4");
-         asn1Init_UMTS_InterRATMeasurement_r4(pvalue->u.interRATMeasurement);
-         stat = asn1PD_UMTS_InterRATMeasurement_r4(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r4");
-         break;
-      case 3: /* up-Measurement */
-         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r4));
-         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r4");
-         asn1Init_UMTS_UE_Positioning_Measurement_r4(pvalue->u.up_Measurement);
-         stat = asn1PD_UMTS_UE_Positioning_Measurement_r4(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r4");
-         break;
-      case 4: /* trafficVolumeMeasurement */
-         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r4");
-         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
-         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r4");
-         break;
-      case 5: /* qualityMeasurement */
-         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
-         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r4");
-         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
-         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r4");
-         break;
-      case 6: /* ue-InternalMeasurement */
-         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r4");
-         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
-         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r4");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r4");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present, pvalue);
 }
 
-int asn1PD_UMTS_MeasurementCommand_r4_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r4_modify* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementType */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tfci_Existence);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementType_r4(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_AT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   /* numberOfTPC-Bits */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+         pvalue->numberOfTPC_Bits = ui;
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementCommand_r4(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommand-r4");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* setup */
-         pvalue->u.setup = (MeasurementType_r4*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r4));
-         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r4");
-         asn1Init_UMTS_MeasurementType_r4(pvalue->u.setup);
-         stat = asn1PD_UMTS_MeasurementType_r4(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r4");
+      case 0: /* present */
+         pvalue->u.present = (UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present));
+         if (pvalue->u.present == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "present", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(pvalue->u.present);
+         stat = dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(ctx, pvalue->u.present, cur);
+         RT_CHECK(ctx, stat, 0, "present", -1, 0);
          break;
-      case 1: /* modify */
-         pvalue->u.modify = (MeasurementCommand_r4_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r4_modify));
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r4");
-         asn1Init_UMTS_MeasurementCommand_r4_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_MeasurementCommand_r4_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r4");
-         break;
-      case 2: /* release */
+      case 1: /* notPresent */
+         pvalue->u.notPresent = (UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent));
+         if (pvalue->u.notPresent == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "notPresent", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(pvalue->u.notPresent);
+         stat = dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(ctx, pvalue->u.notPresent, cur);
+         RT_CHECK(ctx, stat, 0, "notPresent", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r4");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementType_r6(rtxContext* RT_RESTRICT ctx, MeasurementType_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementType-r6");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFrequencyMeasurement */
-         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r6));
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r6");
-         asn1Init_UMTS_IntraFrequencyMeasurement_r6(pvalue->u.intraFrequencyMeasurement);
-         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r6(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r6");
-         break;
-      case 1: /* interFrequencyMeasurement */
-         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r6));
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r6");
-         asn1Init_UMTS_InterFrequencyMeasurement_r6(pvalue->u.interFrequencyMeasurement);
-         stat = asn1PD_UMTS_InterFrequencyMeasurement_r6(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r6");
-         break;
-      case 2: /* interRATMeasurement */
-         pvalue->u.interRATMeasurement = (InterRATMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r6));
-         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r6");
-         asn1Init_UMTS_InterRATMeasurement_r6(pvalue->u.interRATMeasurement);
-         stat = asn1PD_UMTS_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r6");
-         break;
-      case 3: /* up-Measurement */
-         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r4));
-         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r6");
-         asn1Init_UMTS_UE_Positioning_Measurement_r4(pvalue->u.up_Measurement);
-         stat = asn1PD_UMTS_UE_Positioning_Measurement_r4(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r6");
-         break;
-      case 4: /* trafficVolumeMeasurement */
-         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r6");
-         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
-         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r6");
-         break;
-      case 5: /* qualityMeasurement */
-         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
-         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r6");
-         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
-         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r6");
-         break;
-      case 6: /* ue-InternalMeasurement */
-         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r6");
-         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
-         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r6");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r6");
-   }
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* scramblingCodeType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   /* scramblingCode */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->scramblingCode, 0, 16777215);
+   RT_CHECK_AT(ctx, cur, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   /* dpdchPresence */
+   stat = dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(ctx, &pvalue->dpdchPresence, cur);
+   RT_CHECK(ctx, stat, 0, "dpdchPresence", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementCommand_r6_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r6_modify* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementType */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementType_r6(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
+   }
+   /* ext-UL-TimingAdvance */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, 0);
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementCommand_r6(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ext-UL-TimingAdvance */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, 0);
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-SynchronisationParameters */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+   }
+   /* synchronisationParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "synchronisationParameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r7_enabled_tddOption(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommand-r6");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* setup */
-         pvalue->u.setup = (MeasurementType_r6*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r6));
-         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r6");
-         asn1Init_UMTS_MeasurementType_r6(pvalue->u.setup);
-         stat = asn1PD_UMTS_MeasurementType_r6(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r6");
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(pvalue->u.tdd384);
+         stat = dec_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
-      case 1: /* modify */
-         pvalue->u.modify = (MeasurementCommand_r6_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r6_modify));
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r6");
-         asn1Init_UMTS_MeasurementCommand_r6_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_MeasurementCommand_r6_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r6");
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(pvalue->u.tdd768);
+         stat = dec_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
-      case 2: /* release */
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(pvalue->u.tdd128);
+         stat = dec_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r6");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r7_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r7_velocityRequested* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_r7_enabled_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_r7_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tddOption */
+   stat = dec_UL_TimingAdvanceControl_r7_enabled_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvanceControl_r7_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7_enabled* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_r7_enabled, pvalue);
+}
+
+static int dec_UL_TimingAdvanceControl_r7(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TimingAdvanceControl-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* disabled */
+         break;
+      case 1: /* enabled */
+         pvalue->u.enabled = (UL_TimingAdvanceControl_r7_enabled*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_r7_enabled));
+         if (pvalue->u.enabled == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "enabled", -1, "UL-TimingAdvanceControl-r7");
+         asn1Init_UMTS_UL_TimingAdvanceControl_r7_enabled(pvalue->u.enabled);
+         stat = dec_UL_TimingAdvanceControl_r7_enabled(ctx, pvalue->u.enabled, cur);
+         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvanceControl_r7(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_TimingAdvanceControl_r7(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
+   }
+   /* ul-CCTrCHList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UL_CCTrCHList_r7(ctx, &pvalue->ul_CCTrCHList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
+   }
+   /* ul-CCTrCHListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r7_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_Info_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_UL_DPCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_Info_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_Info_r7_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UL_DPCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r7_modeSpecificInfo, pvalue);
+}
+
+static int dec_UL_DPCH_Info_r7(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-Info-r7");
+   /* ul-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_DPCH_PowerControlInfo_r7(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r7");
+   }
+   /* modeSpecificInfo */
+   stat = dec_UL_DPCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_Info_r7(rtxContext* RT_RESTRICT ctx, UL_DPCH_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfoPostFDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPostFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dpcch-PowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dpcch_PowerOffset, -28, -13);
+   RT_CHECK_AT(ctx, cur, stat, "DPCCH-PowerOffset2", "dpcch-PowerOffset", -1, "UL-DPCH-PowerControlInfoPostFDD");
+   /* pc-Preamble */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, "UL-DPCH-PowerControlInfoPostFDD");
+   /* sRB-delay */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->sRB_delay, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "SRB-delay", "sRB-delay", -1, "UL-DPCH-PowerControlInfoPostFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfoPostFDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPostFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfoPostFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_InfoPostFDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPostFDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-DPCH-PowerControlInfo */
+   stat = dec_UL_DPCH_PowerControlInfoPostFDD(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPostFDD");
+   /* scramblingCodeType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, "UL-DPCH-InfoPostFDD");
+   /* reducedScramblingCodeNumber */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->reducedScramblingCodeNumber, 0, 8191);
+   RT_CHECK_AT(ctx, cur, stat, "ReducedScramblingCodeNumber", "reducedScramblingCodeNumber", -1, "UL-DPCH-InfoPostFDD");
+   /* spreadingFactor */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "SpreadingFactor", "spreadingFactor", -1, "UL-DPCH-InfoPostFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPostFDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPostFDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_InfoPostFDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfoPostTDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPostTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TargetSIR */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-DPCH-PowerControlInfoPostTDD");
+   /* ul-TimeslotInterference */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->ul_TimeslotInterference, -110, -52);
+   RT_CHECK_AT(ctx, cur, stat, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "UL-DPCH-PowerControlInfoPostTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfoPostTDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPostTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfoPostTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_InfoPostTDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPostTDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-InfoPostTDD");
+   /* ul-DPCH-PowerControlInfo */
+   stat = dec_UL_DPCH_PowerControlInfoPostTDD(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPostTDD");
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "UL-DPCH-InfoPostTDD");
+   }
+   /* ul-CCTrCH-TimeslotsCodes */
+   stat = dec_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, "UL-DPCH-InfoPostTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPostTDD(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPostTDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_InfoPostTDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPostTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-TargetSIR */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_AT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-DPCH-PowerControlInfoPostTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPostTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_PowerControlInfoPostTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_LCR_r4_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_LCR_r4_enabled* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-SynchronisationParameters */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+   }
+   /* synchronisationParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "synchronisationParameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_LCR_r4_enabled* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_LCR_r4_enabled, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_TimingAdvanceControl_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-TimingAdvanceControl-LCR-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* disabled */
+         break;
+      case 1: /* enabled */
+         pvalue->u.enabled = (UL_TimingAdvanceControl_LCR_r4_enabled*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_LCR_r4_enabled));
+         if (pvalue->u.enabled == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "enabled", -1, "UL-TimingAdvanceControl-LCR-r4");
+         asn1Init_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(pvalue->u.enabled);
+         stat = dec_UL_TimingAdvanceControl_LCR_r4_enabled(ctx, pvalue->u.enabled, cur);
+         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl-LCR-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TimingAdvanceControl_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_TimingAdvanceControl_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_TimingAdvanceControl_LCR_r4, pvalue);
+}
+
+static int dec_UL_DPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-InfoPostTDD-LCR-r4");
+   /* ul-DPCH-PowerControlInfo */
+   stat = dec_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPostTDD-LCR-r4");
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_TimingAdvanceControl_LCR_r4(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "UL-DPCH-InfoPostTDD-LCR-r4");
+   }
+   /* ul-CCTrCH-TimeslotsCodes */
+   stat = dec_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, "UL-DPCH-InfoPostTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_DPCH_InfoPostTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_ext_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_ext_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* non-ScheduledTransGrantInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_Non_ScheduledTransGrantInfoTDD_ext(ctx, &pvalue->non_ScheduledTransGrantInfo, cur);
+      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_EDCH_Information_ext_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_ext_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_ext_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_ext(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-EDCH-Information-ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_EDCH_Information_ext_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_ext_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "UL-EDCH-Information-ext");
+         asn1Init_UMTS_UL_EDCH_Information_ext_tdd(pvalue->u.tdd);
+         stat = dec_UL_EDCH_Information_ext_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-EDCH-Information-ext");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-EDCH-Information-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_EDCH_Information_ext(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_r6_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r6_mac_es_e_resetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    {
       uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_EDCH_Information_r6_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r6_mac_es_e_resetIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r6_mac_es_e_resetIndicator, pvalue);
+}
+
+static int dec_UL_EDCH_Information_r6(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r7");
-   /* methodType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r7");
-   /* positioningMethod */
-   stat = pd_ConsUnsigned(ctx, &pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r7");
-   /* horizontalAccuracy */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->horizontalAccuracy);
-      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r7");
-   }
-   /* verticalAccuracy */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->verticalAccuracy);
-      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r7");
-   }
-   /* gps-TimingOfCellWanted */
-   stat = rtxDecBitInline(ctx, &pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r7");
-   /* additionalAssistanceDataReq */
-   stat = rtxDecBitInline(ctx, &pvalue->additionalAssistanceDataReq);
-   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r7");
-   /* environmentCharacterisation */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r7");
-   }
-   /* velocityRequested */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-EDCH-Information-r6");
+   /* mac-es-e-resetIndicator */
    if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x8u;
+      pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r7");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r6");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r7");
-         pvalue->velocityRequested = ui;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r6");
+         pvalue->mac_es_e_resetIndicator = ui;
       }
    }
-   /* gANSSPositioningMethods */
+   /* e-DPCCH-Info */
    if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x10u;
-      RT_SET_SIZE(ctx, 16, 16);
-      stat = pd_BitString32(ctx, &pvalue->gANSSPositioningMethods, 16, 16);
-      RT_CHECK(ctx, stat, 0, "gANSSPositioningMethods", -1, "UE-Positioning-ReportingQuantity-r7");
+      pvalue->m |= 0x2u;
+      stat = dec_E_DPCCH_Info(ctx, &pvalue->e_DPCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, "UL-EDCH-Information-r6");
    }
-   /* gANSSTimingOfCellWanted */
+   /* e-DPDCH-Info */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x20u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->gANSSTimingOfCellWanted, 8, 8);
-      RT_CHECK(ctx, stat, 0, "gANSSTimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r7");
+      pvalue->m |= 0x4u;
+      stat = dec_E_DPDCH_Info(ctx, &pvalue->e_DPDCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, "UL-EDCH-Information-r6");
    }
-   /* gANSSCarrierPhaseMeasurementRequested */
+   /* schedulingTransmConfiguration */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x40u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
-      RT_CHECK(ctx, stat, 0, "gANSSCarrierPhaseMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r7");
+      pvalue->m |= 0x8u;
+      stat = dec_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, "UL-EDCH-Information-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_ThresholdSFN_GPS_TOW_us(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GPS_TOW_us* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_EDCH_Information_r6(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_r7_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_mac_es_e_resetIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdSFN-GPS-TOW-us");
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
    return 0;
 }
 
-int asn1PD_UMTS_ThresholdSFN_GANSS_TOW(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GANSS_TOW* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_EDCH_Information_r7_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_mac_es_e_resetIndicator* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdSFN-GANSS-TOW");
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r7_mac_es_e_resetIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-DPCCH-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, 0);
+   }
+   /* e-DPDCH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_DPDCH_Info_r7(ctx, &pvalue->e_DPDCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, 0);
+   }
+   /* schedulingTransmConfiguration */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, 0);
+   }
+   /* ul-16QAM-Settings */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_EventSpecificInfo_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventSpecificInfo_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-RUCCH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
+   }
+   /* e-PUCH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
+   }
+   /* non-ScheduledTransGrantInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_Non_ScheduledTransGrantInfoTDD(ctx, &pvalue->non_ScheduledTransGrantInfo, cur);
+      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r7_modeSpecificInfo_tdd, pvalue);
+}
+
+static int dec_UL_EDCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-EventSpecificInfo-r7");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* e7a */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7a, 0, 15);
-         RT_CHECK(ctx, stat, "ThresholdPositionChange", "e7a", -1, "UE-Positioning-EventSpecificInfo-r7");
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_EDCH_Information_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_UL_EDCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1: /* e7b */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7b, 0, 15);
-         RT_CHECK(ctx, stat, "ThresholdSFN-SFN-Change", "e7b", -1, "UE-Positioning-EventSpecificInfo-r7");
-         break;
-      case 2: /* e7c */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7c, 0, 7);
-         RT_CHECK(ctx, stat, "ThresholdSFN-GPS-TOW-us", "e7c", -1, "UE-Positioning-EventSpecificInfo-r7");
-         break;
-      case 3: /* e7d */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7d, 0, 7);
-         RT_CHECK(ctx, stat, "ThresholdSFN-GANSS-TOW", "e7d", -1, "UE-Positioning-EventSpecificInfo-r7");
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_EDCH_Information_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r7_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UL_EDCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-EventSpecificInfo-r7");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_EventParam_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParam_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UL_EDCH_Information_r7(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* reportingAmount */
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "UE-Positioning-EventParam-r7");
-   /* reportFirstFix */
-   stat = rtxDecBitInline(ctx, &pvalue->reportFirstFix);
-   RT_CHECK(ctx, stat, 0, "reportFirstFix", -1, "UE-Positioning-EventParam-r7");
-   /* measurementInterval */
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementInterval, 0, 7);
-   RT_CHECK(ctx, stat, "UE-Positioning-MeasurementInterval", "measurementInterval", -1, "UE-Positioning-EventParam-r7");
-   /* eventSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_EventSpecificInfo_r7(ctx, &pvalue->eventSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "eventSpecificInfo", -1, "UE-Positioning-EventParam-r7");
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UL-EDCH-Information-r7");
+   /* mac-es-e-resetIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r7");
+         pvalue->mac_es_e_resetIndicator = ui;
+      }
+   }
+   /* modeSpecificInfo */
+   stat = dec_UL_EDCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-EDCH-Information-r7");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_EventParamList_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParamList_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UL_EDCH_Information_r7(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UL_EDCH_Information_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_SatID(rtxContext* RT_RESTRICT ctx, SatID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SatID");
+   return 0;
+}
+
+int asn1PD_UMTS_SatID(rtxContext* RT_RESTRICT ctx, SatID* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SatID, pvalue);
+}
+
+RT_MERGED_BODY int dec_DopplerUncertainty(rtxContext* RT_RESTRICT ctx, DopplerUncertainty* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DopplerUncertainty");
+   return 0;
+}
+
+int asn1PD_UMTS_DopplerUncertainty(rtxContext* RT_RESTRICT ctx, DopplerUncertainty* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DopplerUncertainty, pvalue);
+}
+
+RT_MERGED_BODY int dec_ExtraDopplerInfo(rtxContext* RT_RESTRICT ctx, ExtraDopplerInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* doppler1stOrder */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->doppler1stOrder, -42, 21);
+   RT_CHECK_AT(ctx, cur, stat, 0, "doppler1stOrder", -1, "ExtraDopplerInfo");
+   /* dopplerUncertainty */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dopplerUncertainty, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "DopplerUncertainty", "dopplerUncertainty", -1, "ExtraDopplerInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_ExtraDopplerInfo(rtxContext* RT_RESTRICT ctx, ExtraDopplerInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ExtraDopplerInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CodePhaseSearchWindow(rtxContext* RT_RESTRICT ctx, CodePhaseSearchWindow* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CodePhaseSearchWindow");
+   return 0;
+}
+
+int asn1PD_UMTS_CodePhaseSearchWindow(rtxContext* RT_RESTRICT ctx, CodePhaseSearchWindow* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CodePhaseSearchWindow, pvalue);
+}
+
+RT_MERGED_BODY int dec_AzimuthAndElevation(rtxContext* RT_RESTRICT ctx, AzimuthAndElevation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* azimuth */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->azimuth, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "azimuth", -1, "AzimuthAndElevation");
+   /* elevation */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->elevation, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "elevation", -1, "AzimuthAndElevation");
+   return 0;
+}
+
+int asn1PD_UMTS_AzimuthAndElevation(rtxContext* RT_RESTRICT ctx, AzimuthAndElevation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AzimuthAndElevation, pvalue);
+}
+
+RT_MERGED_BODY int dec_AcquisitionSatInfo(rtxContext* RT_RESTRICT ctx, AcquisitionSatInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AcquisitionSatInfo");
+   /* satID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, "SatID", "satID", -1, "AcquisitionSatInfo");
+   /* doppler0thOrder */
+   stat = pd_ConsInt16At(ctx, cur, &pvalue->doppler0thOrder, -2048, 2047);
+   RT_CHECK_AT(ctx, cur, stat, 0, "doppler0thOrder", -1, "AcquisitionSatInfo");
+   /* extraDopplerInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ExtraDopplerInfo(ctx, &pvalue->extraDopplerInfo, cur);
+      RT_CHECK(ctx, stat, 0, "extraDopplerInfo", -1, "AcquisitionSatInfo");
+   }
+   /* codePhase */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->codePhase, 0, 1022);
+   RT_CHECK_AT(ctx, cur, stat, 0, "codePhase", -1, "AcquisitionSatInfo");
+   /* integerCodePhase */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->integerCodePhase, 0, 19);
+   RT_CHECK_AT(ctx, cur, stat, 0, "integerCodePhase", -1, "AcquisitionSatInfo");
+   /* gps-BitNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->gps_BitNumber, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gps-BitNumber", -1, "AcquisitionSatInfo");
+   /* codePhaseSearchWindow */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->codePhaseSearchWindow, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "CodePhaseSearchWindow", "codePhaseSearchWindow", -1, "AcquisitionSatInfo");
+   /* azimuthAndElevation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_AzimuthAndElevation(ctx, &pvalue->azimuthAndElevation, cur);
+      RT_CHECK(ctx, stat, 0, "azimuthAndElevation", -1, "AcquisitionSatInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AcquisitionSatInfo(rtxContext* RT_RESTRICT ctx, AcquisitionSatInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AcquisitionSatInfo, pvalue);
+}
+
+static int dec_AcquisitionSatInfoList(rtxContext* RT_RESTRICT ctx, AcquisitionSatInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-EventParamList-r7");
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AcquisitionSatInfoList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      UE_Positioning_EventParam_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_EventParam_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-EventParam-r7", (int32_t)i, "UE-Positioning-EventParamList-r7");
-      elem = (UE_Positioning_EventParam_r7*)(node + 1);
+      AcquisitionSatInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AcquisitionSatInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "AcquisitionSatInfo", (int32_t)i, "AcquisitionSatInfoList");
+      elem = (AcquisitionSatInfo*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_UE_Positioning_EventParam_r7(elem);
+      asn1Init_UMTS_AcquisitionSatInfo(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_EventParam_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-EventParam-r7", (int32_t)i, "UE-Positioning-EventParamList-r7");
+      stat = dec_AcquisitionSatInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "AcquisitionSatInfo", (int32_t)i, "AcquisitionSatInfoList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_ReportCriteria_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportCriteria_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AcquisitionSatInfoList(rtxContext* RT_RESTRICT ctx, AcquisitionSatInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AcquisitionSatInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_AdditionalMeasurementID_List(rtxContext* RT_RESTRICT ctx, AdditionalMeasurementID_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportCriteria-r7");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ue-positioning-ReportingCriteria */
-         pvalue->u.ue_positioning_ReportingCriteria = (UE_Positioning_EventParamList_r7*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_EventParamList_r7));
-         if (pvalue->u.ue_positioning_ReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
-         asn1Init_UMTS_UE_Positioning_EventParamList_r7(pvalue->u.ue_positioning_ReportingCriteria);
-         stat = asn1PD_UMTS_UE_Positioning_EventParamList_r7(ctx, pvalue->u.ue_positioning_ReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
-         break;
-      case 1: /* periodicalReportingCriteria */
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
-         break;
-      case 2: /* noReporting */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-ReportCriteria-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellPosition */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
-      RT_CHECK(ctx, stat, 0, "cellPosition", -1, 0);
-   }
-   /* roundTripTime */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, 0);
-   }
-   /* roundTripTimeExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt32(ctx, &pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ueBased */
-         pvalue->u.ueBased = (UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased));
-         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueBased", -1, 0);
-         asn1Init_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(pvalue->u.ueBased);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
-         break;
-      case 1: /* ueAssisted */
-         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted));
-         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueAssisted", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   /* sfn */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   }
-   /* positioningMode */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* relativeNorth */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeNorth, -20000, 20000);
-      RT_CHECK(ctx, stat, 0, "relativeNorth", -1, 0);
-   }
-   /* relativeEast */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeEast, -20000, 20000);
-      RT_CHECK(ctx, stat, 0, "relativeEast", -1, 0);
-   }
-   /* relativeAltitude */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeAltitude, -4000, 4000);
-      RT_CHECK(ctx, stat, 0, "relativeAltitude", -1, 0);
-   }
-   /* fineSFN-SFN */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->fineSFN_SFN, 0, 15);
-      RT_CHECK(ctx, stat, "FineSFN-SFN", "fineSFN-SFN", -1, 0);
-   }
-   /* roundTripTime */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, 0);
-   }
-   /* roundTripTimeExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUInt32(ctx, &pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* ueBased */
-         pvalue->u.ueBased = (UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased));
-         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueBased", -1, 0);
-         asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(pvalue->u.ueBased);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
-         break;
-      case 1: /* ueAssisted */
-         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted));
-         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueAssisted", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   }
-   /* sfn-SFN-RelTimeDifference */
-   stat = asn1PD_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   /* sfn-Offset-Validity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-         pvalue->sfn_Offset_Validity = ui;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AdditionalMeasurementID-List");
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "AdditionalMeasurementID-List");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AdditionalMeasurementID-List");
       }
    }
-   /* sfn-SFN-Drift */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 16);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "MeasurementIdentity", "MeasurementIdentity", (int32_t)i, "AdditionalMeasurementID-List");
+      }
    }
-   /* searchWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   /* positioningMode */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AdditionalMeasurementID_List(rtxContext* RT_RESTRICT ctx, AdditionalMeasurementID_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AdditionalMeasurementID_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_AlmanacSatInfo(rtxContext* RT_RESTRICT ctx, AlmanacSatInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dataID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dataID, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dataID", -1, "AlmanacSatInfo");
+   /* satID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, "SatID", "satID", -1, "AlmanacSatInfo");
+   /* e */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->e, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "e", -1, "AlmanacSatInfo");
+   /* t-oa */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->t_oa, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-oa", -1, "AlmanacSatInfo");
+   /* deltaI */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->deltaI, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "deltaI", -1, "AlmanacSatInfo");
+   /* omegaDot */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->omegaDot, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "omegaDot", -1, "AlmanacSatInfo");
+   /* satHealth */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->satHealth, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "satHealth", -1, "AlmanacSatInfo");
+   /* a-Sqrt */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->a_Sqrt, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "a-Sqrt", -1, "AlmanacSatInfo");
+   /* omega0 */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->omega0, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "omega0", -1, "AlmanacSatInfo");
+   /* m0 */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->m0, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "m0", -1, "AlmanacSatInfo");
+   /* omega */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->omega, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "omega", -1, "AlmanacSatInfo");
+   /* af0 */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->af0, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "af0", -1, "AlmanacSatInfo");
+   /* af1 */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->af1, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "af1", -1, "AlmanacSatInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_AlmanacSatInfo(rtxContext* RT_RESTRICT ctx, AlmanacSatInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AlmanacSatInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_AlmanacSatInfoList(rtxContext* RT_RESTRICT ctx, AlmanacSatInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AlmanacSatInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      AlmanacSatInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AlmanacSatInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "AlmanacSatInfo", (int32_t)i, "AlmanacSatInfoList");
+      elem = (AlmanacSatInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_AlmanacSatInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "AlmanacSatInfo", (int32_t)i, "AlmanacSatInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AlmanacSatInfoList(rtxContext* RT_RESTRICT ctx, AlmanacSatInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AlmanacSatInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_SBASecef(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_SBASecef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sbasAlmDataID */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasAlmDataID, 2, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasAlmDataID", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* svID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->svID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmHealth */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasAlmHealth, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasAlmHealth", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmXg */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasAlmXg, 15, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasAlmXg", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmYg */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasAlmYg, 15, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasAlmYg", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmZg */
+   RT_SET_SIZE(ctx, 9, 9);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasAlmZg, 9, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasAlmZg", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmXgdot */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasAlmXgdot, 3, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasAlmXgdot", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmYgDot */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasAlmYgDot, 3, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasAlmYgDot", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmZgDot */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasAlmZgDot, 4, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasAlmZgDot", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmTo */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasAlmTo, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasAlmTo", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_SAT_Info_Almanac_SBASecef(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_SBASecef* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_SAT_Info_Almanac_SBASecef, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_SBASecefList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_SBASecefList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-SBASecefList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSS_SAT_Info_Almanac_SBASecef* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_SBASecef));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GANSS-SAT-Info-Almanac-SBASecef", (int32_t)i, "GANSS-SAT-Info-Almanac-SBASecefList");
+      elem = (GANSS_SAT_Info_Almanac_SBASecef*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSS_SAT_Info_Almanac_SBASecef(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-SBASecef", (int32_t)i, "GANSS-SAT-Info-Almanac-SBASecefList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_SAT_Info_Almanac_SBASecefList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_SBASecefList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_SAT_Info_Almanac_SBASecefList, pvalue);
+}
+
+static int dec_ALM_ECEFsbasAlmanacSet(rtxContext* RT_RESTRICT ctx, ALM_ECEFsbasAlmanacSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sat-info-SBASecefList */
+   stat = dec_GANSS_SAT_Info_Almanac_SBASecefList(ctx, &pvalue->sat_info_SBASecefList, cur);
+   RT_CHECK(ctx, stat, 0, "sat-info-SBASecefList", -1, "ALM-ECEFsbasAlmanacSet");
+   return 0;
+}
+
+int asn1PD_UMTS_ALM_ECEFsbasAlmanacSet(rtxContext* RT_RESTRICT ctx, ALM_ECEFsbasAlmanacSet* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ALM_ECEFsbasAlmanacSet, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_GLOkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_GLOkp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmNA */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloAlmNA, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloAlmNA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmnA */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloAlmnA, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloAlmnA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmHA */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloAlmHA, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloAlmHA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmLambdaA */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloAlmLambdaA, 21, 21);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloAlmLambdaA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmTlambdaA */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloAlmTlambdaA, 21, 21);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloAlmTlambdaA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmDeltaIA */
+   RT_SET_SIZE(ctx, 18, 18);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloAlmDeltaIA, 18, 18);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloAlmDeltaIA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAkmDeltaTA */
+   RT_SET_SIZE(ctx, 22, 22);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloAkmDeltaTA, 22, 22);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloAkmDeltaTA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmDeltaTdotA */
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloAlmDeltaTdotA, 7, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloAlmDeltaTdotA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmEpsilonA */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloAlmEpsilonA, 15, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloAlmEpsilonA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmOmegaA */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloAlmOmegaA, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloAlmOmegaA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmTauA */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloAlmTauA, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloAlmTauA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmCA */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloAlmCA, 1, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloAlmCA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmMA */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 2, 2);
+      stat = pd_BitString32At(ctx, cur, &pvalue->gloAlmMA, 2, 2);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gloAlmMA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_SAT_Info_Almanac_GLOkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_GLOkp* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_SAT_Info_Almanac_GLOkp, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_GLOkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_GLOkpList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-GLOkpList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSS_SAT_Info_Almanac_GLOkp* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_GLOkp));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GANSS-SAT-Info-Almanac-GLOkp", (int32_t)i, "GANSS-SAT-Info-Almanac-GLOkpList");
+      elem = (GANSS_SAT_Info_Almanac_GLOkp*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSS_SAT_Info_Almanac_GLOkp(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSS_SAT_Info_Almanac_GLOkp(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-GLOkp", (int32_t)i, "GANSS-SAT-Info-Almanac-GLOkpList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_SAT_Info_Almanac_GLOkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_GLOkpList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_SAT_Info_Almanac_GLOkpList, pvalue);
+}
+
+static int dec_ALM_GlonassAlmanacSet(rtxContext* RT_RESTRICT ctx, ALM_GlonassAlmanacSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sat-info-GLOkpList */
+   stat = dec_GANSS_SAT_Info_Almanac_GLOkpList(ctx, &pvalue->sat_info_GLOkpList, cur);
+   RT_CHECK(ctx, stat, 0, "sat-info-GLOkpList", -1, "ALM-GlonassAlmanacSet");
+   return 0;
+}
+
+int asn1PD_UMTS_ALM_GlonassAlmanacSet(rtxContext* RT_RESTRICT ctx, ALM_GlonassAlmanacSet* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ALM_GlonassAlmanacSet, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_Kp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_Kp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* svId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->svId, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "svId", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-alm-e */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->ganss_alm_e, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-alm-e", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-delta-I-alm */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->ganss_delta_I_alm, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-delta-I-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-omegadot-alm */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->ganss_omegadot_alm, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-omegadot-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-svhealth-alm */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32At(ctx, cur, &pvalue->ganss_svhealth_alm, 4, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-svhealth-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-delta-a-sqrt-alm */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pd_BitString32At(ctx, cur, &pvalue->ganss_delta_a_sqrt_alm, 17, 17);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-delta-a-sqrt-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-omegazero-alm */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->ganss_omegazero_alm, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-omegazero-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-m-zero-alm */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->ganss_m_zero_alm, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-m-zero-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-omega-alm */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->ganss_omega_alm, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-omega-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-af-zero-alm */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pd_BitString32At(ctx, cur, &pvalue->ganss_af_zero_alm, 14, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-af-zero-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-af-one-alm */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->ganss_af_one_alm, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-af-one-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_SAT_Info_Almanac_Kp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_Kp* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_SAT_Info_Almanac_Kp, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_KpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_KpList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-KpList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSS_SAT_Info_Almanac_Kp* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_Kp));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GANSS-SAT-Info-Almanac-Kp", (int32_t)i, "GANSS-SAT-Info-Almanac-KpList");
+      elem = (GANSS_SAT_Info_Almanac_Kp*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSS_SAT_Info_Almanac_Kp(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-Kp", (int32_t)i, "GANSS-SAT-Info-Almanac-KpList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_SAT_Info_Almanac_KpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_KpList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_SAT_Info_Almanac_KpList, pvalue);
+}
+
+static int dec_ALM_keplerianParameters(rtxContext* RT_RESTRICT ctx, ALM_keplerianParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* t-oa */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_oa, 0, 147);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-oa", -1, "ALM-keplerianParameters");
+   /* iod-a */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->iod_a, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "iod-a", -1, "ALM-keplerianParameters");
+   /* sat-info-kpList */
+   stat = dec_GANSS_SAT_Info_Almanac_KpList(ctx, &pvalue->sat_info_kpList, cur);
+   RT_CHECK(ctx, stat, 0, "sat-info-kpList", -1, "ALM-keplerianParameters");
+   return 0;
+}
+
+int asn1PD_UMTS_ALM_keplerianParameters(rtxContext* RT_RESTRICT ctx, ALM_keplerianParameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ALM_keplerianParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_MIDIkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_MIDIkp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* svID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->svID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmE */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->midiAlmE, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midiAlmE", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmDeltaI */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->midiAlmDeltaI, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midiAlmDeltaI", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmOmegaDot */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->midiAlmOmegaDot, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midiAlmOmegaDot", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmSqrtA */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pd_BitString32At(ctx, cur, &pvalue->midiAlmSqrtA, 17, 17);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midiAlmSqrtA", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmOmega0 */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->midiAlmOmega0, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midiAlmOmega0", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmOmega */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->midiAlmOmega, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midiAlmOmega", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmMo */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->midiAlmMo, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midiAlmMo", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmaf0 */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->midiAlmaf0, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midiAlmaf0", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmaf1 */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, &pvalue->midiAlmaf1, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midiAlmaf1", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmL1Health */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32At(ctx, cur, &pvalue->midiAlmL1Health, 1, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midiAlmL1Health", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmL2Health */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32At(ctx, cur, &pvalue->midiAlmL2Health, 1, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midiAlmL2Health", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmL5Health */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32At(ctx, cur, &pvalue->midiAlmL5Health, 1, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "midiAlmL5Health", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_SAT_Info_Almanac_MIDIkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_MIDIkp* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_SAT_Info_Almanac_MIDIkp, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_MIDIkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_MIDIkpList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-MIDIkpList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSS_SAT_Info_Almanac_MIDIkp* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_MIDIkp));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GANSS-SAT-Info-Almanac-MIDIkp", (int32_t)i, "GANSS-SAT-Info-Almanac-MIDIkpList");
+      elem = (GANSS_SAT_Info_Almanac_MIDIkp*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSS_SAT_Info_Almanac_MIDIkp(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-MIDIkp", (int32_t)i, "GANSS-SAT-Info-Almanac-MIDIkpList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_SAT_Info_Almanac_MIDIkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_MIDIkpList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_SAT_Info_Almanac_MIDIkpList, pvalue);
+}
+
+static int dec_ALM_MidiAlmanacSet(rtxContext* RT_RESTRICT ctx, ALM_MidiAlmanacSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* t-oa */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_oa, 0, 147);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-oa", -1, "ALM-MidiAlmanacSet");
+   /* sat-info-MIDIkpList */
+   stat = dec_GANSS_SAT_Info_Almanac_MIDIkpList(ctx, &pvalue->sat_info_MIDIkpList, cur);
+   RT_CHECK(ctx, stat, 0, "sat-info-MIDIkpList", -1, "ALM-MidiAlmanacSet");
+   return 0;
+}
+
+int asn1PD_UMTS_ALM_MidiAlmanacSet(rtxContext* RT_RESTRICT ctx, ALM_MidiAlmanacSet* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ALM_MidiAlmanacSet, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_NAVkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_NAVkp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* svID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->svID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmE */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navAlmE, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navAlmE", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmDeltaI */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navAlmDeltaI, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navAlmDeltaI", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmOMEGADOT */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navAlmOMEGADOT, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navAlmOMEGADOT", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmSVHealth */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navAlmSVHealth, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navAlmSVHealth", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmSqrtA */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navAlmSqrtA, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navAlmSqrtA", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmOMEGAo */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navAlmOMEGAo, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navAlmOMEGAo", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmOmega */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navAlmOmega, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navAlmOmega", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmMo */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navAlmMo, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navAlmMo", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmaf0 */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navAlmaf0, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navAlmaf0", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmaf1 */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navAlmaf1, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navAlmaf1", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_SAT_Info_Almanac_NAVkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_NAVkp* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_SAT_Info_Almanac_NAVkp, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_NAVkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_NAVkpList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-NAVkpList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSS_SAT_Info_Almanac_NAVkp* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_NAVkp));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GANSS-SAT-Info-Almanac-NAVkp", (int32_t)i, "GANSS-SAT-Info-Almanac-NAVkpList");
+      elem = (GANSS_SAT_Info_Almanac_NAVkp*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSS_SAT_Info_Almanac_NAVkp(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-NAVkp", (int32_t)i, "GANSS-SAT-Info-Almanac-NAVkpList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_SAT_Info_Almanac_NAVkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_NAVkpList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_SAT_Info_Almanac_NAVkpList, pvalue);
+}
+
+static int dec_ALM_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, ALM_NAVKeplerianSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* t-oa */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_oa, 0, 147);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-oa", -1, "ALM-NAVKeplerianSet");
+   /* sat-info-NAVkpList */
+   stat = dec_GANSS_SAT_Info_Almanac_NAVkpList(ctx, &pvalue->sat_info_NAVkpList, cur);
+   RT_CHECK(ctx, stat, 0, "sat-info-NAVkpList", -1, "ALM-NAVKeplerianSet");
+   return 0;
+}
+
+int asn1PD_UMTS_ALM_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, ALM_NAVKeplerianSet* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ALM_NAVKeplerianSet, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_REDkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_REDkp* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* svID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->svID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* redAlmDeltaA */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->redAlmDeltaA, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "redAlmDeltaA", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* redAlmOmega0 */
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pd_BitString32At(ctx, cur, &pvalue->redAlmOmega0, 7, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "redAlmOmega0", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* redAlmPhi0 */
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pd_BitString32At(ctx, cur, &pvalue->redAlmPhi0, 7, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "redAlmPhi0", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* redAlmL1Health */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32At(ctx, cur, &pvalue->redAlmL1Health, 1, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "redAlmL1Health", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* redAlmL2Health */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32At(ctx, cur, &pvalue->redAlmL2Health, 1, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "redAlmL2Health", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* redAlmL5Health */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32At(ctx, cur, &pvalue->redAlmL5Health, 1, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "redAlmL5Health", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_SAT_Info_Almanac_REDkp(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_REDkp* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_SAT_Info_Almanac_REDkp, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_SAT_Info_Almanac_REDkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_REDkpList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-REDkpList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSS_SAT_Info_Almanac_REDkp* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_REDkp));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GANSS-SAT-Info-Almanac-REDkp", (int32_t)i, "GANSS-SAT-Info-Almanac-REDkpList");
+      elem = (GANSS_SAT_Info_Almanac_REDkp*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSS_SAT_Info_Almanac_REDkp(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-REDkp", (int32_t)i, "GANSS-SAT-Info-Almanac-REDkpList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_SAT_Info_Almanac_REDkpList(rtxContext* RT_RESTRICT ctx, GANSS_SAT_Info_Almanac_REDkpList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_SAT_Info_Almanac_REDkpList, pvalue);
+}
+
+static int dec_ALM_ReducedKeplerianSet(rtxContext* RT_RESTRICT ctx, ALM_ReducedKeplerianSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* t-oa */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_oa, 0, 147);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-oa", -1, "ALM-ReducedKeplerianSet");
+   /* sat-info-REDkpList */
+   stat = dec_GANSS_SAT_Info_Almanac_REDkpList(ctx, &pvalue->sat_info_REDkpList, cur);
+   RT_CHECK(ctx, stat, 0, "sat-info-REDkpList", -1, "ALM-ReducedKeplerianSet");
+   return 0;
+}
+
+int asn1PD_UMTS_ALM_ReducedKeplerianSet(rtxContext* RT_RESTRICT ctx, ALM_ReducedKeplerianSet* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ALM_ReducedKeplerianSet, pvalue);
+}
+
+RT_MERGED_BODY int dec_AuxInfoGANSS_ID1_element(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID1_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* svID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->svID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "svID", -1, "AuxInfoGANSS-ID1-element");
+   /* signalsAvailable */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->signalsAvailable, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "signalsAvailable", -1, "AuxInfoGANSS-ID1-element");
+   return 0;
+}
+
+int asn1PD_UMTS_AuxInfoGANSS_ID1_element(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID1_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AuxInfoGANSS_ID1_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_AuxInfoGANSS_ID1(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AuxInfoGANSS-ID1");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      AuxInfoGANSS_ID1_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AuxInfoGANSS_ID1_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "AuxInfoGANSS-ID1-element", (int32_t)i, "AuxInfoGANSS-ID1");
+      elem = (AuxInfoGANSS_ID1_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_AuxInfoGANSS_ID1_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "AuxInfoGANSS-ID1-element", (int32_t)i, "AuxInfoGANSS-ID1");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AuxInfoGANSS_ID1(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AuxInfoGANSS_ID1, pvalue);
+}
+
+RT_MERGED_BODY int dec_AuxInfoGANSS_ID3_element(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID3_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* svID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->svID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "svID", -1, "AuxInfoGANSS-ID3-element");
+   /* signalsAvailable */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->signalsAvailable, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "signalsAvailable", -1, "AuxInfoGANSS-ID3-element");
+   /* channelNumber */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->channelNumber, -7, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, "channelNumber", -1, "AuxInfoGANSS-ID3-element");
+   return 0;
+}
+
+int asn1PD_UMTS_AuxInfoGANSS_ID3_element(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID3_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AuxInfoGANSS_ID3_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_AuxInfoGANSS_ID3(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AuxInfoGANSS-ID3");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      AuxInfoGANSS_ID3_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AuxInfoGANSS_ID3_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "AuxInfoGANSS-ID3-element", (int32_t)i, "AuxInfoGANSS-ID3");
+      elem = (AuxInfoGANSS_ID3_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_AuxInfoGANSS_ID3_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "AuxInfoGANSS-ID3-element", (int32_t)i, "AuxInfoGANSS-ID3");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AuxInfoGANSS_ID3(rtxContext* RT_RESTRICT ctx, AuxInfoGANSS_ID3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AuxInfoGANSS_ID3, pvalue);
+}
+
+RT_MERGED_BODY int dec_AverageRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, AverageRLC_BufferPayload* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AverageRLC-BufferPayload");
+   return 0;
+}
+
+int asn1PD_UMTS_AverageRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, AverageRLC_BufferPayload* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AverageRLC_BufferPayload, pvalue);
+}
+
+RT_MERGED_BODY int dec_BadSatList_element(rtxContext* RT_RESTRICT ctx, BadSatList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_BadSatList_element(rtxContext* RT_RESTRICT ctx, BadSatList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_BadSatList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_BadSatList(rtxContext* RT_RESTRICT ctx, BadSatList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BadSatList");
+      pvalue->n = n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "BadSatList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "BadSatList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 63);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, 0, "element", (int32_t)i, "BadSatList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_BadSatList(rtxContext* RT_RESTRICT ctx, BadSatList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_BadSatList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DL_TransportChannelBLER(rtxContext* RT_RESTRICT ctx, DL_TransportChannelBLER* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DL-TransportChannelBLER");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelBLER(rtxContext* RT_RESTRICT ctx, DL_TransportChannelBLER* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DL_TransportChannelBLER, pvalue);
+}
+
+RT_MERGED_BODY int dec_BLER_MeasurementResults(rtxContext* RT_RESTRICT ctx, BLER_MeasurementResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BLER-MeasurementResults");
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "BLER-MeasurementResults");
+   /* dl-TransportChannelBLER */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dl_TransportChannelBLER, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, "DL-TransportChannelBLER", "dl-TransportChannelBLER", -1, "BLER-MeasurementResults");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_BLER_MeasurementResults(rtxContext* RT_RESTRICT ctx, BLER_MeasurementResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_BLER_MeasurementResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_BLER_MeasurementResultsList(rtxContext* RT_RESTRICT ctx, BLER_MeasurementResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-r7");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BLER-MeasurementResultsList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      UE_Positioning_OTDOA_NeighbourCellInfo_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r7", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r7");
-      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_r7*)(node + 1);
+      BLER_MeasurementResults* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(BLER_MeasurementResults));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "BLER-MeasurementResults", (int32_t)i, "BLER-MeasurementResultsList");
+      elem = (BLER_MeasurementResults*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(elem);
+      asn1Init_UMTS_BLER_MeasurementResults(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r7", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r7");
+      stat = dec_BLER_MeasurementResults(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "BLER-MeasurementResults", (int32_t)i, "BLER-MeasurementResultsList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_BLER_MeasurementResultsList(rtxContext* RT_RESTRICT ctx, BLER_MeasurementResultsList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r7");
-   /* ue-positioning-OTDOA-ReferenceCellInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo", -1, "UE-Positioning-OTDOA-AssistanceData-r7");
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r7(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList", -1, "UE-Positioning-OTDOA-AssistanceData-r7");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_BLER_MeasurementResultsList, pvalue);
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime_r7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_BLER_TransChIdList(rtxContext* RT_RESTRICT ctx, BLER_TransChIdList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   /* gps-Week */
-   stat = pd_ConsUInt16(ctx, &pvalue->gps_Week, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "gps-Week", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   /* gps-tow-1msec */
-   stat = pd_ConsUInt32(ctx, &pvalue->gps_tow_1msec, 0, 604799999);
-   RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-tow-1msec", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   /* utran-GPSReferenceTime */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BLER-TransChIdList");
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "BLER-TransChIdList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "BLER-TransChIdList");
+      }
    }
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   }
-   /* sfn-tow-Uncertainty */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_tow_Uncertainty, 0, 1);
-      RT_CHECK(ctx, stat, "SFN-TOW-Uncertainty", "sfn-tow-Uncertainty", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   }
-   /* utran-GPS-DriftRate */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->utran_GPS_DriftRate, 0, 14);
-      RT_CHECK(ctx, stat, "UTRAN-GPS-DriftRate", "utran-GPS-DriftRate", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   }
-   /* gps-TOW-AssistList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_GPS_TOW_AssistList(ctx, &pvalue->gps_TOW_AssistList);
-      RT_CHECK(ctx, stat, 0, "gps-TOW-AssistList", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 32);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "BLER-TransChIdList");
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_BLER_TransChIdList(rtxContext* RT_RESTRICT ctx, BLER_TransChIdList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
-   /* gps-ReferenceTime */
-   stat = pd_ConsUInt32(ctx, &pvalue->gps_ReferenceTime, 0, 604799999);
-   RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-ReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
-   /* utran-GPSReferenceTime */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
-   }
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
-   }
-   /* satelliteInformationList */
-   stat = asn1PD_UMTS_AcquisitionSatInfoList(ctx, &pvalue->satelliteInformationList);
-   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_BLER_TransChIdList, pvalue);
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_r7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_BSIC_VerificationRequired(rtxContext* RT_RESTRICT ctx, BSIC_VerificationRequired* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r7");
-   /* ue-positioning-GPS-ReferenceTime */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-DGPS-Corrections */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-NavigationModel */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-Almanac */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-AcquisitionAssistance */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-Real-timeIntegrity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BSIC-VerificationRequired");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_BSIC_VerificationRequired(rtxContext* RT_RESTRICT ctx, BSIC_VerificationRequired* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* primary-CPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primary-CPICH-Info", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_BSIC_VerificationRequired, pvalue);
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellParameters */
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParameters, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParameters", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_BSICReported(rtxContext* RT_RESTRICT ctx, BSICReported* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BSICReported");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+      case 0: /* verifiedBSIC */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.verifiedBSIC, 0, 32);
+         RT_CHECK_AT(ctx, cur, stat, 0, "verifiedBSIC", -1, "BSICReported");
          break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+      case 1: /* nonVerifiedBSIC */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.nonVerifiedBSIC, 0, 1023);
+         RT_CHECK_AT(ctx, cur, stat, "BCCH-ARFCN", "nonVerifiedBSIC", -1, "BSICReported");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "BSICReported");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime* RT_RESTRICT pvalue)
+int asn1PD_UMTS_BSICReported(rtxContext* RT_RESTRICT ctx, BSICReported* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_BSICReported, pvalue);
+}
+
+RT_MERGED_BODY int dec_BurstModeParameters(rtxContext* RT_RESTRICT ctx, BurstModeParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* timingOfCellFrames */
-   stat = pd_ConsUInt32(ctx, &pvalue->timingOfCellFrames, 0, 3999999);
-   RT_CHECK(ctx, stat, 0, "timingOfCellFrames", -1, 0);
-   /* mode */
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat, 0, "mode", -1, 0);
-   /* referenceSfn */
-   stat = pd_ConsUInt16(ctx, &pvalue->referenceSfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "referenceSfn", -1, 0);
+   /* burstStart */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->burstStart, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "burstStart", -1, "BurstModeParameters");
+   /* burstLength */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->burstLength, 10, 25);
+   RT_CHECK_AT(ctx, cur, stat, 0, "burstLength", -1, "BurstModeParameters");
+   /* burstFreq */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->burstFreq, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "burstFreq", -1, "BurstModeParameters");
    return 0;
 }
 
-int asn1PD_UMTS_Tutran_Ganss_DriftRate(rtxContext* RT_RESTRICT ctx, Tutran_Ganss_DriftRate* RT_RESTRICT pvalue)
+int asn1PD_UMTS_BurstModeParameters(rtxContext* RT_RESTRICT ctx, BurstModeParameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_BurstModeParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellDCHMeasOccasionPattern_LCR_statusFlag(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionPattern_LCR_statusFlag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Tutran-Ganss-DriftRate");
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellDCHMeasOccasionPattern_LCR_statusFlag(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionPattern_LCR_statusFlag* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellDCHMeasOccasionPattern_LCR_statusFlag, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementOccasionPatternParameter(rtxContext* RT_RESTRICT ctx, MeasurementOccasionPatternParameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-ReferenceTime");
-   /* ganssDay */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->ganssDay, 0, 8191);
-      RT_CHECK(ctx, stat, 0, "ganssDay", -1, "UE-Positioning-GANSS-ReferenceTime");
-   }
-   /* ganssTod */
-   stat = pd_ConsUInt32(ctx, &pvalue->ganssTod, 0, 86399);
-   RT_CHECK(ctx, stat, 0, "ganssTod", -1, "UE-Positioning-GANSS-ReferenceTime");
-   /* ganssTodUncertainty */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssTodUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, 0, "ganssTodUncertainty", -1, "UE-Positioning-GANSS-ReferenceTime");
-   }
-   /* ganssTimeId */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssTimeId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssTimeId", -1, "UE-Positioning-GANSS-ReferenceTime");
-   }
-   /* utran-ganssreferenceTime */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(ctx, &pvalue->utran_ganssreferenceTime);
-      RT_CHECK(ctx, stat, 0, "utran-ganssreferenceTime", -1, "UE-Positioning-GANSS-ReferenceTime");
-   }
-   /* tutran-ganss-driftRate */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementOccasionPatternParameter");
+   /* measurement-Occasion-Coeff */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->measurement_Occasion_Coeff, 1, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, "measurement-Occasion-Coeff", -1, "MeasurementOccasionPatternParameter");
+   /* measurement-Occasion-Offset */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->measurement_Occasion_Offset, 0, 511);
+   RT_CHECK_AT(ctx, cur, stat, 0, "measurement-Occasion-Offset", -1, "MeasurementOccasionPatternParameter");
+   /* measurement-Occasion-Length */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->measurement_Occasion_Length, 1, 512);
+   RT_CHECK_AT(ctx, cur, stat, 0, "measurement-Occasion-Length", -1, "MeasurementOccasionPatternParameter");
+   /* timeslotBitmap */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tutran_ganss_driftRate, 0, 15);
-      RT_CHECK(ctx, stat, "Tutran-Ganss-DriftRate", "tutran-ganss-driftRate", -1, "UE-Positioning-GANSS-ReferenceTime");
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 7, 7);
+      stat = pd_BitString32At(ctx, cur, &pvalue->timeslotBitmap, 7, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "timeslotBitmap", -1, "MeasurementOccasionPatternParameter");
    }
    return 0;
+}
+
+int asn1PD_UMTS_MeasurementOccasionPatternParameter(rtxContext* RT_RESTRICT ctx, MeasurementOccasionPatternParameter* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementOccasionPatternParameter, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellDCHMeasOccasionPattern_LCR(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionPattern_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellDCHMeasOccasionPattern-LCR");
+   /* patternIdentifier */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->patternIdentifier, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "patternIdentifier", -1, "CellDCHMeasOccasionPattern-LCR");
+   /* statusFlag */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->statusFlag, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "statusFlag", -1, "CellDCHMeasOccasionPattern-LCR");
+   /* measurementPurpose */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 5, 5);
+      stat = pd_BitString32At(ctx, cur, &pvalue->measurementPurpose, 5, 5);
+      RT_CHECK_AT(ctx, cur, stat, 0, "measurementPurpose", -1, "CellDCHMeasOccasionPattern-LCR");
+   }
+   /* measurementOccasionPatternParameter */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MeasurementOccasionPatternParameter(ctx, &pvalue->measurementOccasionPatternParameter, cur);
+      RT_CHECK(ctx, stat, 0, "measurementOccasionPatternParameter", -1, "CellDCHMeasOccasionPattern-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellDCHMeasOccasionPattern_LCR(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionPattern_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellDCHMeasOccasionPattern_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 5);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellDCHMeasOccasionPattern_LCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellDCHMeasOccasionPattern_LCR));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellDCHMeasOccasionPattern-LCR", (int32_t)i, 0);
+      elem = (CellDCHMeasOccasionPattern_LCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellDCHMeasOccasionPattern_LCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellDCHMeasOccasionPattern_LCR(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellDCHMeasOccasionPattern-LCR", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList, pvalue);
+}
+
+static int dec_CellDCHMeasOccasionInfo_TDD128_r9(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionInfo_TDD128_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellDCHMeasOccasionSequenceList */
+   stat = dec_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(ctx, &pvalue->cellDCHMeasOccasionSequenceList, cur);
+   RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionSequenceList", -1, "CellDCHMeasOccasionInfo-TDD128-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionInfo_TDD128_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellDCHMeasOccasionInfo_TDD128_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   }
+   /* primaryCPICH-TX-Power */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tx_DiversityIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = dec_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TimeslotInfoList(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo_modeSpecificInfo, pvalue);
+}
+
+static int dec_CellInfo(rtxContext* RT_RESTRICT ctx, CellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellInfo");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_AT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfo");
+   }
+   /* modeSpecificInfo */
+   stat = dec_CellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo(rtxContext* RT_RESTRICT ctx, CellInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   }
+   /* primaryCPICH-TX-Power */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tx_DiversityIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotInfoList_r4_tdd384(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_r4_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TimeslotInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TimeslotInfo", (int32_t)i, 0);
+      elem = (TimeslotInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TimeslotInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "TimeslotInfo", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotInfoList_r4_tdd384(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_r4_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotInfoList_r4_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotInfoList_r4_tdd128(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_r4_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TimeslotInfo_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TimeslotInfo-LCR-r4", (int32_t)i, 0);
+      elem = (TimeslotInfo_LCR_r4*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TimeslotInfo_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "TimeslotInfo-LCR-r4", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotInfoList_r4_tdd128(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_r4_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotInfoList_r4_tdd128, pvalue);
+}
+
+static int dec_TimeslotInfoList_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeslotInfoList-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (TimeslotInfoList_r4_tdd384*)rtxMemHeapAlloc(ctx, sizeof(TimeslotInfoList_r4_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, "TimeslotInfoList-r4");
+         asn1Init_UMTS_TimeslotInfoList_r4_tdd384(pvalue->u.tdd384);
+         stat = dec_TimeslotInfoList_r4_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, "TimeslotInfoList-r4");
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (TimeslotInfoList_r4_tdd128*)rtxMemHeapAlloc(ctx, sizeof(TimeslotInfoList_r4_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, "TimeslotInfoList-r4");
+         asn1Init_UMTS_TimeslotInfoList_r4_tdd128(pvalue->u.tdd128);
+         stat = dec_TimeslotInfoList_r4_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, "TimeslotInfoList-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TimeslotInfoList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotInfoList_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotInfoList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = dec_PrimaryCCPCH_Info_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TimeslotInfoList_r4(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellInfo_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellInfo_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo_r4_modeSpecificInfo, pvalue);
+}
+
+static int dec_CellInfo_r4(rtxContext* RT_RESTRICT ctx, CellInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellInfo-r4");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_AT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo-r4");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfo-r4");
+   }
+   /* modeSpecificInfo */
+   stat = dec_CellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfo-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo_r4(rtxContext* RT_RESTRICT ctx, CellInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-QualMin */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_QualMin, -24, 0);
+      RT_CHECK_AT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   }
+   /* q-RxlevMin */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_AT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2: /* gsm */
+         pvalue->u.gsm = (CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(pvalue->u.gsm);
+         stat = dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo, pvalue);
+}
+
+static int dec_CellSelectReselectInfoMC_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoMC-RSCP");
+   /* q-OffsetS-N */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->q_OffsetS_N, -50, 50);
+      RT_CHECK_AT(ctx, cur, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoMC-RSCP");
+   }
+   else {
+      pvalue->q_OffsetS_N = 0;
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoMC-RSCP");
+   }
+   /* hcs-NeighbouringCellInformation-RSCP */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP, cur);
+      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoMC-RSCP");
+   }
+   /* modeSpecificInfo */
+   stat = dec_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoMC-RSCP");
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoMC_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoMC_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfo_LCR_r8_ext(rtxContext* RT_RESTRICT ctx, CellInfo_LCR_r8_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellInfo-LCR-r8-ext");
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellSelectReselectInfoMC_RSCP(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfo-LCR-r8-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo_LCR_r8_ext(rtxContext* RT_RESTRICT ctx, CellInfo_LCR_r8_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo_LCR_r8_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfo_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfo_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   }
+   /* primaryCPICH-TX-Power */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->tx_DiversityIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfo_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo_r9_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfo_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfo_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = dec_PrimaryCCPCH_Info_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TimeslotInfoList_r4(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->readSFN_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfo_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo_r9_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellInfo_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfo_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellInfo_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_r9_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellInfo_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellInfo_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellInfo_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_r9_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellInfo_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellInfo_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfo_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo_r9_modeSpecificInfo, pvalue);
+}
+
+static int dec_CellInfo_r9(rtxContext* RT_RESTRICT ctx, CellInfo_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellInfo-r9");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_AT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo-r9");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfo-r9");
+   }
+   /* modeSpecificInfo */
+   stat = dec_CellInfo_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfo-r9");
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CellSelectReselectInfoMC_RSCP(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfo-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfo_r9(rtxContext* RT_RESTRICT ctx, CellInfo_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellInfo_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_SFN_SFN_ObsTimeDifference1(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt32At(ctx, cur, pvalue, 0, 16777215);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SFN-SFN-ObsTimeDifference1");
+   return 0;
+}
+
+int asn1PD_UMTS_SFN_SFN_ObsTimeDifference1(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SFN_SFN_ObsTimeDifference1, pvalue);
+}
+
+RT_MERGED_BODY int dec_SFN_SFN_ObsTimeDifference2(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SFN-SFN-ObsTimeDifference2");
+   return 0;
+}
+
+int asn1PD_UMTS_SFN_SFN_ObsTimeDifference2(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SFN_SFN_ObsTimeDifference2, pvalue);
+}
+
+RT_MERGED_BODY int dec_SFN_SFN_ObsTimeDifference(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SFN-SFN-ObsTimeDifference");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* type1 */
+         stat = pd_ConsUInt32At(ctx, cur, &pvalue->u.type1, 0, 16777215);
+         RT_CHECK_AT(ctx, cur, stat, "SFN-SFN-ObsTimeDifference1", "type1", -1, "SFN-SFN-ObsTimeDifference");
+         break;
+      case 1: /* type2 */
+         stat = pd_ConsUInt16At(ctx, cur, &pvalue->u.type2, 0, 65535);
+         RT_CHECK_AT(ctx, cur, stat, "SFN-SFN-ObsTimeDifference2", "type2", -1, "SFN-SFN-ObsTimeDifference");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SFN-SFN-ObsTimeDifference");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SFN_SFN_ObsTimeDifference(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SFN_SFN_ObsTimeDifference, pvalue);
+}
+
+RT_MERGED_BODY int dec_CountC_SFN_Frame_difference(rtxContext* RT_RESTRICT ctx, CountC_SFN_Frame_difference* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* countC-SFN-High */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->countC_SFN_High, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "countC-SFN-High", -1, "CountC-SFN-Frame-difference");
+   /* off */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->off, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "off", -1, "CountC-SFN-Frame-difference");
+   return 0;
+}
+
+int asn1PD_UMTS_CountC_SFN_Frame_difference(rtxContext* RT_RESTRICT ctx, CountC_SFN_Frame_difference* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CountC_SFN_Frame_difference, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSynchronisationInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* countC-SFN-Frame-difference */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CountC_SFN_Frame_difference(ctx, &pvalue->countC_SFN_Frame_difference, cur);
+      RT_CHECK(ctx, stat, 0, "countC-SFN-Frame-difference", -1, 0);
+   }
+   /* tm */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->tm, 0, 38399);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tm", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSynchronisationInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSynchronisationInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* countC-SFN-Frame-difference */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CountC_SFN_Frame_difference(ctx, &pvalue->countC_SFN_Frame_difference, cur);
+      RT_CHECK(ctx, stat, 0, "countC-SFN-Frame-difference", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSynchronisationInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSynchronisationInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellSynchronisationInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSynchronisationInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellSynchronisationInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellSynchronisationInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSynchronisationInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellSynchronisationInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSynchronisationInfo_modeSpecificInfo, pvalue);
+}
+
+static int dec_CellSynchronisationInfo(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_CellSynchronisationInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSynchronisationInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_CellSynchronisationInfo(rtxContext* RT_RESTRICT ctx, CellSynchronisationInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellSynchronisationInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CPICH_Ec_N0(rtxContext* RT_RESTRICT ctx, CPICH_Ec_N0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CPICH-Ec-N0");
+   return 0;
+}
+
+int asn1PD_UMTS_CPICH_Ec_N0(rtxContext* RT_RESTRICT ctx, CPICH_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CPICH_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int dec_CPICH_RSCP(rtxContext* RT_RESTRICT ctx, CPICH_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CPICH-RSCP");
+   return 0;
+}
+
+int asn1PD_UMTS_CPICH_RSCP(rtxContext* RT_RESTRICT ctx, CPICH_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CPICH_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_Pathloss(rtxContext* RT_RESTRICT ctx, Pathloss* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 46, 173);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Pathloss");
+   return 0;
+}
+
+int asn1PD_UMTS_Pathloss(rtxContext* RT_RESTRICT ctx, Pathloss* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Pathloss, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* cpich-Ec-N0 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cpich_Ec_N0, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+   }
+   /* cpich-RSCP */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cpich_RSCP, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
+   }
+   /* pathloss */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pathloss, 46, 173);
+      RT_CHECK_AT(ctx, cur, stat, "Pathloss", "pathloss", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasuredResults_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_PrimaryCCPCH_RSCP(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_RSCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PrimaryCCPCH-RSCP");
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_RSCP(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_RSCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PrimaryCCPCH_RSCP, pvalue);
 }
 

@@ -6,9018 +6,9368 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_ReferenceLocationGANSS(rtxContext* RT_RESTRICT ctx, ReferenceLocationGANSS* RT_RESTRICT pvalue)
+/* The bodies of this unit. */
+RT_MERGED_BODY int dec_TimeslotISCP(rtxContext* RT_RESTRICT ctx, TimeslotISCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotISCP_List(rtxContext* RT_RESTRICT ctx, TimeslotISCP_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellMeasuredResults(rtxContext* RT_RESTRICT ctx, CellMeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeltaRSCPPerCell(rtxContext* RT_RESTRICT ctx, DeltaRSCPPerCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasuredResults_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasuredResults_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasuredResults_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasuredResults_r9(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasuredResults_v920ext_csgMemberIndication(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_v920ext_csgMemberIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasurementEventResults_fdd(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasurementEventResults_tdd(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellMeasurementEventResults(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasurementEventResultsOnSecUlFreq_fdd(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResultsOnSecUlFreq_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasurementEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellMeasurementEventResults_LCR_r4(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellSelectReselectInfoPCHFACH_v5b0ext(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoPCHFACH_v5b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellsForInterFreqMeasList(rtxContext* RT_RESTRICT ctx, CellsForInterFreqMeasList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellsForIntraFreqMeasList(rtxContext* RT_RESTRICT ctx, CellsForIntraFreqMeasList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellIDOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellIDOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellsForIntraFreqMeasListOnSecULFreq(rtxContext* RT_RESTRICT ctx, CellsForIntraFreqMeasListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellToReport(rtxContext* RT_RESTRICT ctx, CellToReport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellToReportList(rtxContext* RT_RESTRICT ctx, CellToReportList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CNAVclockModel(rtxContext* RT_RESTRICT ctx, CNAVclockModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CSGCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CSGCellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGCellInfo(rtxContext* RT_RESTRICT ctx, CSGCellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGCellInfoList(rtxContext* RT_RESTRICT ctx, CSGCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGInterFreqCellInfo(rtxContext* RT_RESTRICT ctx, CSGInterFreqCellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGInterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, CSGInterFreqCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGIntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, CSGIntraFreqCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGProximityDetection_uTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_uTRACSGProximityDetec* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGProximityDetection_e_UTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_e_UTRACSGProximityDetec* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGProximityDetection(rtxContext* RT_RESTRICT ctx, CSGProximityDetection* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGProximityIndication_cSGproximityInd(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_cSGproximityInd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGProximityIndication_radioAccessTechnology_uTRA(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_radioAccessTechnology_uTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGProximityIndication_radioAccessTechnology_e_UTRA(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_radioAccessTechnology_e_UTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGProximityIndication_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_radioAccessTechnology* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CSGProximityIndication(rtxContext* RT_RESTRICT ctx, CSGProximityIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DataBitAssistance_data_bits(rtxContext* RT_RESTRICT ctx, DataBitAssistance_data_bits* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DataBitAssistance(rtxContext* RT_RESTRICT ctx, DataBitAssistance* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DataBitAssistanceSgnList(rtxContext* RT_RESTRICT ctx, DataBitAssistanceSgnList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DataBitAssistanceSat(rtxContext* RT_RESTRICT ctx, DataBitAssistanceSat* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DataBitAssistanceList(rtxContext* RT_RESTRICT ctx, DataBitAssistanceList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeltaPRC(rtxContext* RT_RESTRICT ctx, DeltaPRC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeltaRRC(rtxContext* RT_RESTRICT ctx, DeltaRRC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DeltaUT1(rtxContext* RT_RESTRICT ctx, DeltaUT1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_Status_Health(rtxContext* RT_RESTRICT ctx, GANSS_Status_Health* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UDRE(rtxContext* RT_RESTRICT ctx, UDRE* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSSSignalInformation(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSSSignalInformationList(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSSInfo(rtxContext* RT_RESTRICT ctx, DGANSSInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UDREGrowthRate(rtxContext* RT_RESTRICT ctx, UDREGrowthRate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UDREValidityTime(rtxContext* RT_RESTRICT ctx, UDREValidityTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSSSignalInformation_r9(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformation_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSSSignalInformationList_r9(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformationList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSSInfo_r9(rtxContext* RT_RESTRICT ctx, DGANSSInfo_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSSSignalInformation_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformation_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSSSignalInformationList_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformationList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSSInfo_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSInfo_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSSInfoList(rtxContext* RT_RESTRICT ctx, DGANSSInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSSInfoList_r9(rtxContext* RT_RESTRICT ctx, DGANSSInfoList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSSInfoList_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSInfoList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGANSS_Sig_Id_Req(rtxContext* RT_RESTRICT ctx, DGANSS_Sig_Id_Req* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IODE(rtxContext* RT_RESTRICT ctx, IODE* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PRC(rtxContext* RT_RESTRICT ctx, PRC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RRC(rtxContext* RT_RESTRICT ctx, RRC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGPS_CorrectionSatInfo(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGPS_CorrectionSatInfo_r9(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfo_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGPS_CorrectionSatInfo_v920ext(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfo_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGPS_CorrectionSatInfoList(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGPS_CorrectionSatInfoList_r9(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfoList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DGPS_CorrectionSatInfoList_v920ext(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfoList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DiffCorrectionStatus(rtxContext* RT_RESTRICT ctx, DiffCorrectionStatus* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EllipsoidPoint_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPoint_latitudeSign* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EllipsoidPoint(rtxContext* RT_RESTRICT ctx, EllipsoidPoint* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EllipsoidPointAltitude_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_latitudeSign* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EllipsoidPointAltitude_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_altitudeDirection* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EllipsoidPointAltitude(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EllipsoidPointAltitudeEllipsoide_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_latitudeSign* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EllipsoidPointAltitudeEllipsoide_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_altitudeDirection* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EllipsoidPointAltitudeEllipsoide(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EllipsoidPointUncertCircle_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertCircle_latitudeSign* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EllipsoidPointUncertCircle(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertCircle* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EllipsoidPointUncertEllipse_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertEllipse_latitudeSign* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EllipsoidPointUncertEllipse(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertEllipse* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EnvironmentCharacterisation(rtxContext* RT_RESTRICT ctx, EnvironmentCharacterisation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Eutra_EventResult_reportedCells(rtxContext* RT_RESTRICT ctx, Eutra_EventResult_reportedCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Eutra_EventResult(rtxContext* RT_RESTRICT ctx, Eutra_EventResult* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Eutra_EventResultList(rtxContext* RT_RESTRICT ctx, Eutra_EventResultList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EventIDInterRAT(rtxContext* RT_RESTRICT ctx, EventIDInterRAT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_EventResults(rtxContext* RT_RESTRICT ctx, EUTRA_EventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_MeasurementBandwidth(rtxContext* RT_RESTRICT ctx, EUTRA_MeasurementBandwidth* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_FrequencyAndPriorityInfo(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_FrequencyAndPriorityInfo_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfo_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_FrequencyAndPriorityInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_FrequencyAndPriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfoList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_FrequencyRemoval_removeSomeFrequencies(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyRemoval_removeSomeFrequencies* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_FrequencyRemoval(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyRemoval* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_FrequencyInfo(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_FrequencyInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_FrequencyList(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_SIAcquisition(rtxContext* RT_RESTRICT ctx, EUTRA_SIAcquisition* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_FrequencyList_r9(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_MeasuredCells(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Eutra_MeasuredResult_measuredEUTRACells(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult_measuredEUTRACells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Eutra_MeasuredResult(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Eutra_MeasuredResultList(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResultList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_MeasuredResults(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_SIacquisitionResults_cgiInfo(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_cgiInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_SIacquisitionResults_csgMemberIndication(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_csgMemberIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_SIacquisitionResults(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_MeasuredCells_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredCells_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Eutra_MeasuredResult_v920ext(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Eutra_MeasuredResultList_v920ext(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResultList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EUTRA_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredResults_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ForbiddenAffectCell_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ForbiddenAffectCellList_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1a_r4(rtxContext* RT_RESTRICT ctx, Event1a_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ForbiddenAffectCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ForbiddenAffectCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1a_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, Event1a_OnSecUlFreq_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1b_r4(rtxContext* RT_RESTRICT ctx, Event1b_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1b_r7(rtxContext* RT_RESTRICT ctx, Event1b_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1b_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, Event1b_OnSecUlFreq_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1d(rtxContext* RT_RESTRICT ctx, Event1d* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ThresholdUsedFrequency_r6(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1e_r6(rtxContext* RT_RESTRICT ctx, Event1e_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1f_r6(rtxContext* RT_RESTRICT ctx, Event1f_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event1j_r6(rtxContext* RT_RESTRICT ctx, Event1j_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HysteresisInterFreq(rtxContext* RT_RESTRICT ctx, HysteresisInterFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NonUsedFreqParameter(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NonUsedFreqParameterList(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameterList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event2a(rtxContext* RT_RESTRICT ctx, Event2a* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NonUsedFreqWList_r6(rtxContext* RT_RESTRICT ctx, NonUsedFreqWList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event2a_r6(rtxContext* RT_RESTRICT ctx, Event2a_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event2b(rtxContext* RT_RESTRICT ctx, Event2b* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Threshold_r6(rtxContext* RT_RESTRICT ctx, Threshold_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NonUsedFreqParameter_r6(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameter_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NonUsedFreqParameterList_r6(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameterList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event2b_r6(rtxContext* RT_RESTRICT ctx, Event2b_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event2c(rtxContext* RT_RESTRICT ctx, Event2c* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event2c_r6(rtxContext* RT_RESTRICT ctx, Event2c_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event2d(rtxContext* RT_RESTRICT ctx, Event2d* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event2d_r6(rtxContext* RT_RESTRICT ctx, Event2d_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event2e(rtxContext* RT_RESTRICT ctx, Event2e* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event2e_r6(rtxContext* RT_RESTRICT ctx, Event2e_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event2f(rtxContext* RT_RESTRICT ctx, Event2f* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event2f_r6(rtxContext* RT_RESTRICT ctx, Event2f_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event3a(rtxContext* RT_RESTRICT ctx, Event3a* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event3b(rtxContext* RT_RESTRICT ctx, Event3b* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event3c(rtxContext* RT_RESTRICT ctx, Event3c* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Event3d(rtxContext* RT_RESTRICT ctx, Event3d* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EventIDInterFreq(rtxContext* RT_RESTRICT ctx, EventIDInterFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EventIDIntraFreq(rtxContext* RT_RESTRICT ctx, EventIDIntraFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventResults(rtxContext* RT_RESTRICT ctx, IntraFreqEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCell(rtxContext* RT_RESTRICT ctx, InterFreqCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellList(rtxContext* RT_RESTRICT ctx, InterFreqCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqEventResults(rtxContext* RT_RESTRICT ctx, InterFreqEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATEventResults(rtxContext* RT_RESTRICT ctx, InterRATEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TrafficVolumeEventResults(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_QualityEventResults(rtxContext* RT_RESTRICT ctx, QualityEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalEventResults(rtxContext* RT_RESTRICT ctx, UE_InternalEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTimeResult(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GPS_TOW_1msec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1msec* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_PositionEstimate(rtxContext* RT_RESTRICT ctx, PositionEstimate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_PositionEstimateInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RX_TX_TimeDifferenceType2(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_Quality(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Quality* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NeighbourQuality(rtxContext* RT_RESTRICT ctx, NeighbourQuality* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RX_TX_TimeDifferenceType2Info(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Neighbour_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Neighbour_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Neighbour_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, Neighbour_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Neighbour_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Neighbour_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Neighbour(rtxContext* RT_RESTRICT ctx, Neighbour* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NeighbourList(rtxContext* RT_RESTRICT ctx, NeighbourList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_OTDOA_Measurement(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_MeasurementResults_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_MeasurementResults_referenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MultipathIndicator(rtxContext* RT_RESTRICT ctx, MultipathIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GPS_MeasurementParam(rtxContext* RT_RESTRICT ctx, GPS_MeasurementParam* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GPS_MeasurementParamList(rtxContext* RT_RESTRICT ctx, GPS_MeasurementParamList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GPS_MeasurementResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_MeasurementResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_MeasurementEventResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_EventResults(rtxContext* RT_RESTRICT ctx, EventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GANSSReferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_mode_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GANSSReferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_mode_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GANSSReferenceTime_mode(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UTRAN_GANSSReferenceTime(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSReferenceTimeOnly(rtxContext* RT_RESTRICT ctx, GANSSReferenceTimeOnly* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HorizontalVelocity(rtxContext* RT_RESTRICT ctx, HorizontalVelocity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HorizontalWithVerticalVelocity_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity_verticalSpeedDirection* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HorizontalWithVerticalVelocity(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HorizontalVelocityWithUncertainty(rtxContext* RT_RESTRICT ctx, HorizontalVelocityWithUncertainty* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HorizontalWithVerticalVelocityAndUncertainty(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_VelocityEstimate(rtxContext* RT_RESTRICT ctx, VelocityEstimate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_ReferenceTimeUncertainty(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTimeUncertainty* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_PositionEstimateInfo_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_MeasurementResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_MeasurementResults_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_MeasuredResults_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_MeasuredResults_referenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSMeasurementParameters_element_multipathIndicator(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element_multipathIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSMeasurementParameters_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSMeasurementParameters(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSMeasurementSignalList_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSMeasurementSignalList(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSGenericMeasurementInfo_element(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSGenericMeasurementInfo(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_MeasuredResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_MeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_MeasurementEventResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementEventResults_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EventResults_v770ext(rtxContext* RT_RESTRICT ctx, EventResults_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSMeasurementParameters_v860ext_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_v860ext_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSMeasurementParameters_v860ext(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSMeasurementSignalList_v860ext_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList_v860ext_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSMeasurementSignalList_v860ext(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSGenericMeasurementInfo_v860ext_element(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo_v860ext_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSGenericMeasurementInfo_v860ext(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_MeasuredResults_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_MeasurementEventResults_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementEventResults_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EventResults_v860ext(rtxContext* RT_RESTRICT ctx, EventResults_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_EventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, EventResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ExtraDoppler_dopplerUncertainty(rtxContext* RT_RESTRICT ctx, ExtraDoppler_dopplerUncertainty* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ExtraDoppler(rtxContext* RT_RESTRICT ctx, ExtraDoppler* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FineSFN_SFN(rtxContext* RT_RESTRICT ctx, FineSFN_SFN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FreqQualityEstimateQuantity_FDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_FDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FreqQualityEstimateQuantity_TDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReqDataBitAssistance_ganssSatelliteInfo_element(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReqDataBitAssistance_ganssSatelliteInfo(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReqDataBitAssistance(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GanssDataBits(rtxContext* RT_RESTRICT ctx, GanssDataBits* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSDecipheringKeys_currentDecipheringKey(rtxContext* RT_RESTRICT ctx, GANSSDecipheringKeys_currentDecipheringKey* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSDecipheringKeys_nextDecipheringKey(rtxContext* RT_RESTRICT ctx, GANSSDecipheringKeys_nextDecipheringKey* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSDecipheringKeys(rtxContext* RT_RESTRICT ctx, GANSSDecipheringKeys* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_TimeModel_gnss_to_id(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel_gnss_to_id* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_TimeModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSTimeModelsList(rtxContext* RT_RESTRICT ctx, GANSSTimeModelsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_DGANSSCorrections(rtxContext* RT_RESTRICT ctx, UE_Positioning_DGANSSCorrections* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel_non_broadcastIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Satellite_clock_model(rtxContext* RT_RESTRICT ctx, Satellite_clock_model* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Satellite_clock_modelList(rtxContext* RT_RESTRICT ctx, Satellite_clock_modelList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_ClockModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ClockModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_KeplerianParameters(rtxContext* RT_RESTRICT ctx, KeplerianParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_OrbitModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_OrbitModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_Ganss_Sat_Info_Nav(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_Nav* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Ganss_Sat_Info_NavList(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_NavList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_NavigationModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_RealTimeIntegrity_element(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_RealTimeIntegrity_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_RealTimeIntegrity(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_RealTimeIntegrity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_Data_Bit_Assistance(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Data_Bit_Assistance* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSSatelliteInformation(rtxContext* RT_RESTRICT ctx, GANSSSatelliteInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSSatelliteInformationList(rtxContext* RT_RESTRICT ctx, GANSSSatelliteInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_ReferenceMeasurementInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceMeasurementInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_Almanac(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Almanac* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_UTCModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_UTCModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_GANSSGenericData(rtxContext* RT_RESTRICT ctx, GANSSGenericData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NAVclockModel(rtxContext* RT_RESTRICT ctx, NAVclockModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GLONASSclockModel(rtxContext* RT_RESTRICT ctx, GLONASSclockModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SBASclockModel(rtxContext* RT_RESTRICT ctx, SBASclockModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_AddClockModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddClockModels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NavModel_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, NavModel_NAVKeplerianSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NavModel_CNAVKeplerianSet_cnavMo(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavMo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NavModel_CNAVKeplerianSet_cnavE(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavE* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NavModel_CNAVKeplerianSet_cnavOmega(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavOmega* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NavModel_CNAVKeplerianSet_cnavOMEGA0(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavOMEGA0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NavModel_CNAVKeplerianSet_cnavIo(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavIo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NavModel_CNAVKeplerianSet(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NavModel_GLONASSecef(rtxContext* RT_RESTRICT ctx, NavModel_GLONASSecef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NavModel_SBASecef(rtxContext* RT_RESTRICT ctx, NavModel_SBASecef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_AddOrbitModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddOrbitModels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Ganss_Sat_Info_AddNav(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_AddNav* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Ganss_Sat_Info_AddNavList(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_AddNavList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_AddNavigationModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_Almanac_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Almanac_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTCmodelSet1(rtxContext* RT_RESTRICT ctx, UTCmodelSet1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTCmodelSet2(rtxContext* RT_RESTRICT ctx, UTCmodelSet2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTCmodelSet3(rtxContext* RT_RESTRICT ctx, UTCmodelSet3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_AddUTCModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddUTCModels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_AuxiliaryInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AuxiliaryInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSGenericData_v860ext(rtxContext* RT_RESTRICT ctx, GANSSGenericData_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_Almanac_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Almanac_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_GANSSGenericData_r8(rtxContext* RT_RESTRICT ctx, GANSSGenericData_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_DGANSSCorrections_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_DGANSSCorrections_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_GANSSGenericData_r9(rtxContext* RT_RESTRICT ctx, GANSSGenericData_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_DGANSSCorrections_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_DGANSSCorrections_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSGenericData_v920ext(rtxContext* RT_RESTRICT ctx, GANSSGenericData_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSGenericDataList(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSGenericDataList_v860ext(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSGenericDataList_r8(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSGenericDataList_r9(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSSGenericDataList_v920ext(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SatellitesListRelatedData(rtxContext* RT_RESTRICT ctx, SatellitesListRelatedData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SatellitesListRelatedDataList(rtxContext* RT_RESTRICT ctx, SatellitesListRelatedDataList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GanssNavigationModelAdditionalData(rtxContext* RT_RESTRICT ctx, GanssNavigationModelAdditionalData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GanssReqGenericData(rtxContext* RT_RESTRICT ctx, GanssReqGenericData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GanssReqGenericData_v860ext_ganssAddNavigationModel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddNavigationModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GanssReqGenericData_v860ext_ganssAddUTCmodel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddUTCmodel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GanssReqGenericData_v860ext_ganssAuxInfo(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAuxInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GanssReqGenericData_v860ext_ganssAddADchoices(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddADchoices* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GanssReqGenericData_v860ext(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GanssRequestedGenericAssistanceDataList(rtxContext* RT_RESTRICT ctx, GanssRequestedGenericAssistanceDataList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GanssRequestedGenericAssistanceDataList_v860ext(rtxContext* RT_RESTRICT ctx, GanssRequestedGenericAssistanceDataList_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GANSS_Storm_Flag(rtxContext* RT_RESTRICT ctx, GANSS_Storm_Flag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_CarrierRSSI(rtxContext* RT_RESTRICT ctx, GSM_CarrierRSSI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ObservedTimeDifferenceToGSM(rtxContext* RT_RESTRICT ctx, ObservedTimeDifferenceToGSM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_MeasuredResults(rtxContext* RT_RESTRICT ctx, GSM_MeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, GSM_MeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GPS_TOW_1sec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1sec* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GPS_TOW_Assist(rtxContext* RT_RESTRICT ctx, GPS_TOW_Assist* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GPS_TOW_AssistList(rtxContext* RT_RESTRICT ctx, GPS_TOW_AssistList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_CellID(rtxContext* RT_RESTRICT ctx, GSM_CellID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_PriorityInfo(rtxContext* RT_RESTRICT ctx, GSM_PriorityInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_PriorityInfoList(rtxContext* RT_RESTRICT ctx, GSM_PriorityInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSMCellGroupingList(rtxContext* RT_RESTRICT ctx, GSMCellGroupingList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+
+/* Bodies held by other units. */
+RT_DECODE_EXTERN(CellMeasuredResults_modeSpecificInfo_fdd)
+RT_DECODE_EXTERN(CellIdentity)
+RT_DECODE_EXTERN(SFN_SFN_ObsTimeDifference)
+RT_DECODE_EXTERN(CellSynchronisationInfo)
+RT_DECODE_EXTERN(PrimaryCPICH_Info)
+RT_DECODE_EXTERN(CSG_Identity)
+RT_DECODE_EXTERN(PrimaryCCPCH_Info)
+RT_DECODE_EXTERN(PrimaryCCPCH_Info_LCR_r4)
+RT_DECODE_EXTERN(BSICReported)
+RT_DECODE_EXTERN(FrequencyInfo)
+RT_DECODE_EXTERN(EUTRA_BlacklistedCellPerFreqList)
+RT_DECODE_EXTERN(PLMN_Identity)
+RT_DECODE_EXTERN(PrimaryCCPCH_Info_r4)
+RT_DECODE_EXTERN(PeriodicReportingInfo_1b)
+RT_DECODE_EXTERN(ReportingCellStatus)
+RT_DECODE_EXTERN(UL_TrCH_Identity)
+RT_DECODE_EXTERN(CellAndChannelIdentity)
+RT_DECODE_EXTERN(AzimuthAndElevation)
+RT_DECODE_EXTERN(ALM_keplerianParameters)
+RT_DECODE_EXTERN(ALM_NAVKeplerianSet)
+RT_DECODE_EXTERN(ALM_ReducedKeplerianSet)
+RT_DECODE_EXTERN(ALM_MidiAlmanacSet)
+RT_DECODE_EXTERN(ALM_GlonassAlmanacSet)
+RT_DECODE_EXTERN(ALM_ECEFsbasAlmanacSet)
+RT_DECODE_EXTERN(AuxInfoGANSS_ID1)
+RT_DECODE_EXTERN(AuxInfoGANSS_ID3)
+RT_DECODE_EXTERN(GSM_CellGroup)
+
+RT_MERGED_BODY int dec_TimeslotISCP(rtxContext* RT_RESTRICT ctx, TimeslotISCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
-   int stat = 0;
-   /* ellipsoidPointAltitudeEllipsoide */
-   stat = asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide);
-   RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipsoide", -1, "ReferenceLocationGANSS");
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeslotISCP");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_IonosphericModel* RT_RESTRICT pvalue)
+int asn1PD_UMTS_TimeslotISCP(rtxContext* RT_RESTRICT ctx, TimeslotISCP* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-IonosphericModel");
-   /* alpha-zero-ionos */
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, &pvalue->alpha_zero_ionos, 12, 12);
-   RT_CHECK(ctx, stat, 0, "alpha-zero-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
-   /* alpha-one-ionos */
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, &pvalue->alpha_one_ionos, 12, 12);
-   RT_CHECK(ctx, stat, 0, "alpha-one-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
-   /* alpha-two-ionos */
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, &pvalue->alpha_two_ionos, 12, 12);
-   RT_CHECK(ctx, stat, 0, "alpha-two-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
-   /* gANSS-storm-flags */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GANSS_Storm_Flag(ctx, &pvalue->gANSS_storm_flags);
-      RT_CHECK(ctx, stat, 0, "gANSS-storm-flags", -1, "UE-Positioning-GANSS-IonosphericModel");
+   RT_DECODE_ENTRY(ctx, dec_TimeslotISCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotISCP_List(rtxContext* RT_RESTRICT ctx, TimeslotISCP_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeslotISCP-List");
+      pvalue->n = n = raw + 1;
+      if (raw > 13) {
+         rtxErrAddStrParm(ctx, "TimeslotISCP-List");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotISCP-List");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 127);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TimeslotISCP", "TimeslotISCP", (int32_t)i, "TimeslotISCP-List");
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData* RT_RESTRICT pvalue)
+int asn1PD_UMTS_TimeslotISCP_List(rtxContext* RT_RESTRICT ctx, TimeslotISCP_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotISCP_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData");
-   /* ue-positioning-GANSS-ReferenceTime */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellParametersID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParametersID, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, 0);
+   /* proposedTGSN */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->proposedTGSN, 0, 14);
+      RT_CHECK_AT(ctx, cur, stat, "TGSN", "proposedTGSN", -1, 0);
    }
-   /* uePositioningGanssReferencePosition */
+   /* primaryCCPCH-RSCP */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_RSCP, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
    }
-   /* uePositioningGanssIonosphericModel */
+   /* pathloss */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pathloss, 46, 173);
+      RT_CHECK_AT(ctx, cur, stat, "Pathloss", "pathloss", -1, 0);
    }
-   /* ganssGenericDataList */
+   /* timeslotISCP-List */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData");
+      stat = dec_TimeslotISCP_List(ctx, &pvalue->timeslotISCP_List, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotISCP-List", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_Measurement_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r7");
-   /* ue-positioning-ReportingQuantity */
-   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_r7(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r7");
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r7");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r7");
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r7");
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r7");
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r7");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CellMeasuredResults_modeSpecificInfo_tdd, pvalue);
 }
 
-int asn1PD_UMTS_MeasurementType_r7(rtxContext* RT_RESTRICT ctx, MeasurementType_r7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CellMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementType-r7");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* intraFrequencyMeasurement */
-         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r7));
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r7");
-         asn1Init_UMTS_IntraFrequencyMeasurement_r7(pvalue->u.intraFrequencyMeasurement);
-         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r7");
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellMeasuredResults_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasuredResults_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellMeasuredResults_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1: /* interFrequencyMeasurement */
-         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r7*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r7));
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r7");
-         asn1Init_UMTS_InterFrequencyMeasurement_r7(pvalue->u.interFrequencyMeasurement);
-         stat = asn1PD_UMTS_InterFrequencyMeasurement_r7(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r7");
-         break;
-      case 2: /* interRATMeasurement */
-         pvalue->u.interRATMeasurement = (InterRATMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r6));
-         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r7");
-         asn1Init_UMTS_InterRATMeasurement_r6(pvalue->u.interRATMeasurement);
-         stat = asn1PD_UMTS_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r7");
-         break;
-      case 3: /* up-Measurement */
-         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r7*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r7));
-         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r7");
-         asn1Init_UMTS_UE_Positioning_Measurement_r7(pvalue->u.up_Measurement);
-         stat = asn1PD_UMTS_UE_Positioning_Measurement_r7(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r7");
-         break;
-      case 4: /* trafficVolumeMeasurement */
-         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r7");
-         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
-         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r7");
-         break;
-      case 5: /* qualityMeasurement */
-         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
-         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r7");
-         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
-         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r7");
-         break;
-      case 6: /* ue-InternalMeasurement */
-         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r7");
-         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
-         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r7");
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellMeasuredResults_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasuredResults_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r7");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementCommand_r7_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r7_modify* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasuredResults_modeSpecificInfo, pvalue);
+}
+
+static int dec_CellMeasuredResults(rtxContext* RT_RESTRICT ctx, CellMeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementType */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellMeasuredResults");
+   /* cellIdentity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellIdentity(ctx, &pvalue->cellIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "CellMeasuredResults");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SFN_SFN_ObsTimeDifference(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellMeasuredResults");
+   }
+   /* cellSynchronisationInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CellSynchronisationInfo(ctx, &pvalue->cellSynchronisationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSynchronisationInfo", -1, "CellMeasuredResults");
+   }
+   /* modeSpecificInfo */
+   stat = dec_CellMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellMeasuredResults");
+   return 0;
+}
+
+int asn1PD_UMTS_CellMeasuredResults(rtxContext* RT_RESTRICT ctx, CellMeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasuredResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeltaRSCPPerCell(rtxContext* RT_RESTRICT ctx, DeltaRSCPPerCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DeltaRSCPPerCell");
+   /* deltaRSCP */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementType_r7(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->deltaRSCP, -5, -1);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaRSCP", "deltaRSCP", -1, "DeltaRSCPPerCell");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementCommand_r7(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_DeltaRSCPPerCell(rtxContext* RT_RESTRICT ctx, DeltaRSCPPerCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DeltaRSCPPerCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasuredResults_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* cpich-Ec-N0 */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cpich_Ec_N0, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+   }
+   /* cpich-RSCP */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cpich_RSCP, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
+   }
+   /* deltaRSCPPerCell */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_DeltaRSCPPerCell(ctx, &pvalue->deltaRSCPPerCell, cur);
+      RT_CHECK(ctx, stat, 0, "deltaRSCPPerCell", -1, 0);
+   }
+   /* pathloss */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pathloss, 46, 173);
+      RT_CHECK_AT(ctx, cur, stat, "Pathloss", "pathloss", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasuredResults_r9_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasuredResults_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellParametersID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParametersID, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, 0);
+   /* proposedTGSN */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->proposedTGSN, 0, 14);
+      RT_CHECK_AT(ctx, cur, stat, "TGSN", "proposedTGSN", -1, 0);
+   }
+   /* primaryCCPCH-RSCP */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_RSCP, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
+   }
+   /* pathloss */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->pathloss, 46, 173);
+      RT_CHECK_AT(ctx, cur, stat, "Pathloss", "pathloss", -1, 0);
+   }
+   /* timeslotISCP-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_TimeslotISCP_List(ctx, &pvalue->timeslotISCP_List, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotISCP-List", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasuredResults_r9_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasuredResults_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommand-r7");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* setup */
-         pvalue->u.setup = (MeasurementType_r7*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r7));
-         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r7");
-         asn1Init_UMTS_MeasurementType_r7(pvalue->u.setup);
-         stat = asn1PD_UMTS_MeasurementType_r7(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r7");
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellMeasuredResults_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasuredResults_r9_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellMeasuredResults_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1: /* modify */
-         pvalue->u.modify = (MeasurementCommand_r7_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r7_modify));
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r7");
-         asn1Init_UMTS_MeasurementCommand_r7_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_MeasurementCommand_r7_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r7");
-         break;
-      case 2: /* release */
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellMeasuredResults_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasuredResults_r9_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_CellMeasuredResults_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r7");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r8_velocityRequested* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasuredResults_r9_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasuredResults_r9(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellMeasuredResults-r9");
+   /* cellIdentity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellIdentity(ctx, &pvalue->cellIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "CellMeasuredResults-r9");
+   }
+   /* cellSynchronisationInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CellSynchronisationInfo(ctx, &pvalue->cellSynchronisationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSynchronisationInfo", -1, "CellMeasuredResults-r9");
+   }
+   /* modeSpecificInfo */
+   stat = dec_CellMeasuredResults_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellMeasuredResults-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_CellMeasuredResults_r9(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasuredResults_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasuredResults_v920ext_csgMemberIndication(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_v920ext_csgMemberIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    {
       uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r8* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellMeasuredResults_v920ext_csgMemberIndication(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_v920ext_csgMemberIndication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasuredResults_v920ext_csgMemberIndication, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r8");
-   /* methodType */
-   stat = pd_ConsUnsigned(ctx, &pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r8");
-   /* positioningMethod */
-   stat = pd_ConsUnsigned(ctx, &pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r8");
-   /* horizontalAccuracy */
-   if (present & ((uint32_t)1 << 7)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellMeasuredResults-v920ext");
+   /* csgIdentity */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->horizontalAccuracy);
-      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r8");
+      stat = dec_CSG_Identity(ctx, &pvalue->csgIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "CellMeasuredResults-v920ext");
    }
-   /* verticalAccuracy */
-   if (present & ((uint32_t)1 << 6)) {
+   /* csgMemberIndication */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->verticalAccuracy);
-      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r8");
-   }
-   /* gps-TimingOfCellWanted */
-   stat = rtxDecBitInline(ctx, &pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r8");
-   /* additionalAssistanceDataReq */
-   stat = rtxDecBitInline(ctx, &pvalue->additionalAssistanceDataReq);
-   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r8");
-   /* environmentCharacterisation */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r8");
-   }
-   /* velocityRequested */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x8u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "csgMemberIndication", -1, "CellMeasuredResults-v920ext");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r8");
-         pvalue->velocityRequested = ui;
+         RT_CHECK_AT(ctx, cur, stat, 0, "csgMemberIndication", -1, "CellMeasuredResults-v920ext");
+         pvalue->csgMemberIndication = ui;
       }
    }
-   /* gANSSPositioningMethods */
+   return 0;
+}
+
+int asn1PD_UMTS_CellMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasuredResults_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasurementEventResults_fdd(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PrimaryCPICH_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
+      elem = (PrimaryCPICH_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PrimaryCPICH_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellMeasurementEventResults_fdd(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasurementEventResults_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasurementEventResults_tdd(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PrimaryCCPCH_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCCPCH_Info));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PrimaryCCPCH-Info", (int32_t)i, 0);
+      elem = (PrimaryCCPCH_Info*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PrimaryCCPCH_Info(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PrimaryCCPCH_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCCPCH-Info", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellMeasurementEventResults_tdd(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasurementEventResults_tdd, pvalue);
+}
+
+static int dec_CellMeasurementEventResults(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellMeasurementEventResults");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellMeasurementEventResults_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasurementEventResults_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "CellMeasurementEventResults");
+         asn1Init_UMTS_CellMeasurementEventResults_fdd(pvalue->u.fdd);
+         stat = dec_CellMeasurementEventResults_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "CellMeasurementEventResults");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellMeasurementEventResults_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasurementEventResults_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "CellMeasurementEventResults");
+         asn1Init_UMTS_CellMeasurementEventResults_tdd(pvalue->u.tdd);
+         stat = dec_CellMeasurementEventResults_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "CellMeasurementEventResults");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CellMeasurementEventResults");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellMeasurementEventResults(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasurementEventResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasurementEventResultsOnSecUlFreq_fdd(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResultsOnSecUlFreq_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PrimaryCPICH_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
+      elem = (PrimaryCPICH_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PrimaryCPICH_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResultsOnSecUlFreq_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasurementEventResultsOnSecUlFreq_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasurementEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellMeasurementEventResultsOnSecUlFreq");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellMeasurementEventResultsOnSecUlFreq_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasurementEventResultsOnSecUlFreq_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "CellMeasurementEventResultsOnSecUlFreq");
+         asn1Init_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(pvalue->u.fdd);
+         stat = dec_CellMeasurementEventResultsOnSecUlFreq_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "CellMeasurementEventResultsOnSecUlFreq");
+         break;
+      case 1: /* spare */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CellMeasurementEventResultsOnSecUlFreq");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellMeasurementEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResultsOnSecUlFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasurementEventResultsOnSecUlFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellMeasurementEventResults_LCR_r4(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellMeasurementEventResults-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PrimaryCCPCH_Info_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCCPCH_Info_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PrimaryCCPCH-Info-LCR-r4", (int32_t)i, "CellMeasurementEventResults-LCR-r4");
+      elem = (PrimaryCCPCH_Info_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PrimaryCCPCH_Info_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PrimaryCCPCH_Info_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCCPCH-Info-LCR-r4", (int32_t)i, "CellMeasurementEventResults-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellMeasurementEventResults_LCR_r4(rtxContext* RT_RESTRICT ctx, CellMeasurementEventResults_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellMeasurementEventResults_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellSelectReselectInfoPCHFACH_v5b0ext(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoPCHFACH_v5b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+   /* q-Hyst-l-S-PCH */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->q_Hyst_l_S_PCH, 0, 40);
+      RT_CHECK_AT(ctx, cur, stat, "Q-Hyst-S-Fine", "q-Hyst-l-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+   }
+   /* q-Hyst-l-S-FACH */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->q_Hyst_l_S_FACH, 0, 40);
+      RT_CHECK_AT(ctx, cur, stat, "Q-Hyst-S-Fine", "q-Hyst-l-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+   }
+   /* q-Hyst-2-S-PCH */
    if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x10u;
-      RT_SET_SIZE(ctx, 16, 16);
-      stat = pd_BitString32(ctx, &pvalue->gANSSPositioningMethods, 16, 16);
-      RT_CHECK(ctx, stat, 0, "gANSSPositioningMethods", -1, "UE-Positioning-ReportingQuantity-r8");
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->q_Hyst_2_S_PCH, 0, 40);
+      RT_CHECK_AT(ctx, cur, stat, "Q-Hyst-S-Fine", "q-Hyst-2-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
    }
-   /* gANSSTimingOfCellWanted */
+   /* q-Hyst-2-S-FACH */
    if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x20u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->gANSSTimingOfCellWanted, 8, 8);
-      RT_CHECK(ctx, stat, 0, "gANSSTimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r8");
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->q_Hyst_2_S_FACH, 0, 40);
+      RT_CHECK_AT(ctx, cur, stat, "Q-Hyst-S-Fine", "q-Hyst-2-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
    }
-   /* gANSSCarrierPhaseMeasurementRequested */
+   /* t-Reselection-S-PCH */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x40u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
-      RT_CHECK(ctx, stat, 0, "gANSSCarrierPhaseMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_Reselection_S_PCH, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "T-Reselection-S", "t-Reselection-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
    }
-   /* gANSSMultiFreqMeasurementRequested */
+   /* t-Reselection-S-FACH */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x80u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->gANSSMultiFreqMeasurementRequested, 8, 8);
-      RT_CHECK(ctx, stat, 0, "gANSSMultiFreqMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_Reselection_S_FACH, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "T-Reselection-S-Fine", "t-Reselection-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddIonoModel* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoPCHFACH_v5b0ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* dataID */
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_BitString32(ctx, &pvalue->dataID, 2, 2);
-   RT_CHECK(ctx, stat, 0, "dataID", -1, "UE-Positioning-GANSS-AddIonoModel");
-   /* alpha-beta-parameters */
-   stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->alpha_beta_parameters);
-   RT_CHECK(ctx, stat, 0, "alpha-beta-parameters", -1, "UE-Positioning-GANSS-AddIonoModel");
+   RT_DECODE_ENTRY(ctx, dec_CellSelectReselectInfoPCHFACH_v5b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellsForInterFreqMeasList(rtxContext* RT_RESTRICT ctx, CellsForInterFreqMeasList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellsForInterFreqMeasList");
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "CellsForInterFreqMeasList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CellsForInterFreqMeasList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "CellsForInterFreqMeasList");
+      }
+   }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_EarthOrientPara* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellsForInterFreqMeasList(rtxContext* RT_RESTRICT ctx, CellsForInterFreqMeasList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellsForInterFreqMeasList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellsForIntraFreqMeasList(rtxContext* RT_RESTRICT ctx, CellsForIntraFreqMeasList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellsForIntraFreqMeasList");
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "CellsForIntraFreqMeasList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CellsForIntraFreqMeasList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, "CellsForIntraFreqMeasList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellsForIntraFreqMeasList(rtxContext* RT_RESTRICT ctx, CellsForIntraFreqMeasList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellsForIntraFreqMeasList, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellIDOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellIDOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellIDOnSecULFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellIDOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellIDOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellIDOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellsForIntraFreqMeasListOnSecULFreq(rtxContext* RT_RESTRICT ctx, CellsForIntraFreqMeasListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellsForIntraFreqMeasListOnSecULFreq");
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "CellsForIntraFreqMeasListOnSecULFreq");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CellsForIntraFreqMeasListOnSecULFreq");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "IntraFreqCellIDOnSecULFreq", "IntraFreqCellIDOnSecULFreq", (int32_t)i, "CellsForIntraFreqMeasListOnSecULFreq");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellsForIntraFreqMeasListOnSecULFreq(rtxContext* RT_RESTRICT ctx, CellsForIntraFreqMeasListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellsForIntraFreqMeasListOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellToReport(rtxContext* RT_RESTRICT ctx, CellToReport* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* teop */
+   /* bsicReported */
+   stat = dec_BSICReported(ctx, &pvalue->bsicReported, cur);
+   RT_CHECK(ctx, stat, 0, "bsicReported", -1, "CellToReport");
+   return 0;
+}
+
+int asn1PD_UMTS_CellToReport(rtxContext* RT_RESTRICT ctx, CellToReport* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellToReport, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellToReportList(rtxContext* RT_RESTRICT ctx, CellToReportList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellToReportList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellToReport* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellToReport));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellToReport", (int32_t)i, "CellToReportList");
+      elem = (CellToReport*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellToReport(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellToReport(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellToReport", (int32_t)i, "CellToReportList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellToReportList(rtxContext* RT_RESTRICT ctx, CellToReportList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellToReportList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CNAVclockModel(rtxContext* RT_RESTRICT ctx, CNAVclockModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CNAVclockModel");
+   /* cnavToc */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavToc, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavToc", -1, "CNAVclockModel");
+   /* cnavTop */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavTop, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavTop", -1, "CNAVclockModel");
+   /* cnavURA0 */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavURA0, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavURA0", -1, "CNAVclockModel");
+   /* cnavURA1 */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavURA1, 3, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavURA1", -1, "CNAVclockModel");
+   /* cnavURA2 */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavURA2, 3, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavURA2", -1, "CNAVclockModel");
+   /* cnavAf2 */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavAf2, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavAf2", -1, "CNAVclockModel");
+   /* cnavAf1 */
+   RT_SET_SIZE(ctx, 20, 20);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavAf1, 20, 20);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavAf1", -1, "CNAVclockModel");
+   /* cnavAf0 */
+   RT_SET_SIZE(ctx, 26, 26);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavAf0, 26, 26);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavAf0", -1, "CNAVclockModel");
+   /* cnavTgd */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavTgd, 13, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavTgd", -1, "CNAVclockModel");
+   /* cnavISCl1cp */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pd_BitString32At(ctx, cur, &pvalue->cnavISCl1cp, 13, 13);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cnavISCl1cp", -1, "CNAVclockModel");
+   }
+   /* cnavISCl1cd */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pd_BitString32At(ctx, cur, &pvalue->cnavISCl1cd, 13, 13);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cnavISCl1cd", -1, "CNAVclockModel");
+   }
+   /* cnavISCl1ca */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pd_BitString32At(ctx, cur, &pvalue->cnavISCl1ca, 13, 13);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cnavISCl1ca", -1, "CNAVclockModel");
+   }
+   /* cnavISCl2c */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pd_BitString32At(ctx, cur, &pvalue->cnavISCl2c, 13, 13);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cnavISCl2c", -1, "CNAVclockModel");
+   }
+   /* cnavISCl5i5 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pd_BitString32At(ctx, cur, &pvalue->cnavISCl5i5, 13, 13);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cnavISCl5i5", -1, "CNAVclockModel");
+   }
+   /* cnavISCl5q5 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pd_BitString32At(ctx, cur, &pvalue->cnavISCl5q5, 13, 13);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cnavISCl5q5", -1, "CNAVclockModel");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CNAVclockModel(rtxContext* RT_RESTRICT ctx, CNAVclockModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CNAVclockModel, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CSGCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* startPSC */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->startPSC, cur);
+   RT_CHECK(ctx, stat, 0, "startPSC", -1, 0);
+   /* numberOfPSCs */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->numberOfPSCs, 1, 512);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numberOfPSCs", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CSGCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CSGCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGCellInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CSGCellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CSGCellInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(CSGCellInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_CSGCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSGCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CSGCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGCellInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGCellInfo(rtxContext* RT_RESTRICT ctx, CSGCellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_CSGCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CSGCellInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_CSGCellInfo(rtxContext* RT_RESTRICT ctx, CSGCellInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGCellInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGCellInfoList(rtxContext* RT_RESTRICT ctx, CSGCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CSGCellInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CSGCellInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CSGCellInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CSGCellInfo", (int32_t)i, "CSGCellInfoList");
+      elem = (CSGCellInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CSGCellInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CSGCellInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CSGCellInfo", (int32_t)i, "CSGCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSGCellInfoList(rtxContext* RT_RESTRICT ctx, CSGCellInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGCellInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGInterFreqCellInfo(rtxContext* RT_RESTRICT ctx, CSGInterFreqCellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* frequencyInfo */
+   stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CSGInterFreqCellInfo");
+   /* cSGInterFreqCellInfoListperFreq */
+   stat = dec_CSGCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoListperFreq, cur);
+   RT_CHECK(ctx, stat, 0, "cSGInterFreqCellInfoListperFreq", -1, "CSGInterFreqCellInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_CSGInterFreqCellInfo(rtxContext* RT_RESTRICT ctx, CSGInterFreqCellInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGInterFreqCellInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGInterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, CSGInterFreqCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CSGInterFreqCellInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CSGInterFreqCellInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CSGInterFreqCellInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CSGInterFreqCellInfo", (int32_t)i, "CSGInterFreqCellInfoList");
+      elem = (CSGInterFreqCellInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CSGInterFreqCellInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CSGInterFreqCellInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CSGInterFreqCellInfo", (int32_t)i, "CSGInterFreqCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSGInterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, CSGInterFreqCellInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGInterFreqCellInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGIntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, CSGIntraFreqCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = dec_CSGCellInfoList(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CSGIntraFreqCellInfoList");
+   return 0;
+}
+
+int asn1PD_UMTS_CSGIntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, CSGIntraFreqCellInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGIntraFreqCellInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGProximityDetection_uTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_uTRACSGProximityDetec* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSGProximityDetection_uTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_uTRACSGProximityDetec* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGProximityDetection_uTRACSGProximityDetec, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGProximityDetection_e_UTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_e_UTRACSGProximityDetec* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSGProximityDetection_e_UTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_e_UTRACSGProximityDetec* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGProximityDetection_e_UTRACSGProximityDetec, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGProximityDetection(rtxContext* RT_RESTRICT ctx, CSGProximityDetection* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CSGProximityDetection");
+   /* uTRACSGProximityDetec */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "uTRACSGProximityDetec", -1, "CSGProximityDetection");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "uTRACSGProximityDetec", -1, "CSGProximityDetection");
+         pvalue->uTRACSGProximityDetec = ui;
+      }
+   }
+   /* e-UTRACSGProximityDetec */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "e-UTRACSGProximityDetec", -1, "CSGProximityDetection");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "e-UTRACSGProximityDetec", -1, "CSGProximityDetection");
+         pvalue->e_UTRACSGProximityDetec = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSGProximityDetection(rtxContext* RT_RESTRICT ctx, CSGProximityDetection* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGProximityDetection, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGProximityIndication_cSGproximityInd(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_cSGproximityInd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CSGProximityIndication_cSGproximityInd(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_cSGproximityInd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGProximityIndication_cSGproximityInd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGProximityIndication_radioAccessTechnology_uTRA(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_radioAccessTechnology_uTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cSGFrequencyInfoUTRA */
+   stat = dec_FrequencyInfo(ctx, &pvalue->cSGFrequencyInfoUTRA, cur);
+   RT_CHECK(ctx, stat, 0, "cSGFrequencyInfoUTRA", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_radioAccessTechnology_uTRA* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGProximityIndication_radioAccessTechnology_uTRA, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGProximityIndication_radioAccessTechnology_e_UTRA(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_radioAccessTechnology_e_UTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cSGFrequencyInfoEUTRA */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->cSGFrequencyInfoEUTRA, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, "EARFCN", "cSGFrequencyInfoEUTRA", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology_e_UTRA(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_radioAccessTechnology_e_UTRA* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGProximityIndication_radioAccessTechnology_e_UTRA, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGProximityIndication_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_radioAccessTechnology* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* uTRA */
+         pvalue->u.uTRA = (CSGProximityIndication_radioAccessTechnology_uTRA*)rtxMemHeapAlloc(ctx, sizeof(CSGProximityIndication_radioAccessTechnology_uTRA));
+         if (pvalue->u.uTRA == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "uTRA", -1, 0);
+         asn1Init_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(pvalue->u.uTRA);
+         stat = dec_CSGProximityIndication_radioAccessTechnology_uTRA(ctx, pvalue->u.uTRA, cur);
+         RT_CHECK(ctx, stat, 0, "uTRA", -1, 0);
+         break;
+      case 1: /* e-UTRA */
+         pvalue->u.e_UTRA = (CSGProximityIndication_radioAccessTechnology_e_UTRA*)rtxMemHeapAllocZ(ctx, sizeof(CSGProximityIndication_radioAccessTechnology_e_UTRA));
+         if (pvalue->u.e_UTRA == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-UTRA", -1, 0);
+         stat = dec_CSGProximityIndication_radioAccessTechnology_e_UTRA(ctx, pvalue->u.e_UTRA, cur);
+         RT_CHECK(ctx, stat, 0, "e-UTRA", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_radioAccessTechnology* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGProximityIndication_radioAccessTechnology, pvalue);
+}
+
+RT_MERGED_BODY int dec_CSGProximityIndication(rtxContext* RT_RESTRICT ctx, CSGProximityIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cSGproximityInd */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cSGproximityInd, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cSGproximityInd", -1, "CSGProximityIndication");
+   /* radioAccessTechnology */
+   stat = dec_CSGProximityIndication_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology, cur);
+   RT_CHECK(ctx, stat, 0, "radioAccessTechnology", -1, "CSGProximityIndication");
+   return 0;
+}
+
+int asn1PD_UMTS_CSGProximityIndication(rtxContext* RT_RESTRICT ctx, CSGProximityIndication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CSGProximityIndication, pvalue);
+}
+
+RT_MERGED_BODY int dec_DataBitAssistance_data_bits(rtxContext* RT_RESTRICT ctx, DataBitAssistance_data_bits* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DataBitAssistance_data_bits(rtxContext* RT_RESTRICT ctx, DataBitAssistance_data_bits* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DataBitAssistance_data_bits, pvalue);
+}
+
+RT_MERGED_BODY int dec_DataBitAssistance(rtxContext* RT_RESTRICT ctx, DataBitAssistance* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ganss-signal-id */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganss_signal_id, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "GANSS-Signal-Id", "ganss-signal-id", -1, "DataBitAssistance");
+   /* data-bits */
+   stat = dec_DataBitAssistance_data_bits(ctx, &pvalue->data_bits, cur);
+   RT_CHECK(ctx, stat, 0, "data-bits", -1, "DataBitAssistance");
+   return 0;
+}
+
+int asn1PD_UMTS_DataBitAssistance(rtxContext* RT_RESTRICT ctx, DataBitAssistance* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DataBitAssistance, pvalue);
+}
+
+RT_MERGED_BODY int dec_DataBitAssistanceSgnList(rtxContext* RT_RESTRICT ctx, DataBitAssistanceSgnList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DataBitAssistanceSgnList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DataBitAssistance* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DataBitAssistance));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DataBitAssistance", (int32_t)i, "DataBitAssistanceSgnList");
+      elem = (DataBitAssistance*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DataBitAssistance(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DataBitAssistance(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DataBitAssistance", (int32_t)i, "DataBitAssistanceSgnList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DataBitAssistanceSgnList(rtxContext* RT_RESTRICT ctx, DataBitAssistanceSgnList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DataBitAssistanceSgnList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DataBitAssistanceSat(rtxContext* RT_RESTRICT ctx, DataBitAssistanceSat* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* satID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "satID", -1, "DataBitAssistanceSat");
+   /* dataBitAssistanceSgnList */
+   stat = dec_DataBitAssistanceSgnList(ctx, &pvalue->dataBitAssistanceSgnList, cur);
+   RT_CHECK(ctx, stat, 0, "dataBitAssistanceSgnList", -1, "DataBitAssistanceSat");
+   return 0;
+}
+
+int asn1PD_UMTS_DataBitAssistanceSat(rtxContext* RT_RESTRICT ctx, DataBitAssistanceSat* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DataBitAssistanceSat, pvalue);
+}
+
+RT_MERGED_BODY int dec_DataBitAssistanceList(rtxContext* RT_RESTRICT ctx, DataBitAssistanceList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DataBitAssistanceList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DataBitAssistanceSat* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DataBitAssistanceSat));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DataBitAssistanceSat", (int32_t)i, "DataBitAssistanceList");
+      elem = (DataBitAssistanceSat*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DataBitAssistanceSat(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DataBitAssistanceSat(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DataBitAssistanceSat", (int32_t)i, "DataBitAssistanceList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DataBitAssistanceList(rtxContext* RT_RESTRICT ctx, DataBitAssistanceList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DataBitAssistanceList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeltaPRC(rtxContext* RT_RESTRICT ctx, DeltaPRC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -127, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DeltaPRC");
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaPRC(rtxContext* RT_RESTRICT ctx, DeltaPRC* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DeltaPRC, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeltaRRC(rtxContext* RT_RESTRICT ctx, DeltaRRC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -7, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DeltaRRC");
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaRRC(rtxContext* RT_RESTRICT ctx, DeltaRRC* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DeltaRRC, pvalue);
+}
+
+RT_MERGED_BODY int dec_DeltaUT1(rtxContext* RT_RESTRICT ctx, DeltaUT1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* b1 */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->b1, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "b1", -1, "DeltaUT1");
+   /* b2 */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, &pvalue->b2, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "b2", -1, "DeltaUT1");
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaUT1(rtxContext* RT_RESTRICT ctx, DeltaUT1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DeltaUT1, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_Status_Health(rtxContext* RT_RESTRICT ctx, GANSS_Status_Health* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSS-Status-Health");
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_Status_Health(rtxContext* RT_RESTRICT ctx, GANSS_Status_Health* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_Status_Health, pvalue);
+}
+
+RT_MERGED_BODY int dec_UDRE(rtxContext* RT_RESTRICT ctx, UDRE* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UDRE");
+   return 0;
+}
+
+int asn1PD_UMTS_UDRE(rtxContext* RT_RESTRICT ctx, UDRE* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UDRE, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSSSignalInformation(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* satId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satId, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "satId", -1, "DGANSSSignalInformation");
+   /* iode-dganss */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, &pvalue->iode_dganss, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "iode-dganss", -1, "DGANSSSignalInformation");
+   /* udre */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->udre, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "UDRE", "udre", -1, "DGANSSSignalInformation");
+   /* ganss-prc */
+   stat = pd_ConsInt16At(ctx, cur, &pvalue->ganss_prc, -2047, 2047);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-prc", -1, "DGANSSSignalInformation");
+   /* ganss-rrc */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->ganss_rrc, -127, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-rrc", -1, "DGANSSSignalInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSSSignalInformation(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSSSignalInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSSSignalInformationList(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGANSSSignalInformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DGANSSSignalInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSSignalInformation));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DGANSSSignalInformation", (int32_t)i, "DGANSSSignalInformationList");
+      elem = (DGANSSSignalInformation*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DGANSSSignalInformation(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DGANSSSignalInformation", (int32_t)i, "DGANSSSignalInformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSSSignalInformationList(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSSSignalInformationList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSSInfo(rtxContext* RT_RESTRICT ctx, DGANSSInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGANSSInfo");
+   /* ganssSignalId */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssSignalId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "DGANSSInfo");
+   }
+   /* ganssStatusHealth */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ganssStatusHealth, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "GANSS-Status-Health", "ganssStatusHealth", -1, "DGANSSInfo");
+   /* dgansssignalInformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DGANSSSignalInformationList(ctx, &pvalue->dgansssignalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "dgansssignalInformationList", -1, "DGANSSInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSSInfo(rtxContext* RT_RESTRICT ctx, DGANSSInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSSInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UDREGrowthRate(rtxContext* RT_RESTRICT ctx, UDREGrowthRate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UDREGrowthRate");
+   return 0;
+}
+
+int asn1PD_UMTS_UDREGrowthRate(rtxContext* RT_RESTRICT ctx, UDREGrowthRate* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UDREGrowthRate, pvalue);
+}
+
+RT_MERGED_BODY int dec_UDREValidityTime(rtxContext* RT_RESTRICT ctx, UDREValidityTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UDREValidityTime");
+   return 0;
+}
+
+int asn1PD_UMTS_UDREValidityTime(rtxContext* RT_RESTRICT ctx, UDREValidityTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UDREValidityTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSSSignalInformation_r9(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformation_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGANSSSignalInformation-r9");
+   /* satId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satId, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "satId", -1, "DGANSSSignalInformation-r9");
+   /* iode-dganss */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, &pvalue->iode_dganss, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "iode-dganss", -1, "DGANSSSignalInformation-r9");
+   /* udre */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->udre, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "UDRE", "udre", -1, "DGANSSSignalInformation-r9");
+   /* ganss-prc */
+   stat = pd_ConsInt16At(ctx, cur, &pvalue->ganss_prc, -2047, 2047);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-prc", -1, "DGANSSSignalInformation-r9");
+   /* ganss-rrc */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->ganss_rrc, -127, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-rrc", -1, "DGANSSSignalInformation-r9");
+   /* udreGrowthRate */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->udreGrowthRate, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGANSSSignalInformation-r9");
+   }
+   /* udreValidityTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->udreValidityTime, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UDREValidityTime", "udreValidityTime", -1, "DGANSSSignalInformation-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSSSignalInformation_r9(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformation_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSSSignalInformation_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSSSignalInformationList_r9(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformationList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGANSSSignalInformationList-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DGANSSSignalInformation_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSSignalInformation_r9));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DGANSSSignalInformation-r9", (int32_t)i, "DGANSSSignalInformationList-r9");
+      elem = (DGANSSSignalInformation_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DGANSSSignalInformation_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DGANSSSignalInformation_r9(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DGANSSSignalInformation-r9", (int32_t)i, "DGANSSSignalInformationList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSSSignalInformationList_r9(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformationList_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSSSignalInformationList_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSSInfo_r9(rtxContext* RT_RESTRICT ctx, DGANSSInfo_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGANSSInfo-r9");
+   /* ganssSignalId */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssSignalId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "DGANSSInfo-r9");
+   }
+   /* ganssStatusHealth */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ganssStatusHealth, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "GANSS-Status-Health", "ganssStatusHealth", -1, "DGANSSInfo-r9");
+   /* dgansssignalInformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DGANSSSignalInformationList_r9(ctx, &pvalue->dgansssignalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "dgansssignalInformationList", -1, "DGANSSInfo-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSSInfo_r9(rtxContext* RT_RESTRICT ctx, DGANSSInfo_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSSInfo_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSSSignalInformation_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformation_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGANSSSignalInformation-v920ext");
+   /* udreGrowthRate */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->udreGrowthRate, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGANSSSignalInformation-v920ext");
+   }
+   /* udreValidityTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->udreValidityTime, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UDREValidityTime", "udreValidityTime", -1, "DGANSSSignalInformation-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSSSignalInformation_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformation_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSSSignalInformation_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSSSignalInformationList_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformationList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGANSSSignalInformationList-v920ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DGANSSSignalInformation_v920ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSSignalInformation_v920ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DGANSSSignalInformation-v920ext", (int32_t)i, "DGANSSSignalInformationList-v920ext");
+      elem = (DGANSSSignalInformation_v920ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DGANSSSignalInformation_v920ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DGANSSSignalInformation_v920ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DGANSSSignalInformation-v920ext", (int32_t)i, "DGANSSSignalInformationList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSSSignalInformationList_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSSignalInformationList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSSSignalInformationList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSSInfo_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSInfo_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGANSSInfo-v920ext");
+   /* dgansssignalInformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DGANSSSignalInformationList_v920ext(ctx, &pvalue->dgansssignalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "dgansssignalInformationList", -1, "DGANSSInfo-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSSInfo_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSInfo_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSSInfo_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSSInfoList(rtxContext* RT_RESTRICT ctx, DGANSSInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGANSSInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DGANSSInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DGANSSInfo", (int32_t)i, "DGANSSInfoList");
+      elem = (DGANSSInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DGANSSInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DGANSSInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DGANSSInfo", (int32_t)i, "DGANSSInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSSInfoList(rtxContext* RT_RESTRICT ctx, DGANSSInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSSInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSSInfoList_r9(rtxContext* RT_RESTRICT ctx, DGANSSInfoList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGANSSInfoList-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DGANSSInfo_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSInfo_r9));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DGANSSInfo-r9", (int32_t)i, "DGANSSInfoList-r9");
+      elem = (DGANSSInfo_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DGANSSInfo_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DGANSSInfo_r9(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DGANSSInfo-r9", (int32_t)i, "DGANSSInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSSInfoList_r9(rtxContext* RT_RESTRICT ctx, DGANSSInfoList_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSSInfoList_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSSInfoList_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSInfoList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGANSSInfoList-v920ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DGANSSInfo_v920ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSInfo_v920ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DGANSSInfo-v920ext", (int32_t)i, "DGANSSInfoList-v920ext");
+      elem = (DGANSSInfo_v920ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DGANSSInfo_v920ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DGANSSInfo_v920ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DGANSSInfo-v920ext", (int32_t)i, "DGANSSInfoList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSSInfoList_v920ext(rtxContext* RT_RESTRICT ctx, DGANSSInfoList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSSInfoList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGANSS_Sig_Id_Req(rtxContext* RT_RESTRICT ctx, DGANSS_Sig_Id_Req* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, pvalue, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGANSS-Sig-Id-Req");
+   return 0;
+}
+
+int asn1PD_UMTS_DGANSS_Sig_Id_Req(rtxContext* RT_RESTRICT ctx, DGANSS_Sig_Id_Req* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGANSS_Sig_Id_Req, pvalue);
+}
+
+RT_MERGED_BODY int dec_IODE(rtxContext* RT_RESTRICT ctx, IODE* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IODE");
+   return 0;
+}
+
+int asn1PD_UMTS_IODE(rtxContext* RT_RESTRICT ctx, IODE* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IODE, pvalue);
+}
+
+RT_MERGED_BODY int dec_PRC(rtxContext* RT_RESTRICT ctx, PRC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt16At(ctx, cur, pvalue, -2047, 2047);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PRC");
+   return 0;
+}
+
+int asn1PD_UMTS_PRC(rtxContext* RT_RESTRICT ctx, PRC* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PRC, pvalue);
+}
+
+RT_MERGED_BODY int dec_RRC(rtxContext* RT_RESTRICT ctx, RRC* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -127, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RRC");
+   return 0;
+}
+
+int asn1PD_UMTS_RRC(rtxContext* RT_RESTRICT ctx, RRC* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RRC, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGPS_CorrectionSatInfo(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGPS-CorrectionSatInfo");
+   /* satID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, "SatID", "satID", -1, "DGPS-CorrectionSatInfo");
+   /* iode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->iode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "IODE", "iode", -1, "DGPS-CorrectionSatInfo");
+   /* udre */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->udre, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "UDRE", "udre", -1, "DGPS-CorrectionSatInfo");
+   /* prc */
+   stat = pd_ConsInt16At(ctx, cur, &pvalue->prc, -2047, 2047);
+   RT_CHECK_AT(ctx, cur, stat, "PRC", "prc", -1, "DGPS-CorrectionSatInfo");
+   /* rrc */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->rrc, -127, 127);
+   RT_CHECK_AT(ctx, cur, stat, "RRC", "rrc", -1, "DGPS-CorrectionSatInfo");
+   /* dummy1 */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dummy1, -127, 127);
+   RT_CHECK_AT(ctx, cur, stat, "DeltaPRC", "dummy1", -1, "DGPS-CorrectionSatInfo");
+   /* dummy2 */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dummy2, -7, 7);
+   RT_CHECK_AT(ctx, cur, stat, "DeltaRRC", "dummy2", -1, "DGPS-CorrectionSatInfo");
+   /* dummy3 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->dummy3, -127, 127);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaPRC", "dummy3", -1, "DGPS-CorrectionSatInfo");
+   }
+   /* dummy4 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->dummy4, -7, 7);
+      RT_CHECK_AT(ctx, cur, stat, "DeltaRRC", "dummy4", -1, "DGPS-CorrectionSatInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGPS_CorrectionSatInfo(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGPS_CorrectionSatInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGPS_CorrectionSatInfo_r9(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfo_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGPS-CorrectionSatInfo-r9");
+   /* satID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, "SatID", "satID", -1, "DGPS-CorrectionSatInfo-r9");
+   /* iode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->iode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "IODE", "iode", -1, "DGPS-CorrectionSatInfo-r9");
+   /* udre */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->udre, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "UDRE", "udre", -1, "DGPS-CorrectionSatInfo-r9");
+   /* prc */
+   stat = pd_ConsInt16At(ctx, cur, &pvalue->prc, -2047, 2047);
+   RT_CHECK_AT(ctx, cur, stat, "PRC", "prc", -1, "DGPS-CorrectionSatInfo-r9");
+   /* rrc */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->rrc, -127, 127);
+   RT_CHECK_AT(ctx, cur, stat, "RRC", "rrc", -1, "DGPS-CorrectionSatInfo-r9");
+   /* udreGrowthRate */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->udreGrowthRate, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGPS-CorrectionSatInfo-r9");
+   }
+   /* udreValidityTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->udreValidityTime, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UDREValidityTime", "udreValidityTime", -1, "DGPS-CorrectionSatInfo-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGPS_CorrectionSatInfo_r9(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfo_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGPS_CorrectionSatInfo_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGPS_CorrectionSatInfo_v920ext(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfo_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGPS-CorrectionSatInfo-v920ext");
+   /* udreGrowthRate */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->udreGrowthRate, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGPS-CorrectionSatInfo-v920ext");
+   }
+   /* udreValidityTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->udreValidityTime, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UDREValidityTime", "udreValidityTime", -1, "DGPS-CorrectionSatInfo-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGPS_CorrectionSatInfo_v920ext(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfo_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGPS_CorrectionSatInfo_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGPS_CorrectionSatInfoList(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGPS-CorrectionSatInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DGPS_CorrectionSatInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGPS_CorrectionSatInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DGPS-CorrectionSatInfo", (int32_t)i, "DGPS-CorrectionSatInfoList");
+      elem = (DGPS_CorrectionSatInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DGPS_CorrectionSatInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DGPS_CorrectionSatInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DGPS-CorrectionSatInfo", (int32_t)i, "DGPS-CorrectionSatInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGPS_CorrectionSatInfoList(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGPS_CorrectionSatInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGPS_CorrectionSatInfoList_r9(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfoList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGPS-CorrectionSatInfoList-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DGPS_CorrectionSatInfo_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGPS_CorrectionSatInfo_r9));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DGPS-CorrectionSatInfo-r9", (int32_t)i, "DGPS-CorrectionSatInfoList-r9");
+      elem = (DGPS_CorrectionSatInfo_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DGPS_CorrectionSatInfo_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DGPS_CorrectionSatInfo_r9(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DGPS-CorrectionSatInfo-r9", (int32_t)i, "DGPS-CorrectionSatInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGPS_CorrectionSatInfoList_r9(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfoList_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGPS_CorrectionSatInfoList_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_DGPS_CorrectionSatInfoList_v920ext(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfoList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DGPS-CorrectionSatInfoList-v920ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DGPS_CorrectionSatInfo_v920ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGPS_CorrectionSatInfo_v920ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DGPS-CorrectionSatInfo-v920ext", (int32_t)i, "DGPS-CorrectionSatInfoList-v920ext");
+      elem = (DGPS_CorrectionSatInfo_v920ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DGPS_CorrectionSatInfo_v920ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DGPS_CorrectionSatInfo_v920ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DGPS-CorrectionSatInfo-v920ext", (int32_t)i, "DGPS-CorrectionSatInfoList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DGPS_CorrectionSatInfoList_v920ext(rtxContext* RT_RESTRICT ctx, DGPS_CorrectionSatInfoList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DGPS_CorrectionSatInfoList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_DiffCorrectionStatus(rtxContext* RT_RESTRICT ctx, DiffCorrectionStatus* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DiffCorrectionStatus");
+   return 0;
+}
+
+int asn1PD_UMTS_DiffCorrectionStatus(rtxContext* RT_RESTRICT ctx, DiffCorrectionStatus* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DiffCorrectionStatus, pvalue);
+}
+
+RT_MERGED_BODY int dec_EllipsoidPoint_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPoint_latitudeSign* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_EllipsoidPoint_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPoint_latitudeSign* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EllipsoidPoint_latitudeSign, pvalue);
+}
+
+RT_MERGED_BODY int dec_EllipsoidPoint(rtxContext* RT_RESTRICT ctx, EllipsoidPoint* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* latitudeSign */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->latitudeSign, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "latitudeSign", -1, "EllipsoidPoint");
+   /* latitude */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->latitude, 0, 8388607);
+   RT_CHECK_AT(ctx, cur, stat, 0, "latitude", -1, "EllipsoidPoint");
+   /* longitude */
+   stat = pd_ConsIntegerAt(ctx, cur, &pvalue->longitude, -8388608, 8388607);
+   RT_CHECK_AT(ctx, cur, stat, 0, "longitude", -1, "EllipsoidPoint");
+   return 0;
+}
+
+int asn1PD_UMTS_EllipsoidPoint(rtxContext* RT_RESTRICT ctx, EllipsoidPoint* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EllipsoidPoint, pvalue);
+}
+
+RT_MERGED_BODY int dec_EllipsoidPointAltitude_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_latitudeSign* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_EllipsoidPointAltitude_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_latitudeSign* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EllipsoidPointAltitude_latitudeSign, pvalue);
+}
+
+RT_MERGED_BODY int dec_EllipsoidPointAltitude_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_altitudeDirection* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_EllipsoidPointAltitude_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_altitudeDirection* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EllipsoidPointAltitude_altitudeDirection, pvalue);
+}
+
+RT_MERGED_BODY int dec_EllipsoidPointAltitude(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* latitudeSign */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->latitudeSign, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "latitudeSign", -1, "EllipsoidPointAltitude");
+   /* latitude */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->latitude, 0, 8388607);
+   RT_CHECK_AT(ctx, cur, stat, 0, "latitude", -1, "EllipsoidPointAltitude");
+   /* longitude */
+   stat = pd_ConsIntegerAt(ctx, cur, &pvalue->longitude, -8388608, 8388607);
+   RT_CHECK_AT(ctx, cur, stat, 0, "longitude", -1, "EllipsoidPointAltitude");
+   /* altitudeDirection */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->altitudeDirection, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "altitudeDirection", -1, "EllipsoidPointAltitude");
+   /* altitude */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->altitude, 0, 32767);
+   RT_CHECK_AT(ctx, cur, stat, 0, "altitude", -1, "EllipsoidPointAltitude");
+   return 0;
+}
+
+int asn1PD_UMTS_EllipsoidPointAltitude(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EllipsoidPointAltitude, pvalue);
+}
+
+RT_MERGED_BODY int dec_EllipsoidPointAltitudeEllipsoide_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_latitudeSign* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_latitudeSign* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EllipsoidPointAltitudeEllipsoide_latitudeSign, pvalue);
+}
+
+RT_MERGED_BODY int dec_EllipsoidPointAltitudeEllipsoide_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_altitudeDirection* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_altitudeDirection* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EllipsoidPointAltitudeEllipsoide_altitudeDirection, pvalue);
+}
+
+RT_MERGED_BODY int dec_EllipsoidPointAltitudeEllipsoide(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* latitudeSign */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->latitudeSign, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "latitudeSign", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* latitude */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->latitude, 0, 8388607);
+   RT_CHECK_AT(ctx, cur, stat, 0, "latitude", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* longitude */
+   stat = pd_ConsIntegerAt(ctx, cur, &pvalue->longitude, -8388608, 8388607);
+   RT_CHECK_AT(ctx, cur, stat, 0, "longitude", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* altitudeDirection */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->altitudeDirection, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "altitudeDirection", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* altitude */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->altitude, 0, 32767);
+   RT_CHECK_AT(ctx, cur, stat, 0, "altitude", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* uncertaintySemiMajor */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->uncertaintySemiMajor, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "uncertaintySemiMajor", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* uncertaintySemiMinor */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->uncertaintySemiMinor, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "uncertaintySemiMinor", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* orientationMajorAxis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->orientationMajorAxis, 0, 89);
+   RT_CHECK_AT(ctx, cur, stat, 0, "orientationMajorAxis", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* uncertaintyAltitude */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->uncertaintyAltitude, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "uncertaintyAltitude", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* confidence */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->confidence, 0, 100);
+   RT_CHECK_AT(ctx, cur, stat, 0, "confidence", -1, "EllipsoidPointAltitudeEllipsoide");
+   return 0;
+}
+
+int asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EllipsoidPointAltitudeEllipsoide, pvalue);
+}
+
+RT_MERGED_BODY int dec_EllipsoidPointUncertCircle_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertCircle_latitudeSign* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_EllipsoidPointUncertCircle_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertCircle_latitudeSign* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EllipsoidPointUncertCircle_latitudeSign, pvalue);
+}
+
+RT_MERGED_BODY int dec_EllipsoidPointUncertCircle(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertCircle* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* latitudeSign */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->latitudeSign, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "latitudeSign", -1, "EllipsoidPointUncertCircle");
+   /* latitude */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->latitude, 0, 8388607);
+   RT_CHECK_AT(ctx, cur, stat, 0, "latitude", -1, "EllipsoidPointUncertCircle");
+   /* longitude */
+   stat = pd_ConsIntegerAt(ctx, cur, &pvalue->longitude, -8388608, 8388607);
+   RT_CHECK_AT(ctx, cur, stat, 0, "longitude", -1, "EllipsoidPointUncertCircle");
+   /* uncertaintyCode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->uncertaintyCode, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "uncertaintyCode", -1, "EllipsoidPointUncertCircle");
+   return 0;
+}
+
+int asn1PD_UMTS_EllipsoidPointUncertCircle(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertCircle* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EllipsoidPointUncertCircle, pvalue);
+}
+
+RT_MERGED_BODY int dec_EllipsoidPointUncertEllipse_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertEllipse_latitudeSign* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_EllipsoidPointUncertEllipse_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertEllipse_latitudeSign* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EllipsoidPointUncertEllipse_latitudeSign, pvalue);
+}
+
+RT_MERGED_BODY int dec_EllipsoidPointUncertEllipse(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertEllipse* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* latitudeSign */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->latitudeSign, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "latitudeSign", -1, "EllipsoidPointUncertEllipse");
+   /* latitude */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->latitude, 0, 8388607);
+   RT_CHECK_AT(ctx, cur, stat, 0, "latitude", -1, "EllipsoidPointUncertEllipse");
+   /* longitude */
+   stat = pd_ConsIntegerAt(ctx, cur, &pvalue->longitude, -8388608, 8388607);
+   RT_CHECK_AT(ctx, cur, stat, 0, "longitude", -1, "EllipsoidPointUncertEllipse");
+   /* uncertaintySemiMajor */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->uncertaintySemiMajor, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "uncertaintySemiMajor", -1, "EllipsoidPointUncertEllipse");
+   /* uncertaintySemiMinor */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->uncertaintySemiMinor, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "uncertaintySemiMinor", -1, "EllipsoidPointUncertEllipse");
+   /* orientationMajorAxis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->orientationMajorAxis, 0, 89);
+   RT_CHECK_AT(ctx, cur, stat, 0, "orientationMajorAxis", -1, "EllipsoidPointUncertEllipse");
+   /* confidence */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->confidence, 0, 100);
+   RT_CHECK_AT(ctx, cur, stat, 0, "confidence", -1, "EllipsoidPointUncertEllipse");
+   return 0;
+}
+
+int asn1PD_UMTS_EllipsoidPointUncertEllipse(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertEllipse* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EllipsoidPointUncertEllipse, pvalue);
+}
+
+RT_MERGED_BODY int dec_EnvironmentCharacterisation(rtxContext* RT_RESTRICT ctx, EnvironmentCharacterisation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EnvironmentCharacterisation");
+   return 0;
+}
+
+int asn1PD_UMTS_EnvironmentCharacterisation(rtxContext* RT_RESTRICT ctx, EnvironmentCharacterisation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EnvironmentCharacterisation, pvalue);
+}
+
+RT_MERGED_BODY int dec_Eutra_EventResult_reportedCells(rtxContext* RT_RESTRICT ctx, Eutra_EventResult_reportedCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "reportedCells");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->elem[i], 0, 503);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "EUTRA-PhysicalCellIdentity", "EUTRA-PhysicalCellIdentity", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Eutra_EventResult_reportedCells(rtxContext* RT_RESTRICT ctx, Eutra_EventResult_reportedCells* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Eutra_EventResult_reportedCells, pvalue);
+}
+
+RT_MERGED_BODY int dec_Eutra_EventResult(rtxContext* RT_RESTRICT ctx, Eutra_EventResult* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* earfcn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->earfcn, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, "EARFCN", "earfcn", -1, "Eutra-EventResult");
+   /* reportedCells */
+   stat = dec_Eutra_EventResult_reportedCells(ctx, &pvalue->reportedCells, cur);
+   RT_CHECK(ctx, stat, 0, "reportedCells", -1, "Eutra-EventResult");
+   return 0;
+}
+
+int asn1PD_UMTS_Eutra_EventResult(rtxContext* RT_RESTRICT ctx, Eutra_EventResult* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Eutra_EventResult, pvalue);
+}
+
+RT_MERGED_BODY int dec_Eutra_EventResultList(rtxContext* RT_RESTRICT ctx, Eutra_EventResultList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Eutra-EventResultList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Eutra_EventResult* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Eutra_EventResult));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Eutra-EventResult", (int32_t)i, "Eutra-EventResultList");
+      elem = (Eutra_EventResult*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_Eutra_EventResult(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_Eutra_EventResult(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Eutra-EventResult", (int32_t)i, "Eutra-EventResultList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Eutra_EventResultList(rtxContext* RT_RESTRICT ctx, Eutra_EventResultList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Eutra_EventResultList, pvalue);
+}
+
+RT_MERGED_BODY int dec_EventIDInterRAT(rtxContext* RT_RESTRICT ctx, EventIDInterRAT* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EventIDInterRAT");
+   return 0;
+}
+
+int asn1PD_UMTS_EventIDInterRAT(rtxContext* RT_RESTRICT ctx, EventIDInterRAT* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EventIDInterRAT, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_EventResults(rtxContext* RT_RESTRICT ctx, EUTRA_EventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* eventID */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->eventID, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "EventIDInterRAT", "eventID", -1, "EUTRA-EventResults");
+   /* eutra-EventResultsList */
+   stat = dec_Eutra_EventResultList(ctx, &pvalue->eutra_EventResultsList, cur);
+   RT_CHECK(ctx, stat, 0, "eutra-EventResultsList", -1, "EUTRA-EventResults");
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_EventResults(rtxContext* RT_RESTRICT ctx, EUTRA_EventResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_EventResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_MeasurementBandwidth(rtxContext* RT_RESTRICT ctx, EUTRA_MeasurementBandwidth* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-MeasurementBandwidth");
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_MeasurementBandwidth(rtxContext* RT_RESTRICT ctx, EUTRA_MeasurementBandwidth* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_MeasurementBandwidth, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_FrequencyAndPriorityInfo(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* earfcn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->earfcn, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, "EARFCN", "earfcn", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* measurementBandwidth */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->measurementBandwidth, 0, 5);
+      RT_CHECK_AT(ctx, cur, stat, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   /* priority */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->priority, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "priority", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* qRxLevMinEUTRA */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->qRxLevMinEUTRA, -70, -22);
+   RT_CHECK_AT(ctx, cur, stat, 0, "qRxLevMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* threshXhigh */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->threshXhigh, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "threshXhigh", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* threshXlow */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->threshXlow, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "threshXlow", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* eutra-blackListedCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList, cur);
+      RT_CHECK(ctx, stat, 0, "eutra-blackListedCellList", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   /* eutraDetection */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->eutraDetection);
+   RT_CHECK_AT(ctx, cur, stat, 0, "eutraDetection", -1, "EUTRA-FrequencyAndPriorityInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfo(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_FrequencyAndPriorityInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_FrequencyAndPriorityInfo_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfo_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   /* qqualMinEUTRA */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->qqualMinEUTRA, -34, -3);
+      RT_CHECK_AT(ctx, cur, stat, 0, "qqualMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   }
+   /* threshXhigh2 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->threshXhigh2, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, 0, "threshXhigh2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   }
+   /* threshXlow2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->threshXlow2, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, 0, "threshXlow2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfo_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_FrequencyAndPriorityInfo_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_FrequencyAndPriorityInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      EUTRA_FrequencyAndPriorityInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_FrequencyAndPriorityInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "EUTRA-FrequencyAndPriorityInfo", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList");
+      elem = (EUTRA_FrequencyAndPriorityInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_EUTRA_FrequencyAndPriorityInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_EUTRA_FrequencyAndPriorityInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyAndPriorityInfo", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_FrequencyAndPriorityInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_FrequencyAndPriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfoList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      EUTRA_FrequencyAndPriorityInfo_v920ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_FrequencyAndPriorityInfo_v920ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "EUTRA-FrequencyAndPriorityInfo-v920ext", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
+      elem = (EUTRA_FrequencyAndPriorityInfo_v920ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_EUTRA_FrequencyAndPriorityInfo_v920ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyAndPriorityInfo-v920ext", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyAndPriorityInfoList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_FrequencyAndPriorityInfoList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_FrequencyRemoval_removeSomeFrequencies(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyRemoval_removeSomeFrequencies* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "removeSomeFrequencies");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->elem[i], 0, 65535);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "EARFCN", "EARFCN", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyRemoval_removeSomeFrequencies* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_FrequencyRemoval_removeSomeFrequencies, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_FrequencyRemoval(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyRemoval* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyRemoval");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* removeAllFrequencies */
+         break;
+      case 1: /* removeSomeFrequencies */
+         pvalue->u.removeSomeFrequencies = (EUTRA_FrequencyRemoval_removeSomeFrequencies*)rtxMemHeapAlloc(ctx, sizeof(EUTRA_FrequencyRemoval_removeSomeFrequencies));
+         if (pvalue->u.removeSomeFrequencies == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "removeSomeFrequencies", -1, "EUTRA-FrequencyRemoval");
+         asn1Init_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(pvalue->u.removeSomeFrequencies);
+         stat = dec_EUTRA_FrequencyRemoval_removeSomeFrequencies(ctx, pvalue->u.removeSomeFrequencies, cur);
+         RT_CHECK(ctx, stat, 0, "removeSomeFrequencies", -1, "EUTRA-FrequencyRemoval");
+         break;
+      case 2: /* removeNoFrequencies */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "EUTRA-FrequencyRemoval");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_FrequencyRemoval(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyRemoval* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_FrequencyRemoval, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_FrequencyInfo(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyInfo");
+   /* earfcn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->earfcn, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, "EARFCN", "earfcn", -1, "EUTRA-FrequencyInfo");
+   /* measurementBandwidth */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->measurementBandwidth, 0, 5);
+      RT_CHECK_AT(ctx, cur, stat, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyInfo");
+   }
+   /* eutra-blackListedCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList, cur);
+      RT_CHECK(ctx, stat, 0, "eutra-blackListedCellList", -1, "EUTRA-FrequencyInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_FrequencyInfo(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_FrequencyInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_FrequencyInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      EUTRA_FrequencyInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_FrequencyInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "EUTRA-FrequencyInfo", (int32_t)i, "EUTRA-FrequencyInfoList");
+      elem = (EUTRA_FrequencyInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_EUTRA_FrequencyInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_EUTRA_FrequencyInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyInfo", (int32_t)i, "EUTRA-FrequencyInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_FrequencyInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_FrequencyInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_FrequencyList(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyList");
+   /* eutraFrequencyRemoval */
+   stat = dec_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval, cur);
+   RT_CHECK(ctx, stat, 0, "eutraFrequencyRemoval", -1, "EUTRA-FrequencyList");
+   /* eutraNewFrequencies */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies, cur);
+      RT_CHECK(ctx, stat, 0, "eutraNewFrequencies", -1, "EUTRA-FrequencyList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_FrequencyList(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_FrequencyList, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_SIAcquisition(rtxContext* RT_RESTRICT ctx, EUTRA_SIAcquisition* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* earfcn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->earfcn, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, "EARFCN", "earfcn", -1, "EUTRA-SIAcquisition");
+   /* physicalCellIdentity */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->physicalCellIdentity, 0, 503);
+   RT_CHECK_AT(ctx, cur, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-SIAcquisition");
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_SIAcquisition(rtxContext* RT_RESTRICT ctx, EUTRA_SIAcquisition* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_SIAcquisition, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_FrequencyList_r9(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyList-r9");
+   /* eutraFrequencyRemoval */
+   stat = dec_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval, cur);
+   RT_CHECK(ctx, stat, 0, "eutraFrequencyRemoval", -1, "EUTRA-FrequencyList-r9");
+   /* eutraNewFrequencies */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies, cur);
+      RT_CHECK(ctx, stat, 0, "eutraNewFrequencies", -1, "EUTRA-FrequencyList-r9");
+   }
+   /* eutraSIAcquisition */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_EUTRA_SIAcquisition(ctx, &pvalue->eutraSIAcquisition, cur);
+      RT_CHECK(ctx, stat, 0, "eutraSIAcquisition", -1, "EUTRA-FrequencyList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_FrequencyList_r9(rtxContext* RT_RESTRICT ctx, EUTRA_FrequencyList_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_FrequencyList_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_MeasuredCells(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-MeasuredCells");
+   /* physicalCellIdentity */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->physicalCellIdentity, 0, 503);
+   RT_CHECK_AT(ctx, cur, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-MeasuredCells");
+   /* rSRP */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->rSRP, 0, 97);
+      RT_CHECK_AT(ctx, cur, stat, 0, "rSRP", -1, "EUTRA-MeasuredCells");
+   }
+   /* rSRQ */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->rSRQ, 0, 33);
+      RT_CHECK_AT(ctx, cur, stat, 0, "rSRQ", -1, "EUTRA-MeasuredCells");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_MeasuredCells(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredCells* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_MeasuredCells, pvalue);
+}
+
+RT_MERGED_BODY int dec_Eutra_MeasuredResult_measuredEUTRACells(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult_measuredEUTRACells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      EUTRA_MeasuredCells* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_MeasuredCells));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "EUTRA-MeasuredCells", (int32_t)i, 0);
+      elem = (EUTRA_MeasuredCells*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_EUTRA_MeasuredCells(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_EUTRA_MeasuredCells(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-MeasuredCells", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Eutra_MeasuredResult_measuredEUTRACells(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult_measuredEUTRACells* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Eutra_MeasuredResult_measuredEUTRACells, pvalue);
+}
+
+RT_MERGED_BODY int dec_Eutra_MeasuredResult(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* earfcn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->earfcn, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, "EARFCN", "earfcn", -1, "Eutra-MeasuredResult");
+   /* measuredEUTRACells */
+   stat = dec_Eutra_MeasuredResult_measuredEUTRACells(ctx, &pvalue->measuredEUTRACells, cur);
+   RT_CHECK(ctx, stat, 0, "measuredEUTRACells", -1, "Eutra-MeasuredResult");
+   return 0;
+}
+
+int asn1PD_UMTS_Eutra_MeasuredResult(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Eutra_MeasuredResult, pvalue);
+}
+
+RT_MERGED_BODY int dec_Eutra_MeasuredResultList(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResultList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Eutra-MeasuredResultList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Eutra_MeasuredResult* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Eutra_MeasuredResult));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Eutra-MeasuredResult", (int32_t)i, "Eutra-MeasuredResultList");
+      elem = (Eutra_MeasuredResult*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_Eutra_MeasuredResult(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_Eutra_MeasuredResult(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Eutra-MeasuredResult", (int32_t)i, "Eutra-MeasuredResultList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Eutra_MeasuredResultList(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResultList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Eutra_MeasuredResultList, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_MeasuredResults(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* eutraMeasuredResultList */
+   stat = dec_Eutra_MeasuredResultList(ctx, &pvalue->eutraMeasuredResultList, cur);
+   RT_CHECK(ctx, stat, 0, "eutraMeasuredResultList", -1, "EUTRA-MeasuredResults");
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_MeasuredResults(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_MeasuredResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_SIacquisitionResults_cgiInfo(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_cgiInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* plmn-Identity */
+   stat = dec_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
+   /* cellIdentity */
+   RT_SET_SIZE(ctx, 28, 28);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cellIdentity, 28, 28);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cellIdentity", -1, 0);
+   /* trackingAreaCode */
    RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->teop, 16, 16);
-   RT_CHECK(ctx, stat, 0, "teop", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* pmX */
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pd_BitString32(ctx, &pvalue->pmX, 21, 21);
-   RT_CHECK(ctx, stat, 0, "pmX", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* pmXdot */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->pmXdot, 15, 15);
-   RT_CHECK(ctx, stat, 0, "pmXdot", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* pmY */
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pd_BitString32(ctx, &pvalue->pmY, 21, 21);
-   RT_CHECK(ctx, stat, 0, "pmY", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* pmYdot */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->pmYdot, 15, 15);
-   RT_CHECK(ctx, stat, 0, "pmYdot", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* deltaUT1 */
-   RT_SET_SIZE(ctx, 31, 31);
-   stat = pd_BitString32(ctx, &pvalue->deltaUT1, 31, 31);
-   RT_CHECK(ctx, stat, 0, "deltaUT1", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* deltaUT1dot */
-   RT_SET_SIZE(ctx, 19, 19);
-   stat = pd_BitString32(ctx, &pvalue->deltaUT1dot, 19, 19);
-   RT_CHECK(ctx, stat, 0, "deltaUT1dot", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   stat = pd_BitString32At(ctx, cur, &pvalue->trackingAreaCode, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "trackingAreaCode", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_r8* RT_RESTRICT pvalue)
+int asn1PD_UMTS_EUTRA_SIacquisitionResults_cgiInfo(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_cgiInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_SIacquisitionResults_cgiInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_SIacquisitionResults_csgMemberIndication(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_csgMemberIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_SIacquisitionResults_csgMemberIndication(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_csgMemberIndication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_SIacquisitionResults_csgMemberIndication, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_SIacquisitionResults(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   /* ue-positioning-GANSS-ReferenceTime */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   }
-   /* uePositioningGanssReferencePosition */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   }
-   /* uePositioningGanssIonosphericModel */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   }
-   /* uePositioningGanssAddIonoModel */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   }
-   /* uePositioningGanssEarthOrientationPara */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EUTRA-SIacquisitionResults");
+   /* cgiInfo */
+   stat = dec_EUTRA_SIacquisitionResults_cgiInfo(ctx, &pvalue->cgiInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cgiInfo", -1, "EUTRA-SIacquisitionResults");
+   /* csgIdentity */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+      pvalue->m |= 0x1u;
+      stat = dec_CSG_Identity(ctx, &pvalue->csgIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "EUTRA-SIacquisitionResults");
    }
-   /* ganssGenericDataList */
+   /* csgMemberIndication */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_GANSSGenericDataList_r8(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "csgMemberIndication", -1, "EUTRA-SIacquisitionResults");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "csgMemberIndication", -1, "EUTRA-SIacquisitionResults");
+         pvalue->csgMemberIndication = ui;
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_Measurement_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r8* RT_RESTRICT pvalue)
+int asn1PD_UMTS_EUTRA_SIacquisitionResults(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_SIacquisitionResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_MeasuredCells_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredCells_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r8");
-   /* ue-positioning-ReportingQuantity */
-   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r8");
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r8");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r8");
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r8");
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r8");
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r8(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r8");
+   /* eutraSIacquisitionResults */
+   stat = dec_EUTRA_SIacquisitionResults(ctx, &pvalue->eutraSIacquisitionResults, cur);
+   RT_CHECK(ctx, stat, 0, "eutraSIacquisitionResults", -1, "EUTRA-MeasuredCells-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_MeasuredCells_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredCells_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_MeasuredCells_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      EUTRA_MeasuredCells_v920ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_MeasuredCells_v920ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "EUTRA-MeasuredCells-v920ext", (int32_t)i, 0);
+      elem = (EUTRA_MeasuredCells_v920ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_EUTRA_MeasuredCells_v920ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_EUTRA_MeasuredCells_v920ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-MeasuredCells-v920ext", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementType_r8(rtxContext* RT_RESTRICT ctx, MeasurementType_r8* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_Eutra_MeasuredResult_v920ext(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* measuredEUTRACells-v920ext */
+   stat = dec_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(ctx, &pvalue->measuredEUTRACells_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "measuredEUTRACells-v920ext", -1, "Eutra-MeasuredResult-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_Eutra_MeasuredResult_v920ext(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResult_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Eutra_MeasuredResult_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_Eutra_MeasuredResultList_v920ext(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResultList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Eutra-MeasuredResultList-v920ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Eutra_MeasuredResult_v920ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Eutra_MeasuredResult_v920ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Eutra-MeasuredResult-v920ext", (int32_t)i, "Eutra-MeasuredResultList-v920ext");
+      elem = (Eutra_MeasuredResult_v920ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_Eutra_MeasuredResult_v920ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_Eutra_MeasuredResult_v920ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Eutra-MeasuredResult-v920ext", (int32_t)i, "Eutra-MeasuredResultList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Eutra_MeasuredResultList_v920ext(rtxContext* RT_RESTRICT ctx, Eutra_MeasuredResultList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Eutra_MeasuredResultList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_EUTRA_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredResults_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* eutraMeasuredResultList-v920ext */
+   stat = dec_Eutra_MeasuredResultList_v920ext(ctx, &pvalue->eutraMeasuredResultList_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "eutraMeasuredResultList-v920ext", -1, "EUTRA-MeasuredResults-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, EUTRA_MeasuredResults_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EUTRA_MeasuredResults_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_ForbiddenAffectCell_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementType-r8");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ForbiddenAffectCell-r4");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* intraFrequencyMeasurement */
-         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r7));
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r8");
-         asn1Init_UMTS_IntraFrequencyMeasurement_r7(pvalue->u.intraFrequencyMeasurement);
-         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r8");
+      case 0: /* fdd */
+         pvalue->u.fdd = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, "ForbiddenAffectCell-r4");
+         stat = dec_PrimaryCPICH_Info(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "ForbiddenAffectCell-r4");
          break;
-      case 1: /* interFrequencyMeasurement */
-         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r8*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r8));
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r8");
-         asn1Init_UMTS_InterFrequencyMeasurement_r8(pvalue->u.interFrequencyMeasurement);
-         stat = asn1PD_UMTS_InterFrequencyMeasurement_r8(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r8");
-         break;
-      case 2: /* interRATMeasurement */
-         pvalue->u.interRATMeasurement = (InterRATMeasurement_r8*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r8));
-         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r8");
-         asn1Init_UMTS_InterRATMeasurement_r8(pvalue->u.interRATMeasurement);
-         stat = asn1PD_UMTS_InterRATMeasurement_r8(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r8");
-         break;
-      case 3: /* up-Measurement */
-         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r8*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r8));
-         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r8");
-         asn1Init_UMTS_UE_Positioning_Measurement_r8(pvalue->u.up_Measurement);
-         stat = asn1PD_UMTS_UE_Positioning_Measurement_r8(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r8");
-         break;
-      case 4: /* trafficVolumeMeasurement */
-         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r8");
-         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
-         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r8");
-         break;
-      case 5: /* qualityMeasurement */
-         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
-         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r8");
-         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
-         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r8");
-         break;
-      case 6: /* ue-InternalMeasurement */
-         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r8");
-         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
-         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r8");
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, "ForbiddenAffectCell-r4");
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
+         stat = dec_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell-r4");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r8");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ForbiddenAffectCell-r4");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementCommand_r8_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r8_modify* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ForbiddenAffectCell_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementType */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementType_r8(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ForbiddenAffectCell_r4, pvalue);
 }
 
-int asn1PD_UMTS_MeasurementCommand_r8(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r8* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommand-r8");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* setup */
-         pvalue->u.setup = (MeasurementType_r8*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r8));
-         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r8");
-         asn1Init_UMTS_MeasurementType_r8(pvalue->u.setup);
-         stat = asn1PD_UMTS_MeasurementType_r8(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r8");
-         break;
-      case 1: /* modify */
-         pvalue->u.modify = (MeasurementCommand_r8_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r8_modify));
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r8");
-         asn1Init_UMTS_MeasurementCommand_r8_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_MeasurementCommand_r8_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r8");
-         break;
-      case 2: /* release */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gps-TOW */
-   stat = pd_ConsUInt32(ctx, &pvalue->gps_TOW, 0, 604799);
-   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
-   /* statusHealth */
-   stat = pd_ConsUnsigned(ctx, &pvalue->statusHealth, 0, 7);
-   RT_CHECK(ctx, stat, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
-   /* dgps-CorrectionSatInfoList */
-   stat = asn1PD_UMTS_DGPS_CorrectionSatInfoList_r9(ctx, &pvalue->dgps_CorrectionSatInfoList);
-   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r9");
-   /* ue-positioning-GPS-ReferenceTime */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-DGPS-Corrections */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-NavigationModel */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-Almanac */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-AcquisitionAssistance */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-Real-timeIntegrity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   /* ue-positioning-GANSS-ReferenceTime */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   }
-   /* uePositioningGanssReferencePosition */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   }
-   /* uePositioningGanssIonosphericModel */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   }
-   /* uePositioningGanssAddIonoModel */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   }
-   /* uePositioningGanssEarthOrientationPara */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   }
-   /* ganssGenericDataList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_GANSSGenericDataList_r9(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Measurement_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r9");
-   /* ue-positioning-ReportingQuantity */
-   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r9");
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r9");
-   }
-   /* reportCriteria */
-   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r9");
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r9");
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r9");
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementType_r9(rtxContext* RT_RESTRICT ctx, MeasurementType_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementType-r9");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intraFrequencyMeasurement */
-         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r9*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r9));
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r9");
-         asn1Init_UMTS_IntraFrequencyMeasurement_r9(pvalue->u.intraFrequencyMeasurement);
-         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r9(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r9");
-         break;
-      case 1: /* interFrequencyMeasurement */
-         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r9*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r9));
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r9");
-         asn1Init_UMTS_InterFrequencyMeasurement_r9(pvalue->u.interFrequencyMeasurement);
-         stat = asn1PD_UMTS_InterFrequencyMeasurement_r9(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r9");
-         break;
-      case 2: /* interRATMeasurement */
-         pvalue->u.interRATMeasurement = (InterRATMeasurement_r9*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r9));
-         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r9");
-         asn1Init_UMTS_InterRATMeasurement_r9(pvalue->u.interRATMeasurement);
-         stat = asn1PD_UMTS_InterRATMeasurement_r9(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r9");
-         break;
-      case 3: /* up-Measurement */
-         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r9*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r9));
-         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r9");
-         asn1Init_UMTS_UE_Positioning_Measurement_r9(pvalue->u.up_Measurement);
-         stat = asn1PD_UMTS_UE_Positioning_Measurement_r9(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r9");
-         break;
-      case 4: /* trafficVolumeMeasurement */
-         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r9");
-         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
-         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r9");
-         break;
-      case 5: /* qualityMeasurement */
-         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
-         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r9");
-         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
-         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r9");
-         break;
-      case 6: /* ue-InternalMeasurement */
-         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r9");
-         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
-         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r9");
-         break;
-      case 7: /* csgProximityDetection */
-         pvalue->u.csgProximityDetection = (CSGProximityDetection*)rtxMemHeapAlloc(ctx, sizeof(CSGProximityDetection));
-         if (pvalue->u.csgProximityDetection == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "csgProximityDetection", -1, "MeasurementType-r9");
-         asn1Init_UMTS_CSGProximityDetection(pvalue->u.csgProximityDetection);
-         stat = asn1PD_UMTS_CSGProximityDetection(ctx, pvalue->u.csgProximityDetection);
-         RT_CHECK(ctx, stat, 0, "csgProximityDetection", -1, "MeasurementType-r9");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand_r9_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r9_modify* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementType */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementType_r9(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand_r9(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r9* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommand-r9");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* setup */
-         pvalue->u.setup = (MeasurementType_r9*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r9));
-         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r9");
-         asn1Init_UMTS_MeasurementType_r9(pvalue->u.setup);
-         stat = asn1PD_UMTS_MeasurementType_r9(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r9");
-         break;
-      case 1: /* modify */
-         pvalue->u.modify = (MeasurementCommand_r9_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r9_modify));
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r9");
-         asn1Init_UMTS_MeasurementCommand_r9_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_MeasurementCommand_r9_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r9");
-         break;
-      case 2: /* release */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Neighbour_TDD_r7(rtxContext* RT_RESTRICT ctx, Neighbour_TDD_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Neighbour-TDD-r7");
-   /* uarfcn */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
-      RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, "Neighbour-TDD-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NeighbourList_TDD_r7(rtxContext* RT_RESTRICT ctx, NeighbourList_TDD_r7* RT_RESTRICT pvalue)
+static int dec_ForbiddenAffectCellList_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NeighbourList-TDD-r7");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ForbiddenAffectCellList-r4");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      Neighbour_TDD_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Neighbour_TDD_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Neighbour-TDD-r7", (int32_t)i, "NeighbourList-TDD-r7");
-      elem = (Neighbour_TDD_r7*)(node + 1);
+      ForbiddenAffectCell_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCell_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ForbiddenAffectCell-r4", (int32_t)i, "ForbiddenAffectCellList-r4");
+      elem = (ForbiddenAffectCell_r4*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_Neighbour_TDD_r7(elem);
+      asn1Init_UMTS_ForbiddenAffectCell_r4(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Neighbour_TDD_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "Neighbour-TDD-r7", (int32_t)i, "NeighbourList-TDD-r7");
+      stat = dec_ForbiddenAffectCell_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell-r4", (int32_t)i, "ForbiddenAffectCellList-r4");
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ForbiddenAffectCellList_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ForbiddenAffectCellList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1a_r4(rtxContext* RT_RESTRICT ctx, Event1a_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-LCR-v8a0ext");
-   /* cellInfo-LCR-r8 */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event1a-r4");
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-r4");
+   /* reportingRange */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reportingRange, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1a-r4");
+   /* forbiddenAffectCellList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8);
-      RT_CHECK(ctx, stat, 0, "cellInfo-LCR-r8", -1, "NewInterFreqCell-LCR-v8a0ext");
+      stat = dec_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a-r4");
    }
+   /* w */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->w, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "w", -1, "Event1a-r4");
+   /* reportDeactivationThreshold */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-r4");
+   /* reportingAmount */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-r4");
+   /* reportingInterval */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingInterval, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-r4");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Event1a_r4(rtxContext* RT_RESTRICT ctx, Event1a_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1a_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_ForbiddenAffectCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH", -1, "ForbiddenAffectCellOnSecULFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_ForbiddenAffectCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ForbiddenAffectCellOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_ForbiddenAffectCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellList-LCR-v8a0ext");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ForbiddenAffectCellListOnSecULFreq");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      NewInterFreqCell_LCR_v8a0ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_LCR_v8a0ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCell-LCR-v8a0ext", (int32_t)i, "NewInterFreqCellList-LCR-v8a0ext");
-      elem = (NewInterFreqCell_LCR_v8a0ext*)(node + 1);
+      ForbiddenAffectCellOnSecULFreq* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCellOnSecULFreq));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ForbiddenAffectCellOnSecULFreq", (int32_t)i, "ForbiddenAffectCellListOnSecULFreq");
+      elem = (ForbiddenAffectCellOnSecULFreq*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_NewInterFreqCell_LCR_v8a0ext(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCell_LCR_v8a0ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-LCR-v8a0ext", (int32_t)i, "NewInterFreqCellList-LCR-v8a0ext");
+      stat = dec_ForbiddenAffectCellOnSecULFreq(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCellOnSecULFreq", (int32_t)i, "ForbiddenAffectCellListOnSecULFreq");
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ForbiddenAffectCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ForbiddenAffectCellListOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1a_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, Event1a_OnSecUlFreq_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell-LCR-v8a0ext");
-   /* cellInfo-LCR-r8 */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event1a-OnSecUlFreq-r9");
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-OnSecUlFreq-r9");
+   /* reportingRange */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reportingRange, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1a-OnSecUlFreq-r9");
+   /* forbiddenAffectCellListOnSecULFreq */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8);
-      RT_CHECK(ctx, stat, 0, "cellInfo-LCR-r8", -1, "NewIntraFreqCell-LCR-v8a0ext");
+      stat = dec_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellListOnSecULFreq", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   /* w */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->w, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "w", -1, "Event1a-OnSecUlFreq-r9");
+   /* reportDeactivationThreshold */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-OnSecUlFreq-r9");
+   /* reportingAmount */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-OnSecUlFreq-r9");
+   /* reportingInterval */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingInterval, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-OnSecUlFreq-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1a_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, Event1a_OnSecUlFreq_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1a_OnSecUlFreq_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1b_r4(rtxContext* RT_RESTRICT ctx, Event1b_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event1b-r4");
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r4");
+   /* reportingRange */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reportingRange, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1b-r4");
+   /* forbiddenAffectCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-r4");
+   }
+   /* w */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->w, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "w", -1, "Event1b-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1b_r4(rtxContext* RT_RESTRICT ctx, Event1b_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1b_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1b_r7(rtxContext* RT_RESTRICT ctx, Event1b_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event1b-r7");
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r7");
+   /* reportingRange */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reportingRange, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1b-r7");
+   /* forbiddenAffectCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-r7");
+   }
+   /* w */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->w, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "w", -1, "Event1b-r7");
+   /* periodicReportingInfo-1b */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b, cur);
+      RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "Event1b-r7");
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Event1b_r7(rtxContext* RT_RESTRICT ctx, Event1b_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1b_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1b_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, Event1b_OnSecUlFreq_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event1b-OnSecUlFreq-r9");
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-OnSecUlFreq-r9");
+   /* reportingRange */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->reportingRange, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1b-OnSecUlFreq-r9");
+   /* forbiddenAffectCellListOnSecULFreq */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellListOnSecULFreq", -1, "Event1b-OnSecUlFreq-r9");
+   }
+   /* w */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->w, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "w", -1, "Event1b-OnSecUlFreq-r9");
+   /* periodicReportingInfo-1b */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b, cur);
+      RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "Event1b-OnSecUlFreq-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event1b_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, Event1b_OnSecUlFreq_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1b_OnSecUlFreq_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1d(rtxContext* RT_RESTRICT ctx, Event1d* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event1d");
+   /* triggeringCondition */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 4);
+      RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1d");
+   }
+   /* useCIO */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->useCIO);
+      RT_CHECK_AT(ctx, cur, stat, 0, "useCIO", -1, "Event1d");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event1d(rtxContext* RT_RESTRICT ctx, Event1d* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1d, pvalue);
+}
+
+RT_MERGED_BODY int dec_ThresholdUsedFrequency_r6(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt16At(ctx, cur, pvalue, -120, 165);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ThresholdUsedFrequency-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_ThresholdUsedFrequency_r6(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ThresholdUsedFrequency_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1e_r6(rtxContext* RT_RESTRICT ctx, Event1e_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1e-r6");
+   /* thresholdUsedFrequency */
+   stat = pd_ConsInt16At(ctx, cur, &pvalue->thresholdUsedFrequency, -120, 165);
+   RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1e-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1e_r6(rtxContext* RT_RESTRICT ctx, Event1e_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1e_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1f_r6(rtxContext* RT_RESTRICT ctx, Event1f_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* triggeringCondition */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1f-r6");
+   /* thresholdUsedFrequency */
+   stat = pd_ConsInt16At(ctx, cur, &pvalue->thresholdUsedFrequency, -120, 165);
+   RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1f-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1f_r6(rtxContext* RT_RESTRICT ctx, Event1f_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1f_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event1j_r6(rtxContext* RT_RESTRICT ctx, Event1j_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* replacementActivationThreshold */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->replacementActivationThreshold, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1j-r6");
+   /* reportingAmount */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "Event1j-r6");
+   /* reportingInterval */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingInterval, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "Event1j-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1j_r6(rtxContext* RT_RESTRICT ctx, Event1j_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event1j_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_HysteresisInterFreq(rtxContext* RT_RESTRICT ctx, HysteresisInterFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HysteresisInterFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_HysteresisInterFreq(rtxContext* RT_RESTRICT ctx, HysteresisInterFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HysteresisInterFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_NonUsedFreqParameter(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* nonUsedFreqThreshold */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nonUsedFreqThreshold, -115, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter");
+   /* nonUsedFreqW */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->nonUsedFreqW, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter");
+   return 0;
+}
+
+int asn1PD_UMTS_NonUsedFreqParameter(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameter* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NonUsedFreqParameter, pvalue);
+}
+
+RT_MERGED_BODY int dec_NonUsedFreqParameterList(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameterList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NonUsedFreqParameterList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NonUsedFreqParameter* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NonUsedFreqParameter));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NonUsedFreqParameter", (int32_t)i, "NonUsedFreqParameterList");
+      elem = (NonUsedFreqParameter*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NonUsedFreqParameter(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NonUsedFreqParameter", (int32_t)i, "NonUsedFreqParameterList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NonUsedFreqParameterList(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameterList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NonUsedFreqParameterList, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event2a(rtxContext* RT_RESTRICT ctx, Event2a* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event2a");
+   /* dummy */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dummy, -115, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold", "dummy", -1, "Event2a");
+   /* usedFreqW */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->usedFreqW, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2a");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2a");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2a");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2a");
+   }
+   /* nonUsedFreqParameterList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2a");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event2a(rtxContext* RT_RESTRICT ctx, Event2a* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event2a, pvalue);
+}
+
+RT_MERGED_BODY int dec_NonUsedFreqWList_r6(rtxContext* RT_RESTRICT ctx, NonUsedFreqWList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NonUsedFreqWList-r6");
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "NonUsedFreqWList-r6");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "NonUsedFreqWList-r6");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 20);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "W", "W", (int32_t)i, "NonUsedFreqWList-r6");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NonUsedFreqWList_r6(rtxContext* RT_RESTRICT ctx, NonUsedFreqWList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NonUsedFreqWList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event2a_r6(rtxContext* RT_RESTRICT ctx, Event2a_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event2a-r6");
+   /* usedFreqW */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->usedFreqW, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2a-r6");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2a-r6");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2a-r6");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2a-r6");
+   }
+   /* nonUsedFreqParameterList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NonUsedFreqWList_r6(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2a-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event2a_r6(rtxContext* RT_RESTRICT ctx, Event2a_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event2a_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event2b(rtxContext* RT_RESTRICT ctx, Event2b* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event2b");
+   /* usedFreqThreshold */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->usedFreqThreshold, -115, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold", "usedFreqThreshold", -1, "Event2b");
+   /* usedFreqW */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->usedFreqW, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2b");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2b");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2b");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2b");
+   }
+   /* nonUsedFreqParameterList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2b");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event2b(rtxContext* RT_RESTRICT ctx, Event2b* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event2b, pvalue);
+}
+
+RT_MERGED_BODY int dec_Threshold_r6(rtxContext* RT_RESTRICT ctx, Threshold_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -120, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Threshold-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_Threshold_r6(rtxContext* RT_RESTRICT ctx, Threshold_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Threshold_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_NonUsedFreqParameter_r6(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameter_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* nonUsedFreqThreshold */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->nonUsedFreqThreshold, -120, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold-r6", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter-r6");
+   /* nonUsedFreqW */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->nonUsedFreqW, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_NonUsedFreqParameter_r6(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameter_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NonUsedFreqParameter_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_NonUsedFreqParameterList_r6(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameterList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NonUsedFreqParameterList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NonUsedFreqParameter_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NonUsedFreqParameter_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NonUsedFreqParameter-r6", (int32_t)i, "NonUsedFreqParameterList-r6");
+      elem = (NonUsedFreqParameter_r6*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NonUsedFreqParameter_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NonUsedFreqParameter-r6", (int32_t)i, "NonUsedFreqParameterList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NonUsedFreqParameterList_r6(rtxContext* RT_RESTRICT ctx, NonUsedFreqParameterList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NonUsedFreqParameterList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event2b_r6(rtxContext* RT_RESTRICT ctx, Event2b_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event2b-r6");
+   /* usedFreqThreshold */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->usedFreqThreshold, -120, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2b-r6");
+   /* usedFreqW */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->usedFreqW, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2b-r6");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2b-r6");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2b-r6");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2b-r6");
+   }
+   /* nonUsedFreqParameterList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2b-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event2b_r6(rtxContext* RT_RESTRICT ctx, Event2b_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event2b_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event2c(rtxContext* RT_RESTRICT ctx, Event2c* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event2c");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2c");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2c");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2c");
+   }
+   /* nonUsedFreqParameterList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2c");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event2c(rtxContext* RT_RESTRICT ctx, Event2c* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event2c, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event2c_r6(rtxContext* RT_RESTRICT ctx, Event2c_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event2c-r6");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2c-r6");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2c-r6");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2c-r6");
+   }
+   /* nonUsedFreqParameterList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2c-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event2c_r6(rtxContext* RT_RESTRICT ctx, Event2c_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event2c_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event2d(rtxContext* RT_RESTRICT ctx, Event2d* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event2d");
+   /* usedFreqThreshold */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->usedFreqThreshold, -115, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold", "usedFreqThreshold", -1, "Event2d");
+   /* usedFreqW */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->usedFreqW, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2d");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2d");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2d");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2d");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event2d(rtxContext* RT_RESTRICT ctx, Event2d* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event2d, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event2d_r6(rtxContext* RT_RESTRICT ctx, Event2d_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event2d-r6");
+   /* usedFreqThreshold */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->usedFreqThreshold, -120, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2d-r6");
+   /* usedFreqW */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->usedFreqW, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2d-r6");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2d-r6");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2d-r6");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2d-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event2d_r6(rtxContext* RT_RESTRICT ctx, Event2d_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event2d_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event2e(rtxContext* RT_RESTRICT ctx, Event2e* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event2e");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2e");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2e");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2e");
+   }
+   /* nonUsedFreqParameterList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2e");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event2e(rtxContext* RT_RESTRICT ctx, Event2e* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event2e, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event2e_r6(rtxContext* RT_RESTRICT ctx, Event2e_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event2e-r6");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2e-r6");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2e-r6");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2e-r6");
+   }
+   /* nonUsedFreqParameterList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2e-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event2e_r6(rtxContext* RT_RESTRICT ctx, Event2e_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event2e_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event2f(rtxContext* RT_RESTRICT ctx, Event2f* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event2f");
+   /* usedFreqThreshold */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->usedFreqThreshold, -115, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold", "usedFreqThreshold", -1, "Event2f");
+   /* usedFreqW */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->usedFreqW, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2f");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2f");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2f");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2f");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event2f(rtxContext* RT_RESTRICT ctx, Event2f* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event2f, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event2f_r6(rtxContext* RT_RESTRICT ctx, Event2f_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event2f-r6");
+   /* usedFreqThreshold */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->usedFreqThreshold, -120, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2f-r6");
+   /* usedFreqW */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->usedFreqW, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2f-r6");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 29);
+   RT_CHECK_AT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2f-r6");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2f-r6");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2f-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event2f_r6(rtxContext* RT_RESTRICT ctx, Event2f_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event2f_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event3a(rtxContext* RT_RESTRICT ctx, Event3a* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event3a");
+   /* thresholdOwnSystem */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->thresholdOwnSystem, -115, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold", "thresholdOwnSystem", -1, "Event3a");
+   /* w */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->w, 0, 20);
+   RT_CHECK_AT(ctx, cur, stat, "W", "w", -1, "Event3a");
+   /* thresholdOtherSystem */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->thresholdOtherSystem, -115, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold", "thresholdOtherSystem", -1, "Event3a");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "Event3a");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3a");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3a");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event3a(rtxContext* RT_RESTRICT ctx, Event3a* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event3a, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event3b(rtxContext* RT_RESTRICT ctx, Event3b* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event3b");
+   /* thresholdOtherSystem */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->thresholdOtherSystem, -115, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold", "thresholdOtherSystem", -1, "Event3b");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "Event3b");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3b");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3b");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event3b(rtxContext* RT_RESTRICT ctx, Event3b* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event3b, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event3c(rtxContext* RT_RESTRICT ctx, Event3c* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event3c");
+   /* thresholdOtherSystem */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->thresholdOtherSystem, -115, 0);
+   RT_CHECK_AT(ctx, cur, stat, "Threshold", "thresholdOtherSystem", -1, "Event3c");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "Event3c");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3c");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3c");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event3c(rtxContext* RT_RESTRICT ctx, Event3c* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event3c, pvalue);
+}
+
+RT_MERGED_BODY int dec_Event3d(rtxContext* RT_RESTRICT ctx, Event3d* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Event3d");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "Event3d");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3d");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3d");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event3d(rtxContext* RT_RESTRICT ctx, Event3d* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Event3d, pvalue);
+}
+
+RT_MERGED_BODY int dec_EventIDInterFreq(rtxContext* RT_RESTRICT ctx, EventIDInterFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EventIDInterFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_EventIDInterFreq(rtxContext* RT_RESTRICT ctx, EventIDInterFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EventIDInterFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_EventIDIntraFreq(rtxContext* RT_RESTRICT ctx, EventIDIntraFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EventIDIntraFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_EventIDIntraFreq(rtxContext* RT_RESTRICT ctx, EventIDIntraFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EventIDIntraFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventResults(rtxContext* RT_RESTRICT ctx, IntraFreqEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* eventID */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->eventID, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResults");
+   /* cellMeasurementEventResults */
+   stat = dec_CellMeasurementEventResults(ctx, &pvalue->cellMeasurementEventResults, cur);
+   RT_CHECK(ctx, stat, 0, "cellMeasurementEventResults", -1, "IntraFreqEventResults");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventResults(rtxContext* RT_RESTRICT ctx, IntraFreqEventResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCell(rtxContext* RT_RESTRICT ctx, InterFreqCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* frequencyInfo */
+   stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqCell");
+   /* nonFreqRelatedEventResults */
+   stat = dec_CellMeasurementEventResults(ctx, &pvalue->nonFreqRelatedEventResults, cur);
+   RT_CHECK(ctx, stat, 0, "nonFreqRelatedEventResults", -1, "InterFreqCell");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqCell(rtxContext* RT_RESTRICT ctx, InterFreqCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellList(rtxContext* RT_RESTRICT ctx, InterFreqCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      InterFreqCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqCell));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "InterFreqCell", (int32_t)i, "InterFreqCellList");
+      elem = (InterFreqCell*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_InterFreqCell(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_InterFreqCell(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "InterFreqCell", (int32_t)i, "InterFreqCellList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqCellList(rtxContext* RT_RESTRICT ctx, InterFreqCellList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellList, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqEventResults(rtxContext* RT_RESTRICT ctx, InterFreqEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqEventResults");
+   /* eventID */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->eventID, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults");
+   /* interFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqCellList(ctx, &pvalue->interFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellList", -1, "InterFreqEventResults");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqEventResults(rtxContext* RT_RESTRICT ctx, InterFreqEventResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqEventResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATEventResults(rtxContext* RT_RESTRICT ctx, InterRATEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* eventID */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->eventID, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "EventIDInterRAT", "eventID", -1, "InterRATEventResults");
+   /* cellToReportList */
+   stat = dec_CellToReportList(ctx, &pvalue->cellToReportList, cur);
+   RT_CHECK(ctx, stat, 0, "cellToReportList", -1, "InterRATEventResults");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATEventResults(rtxContext* RT_RESTRICT ctx, InterRATEventResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATEventResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_TrafficVolumeEventResults(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ul-transportChannelCausingEvent */
+   stat = dec_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelCausingEvent, cur);
+   RT_CHECK(ctx, stat, 0, "ul-transportChannelCausingEvent", -1, "TrafficVolumeEventResults");
+   /* trafficVolumeEventIdentity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->trafficVolumeEventIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "TrafficVolumeEventType", "trafficVolumeEventIdentity", -1, "TrafficVolumeEventResults");
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeEventResults(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeEventResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_QualityEventResults(rtxContext* RT_RESTRICT ctx, QualityEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "QualityEventResults");
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "QualityEventResults");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "QualityEventResults");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 32);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "QualityEventResults");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_QualityEventResults(rtxContext* RT_RESTRICT ctx, QualityEventResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_QualityEventResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalEventResults(rtxContext* RT_RESTRICT ctx, UE_InternalEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-InternalEventResults");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* event6a */
+         break;
+      case 1: /* event6b */
+         break;
+      case 2: /* event6c */
+         break;
+      case 3: /* event6d */
+         break;
+      case 4: /* event6e */
+         break;
+      case 5: /* event6f */
+         pvalue->u.event6f = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
+         if (pvalue->u.event6f == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event6f", -1, "UE-InternalEventResults");
+         stat = dec_PrimaryCPICH_Info(ctx, pvalue->u.event6f, cur);
+         RT_CHECK(ctx, stat, 0, "event6f", -1, "UE-InternalEventResults");
+         break;
+      case 6: /* event6g */
+         pvalue->u.event6g = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
+         if (pvalue->u.event6g == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event6g", -1, "UE-InternalEventResults");
+         stat = dec_PrimaryCPICH_Info(ctx, pvalue->u.event6g, cur);
+         RT_CHECK(ctx, stat, 0, "event6g", -1, "UE-InternalEventResults");
+         break;
+      case 7: /* spare */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalEventResults");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalEventResults(rtxContext* RT_RESTRICT ctx, UE_InternalEventResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalEventResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ms-part */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ms_part, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ms-part", -1, 0);
+   /* ls-part */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->ls_part, 0, 4294967295LL);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ls-part", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* referenceIdentity */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* referenceIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->referenceIdentity, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GPSReferenceTimeResult_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTimeResult(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-GPSTimingOfCell */
+   stat = dec_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(ctx, &pvalue->ue_GPSTimingOfCell, cur);
+   RT_CHECK(ctx, stat, 0, "ue-GPSTimingOfCell", -1, "UTRAN-GPSReferenceTimeResult");
+   /* modeSpecificInfo */
+   stat = dec_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UTRAN-GPSReferenceTimeResult");
+   /* sfn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sfn", -1, "UTRAN-GPSReferenceTimeResult");
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTimeResult* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GPSReferenceTimeResult, pvalue);
+}
+
+RT_MERGED_BODY int dec_GPS_TOW_1msec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1msec* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt32At(ctx, cur, pvalue, 0, 604799999);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GPS-TOW-1msec");
+   return 0;
+}
+
+int asn1PD_UMTS_GPS_TOW_1msec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1msec* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GPS_TOW_1msec, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellAndChannelIdentity */
+   stat = dec_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sfn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sfn", -1, 0);
+   /* modeSpecificInfo */
+   stat = dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* utran-GPSReferenceTimeResult */
+         pvalue->u.utran_GPSReferenceTimeResult = (UTRAN_GPSReferenceTimeResult*)rtxMemHeapAlloc(ctx, sizeof(UTRAN_GPSReferenceTimeResult));
+         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "utran-GPSReferenceTimeResult", -1, 0);
+         asn1Init_UMTS_UTRAN_GPSReferenceTimeResult(pvalue->u.utran_GPSReferenceTimeResult);
+         stat = dec_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult, cur);
+         RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTimeResult", -1, 0);
+         break;
+      case 1: /* gps-ReferenceTimeOnly */
+         stat = pd_ConsUInt32At(ctx, cur, &pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
+         RT_CHECK_AT(ctx, cur, stat, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
+         break;
+      case 2: /* cell-Timing */
+         pvalue->u.cell_Timing = (UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing));
+         if (pvalue->u.cell_Timing == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cell-Timing", -1, 0);
+         asn1Init_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(pvalue->u.cell_Timing);
+         stat = dec_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(ctx, pvalue->u.cell_Timing, cur);
+         RT_CHECK(ctx, stat, 0, "cell-Timing", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_referenceTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_PositionEstimateInfo_referenceTime, pvalue);
+}
+
+static int dec_PositionEstimate(rtxContext* RT_RESTRICT ctx, PositionEstimate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PositionEstimate");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ellipsoidPoint */
+         pvalue->u.ellipsoidPoint = (EllipsoidPoint*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPoint));
+         if (pvalue->u.ellipsoidPoint == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ellipsoidPoint", -1, "PositionEstimate");
+         stat = dec_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint, cur);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPoint", -1, "PositionEstimate");
+         break;
+      case 1: /* ellipsoidPointUncertCircle */
+         pvalue->u.ellipsoidPointUncertCircle = (EllipsoidPointUncertCircle*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointUncertCircle));
+         if (pvalue->u.ellipsoidPointUncertCircle == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ellipsoidPointUncertCircle", -1, "PositionEstimate");
+         stat = dec_EllipsoidPointUncertCircle(ctx, pvalue->u.ellipsoidPointUncertCircle, cur);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointUncertCircle", -1, "PositionEstimate");
+         break;
+      case 2: /* ellipsoidPointUncertEllipse */
+         pvalue->u.ellipsoidPointUncertEllipse = (EllipsoidPointUncertEllipse*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointUncertEllipse));
+         if (pvalue->u.ellipsoidPointUncertEllipse == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ellipsoidPointUncertEllipse", -1, "PositionEstimate");
+         stat = dec_EllipsoidPointUncertEllipse(ctx, pvalue->u.ellipsoidPointUncertEllipse, cur);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointUncertEllipse", -1, "PositionEstimate");
+         break;
+      case 3: /* ellipsoidPointAltitude */
+         pvalue->u.ellipsoidPointAltitude = (EllipsoidPointAltitude*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointAltitude));
+         if (pvalue->u.ellipsoidPointAltitude == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ellipsoidPointAltitude", -1, "PositionEstimate");
+         stat = dec_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointAltitude, cur);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitude", -1, "PositionEstimate");
+         break;
+      case 4: /* ellipsoidPointAltitudeEllipse */
+         pvalue->u.ellipsoidPointAltitudeEllipse = (EllipsoidPointAltitudeEllipsoide*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointAltitudeEllipsoide));
+         if (pvalue->u.ellipsoidPointAltitudeEllipse == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ellipsoidPointAltitudeEllipse", -1, "PositionEstimate");
+         stat = dec_EllipsoidPointAltitudeEllipsoide(ctx, pvalue->u.ellipsoidPointAltitudeEllipse, cur);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipse", -1, "PositionEstimate");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PositionEstimate");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PositionEstimate(rtxContext* RT_RESTRICT ctx, PositionEstimate* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PositionEstimate, pvalue);
+}
+
+static int dec_UE_Positioning_PositionEstimateInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* referenceTime */
+   stat = dec_UE_Positioning_PositionEstimateInfo_referenceTime(ctx, &pvalue->referenceTime, cur);
+   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-PositionEstimateInfo");
+   /* positionEstimate */
+   stat = dec_PositionEstimate(ctx, &pvalue->positionEstimate, cur);
+   RT_CHECK(ctx, stat, 0, "positionEstimate", -1, "UE-Positioning-PositionEstimateInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_PositionEstimateInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RX_TX_TimeDifferenceType2(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 8191);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceType2");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RX_TX_TimeDifferenceType2(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RX_TX_TimeDifferenceType2, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_Quality(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Quality* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* stdResolution */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_BitString32At(ctx, cur, &pvalue->stdResolution, 2, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "stdResolution", -1, "UE-Positioning-OTDOA-Quality");
+   /* numberOfOTDOA-Measurements */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_BitString32At(ctx, cur, &pvalue->numberOfOTDOA_Measurements, 3, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numberOfOTDOA-Measurements", -1, "UE-Positioning-OTDOA-Quality");
+   /* stdOfOTDOA-Measurements */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->stdOfOTDOA_Measurements, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "stdOfOTDOA-Measurements", -1, "UE-Positioning-OTDOA-Quality");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_Quality(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Quality* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_Quality, pvalue);
+}
+
+RT_MERGED_BODY int dec_NeighbourQuality(rtxContext* RT_RESTRICT ctx, NeighbourQuality* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-Positioning-OTDOA-Quality */
+   stat = dec_UE_Positioning_OTDOA_Quality(ctx, &pvalue->ue_Positioning_OTDOA_Quality, cur);
+   RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-Quality", -1, "NeighbourQuality");
+   return 0;
+}
+
+int asn1PD_UMTS_NeighbourQuality(rtxContext* RT_RESTRICT ctx, NeighbourQuality* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NeighbourQuality, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RX_TX_TimeDifferenceType2Info(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-RX-TX-TimeDifferenceType2 */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ue_RX_TX_TimeDifferenceType2, 0, 8191);
+   RT_CHECK_AT(ctx, cur, stat, "UE-RX-TX-TimeDifferenceType2", "ue-RX-TX-TimeDifferenceType2", -1, "UE-RX-TX-TimeDifferenceType2Info");
+   /* neighbourQuality */
+   stat = dec_NeighbourQuality(ctx, &pvalue->neighbourQuality, cur);
+   RT_CHECK(ctx, stat, 0, "neighbourQuality", -1, "UE-RX-TX-TimeDifferenceType2Info");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RX_TX_TimeDifferenceType2Info(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RX_TX_TimeDifferenceType2Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* referenceCellIDentity */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->referenceCellIDentity, cur);
+   RT_CHECK(ctx, stat, 0, "referenceCellIDentity", -1, 0);
+   /* ue-RX-TX-TimeDifferenceType2Info */
+   stat = dec_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->ue_RX_TX_TimeDifferenceType2Info, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RX-TX-TimeDifferenceType2Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* referenceCellIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->referenceCellIdentity, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "referenceCellIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_Measurement_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_Neighbour_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Neighbour_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* neighbourIdentity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PrimaryCPICH_Info(ctx, &pvalue->neighbourIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "neighbourIdentity", -1, 0);
+   }
+   /* uE-RX-TX-TimeDifferenceType2Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->uE_RX_TX_TimeDifferenceType2Info, cur);
+      RT_CHECK(ctx, stat, 0, "uE-RX-TX-TimeDifferenceType2Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Neighbour_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Neighbour_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Neighbour_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_Neighbour_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, Neighbour_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* neighbourAndChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellAndChannelIdentity(ctx, &pvalue->neighbourAndChannelIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "neighbourAndChannelIdentity", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Neighbour_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, Neighbour_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Neighbour_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_Neighbour_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Neighbour_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (Neighbour_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(Neighbour_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_Neighbour_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_Neighbour_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (Neighbour_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(Neighbour_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_Neighbour_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_Neighbour_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Neighbour_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Neighbour_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Neighbour_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_Neighbour(rtxContext* RT_RESTRICT ctx, Neighbour* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_Neighbour_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Neighbour");
+   /* neighbourQuality */
+   stat = dec_NeighbourQuality(ctx, &pvalue->neighbourQuality, cur);
+   RT_CHECK(ctx, stat, 0, "neighbourQuality", -1, "Neighbour");
+   /* sfn-SFN-ObsTimeDifference2 */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn_SFN_ObsTimeDifference2, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, "SFN-SFN-ObsTimeDifference2", "sfn-SFN-ObsTimeDifference2", -1, "Neighbour");
+   return 0;
+}
+
+int asn1PD_UMTS_Neighbour(rtxContext* RT_RESTRICT ctx, Neighbour* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Neighbour, pvalue);
+}
+
+RT_MERGED_BODY int dec_NeighbourList(rtxContext* RT_RESTRICT ctx, NeighbourList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellList-LCR-v8a0ext");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NeighbourList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      NewIntraFreqCell_LCR_v8a0ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell_LCR_v8a0ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCell-LCR-v8a0ext", (int32_t)i, "NewIntraFreqCellList-LCR-v8a0ext");
-      elem = (NewIntraFreqCell_LCR_v8a0ext*)(node + 1);
+      Neighbour* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Neighbour));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Neighbour", (int32_t)i, "NeighbourList");
+      elem = (Neighbour*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCell_LCR_v8a0ext(elem);
+      asn1Init_UMTS_Neighbour(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCell_LCR_v8a0ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-LCR-v8a0ext", (int32_t)i, "NewIntraFreqCellList-LCR-v8a0ext");
+      stat = dec_Neighbour(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Neighbour", (int32_t)i, "NeighbourList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_TimeslotWithISCP(rtxContext* RT_RESTRICT ctx, TimeslotWithISCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NeighbourList(rtxContext* RT_RESTRICT ctx, NeighbourList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NeighbourList, pvalue);
+}
+
+static int dec_UE_Positioning_OTDOA_Measurement(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "TimeslotWithISCP");
-   /* timeslotISCP */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotISCP, 0, 127);
-   RT_CHECK(ctx, stat, "TimeslotISCP", "timeslotISCP", -1, "TimeslotWithISCP");
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-Measurement");
+   /* sfn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-Measurement");
+   /* modeSpecificInfo */
+   stat = dec_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-Measurement");
+   /* neighbourList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NeighbourList(ctx, &pvalue->neighbourList, cur);
+      RT_CHECK(ctx, stat, 0, "neighbourList", -1, "UE-Positioning-OTDOA-Measurement");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_TimeslotListWithISCP(rtxContext* RT_RESTRICT ctx, TimeslotListWithISCP* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_Measurement, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_MeasurementResults_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_MeasurementResults_referenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* utran-GPSReferenceTimeResult */
+         pvalue->u.utran_GPSReferenceTimeResult = (UTRAN_GPSReferenceTimeResult*)rtxMemHeapAlloc(ctx, sizeof(UTRAN_GPSReferenceTimeResult));
+         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "utran-GPSReferenceTimeResult", -1, 0);
+         asn1Init_UMTS_UTRAN_GPSReferenceTimeResult(pvalue->u.utran_GPSReferenceTimeResult);
+         stat = dec_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult, cur);
+         RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTimeResult", -1, 0);
+         break;
+      case 1: /* gps-ReferenceTimeOnly */
+         stat = pd_ConsUInt32At(ctx, cur, &pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
+         RT_CHECK_AT(ctx, cur, stat, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_MeasurementResults_referenceTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_MeasurementResults_referenceTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_MultipathIndicator(rtxContext* RT_RESTRICT ctx, MultipathIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MultipathIndicator");
+   return 0;
+}
+
+int asn1PD_UMTS_MultipathIndicator(rtxContext* RT_RESTRICT ctx, MultipathIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MultipathIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_GPS_MeasurementParam(rtxContext* RT_RESTRICT ctx, GPS_MeasurementParam* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* satelliteID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satelliteID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "satelliteID", -1, "GPS-MeasurementParam");
+   /* c-N0 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->c_N0, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-N0", -1, "GPS-MeasurementParam");
+   /* doppler */
+   stat = pd_ConsIntegerAt(ctx, cur, &pvalue->doppler, -32768, 32768);
+   RT_CHECK_AT(ctx, cur, stat, 0, "doppler", -1, "GPS-MeasurementParam");
+   /* wholeGPS-Chips */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->wholeGPS_Chips, 0, 1022);
+   RT_CHECK_AT(ctx, cur, stat, 0, "wholeGPS-Chips", -1, "GPS-MeasurementParam");
+   /* fractionalGPS-Chips */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->fractionalGPS_Chips, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, 0, "fractionalGPS-Chips", -1, "GPS-MeasurementParam");
+   /* multipathIndicator */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->multipathIndicator, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "MultipathIndicator", "multipathIndicator", -1, "GPS-MeasurementParam");
+   /* pseudorangeRMS-Error */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->pseudorangeRMS_Error, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pseudorangeRMS-Error", -1, "GPS-MeasurementParam");
+   return 0;
+}
+
+int asn1PD_UMTS_GPS_MeasurementParam(rtxContext* RT_RESTRICT ctx, GPS_MeasurementParam* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GPS_MeasurementParam, pvalue);
+}
+
+RT_MERGED_BODY int dec_GPS_MeasurementParamList(rtxContext* RT_RESTRICT ctx, GPS_MeasurementParamList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotListWithISCP");
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GPS-MeasurementParamList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      TimeslotWithISCP* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotWithISCP));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TimeslotWithISCP", (int32_t)i, "TimeslotListWithISCP");
-      elem = (TimeslotWithISCP*)(node + 1);
+      GPS_MeasurementParam* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GPS_MeasurementParam));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GPS-MeasurementParam", (int32_t)i, "GPS-MeasurementParamList");
+      elem = (GPS_MeasurementParam*)(node + 1);
       node->data = elem;
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TimeslotWithISCP(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "TimeslotWithISCP", (int32_t)i, "TimeslotListWithISCP");
+      stat = dec_GPS_MeasurementParam(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GPS-MeasurementParam", (int32_t)i, "GPS-MeasurementParamList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_CipherParameters(rtxContext* RT_RESTRICT ctx, UE_Positioning_CipherParameters* RT_RESTRICT pvalue)
+int asn1PD_UMTS_GPS_MeasurementParamList(rtxContext* RT_RESTRICT ctx, GPS_MeasurementParamList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GPS_MeasurementParamList, pvalue);
+}
+
+static int dec_UE_Positioning_GPS_MeasurementResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_MeasurementResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* cipheringKeyFlag */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->cipheringKeyFlag, 1, 1);
-   RT_CHECK(ctx, stat, 0, "cipheringKeyFlag", -1, "UE-Positioning-CipherParameters");
-   /* cipheringSerialNumber */
-   stat = pd_ConsUInt16(ctx, &pvalue->cipheringSerialNumber, 0, 65535);
-   RT_CHECK(ctx, stat, 0, "cipheringSerialNumber", -1, "UE-Positioning-CipherParameters");
+   /* referenceTime */
+   stat = dec_UE_Positioning_GPS_MeasurementResults_referenceTime(ctx, &pvalue->referenceTime, cur);
+   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-GPS-MeasurementResults");
+   /* gps-MeasurementParamList */
+   stat = dec_GPS_MeasurementParamList(ctx, &pvalue->gps_MeasurementParamList, cur);
+   RT_CHECK(ctx, stat, 0, "gps-MeasurementParamList", -1, "UE-Positioning-GPS-MeasurementResults");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_v860ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_MeasurementResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_MeasurementResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_MeasurementEventResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementEventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-MeasurementEventResults");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* event7a */
+         pvalue->u.event7a = (UE_Positioning_PositionEstimateInfo*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_PositionEstimateInfo));
+         if (pvalue->u.event7a == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults");
+         asn1Init_UMTS_UE_Positioning_PositionEstimateInfo(pvalue->u.event7a);
+         stat = dec_UE_Positioning_PositionEstimateInfo(ctx, pvalue->u.event7a, cur);
+         RT_CHECK(ctx, stat, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults");
+         break;
+      case 1: /* event7b */
+         pvalue->u.event7b = (UE_Positioning_OTDOA_Measurement*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_Measurement));
+         if (pvalue->u.event7b == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event7b", -1, "UE-Positioning-MeasurementEventResults");
+         asn1Init_UMTS_UE_Positioning_OTDOA_Measurement(pvalue->u.event7b);
+         stat = dec_UE_Positioning_OTDOA_Measurement(ctx, pvalue->u.event7b, cur);
+         RT_CHECK(ctx, stat, 0, "event7b", -1, "UE-Positioning-MeasurementEventResults");
+         break;
+      case 2: /* event7c */
+         pvalue->u.event7c = (UE_Positioning_GPS_MeasurementResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_GPS_MeasurementResults));
+         if (pvalue->u.event7c == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults");
+         asn1Init_UMTS_UE_Positioning_GPS_MeasurementResults(pvalue->u.event7c);
+         stat = dec_UE_Positioning_GPS_MeasurementResults(ctx, pvalue->u.event7c, cur);
+         RT_CHECK(ctx, stat, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults");
+         break;
+      case 3: /* additionalOrReplacedPosMeasEvent */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_MeasurementEventResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementEventResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_MeasurementEventResults, pvalue);
+}
+
+static int dec_EventResults(rtxContext* RT_RESTRICT ctx, EventResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EventResults");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqEventResults */
+         pvalue->u.intraFreqEventResults = (IntraFreqEventResults*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqEventResults));
+         if (pvalue->u.intraFreqEventResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqEventResults", -1, "EventResults");
+         asn1Init_UMTS_IntraFreqEventResults(pvalue->u.intraFreqEventResults);
+         stat = dec_IntraFreqEventResults(ctx, pvalue->u.intraFreqEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqEventResults", -1, "EventResults");
+         break;
+      case 1: /* interFreqEventResults */
+         pvalue->u.interFreqEventResults = (InterFreqEventResults*)rtxMemHeapAlloc(ctx, sizeof(InterFreqEventResults));
+         if (pvalue->u.interFreqEventResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFreqEventResults", -1, "EventResults");
+         asn1Init_UMTS_InterFreqEventResults(pvalue->u.interFreqEventResults);
+         stat = dec_InterFreqEventResults(ctx, pvalue->u.interFreqEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqEventResults", -1, "EventResults");
+         break;
+      case 2: /* interRATEventResults */
+         pvalue->u.interRATEventResults = (InterRATEventResults*)rtxMemHeapAlloc(ctx, sizeof(InterRATEventResults));
+         if (pvalue->u.interRATEventResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATEventResults", -1, "EventResults");
+         asn1Init_UMTS_InterRATEventResults(pvalue->u.interRATEventResults);
+         stat = dec_InterRATEventResults(ctx, pvalue->u.interRATEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "interRATEventResults", -1, "EventResults");
+         break;
+      case 3: /* trafficVolumeEventResults */
+         pvalue->u.trafficVolumeEventResults = (TrafficVolumeEventResults*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeEventResults));
+         if (pvalue->u.trafficVolumeEventResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "trafficVolumeEventResults", -1, "EventResults");
+         asn1Init_UMTS_TrafficVolumeEventResults(pvalue->u.trafficVolumeEventResults);
+         stat = dec_TrafficVolumeEventResults(ctx, pvalue->u.trafficVolumeEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeEventResults", -1, "EventResults");
+         break;
+      case 4: /* qualityEventResults */
+         pvalue->u.qualityEventResults = (QualityEventResults*)rtxMemHeapAlloc(ctx, sizeof(QualityEventResults));
+         if (pvalue->u.qualityEventResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "qualityEventResults", -1, "EventResults");
+         asn1Init_UMTS_QualityEventResults(pvalue->u.qualityEventResults);
+         stat = dec_QualityEventResults(ctx, pvalue->u.qualityEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "qualityEventResults", -1, "EventResults");
+         break;
+      case 5: /* ue-InternalEventResults */
+         pvalue->u.ue_InternalEventResults = (UE_InternalEventResults*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalEventResults));
+         if (pvalue->u.ue_InternalEventResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-InternalEventResults", -1, "EventResults");
+         asn1Init_UMTS_UE_InternalEventResults(pvalue->u.ue_InternalEventResults);
+         stat = dec_UE_InternalEventResults(ctx, pvalue->u.ue_InternalEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-InternalEventResults", -1, "EventResults");
+         break;
+      case 6: /* ue-positioning-MeasurementEventResults */
+         pvalue->u.ue_positioning_MeasurementEventResults = (UE_Positioning_MeasurementEventResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasurementEventResults));
+         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults");
+         asn1Init_UMTS_UE_Positioning_MeasurementEventResults(pvalue->u.ue_positioning_MeasurementEventResults);
+         stat = dec_UE_Positioning_MeasurementEventResults(ctx, pvalue->u.ue_positioning_MeasurementEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults");
+         break;
+      case 7: /* spare */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "EventResults");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EventResults(rtxContext* RT_RESTRICT ctx, EventResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EventResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ms-Part */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ms_Part, 0, 80);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ms-Part", -1, 0);
+   /* ls-Part */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->ls_Part, 0, 4294967295LL);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ls-Part", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GANSSReferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_mode_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primary-CPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primary-CPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_mode_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GANSSReferenceTime_mode_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GANSSReferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_mode_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellParameters */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParameters, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParameters", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_mode_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GANSSReferenceTime_mode_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GANSSReferenceTime_mode(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UTRAN_GANSSReferenceTime_mode_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GANSSReferenceTime_mode_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UTRAN_GANSSReferenceTime_mode_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UTRAN_GANSSReferenceTime_mode_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GANSSReferenceTime_mode_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UTRAN_GANSSReferenceTime_mode_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime_mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GANSSReferenceTime_mode, pvalue);
+}
+
+static int dec_UTRAN_GANSSReferenceTime(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
-   /* uePositioningGanssAddIonoModel */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTRAN-GANSSReferenceTime");
+   /* ue-GANSSTimingOfCellFrames */
+   stat = dec_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(ctx, &pvalue->ue_GANSSTimingOfCellFrames, cur);
+   RT_CHECK(ctx, stat, 0, "ue-GANSSTimingOfCellFrames", -1, "UTRAN-GANSSReferenceTime");
+   /* gANSS-TimeId */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->gANSS_TimeId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSS-TimeId", -1, "UTRAN-GANSSReferenceTime");
+   }
+   /* gANSS-TimeUncertainty */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->gANSS_TimeUncertainty, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSS-TimeUncertainty", -1, "UTRAN-GANSSReferenceTime");
+   }
+   /* mode */
+   stat = dec_UTRAN_GANSSReferenceTime_mode(ctx, &pvalue->mode, cur);
+   RT_CHECK(ctx, stat, 0, "mode", -1, "UTRAN-GANSSReferenceTime");
+   /* referenceSfn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->referenceSfn, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "referenceSfn", -1, "UTRAN-GANSSReferenceTime");
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GANSSReferenceTime(rtxContext* RT_RESTRICT ctx, UTRAN_GANSSReferenceTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GANSSReferenceTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSReferenceTimeOnly(rtxContext* RT_RESTRICT ctx, GANSSReferenceTimeOnly* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSReferenceTimeOnly");
+   /* gANSS-tod */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->gANSS_tod, 0, 3599999);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gANSS-tod", -1, "GANSSReferenceTimeOnly");
+   /* gANSS-timeId */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->gANSS_timeId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSS-timeId", -1, "GANSSReferenceTimeOnly");
+   }
+   /* gANSS-tod-uncertainty */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->gANSS_tod_uncertainty, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSS-tod-uncertainty", -1, "GANSSReferenceTimeOnly");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSReferenceTimeOnly(rtxContext* RT_RESTRICT ctx, GANSSReferenceTimeOnly* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSReferenceTimeOnly, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* utran-GANSSReferenceTimeResult */
+         pvalue->u.utran_GANSSReferenceTimeResult = (UTRAN_GANSSReferenceTime*)rtxMemHeapAlloc(ctx, sizeof(UTRAN_GANSSReferenceTime));
+         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "utran-GANSSReferenceTimeResult", -1, 0);
+         asn1Init_UMTS_UTRAN_GANSSReferenceTime(pvalue->u.utran_GANSSReferenceTimeResult);
+         stat = dec_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult, cur);
+         RT_CHECK(ctx, stat, 0, "utran-GANSSReferenceTimeResult", -1, 0);
+         break;
+      case 1: /* ganssReferenceTimeOnly */
+         pvalue->u.ganssReferenceTimeOnly = (GANSSReferenceTimeOnly*)rtxMemHeapAlloc(ctx, sizeof(GANSSReferenceTimeOnly));
+         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ganssReferenceTimeOnly", -1, 0);
+         asn1Init_UMTS_GANSSReferenceTimeOnly(pvalue->u.ganssReferenceTimeOnly);
+         stat = dec_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly, cur);
+         RT_CHECK(ctx, stat, 0, "ganssReferenceTimeOnly", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* referenceTime */
+   stat = dec_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(ctx, &pvalue->referenceTime, cur);
+   RT_CHECK(ctx, stat, 0, "referenceTime", -1, 0);
+   /* positionEstimate */
+   stat = dec_PositionEstimate(ctx, &pvalue->positionEstimate, cur);
+   RT_CHECK(ctx, stat, 0, "positionEstimate", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* earlier-than-r7 */
+         break;
+      case 1: /* r7 */
+         pvalue->u.r7 = (UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(pvalue->u.r7);
+         stat = dec_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(ctx, pvalue->u.r7, cur);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions, pvalue);
+}
+
+RT_MERGED_BODY int dec_HorizontalVelocity(rtxContext* RT_RESTRICT ctx, HorizontalVelocity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* bearing */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->bearing, 0, 359);
+   RT_CHECK_AT(ctx, cur, stat, 0, "bearing", -1, "HorizontalVelocity");
+   /* horizontalSpeed */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->horizontalSpeed, 0, 2047);
+   RT_CHECK_AT(ctx, cur, stat, 0, "horizontalSpeed", -1, "HorizontalVelocity");
+   return 0;
+}
+
+int asn1PD_UMTS_HorizontalVelocity(rtxContext* RT_RESTRICT ctx, HorizontalVelocity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HorizontalVelocity, pvalue);
+}
+
+RT_MERGED_BODY int dec_HorizontalWithVerticalVelocity_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity_verticalSpeedDirection* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HorizontalWithVerticalVelocity_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity_verticalSpeedDirection* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HorizontalWithVerticalVelocity_verticalSpeedDirection, pvalue);
+}
+
+RT_MERGED_BODY int dec_HorizontalWithVerticalVelocity(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* verticalSpeedDirection */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->verticalSpeedDirection, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocity");
+   /* bearing */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->bearing, 0, 359);
+   RT_CHECK_AT(ctx, cur, stat, 0, "bearing", -1, "HorizontalWithVerticalVelocity");
+   /* horizontalSpeed */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->horizontalSpeed, 0, 2047);
+   RT_CHECK_AT(ctx, cur, stat, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocity");
+   /* verticalSpeed */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->verticalSpeed, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "verticalSpeed", -1, "HorizontalWithVerticalVelocity");
+   return 0;
+}
+
+int asn1PD_UMTS_HorizontalWithVerticalVelocity(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HorizontalWithVerticalVelocity, pvalue);
+}
+
+RT_MERGED_BODY int dec_HorizontalVelocityWithUncertainty(rtxContext* RT_RESTRICT ctx, HorizontalVelocityWithUncertainty* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* bearing */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->bearing, 0, 359);
+   RT_CHECK_AT(ctx, cur, stat, 0, "bearing", -1, "HorizontalVelocityWithUncertainty");
+   /* horizontalSpeed */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->horizontalSpeed, 0, 2047);
+   RT_CHECK_AT(ctx, cur, stat, 0, "horizontalSpeed", -1, "HorizontalVelocityWithUncertainty");
+   /* horizontalSpeedUncertainty */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->horizontalSpeedUncertainty, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "horizontalSpeedUncertainty", -1, "HorizontalVelocityWithUncertainty");
+   return 0;
+}
+
+int asn1PD_UMTS_HorizontalVelocityWithUncertainty(rtxContext* RT_RESTRICT ctx, HorizontalVelocityWithUncertainty* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HorizontalVelocityWithUncertainty, pvalue);
+}
+
+RT_MERGED_BODY int dec_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection, pvalue);
+}
+
+RT_MERGED_BODY int dec_HorizontalWithVerticalVelocityAndUncertainty(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* verticalSpeedDirection */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->verticalSpeedDirection, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* bearing */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->bearing, 0, 359);
+   RT_CHECK_AT(ctx, cur, stat, 0, "bearing", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* horizontalSpeed */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->horizontalSpeed, 0, 2047);
+   RT_CHECK_AT(ctx, cur, stat, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* verticalSpeed */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->verticalSpeed, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "verticalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* horizontalUncertaintySpeed */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->horizontalUncertaintySpeed, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "horizontalUncertaintySpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* verticalUncertaintySpeed */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->verticalUncertaintySpeed, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "verticalUncertaintySpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   return 0;
+}
+
+int asn1PD_UMTS_HorizontalWithVerticalVelocityAndUncertainty(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HorizontalWithVerticalVelocityAndUncertainty, pvalue);
+}
+
+RT_MERGED_BODY int dec_VelocityEstimate(rtxContext* RT_RESTRICT ctx, VelocityEstimate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "VelocityEstimate");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* horizontalVelocity */
+         pvalue->u.horizontalVelocity = (HorizontalVelocity*)rtxMemHeapAllocZ(ctx, sizeof(HorizontalVelocity));
+         if (pvalue->u.horizontalVelocity == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "horizontalVelocity", -1, "VelocityEstimate");
+         stat = dec_HorizontalVelocity(ctx, pvalue->u.horizontalVelocity, cur);
+         RT_CHECK(ctx, stat, 0, "horizontalVelocity", -1, "VelocityEstimate");
+         break;
+      case 1: /* horizontalWithVerticalVelocity */
+         pvalue->u.horizontalWithVerticalVelocity = (HorizontalWithVerticalVelocity*)rtxMemHeapAllocZ(ctx, sizeof(HorizontalWithVerticalVelocity));
+         if (pvalue->u.horizontalWithVerticalVelocity == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "horizontalWithVerticalVelocity", -1, "VelocityEstimate");
+         stat = dec_HorizontalWithVerticalVelocity(ctx, pvalue->u.horizontalWithVerticalVelocity, cur);
+         RT_CHECK(ctx, stat, 0, "horizontalWithVerticalVelocity", -1, "VelocityEstimate");
+         break;
+      case 2: /* horizontalVelocityWithUncertainty */
+         pvalue->u.horizontalVelocityWithUncertainty = (HorizontalVelocityWithUncertainty*)rtxMemHeapAllocZ(ctx, sizeof(HorizontalVelocityWithUncertainty));
+         if (pvalue->u.horizontalVelocityWithUncertainty == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "horizontalVelocityWithUncertainty", -1, "VelocityEstimate");
+         stat = dec_HorizontalVelocityWithUncertainty(ctx, pvalue->u.horizontalVelocityWithUncertainty, cur);
+         RT_CHECK(ctx, stat, 0, "horizontalVelocityWithUncertainty", -1, "VelocityEstimate");
+         break;
+      case 3: /* horizontalWithVerticalVelocityAndUncertainty */
+         pvalue->u.horizontalWithVerticalVelocityAndUncertainty = (HorizontalWithVerticalVelocityAndUncertainty*)rtxMemHeapAllocZ(ctx, sizeof(HorizontalWithVerticalVelocityAndUncertainty));
+         if (pvalue->u.horizontalWithVerticalVelocityAndUncertainty == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "horizontalWithVerticalVelocityAndUncertainty", -1, "VelocityEstimate");
+         stat = dec_HorizontalWithVerticalVelocityAndUncertainty(ctx, pvalue->u.horizontalWithVerticalVelocityAndUncertainty, cur);
+         RT_CHECK(ctx, stat, 0, "horizontalWithVerticalVelocityAndUncertainty", -1, "VelocityEstimate");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "VelocityEstimate");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_VelocityEstimate(rtxContext* RT_RESTRICT ctx, VelocityEstimate* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_VelocityEstimate, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_ReferenceTimeUncertainty(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTimeUncertainty* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTimeUncertainty(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTimeUncertainty* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_ReferenceTimeUncertainty, pvalue);
+}
+
+static int dec_UE_Positioning_PositionEstimateInfo_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   /* referenceTimeOptions */
+   stat = dec_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(ctx, &pvalue->referenceTimeOptions, cur);
+   RT_CHECK(ctx, stat, 0, "referenceTimeOptions", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   /* positionData */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->positionData, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "positionData", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   /* velocityEstimate */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_VelocityEstimate(ctx, &pvalue->velocityEstimate, cur);
+      RT_CHECK(ctx, stat, 0, "velocityEstimate", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   }
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_PositionEstimateInfo_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_PositionEstimateInfo_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_MeasurementResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_MeasurementResults_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_MeasurementResults_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_MeasurementResults_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_MeasuredResults_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_MeasuredResults_referenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* utran-GANSSReferenceTimeResult */
+         pvalue->u.utran_GANSSReferenceTimeResult = (UTRAN_GANSSReferenceTime*)rtxMemHeapAlloc(ctx, sizeof(UTRAN_GANSSReferenceTime));
+         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "utran-GANSSReferenceTimeResult", -1, 0);
+         asn1Init_UMTS_UTRAN_GANSSReferenceTime(pvalue->u.utran_GANSSReferenceTimeResult);
+         stat = dec_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult, cur);
+         RT_CHECK(ctx, stat, 0, "utran-GANSSReferenceTimeResult", -1, 0);
+         break;
+      case 1: /* ganssReferenceTimeOnly */
+         pvalue->u.ganssReferenceTimeOnly = (GANSSReferenceTimeOnly*)rtxMemHeapAlloc(ctx, sizeof(GANSSReferenceTimeOnly));
+         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ganssReferenceTimeOnly", -1, 0);
+         asn1Init_UMTS_GANSSReferenceTimeOnly(pvalue->u.ganssReferenceTimeOnly);
+         stat = dec_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly, cur);
+         RT_CHECK(ctx, stat, 0, "ganssReferenceTimeOnly", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults_referenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_MeasuredResults_referenceTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_MeasuredResults_referenceTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSMeasurementParameters_element_multipathIndicator(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element_multipathIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSMeasurementParameters_element_multipathIndicator(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element_multipathIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSMeasurementParameters_element_multipathIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSMeasurementParameters_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* satId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satId, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "satId", -1, 0);
+   /* cSurNzero */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cSurNzero, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cSurNzero", -1, 0);
+   /* multipathIndicator */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->multipathIndicator, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "multipathIndicator", -1, 0);
+   /* carrierQualityIndication */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+      RT_SET_SIZE(ctx, 2, 2);
+      stat = pd_BitString32At(ctx, cur, &pvalue->carrierQualityIndication, 2, 2);
+      RT_CHECK_AT(ctx, cur, stat, 0, "carrierQualityIndication", -1, 0);
    }
-   /* uePositioningGanssEarthOrientationPara */
+   /* ganssCodePhase */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->ganssCodePhase, 0, 2097151);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssCodePhase", -1, 0);
+   /* ganssIntegerCodePhase */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssIntegerCodePhase, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssIntegerCodePhase", -1, 0);
    }
-   /* ganssGenericDataList */
+   /* codePhaseRmsError */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->codePhaseRmsError, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "codePhaseRmsError", -1, 0);
+   /* doppler */
+   stat = pd_ConsInt16At(ctx, cur, &pvalue->doppler, -32768, 32767);
+   RT_CHECK_AT(ctx, cur, stat, 0, "doppler", -1, 0);
+   /* adr */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_GANSSGenericDataList_v860ext(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+      stat = pd_ConsUInt32At(ctx, cur, &pvalue->adr, 0, 33554431);
+      RT_CHECK_AT(ctx, cur, stat, 0, "adr", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_v920ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_GANSSMeasurementParameters_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSMeasurementParameters_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSMeasurementParameters(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSMeasurementParameters");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSSMeasurementParameters_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSMeasurementParameters_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "GANSSMeasurementParameters");
+      elem = (GANSSMeasurementParameters_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSSMeasurementParameters_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSSMeasurementParameters_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementParameters");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSMeasurementParameters(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSMeasurementParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSMeasurementSignalList_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v920ext");
-   /* ganssGenericDataList */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ganssSignalId */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssSignalId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "GANSS-Signal-Id", "ganssSignalId", -1, 0);
+   }
+   /* ganssCodePhaseAmbiguity */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GANSSGenericDataList_v920ext(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_Data(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Data* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Data");
-   /* ganssDataCipheringInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ganssDataCipheringInfo);
-      RT_CHECK(ctx, stat, 0, "ganssDataCipheringInfo", -1, "UE-Positioning-GANSS-Data");
-   }
-   /* ganssDecipheringKeys */
-   if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_GANSSDecipheringKeys(ctx, &pvalue->ganssDecipheringKeys);
-      RT_CHECK(ctx, stat, 0, "ganssDecipheringKeys", -1, "UE-Positioning-GANSS-Data");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssCodePhaseAmbiguity, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssCodePhaseAmbiguity", -1, 0);
    }
-   /* uePositioningGanssReferenceTime */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->uePositioningGanssReferenceTime);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferenceTime", -1, "UE-Positioning-GANSS-Data");
+   /* ganssMeasurementParameters */
+   stat = dec_GANSSMeasurementParameters(ctx, &pvalue->ganssMeasurementParameters, cur);
+   RT_CHECK(ctx, stat, 0, "ganssMeasurementParameters", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSMeasurementSignalList_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSMeasurementSignalList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSMeasurementSignalList(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSMeasurementSignalList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSSMeasurementSignalList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSMeasurementSignalList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "GANSSMeasurementSignalList");
+      elem = (GANSSMeasurementSignalList_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSSMeasurementSignalList_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSSMeasurementSignalList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementSignalList");
    }
-   /* uePositioningGanssReferencePosition */
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSMeasurementSignalList(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSMeasurementSignalList, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSGenericMeasurementInfo_element(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ganssId */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssId", -1, 0);
+   }
+   /* ganssMeasurementSignalList */
+   stat = dec_GANSSMeasurementSignalList(ctx, &pvalue->ganssMeasurementSignalList, cur);
+   RT_CHECK(ctx, stat, 0, "ganssMeasurementSignalList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericMeasurementInfo_element(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericMeasurementInfo_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSGenericMeasurementInfo(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSGenericMeasurementInfo");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSSGenericMeasurementInfo_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericMeasurementInfo_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo");
+      elem = (GANSSGenericMeasurementInfo_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSSGenericMeasurementInfo_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSSGenericMeasurementInfo_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericMeasurementInfo(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericMeasurementInfo, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_MeasuredResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_MeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* referenceTime */
+   stat = dec_UE_Positioning_GANSS_MeasuredResults_referenceTime(ctx, &pvalue->referenceTime, cur);
+   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-GANSS-MeasuredResults");
+   /* ganssGenericMeasurementInfo */
+   stat = dec_GANSSGenericMeasurementInfo(ctx, &pvalue->ganssGenericMeasurementInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ganssGenericMeasurementInfo", -1, "UE-Positioning-GANSS-MeasuredResults");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_MeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_MeasuredResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_MeasurementEventResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementEventResults_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v770ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* event7a */
+         pvalue->u.event7a = (UE_Positioning_PositionEstimateInfo_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_PositionEstimateInfo_v770ext));
+         if (pvalue->u.event7a == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         asn1Init_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(pvalue->u.event7a);
+         stat = dec_UE_Positioning_PositionEstimateInfo_v770ext(ctx, pvalue->u.event7a, cur);
+         RT_CHECK(ctx, stat, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         break;
+      case 1: /* event7c */
+         pvalue->u.event7c = (UE_Positioning_GPS_MeasurementResults_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_GPS_MeasurementResults_v770ext));
+         if (pvalue->u.event7c == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         asn1Init_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(pvalue->u.event7c);
+         stat = dec_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, pvalue->u.event7c, cur);
+         RT_CHECK(ctx, stat, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         break;
+      case 2: /* event7d */
+         pvalue->u.event7d = (UE_Positioning_GANSS_MeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_GANSS_MeasuredResults));
+         if (pvalue->u.event7d == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         asn1Init_UMTS_UE_Positioning_GANSS_MeasuredResults(pvalue->u.event7d);
+         stat = dec_UE_Positioning_GANSS_MeasuredResults(ctx, pvalue->u.event7d, cur);
+         RT_CHECK(ctx, stat, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         break;
+      case 3: /* spare */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_MeasurementEventResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementEventResults_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_MeasurementEventResults_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_EventResults_v770ext(rtxContext* RT_RESTRICT ctx, EventResults_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EventResults-v770ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ue-positioning-MeasurementEventResults */
+         pvalue->u.ue_positioning_MeasurementEventResults = (UE_Positioning_MeasurementEventResults_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasurementEventResults_v770ext));
+         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v770ext");
+         asn1Init_UMTS_UE_Positioning_MeasurementEventResults_v770ext(pvalue->u.ue_positioning_MeasurementEventResults);
+         stat = dec_UE_Positioning_MeasurementEventResults_v770ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v770ext");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "EventResults-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EventResults_v770ext(rtxContext* RT_RESTRICT ctx, EventResults_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EventResults_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSMeasurementParameters_v860ext_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_v860ext_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ganssIntegerCodePhaseExt */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssIntegerCodePhaseExt, 64, 127);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssIntegerCodePhaseExt", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSMeasurementParameters_v860ext_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_v860ext_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSMeasurementParameters_v860ext_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSMeasurementParameters_v860ext(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSMeasurementParameters-v860ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSSMeasurementParameters_v860ext_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSMeasurementParameters_v860ext_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "GANSSMeasurementParameters-v860ext");
+      elem = (GANSSMeasurementParameters_v860ext_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSSMeasurementParameters_v860ext_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSSMeasurementParameters_v860ext_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementParameters-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSMeasurementParameters_v860ext(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSMeasurementParameters_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSMeasurementSignalList_v860ext_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList_v860ext_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ganssCodePhaseAmbiguityExt */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssCodePhaseAmbiguityExt, 32, 127);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssCodePhaseAmbiguityExt", -1, 0);
+   }
+   /* ganssMeasurementParameters */
+   stat = dec_GANSSMeasurementParameters_v860ext(ctx, &pvalue->ganssMeasurementParameters, cur);
+   RT_CHECK(ctx, stat, 0, "ganssMeasurementParameters", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSMeasurementSignalList_v860ext_element(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList_v860ext_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSMeasurementSignalList_v860ext_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSMeasurementSignalList_v860ext(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSMeasurementSignalList-v860ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSSMeasurementSignalList_v860ext_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSMeasurementSignalList_v860ext_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "GANSSMeasurementSignalList-v860ext");
+      elem = (GANSSMeasurementSignalList_v860ext_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSSMeasurementSignalList_v860ext_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSSMeasurementSignalList_v860ext_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementSignalList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSMeasurementSignalList_v860ext(rtxContext* RT_RESTRICT ctx, GANSSMeasurementSignalList_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSMeasurementSignalList_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSGenericMeasurementInfo_v860ext_element(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo_v860ext_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ganssMeasurementSignalList */
+   stat = dec_GANSSMeasurementSignalList_v860ext(ctx, &pvalue->ganssMeasurementSignalList, cur);
+   RT_CHECK(ctx, stat, 0, "ganssMeasurementSignalList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericMeasurementInfo_v860ext_element(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo_v860ext_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericMeasurementInfo_v860ext_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSGenericMeasurementInfo_v860ext(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSGenericMeasurementInfo-v860ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSSGenericMeasurementInfo_v860ext_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericMeasurementInfo_v860ext_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo-v860ext");
+      elem = (GANSSGenericMeasurementInfo_v860ext_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSSGenericMeasurementInfo_v860ext_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSSGenericMeasurementInfo_v860ext_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericMeasurementInfo_v860ext(rtxContext* RT_RESTRICT ctx, GANSSGenericMeasurementInfo_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericMeasurementInfo_v860ext, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_MeasuredResults_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ganssGenericMeasurementInfo */
+   stat = dec_GANSSGenericMeasurementInfo_v860ext(ctx, &pvalue->ganssGenericMeasurementInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ganssGenericMeasurementInfo", -1, "UE-Positioning-GANSS-MeasuredResults-v860ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_MeasuredResults_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_MeasuredResults_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_MeasurementEventResults_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementEventResults_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v860ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* event7d */
+         pvalue->u.event7d = (UE_Positioning_GANSS_MeasuredResults_v860ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_GANSS_MeasuredResults_v860ext));
+         if (pvalue->u.event7d == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v860ext");
+         asn1Init_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(pvalue->u.event7d);
+         stat = dec_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, pvalue->u.event7d, cur);
+         RT_CHECK(ctx, stat, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v860ext");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_MeasurementEventResults_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementEventResults_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_MeasurementEventResults_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_EventResults_v860ext(rtxContext* RT_RESTRICT ctx, EventResults_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "EventResults-v860ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ue-positioning-MeasurementEventResults */
+         pvalue->u.ue_positioning_MeasurementEventResults = (UE_Positioning_MeasurementEventResults_v860ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasurementEventResults_v860ext));
+         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v860ext");
+         asn1Init_UMTS_UE_Positioning_MeasurementEventResults_v860ext(pvalue->u.ue_positioning_MeasurementEventResults);
+         stat = dec_UE_Positioning_MeasurementEventResults_v860ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v860ext");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "EventResults-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EventResults_v860ext(rtxContext* RT_RESTRICT ctx, EventResults_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EventResults_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* eventID */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->eventID, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResultsOnSecUlFreq");
+   /* cellMeasurementEventResultsOnSecUlFreq */
+   stat = dec_CellMeasurementEventResultsOnSecUlFreq(ctx, &pvalue->cellMeasurementEventResultsOnSecUlFreq, cur);
+   RT_CHECK(ctx, stat, 0, "cellMeasurementEventResultsOnSecUlFreq", -1, "IntraFreqEventResultsOnSecUlFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventResultsOnSecUlFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventResultsOnSecUlFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_EventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, EventResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqEventResults */
+   stat = dec_IntraFreqEventResultsOnSecUlFreq(ctx, &pvalue->intraFreqEventResults, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqEventResults", -1, "EventResultsOnSecUlFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_EventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, EventResultsOnSecUlFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EventResultsOnSecUlFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_ExtraDoppler_dopplerUncertainty(rtxContext* RT_RESTRICT ctx, ExtraDoppler_dopplerUncertainty* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ExtraDoppler_dopplerUncertainty(rtxContext* RT_RESTRICT ctx, ExtraDoppler_dopplerUncertainty* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ExtraDoppler_dopplerUncertainty, pvalue);
+}
+
+RT_MERGED_BODY int dec_ExtraDoppler(rtxContext* RT_RESTRICT ctx, ExtraDoppler* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dopplerFirstOrder */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dopplerFirstOrder, -42, 21);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dopplerFirstOrder", -1, "ExtraDoppler");
+   /* dopplerUncertainty */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dopplerUncertainty, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dopplerUncertainty", -1, "ExtraDoppler");
+   return 0;
+}
+
+int asn1PD_UMTS_ExtraDoppler(rtxContext* RT_RESTRICT ctx, ExtraDoppler* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ExtraDoppler, pvalue);
+}
+
+RT_MERGED_BODY int dec_FineSFN_SFN(rtxContext* RT_RESTRICT ctx, FineSFN_SFN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "FineSFN-SFN");
+   return 0;
+}
+
+int asn1PD_UMTS_FineSFN_SFN(rtxContext* RT_RESTRICT ctx, FineSFN_SFN* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FineSFN_SFN, pvalue);
+}
+
+RT_MERGED_BODY int dec_FreqQualityEstimateQuantity_FDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_FDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "FreqQualityEstimateQuantity-FDD");
+   return 0;
+}
+
+int asn1PD_UMTS_FreqQualityEstimateQuantity_FDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_FDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FreqQualityEstimateQuantity_FDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_FreqQualityEstimateQuantity_TDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "FreqQualityEstimateQuantity-TDD");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "FreqQualityEstimateQuantity-TDD");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_FreqQualityEstimateQuantity_TDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_TDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FreqQualityEstimateQuantity_TDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReqDataBitAssistance_ganssSatelliteInfo_element(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ReqDataBitAssistance_ganssSatelliteInfo_element(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReqDataBitAssistance_ganssSatelliteInfo_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReqDataBitAssistance_ganssSatelliteInfo(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 6, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 63) {
+         rtxErrAddStrParm(ctx, "ganssSatelliteInfo");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 63);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, 0, "element", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ReqDataBitAssistance_ganssSatelliteInfo(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReqDataBitAssistance_ganssSatelliteInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReqDataBitAssistance(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReqDataBitAssistance");
+   /* ganssSignalID */
+   stat = dec_DGANSS_Sig_Id_Req(ctx, &pvalue->ganssSignalID, cur);
+   RT_CHECK(ctx, stat, 0, "ganssSignalID", -1, "ReqDataBitAssistance");
+   /* ganssDataBitInterval */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssDataBitInterval, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssDataBitInterval", -1, "ReqDataBitAssistance");
+   /* ganssSatelliteInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReqDataBitAssistance_ganssSatelliteInfo(ctx, &pvalue->ganssSatelliteInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ganssSatelliteInfo", -1, "ReqDataBitAssistance");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ReqDataBitAssistance(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReqDataBitAssistance, pvalue);
+}
+
+RT_MERGED_BODY int dec_GanssDataBits(rtxContext* RT_RESTRICT ctx, GanssDataBits* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ganssTod */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->ganssTod, 0, 86399);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssTod", -1, "GanssDataBits");
+   /* dataBitAssistance */
+   stat = dec_ReqDataBitAssistance(ctx, &pvalue->dataBitAssistance, cur);
+   RT_CHECK(ctx, stat, 0, "dataBitAssistance", -1, "GanssDataBits");
+   return 0;
+}
+
+int asn1PD_UMTS_GanssDataBits(rtxContext* RT_RESTRICT ctx, GanssDataBits* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GanssDataBits, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSDecipheringKeys_currentDecipheringKey(rtxContext* RT_RESTRICT ctx, GANSSDecipheringKeys_currentDecipheringKey* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 56, 56);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSDecipheringKeys_currentDecipheringKey(rtxContext* RT_RESTRICT ctx, GANSSDecipheringKeys_currentDecipheringKey* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSDecipheringKeys_currentDecipheringKey, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSDecipheringKeys_nextDecipheringKey(rtxContext* RT_RESTRICT ctx, GANSSDecipheringKeys_nextDecipheringKey* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 56, 56);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSDecipheringKeys_nextDecipheringKey(rtxContext* RT_RESTRICT ctx, GANSSDecipheringKeys_nextDecipheringKey* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSDecipheringKeys_nextDecipheringKey, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSDecipheringKeys(rtxContext* RT_RESTRICT ctx, GANSSDecipheringKeys* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* currentDecipheringKey */
+   stat = dec_GANSSDecipheringKeys_currentDecipheringKey(ctx, &pvalue->currentDecipheringKey, cur);
+   RT_CHECK(ctx, stat, 0, "currentDecipheringKey", -1, "GANSSDecipheringKeys");
+   /* nextDecipheringKey */
+   stat = dec_GANSSDecipheringKeys_nextDecipheringKey(ctx, &pvalue->nextDecipheringKey, cur);
+   RT_CHECK(ctx, stat, 0, "nextDecipheringKey", -1, "GANSSDecipheringKeys");
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSDecipheringKeys(rtxContext* RT_RESTRICT ctx, GANSSDecipheringKeys* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSDecipheringKeys, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_TimeModel_gnss_to_id(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel_gnss_to_id* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_TimeModel_gnss_to_id(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel_gnss_to_id* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_TimeModel_gnss_to_id, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_TimeModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-TimeModel");
+   /* ganss-timeModelreferenceTime */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ganss_timeModelreferenceTime, 0, 37799);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-timeModelreferenceTime", -1, "UE-Positioning-GANSS-TimeModel");
+   /* ganss-t-a0 */
+   stat = pd_ConsIntegerAt(ctx, cur, &pvalue->ganss_t_a0, -2147483648LL, 2147483647);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-t-a0", -1, "UE-Positioning-GANSS-TimeModel");
+   /* ganss-t-a1 */
    if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-Data");
+      pvalue->m |= 0x1u;
+      stat = pd_ConsIntegerAt(ctx, cur, &pvalue->ganss_t_a1, -8388608, 8388607);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganss-t-a1", -1, "UE-Positioning-GANSS-TimeModel");
    }
-   /* uePositioningGanssIonosphericModel */
+   /* ganss-t-a2 */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-Data");
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->ganss_t_a2, -64, 63);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganss-t-a2", -1, "UE-Positioning-GANSS-TimeModel");
    }
-   /* ganssGenericDataList */
+   /* gnss-to-id */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->gnss_to_id, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gnss-to-id", -1, "UE-Positioning-GANSS-TimeModel");
+   /* ganss-wk-number */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-Data");
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->ganss_wk_number, 0, 8191);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-TimeModel");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_TimeModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModels* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_TimeModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_TimeModel, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSTimeModelsList(rtxContext* RT_RESTRICT ctx, GANSSTimeModelsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 7);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-TimeModels");
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSTimeModelsList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       UE_Positioning_GANSS_TimeModel* elem;
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_GANSS_TimeModel));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "UE-Positioning-GANSS-TimeModels");
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "GANSSTimeModelsList");
       elem = (UE_Positioning_GANSS_TimeModel*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_UE_Positioning_GANSS_TimeModel(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_TimeModel(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "UE-Positioning-GANSS-TimeModels");
+      stat = dec_UE_Positioning_GANSS_TimeModel(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "GANSSTimeModelsList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance_v770ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_GANSSTimeModelsList(rtxContext* RT_RESTRICT ctx, GANSSTimeModelsList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSTimeModelsList, pvalue);
+}
+
+static int dec_UE_Positioning_DGANSSCorrections(rtxContext* RT_RESTRICT ctx, UE_Positioning_DGANSSCorrections* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
-   }
+   /* dganssreferencetime */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dganssreferencetime, 0, 119);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections");
+   /* dganssInfoList */
+   stat = dec_DGANSSInfoList(ctx, &pvalue->dganssInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime_v770ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_Positioning_DGANSSCorrections(rtxContext* RT_RESTRICT ctx, UE_Positioning_DGANSSCorrections* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_DGANSSCorrections, pvalue);
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v770ext");
-   /* ue-positioning-GPS-ReferenceTime */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-v770ext");
-   }
-   /* ue-positioning-GPS-AcquisitionAssistance */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dgps-CorrectionSatInfoList */
-   stat = asn1PD_UMTS_DGPS_CorrectionSatInfoList_v920ext(ctx, &pvalue->dgps_CorrectionSatInfoList);
-   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections-v920ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v920ext");
-   /* ue-positioning-GPS-DGPS-Corrections */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_TDD_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   /* ip-Spacing */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Spacing, 0, 4);
-   RT_CHECK(ctx, stat, "IP-Spacing-TDD", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   /* ip-slot */
-   stat = pd_ConsUInt8(ctx, &pvalue->ip_slot, 0, 14);
-   RT_CHECK(ctx, stat, 0, "ip-slot", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   /* ip-Start */
-   stat = pd_ConsUInt16(ctx, &pvalue->ip_Start, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "ip-Start", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   /* ip-PCCPCG */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = rtxDecBitInline(ctx, &pvalue->ip_PCCPCG);
-      RT_CHECK(ctx, stat, "IP-PCCPCH-r4", "ip-PCCPCG", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   }
-   /* burstModeParameters */
-   stat = asn1PD_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
-   RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* vertical-Accuracy */
-   stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->vertical_Accuracy);
-   RT_CHECK(ctx, stat, 0, "vertical-Accuracy", -1, "UE-Positioning-ReportingQuantity-v390ext");
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel_non_broadcastIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   /* sfn */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   }
-   /* cellPosition */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
-      RT_CHECK(ctx, stat, 0, "cellPosition", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   }
-   /* roundTripTime */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   /* sfn-SFN-RelTimeDifference */
-   stat = asn1PD_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   /* sfn-SFN-Drift */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   /* searchWindowSize */
-   stat = pd_ConsUnsigned(ctx, &pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   /* relativeNorth */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeNorth, -20000, 20000);
-      RT_CHECK(ctx, stat, 0, "relativeNorth", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   /* relativeEast */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeEast, -20000, 20000);
-      RT_CHECK(ctx, stat, 0, "relativeEast", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   /* relativeAltitude */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeAltitude, -4000, 4000);
-      RT_CHECK(ctx, stat, 0, "relativeAltitude", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   /* fineSFN-SFN */
-   stat = pd_ConsUInt8(ctx, &pvalue->fineSFN_SFN, 0, 15);
-   RT_CHECK(ctx, stat, "FineSFN-SFN", "fineSFN-SFN", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   /* roundTripTime */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x40u;
-      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_UEB* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_OTDOA_NeighbourCellInfo_UEB* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
-      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_UEB* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
-   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo-UEB", -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList-UEB */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList-UEB", -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-v390ext");
-   /* ue-positioning-ReportingQuantity-v390ext */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_v390ext(ctx, &pvalue->ue_positioning_ReportingQuantity_v390ext);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity-v390ext", -1, "UE-Positioning-Measurement-v390ext");
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-v390ext");
-   }
-   /* ue-positioning-OTDOA-AssistanceData-UEB */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "UE-Positioning-Measurement-v390ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Measurement_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-v920ext");
-   /* ue-positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-v920ext");
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_TDDList_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_IPDL_Parameters_TDD_r4_ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_IPDL_Parameters_TDD_r4_ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-IPDL-Parameters-TDD-r4-ext", (int32_t)i, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
-      elem = (UE_Positioning_IPDL_Parameters_TDD_r4_ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-IPDL-Parameters-TDD-r4-ext", (int32_t)i, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r4ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
-   /* ue-Positioning-IPDL-Parameters-TDD-r4-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDD_r4_ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-IPDL-Parameters-TDD-r4-ext", -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
-   }
-   /* ue-Positioning-IPDL-Parameters-TDDList-r4-ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDDList_r4_ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-IPDL-Parameters-TDDList-r4-ext", -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
-   /* roundTripTimeExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt32(ctx, &pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
-   /* roundTripTimeExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt32(ctx, &pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_UEB_ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
-      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_UEB_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
-   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB_ext);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext", -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList-UEB-ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB_ext);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList-UEB-ext", -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_MeasuredResultsTDD_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
-   /* neighbourList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NeighbourList_TDD_r7(ctx, &pvalue->neighbourList);
-      RT_CHECK(ctx, stat, 0, "neighbourList", -1, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_FDD_Frequency(rtxContext* RT_RESTRICT ctx, UTRAN_FDD_Frequency* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-FDD-Frequency");
-   /* uarfcn */
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, "UTRAN-FDD-Frequency");
-   /* priority */
-   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat, 0, "priority", -1, "UTRAN-FDD-Frequency");
-   /* threshXhigh */
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "UTRAN-FDD-Frequency");
-   /* threshXlow */
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "UTRAN-FDD-Frequency");
-   /* qQualMinFDD */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->qQualMinFDD, -24, 0);
-      RT_CHECK(ctx, stat, 0, "qQualMinFDD", -1, "UTRAN-FDD-Frequency");
-   }
-   /* qRxLevMinFDD */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->qRxLevMinFDD, -60, -13);
-      RT_CHECK(ctx, stat, 0, "qRxLevMinFDD", -1, "UTRAN-FDD-Frequency");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_FDD_FrequencyList(rtxContext* RT_RESTRICT ctx, UTRAN_FDD_FrequencyList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-FDD-FrequencyList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UTRAN_FDD_Frequency* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UTRAN_FDD_Frequency));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UTRAN-FDD-Frequency", (int32_t)i, "UTRAN-FDD-FrequencyList");
-      elem = (UTRAN_FDD_Frequency*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UTRAN_FDD_Frequency(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UTRAN_FDD_Frequency(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UTRAN-FDD-Frequency", (int32_t)i, "UTRAN-FDD-FrequencyList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_TDD_Frequency(rtxContext* RT_RESTRICT ctx, UTRAN_TDD_Frequency* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-TDD-Frequency");
-   /* uarfcn */
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, "UTRAN-TDD-Frequency");
-   /* priority */
-   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat, 0, "priority", -1, "UTRAN-TDD-Frequency");
-   /* threshXhigh */
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "UTRAN-TDD-Frequency");
-   /* threshXlow */
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "UTRAN-TDD-Frequency");
-   /* qRxLevMinTDD */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->qRxLevMinTDD, -60, -13);
-      RT_CHECK(ctx, stat, 0, "qRxLevMinTDD", -1, "UTRAN-TDD-Frequency");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_TDD_FrequencyList(rtxContext* RT_RESTRICT ctx, UTRAN_TDD_FrequencyList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-TDD-FrequencyList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UTRAN_TDD_Frequency* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UTRAN_TDD_Frequency));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UTRAN-TDD-Frequency", (int32_t)i, "UTRAN-TDD-FrequencyList");
-      elem = (UTRAN_TDD_Frequency*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UTRAN_TDD_Frequency(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UTRAN_TDD_Frequency(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "UTRAN-TDD-Frequency", (int32_t)i, "UTRAN-TDD-FrequencyList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRA_PriorityInfoList_utra_ServingCell(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList_utra_ServingCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* priority */
-   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat, 0, "priority", -1, 0);
-   /* s-PrioritySearch1 */
-   stat = pd_ConsUInt8(ctx, &pvalue->s_PrioritySearch1, 0, 31);
-   RT_CHECK(ctx, stat, 0, "s-PrioritySearch1", -1, 0);
-   /* s-PrioritySearch2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->s_PrioritySearch2, 0, 7);
-      RT_CHECK(ctx, stat, 0, "s-PrioritySearch2", -1, 0);
-   }
-   /* threshServingLow */
-   stat = pd_ConsUInt8(ctx, &pvalue->threshServingLow, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshServingLow", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRA_PriorityInfoList(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRA-PriorityInfoList");
-   /* utra-ServingCell */
-   stat = asn1PD_UMTS_UTRA_PriorityInfoList_utra_ServingCell(ctx, &pvalue->utra_ServingCell);
-   RT_CHECK(ctx, stat, 0, "utra-ServingCell", -1, "UTRA-PriorityInfoList");
-   /* utran-FDD-FrequencyList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTRAN_FDD_FrequencyList(ctx, &pvalue->utran_FDD_FrequencyList);
-      RT_CHECK(ctx, stat, 0, "utran-FDD-FrequencyList", -1, "UTRA-PriorityInfoList");
-   }
-   /* utran-TDD-FrequencyList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UTRAN_TDD_FrequencyList(ctx, &pvalue->utran_TDD_FrequencyList);
-      RT_CHECK(ctx, stat, 0, "utran-TDD-FrequencyList", -1, "UTRA-PriorityInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRA_PriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRA-PriorityInfoList-v920ext");
-   /* threshServingLow2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->threshServingLow2, 0, 31);
-      RT_CHECK(ctx, stat, 0, "threshServingLow2", -1, "UTRA-PriorityInfoList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_BCCH_ModificationTime(rtxContext* RT_RESTRICT ctx, BCCH_ModificationTime* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 511);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-ModificationTime");
-   return 0;
-}
-
-int asn1PD_UMTS_BCCH_ModificationInfo(rtxContext* RT_RESTRICT ctx, BCCH_ModificationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-ModificationInfo");
-   /* mib-ValueTag */
-   stat = pd_ConsUInt8(ctx, &pvalue->mib_ValueTag, 1, 8);
-   RT_CHECK(ctx, stat, "MIB-ValueTag", "mib-ValueTag", -1, "BCCH-ModificationInfo");
-   /* bcch-ModificationTime */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->bcch_ModificationTime, 0, 511);
-      RT_CHECK(ctx, stat, "BCCH-ModificationTime", "bcch-ModificationTime", -1, "BCCH-ModificationInfo");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CDMA2000_Message_payload(rtxContext* RT_RESTRICT ctx, CDMA2000_Message_payload* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CDMA2000_Message(rtxContext* RT_RESTRICT ctx, CDMA2000_Message* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* msg-Type */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->msg_Type, 8, 8);
-   RT_CHECK(ctx, stat, 0, "msg-Type", -1, "CDMA2000-Message");
-   /* payload */
-   stat = asn1PD_UMTS_CDMA2000_Message_payload(ctx, &pvalue->payload);
-   RT_CHECK(ctx, stat, 0, "payload", -1, "CDMA2000-Message");
-   return 0;
-}
-
-int asn1PD_UMTS_CDMA2000_MessageList(rtxContext* RT_RESTRICT ctx, CDMA2000_MessageList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CDMA2000-MessageList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CDMA2000_Message* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CDMA2000_Message));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CDMA2000-Message", (int32_t)i, "CDMA2000-MessageList");
-      elem = (CDMA2000_Message*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CDMA2000_Message(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CDMA2000_Message(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "CDMA2000-Message", (int32_t)i, "CDMA2000-MessageList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_FrequencyInfoCDMA2000(rtxContext* RT_RESTRICT ctx, FrequencyInfoCDMA2000* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* band-Class */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->band_Class, 5, 5);
-   RT_CHECK(ctx, stat, 0, "band-Class", -1, "FrequencyInfoCDMA2000");
-   /* cdma-Freq */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->cdma_Freq, 11, 11);
-   RT_CHECK(ctx, stat, 0, "cdma-Freq", -1, "FrequencyInfoCDMA2000");
-   return 0;
-}
-
-int asn1PD_UMTS_CDMA2000_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, CDMA2000_UMTS_Frequency_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CDMA2000-UMTS-Frequency-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      FrequencyInfoCDMA2000* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfoCDMA2000));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "FrequencyInfoCDMA2000", (int32_t)i, "CDMA2000-UMTS-Frequency-List");
-      elem = (FrequencyInfoCDMA2000*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_FrequencyInfoCDMA2000(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "FrequencyInfoCDMA2000", (int32_t)i, "CDMA2000-UMTS-Frequency-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DataTransmFrequency_dataTransmFreqGranularity(rtxContext* RT_RESTRICT ctx, DataTransmFrequency_dataTransmFreqGranularity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DataTransmFrequency(rtxContext* RT_RESTRICT ctx, DataTransmFrequency* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* dataTransmFreqGranularity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dataTransmFreqGranularity, 0, 7);
-   RT_CHECK(ctx, stat, 0, "dataTransmFreqGranularity", -1, "DataTransmFrequency");
-   /* numberOfDataTransmOcc */
-   stat = pd_ConsUInt16(ctx, &pvalue->numberOfDataTransmOcc, 1, 610);
-   RT_CHECK(ctx, stat, 0, "numberOfDataTransmOcc", -1, "DataTransmFrequency");
-   return 0;
-}
-
-int asn1PD_UMTS_DataVolumePerRB(rtxContext* RT_RESTRICT ctx, DataVolumePerRB* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rb-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "DataVolumePerRB");
-   /* dataVolume */
-   stat = pd_ConsUInt32(ctx, &pvalue->dataVolume, 0, 4294967295LL);
-   RT_CHECK(ctx, stat, 0, "dataVolume", -1, "DataVolumePerRB");
-   return 0;
-}
-
-int asn1PD_UMTS_DataVolumePerRB_List(rtxContext* RT_RESTRICT ctx, DataVolumePerRB_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DataVolumePerRB-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DataVolumePerRB* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DataVolumePerRB));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DataVolumePerRB", (int32_t)i, "DataVolumePerRB-List");
-      elem = (DataVolumePerRB*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DataVolumePerRB(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "DataVolumePerRB", (int32_t)i, "DataVolumePerRB-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DataVolumeHistory(rtxContext* RT_RESTRICT ctx, DataVolumeHistory* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DataVolumeHistory");
-   /* dataVolumeMontoringWindow */
-   stat = pd_ConsUInt8(ctx, &pvalue->dataVolumeMontoringWindow, 1, 120);
-   RT_CHECK(ctx, stat, 0, "dataVolumeMontoringWindow", -1, "DataVolumeHistory");
-   /* dataTransmFrequency */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DataTransmFrequency(ctx, &pvalue->dataTransmFrequency);
-      RT_CHECK(ctx, stat, 0, "dataTransmFrequency", -1, "DataVolumeHistory");
-   }
-   /* dataVolumePerRB */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DataVolumePerRB_List(ctx, &pvalue->dataVolumePerRB);
-      RT_CHECK(ctx, stat, 0, "dataVolumePerRB", -1, "DataVolumeHistory");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ETWS_Information_warningType(rtxContext* RT_RESTRICT ctx, ETWS_Information_warningType* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_ETWS_Information_messageIdentifier(rtxContext* RT_RESTRICT ctx, ETWS_Information_messageIdentifier* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_ETWS_Information_serialNumber(rtxContext* RT_RESTRICT ctx, ETWS_Information_serialNumber* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_ETWS_Information(rtxContext* RT_RESTRICT ctx, ETWS_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* warningType */
-   stat = asn1PD_UMTS_ETWS_Information_warningType(ctx, &pvalue->warningType);
-   RT_CHECK(ctx, stat, 0, "warningType", -1, "ETWS-Information");
-   /* messageIdentifier */
-   stat = asn1PD_UMTS_ETWS_Information_messageIdentifier(ctx, &pvalue->messageIdentifier);
-   RT_CHECK(ctx, stat, 0, "messageIdentifier", -1, "ETWS-Information");
-   /* serialNumber */
-   stat = asn1PD_UMTS_ETWS_Information_serialNumber(ctx, &pvalue->serialNumber);
-   RT_CHECK(ctx, stat, 0, "serialNumber", -1, "ETWS-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_ETWS_WarningSecurityInfo(rtxContext* RT_RESTRICT ctx, ETWS_WarningSecurityInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_DynOctetString(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ETWS-WarningSecurityInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_FDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, FDD_UMTS_Frequency_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FDD-UMTS-Frequency-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      FrequencyInfoFDD* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfoFDD));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "FrequencyInfoFDD", (int32_t)i, "FDD-UMTS-Frequency-List");
-      elem = (FrequencyInfoFDD*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_FrequencyInfoFDD(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "FrequencyInfoFDD", (int32_t)i, "FDD-UMTS-Frequency-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GERAN_SystemInfoBlock(rtxContext* RT_RESTRICT ctx, GERAN_SystemInfoBlock* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 23);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "GERAN-SystemInfoBlock");
-   return 0;
-}
-
-int asn1PD_UMTS_GERAN_SystemInformation(rtxContext* RT_RESTRICT ctx, GERAN_SystemInformation* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
    {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "GERAN-SystemInformation");
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "GERAN-SystemInformation");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GERAN-SystemInformation");
-      }
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
-   for (i = 0; i < pvalue->n; i++) {
-      asn1Init_UMTS_GERAN_SystemInfoBlock(&pvalue->elem[i]);
-      stat = asn1PD_UMTS_GERAN_SystemInfoBlock(ctx, &pvalue->elem[i]);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, 0, "GERAN-SystemInfoBlock", (int32_t)i, "GERAN-SystemInformation");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_BA_Range(rtxContext* RT_RESTRICT ctx, GSM_BA_Range* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gsmLowRangeUARFCN */
-   stat = pd_ConsUInt16(ctx, &pvalue->gsmLowRangeUARFCN, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "gsmLowRangeUARFCN", -1, "GSM-BA-Range");
-   /* gsmUpRangeUARFCN */
-   stat = pd_ConsUInt16(ctx, &pvalue->gsmUpRangeUARFCN, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "gsmUpRangeUARFCN", -1, "GSM-BA-Range");
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_BA_Range_List(rtxContext* RT_RESTRICT ctx, GSM_BA_Range_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-BA-Range-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GSM_BA_Range* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_BA_Range));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GSM-BA-Range", (int32_t)i, "GSM-BA-Range-List");
-      elem = (GSM_BA_Range*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GSM_BA_Range(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "GSM-BA-Range", (int32_t)i, "GSM-BA-Range-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_Classmark2(rtxContext* RT_RESTRICT ctx, GSM_Classmark2* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-Classmark2");
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_Classmark3(rtxContext* RT_RESTRICT ctx, GSM_Classmark3* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-Classmark3");
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_MessageList_element(rtxContext* RT_RESTRICT ctx, GSM_MessageList_element* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_MessageList(rtxContext* RT_RESTRICT ctx, GSM_MessageList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, "GSM-MessageList");
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "GSM-MessageList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GSM-MessageList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      asn1Init_UMTS_GSM_MessageList_element(&pvalue->elem[i]);
-      stat = asn1PD_UMTS_GSM_MessageList_element(ctx, &pvalue->elem[i]);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, 0, "element", (int32_t)i, "GSM-MessageList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GsmSecurityCapability(rtxContext* RT_RESTRICT ctx, GsmSecurityCapability* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pd_BitString32(ctx, pvalue, 7, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GsmSecurityCapability");
-   return 0;
-}
-
-int asn1PD_UMTS_HNBName(rtxContext* RT_RESTRICT ctx, HNBName* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 48);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "HNBName");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_ChangeFailureCause(rtxContext* RT_RESTRICT ctx, InterRAT_ChangeFailureCause* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-ChangeFailureCause");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* configurationUnacceptable */
-         break;
-      case 1: /* physicalChannelFailure */
-         break;
-      case 2: /* protocolError */
-         pvalue->u.protocolError = (ProtocolErrorInformation*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorInformation));
-         if (pvalue->u.protocolError == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "protocolError", -1, "InterRAT-ChangeFailureCause");
-         asn1Init_UMTS_ProtocolErrorInformation(pvalue->u.protocolError);
-         stat = asn1PD_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
-         RT_CHECK(ctx, stat, 0, "protocolError", -1, "InterRAT-ChangeFailureCause");
-         break;
-      case 3: /* unspecified */
-         break;
-      case 4: /* spare4 */
-         break;
-      case 5: /* spare3 */
-         break;
-      case 6: /* spare2 */
-         break;
-      case 7: /* spare1 */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-ChangeFailureCause");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GERANIu_MessageList_element(rtxContext* RT_RESTRICT ctx, GERANIu_MessageList_element* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 32768);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_GERANIu_MessageList(rtxContext* RT_RESTRICT ctx, GERANIu_MessageList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, "GERANIu-MessageList");
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddStrParm(ctx, "GERANIu-MessageList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GERANIu-MessageList");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      asn1Init_UMTS_GERANIu_MessageList_element(&pvalue->elem[i]);
-      stat = asn1PD_UMTS_GERANIu_MessageList_element(ctx, &pvalue->elem[i]);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, 0, "element", (int32_t)i, "GERANIu-MessageList");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GERANIu_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, GERANIu_RadioAccessCapability* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 170);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, "GERANIu-RadioAccessCapability");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gsm-Classmark2 */
-   stat = asn1PD_UMTS_GSM_Classmark2(ctx, &pvalue->gsm_Classmark2);
-   RT_CHECK(ctx, stat, 0, "gsm-Classmark2", -1, 0);
-   /* gsm-Classmark3 */
-   stat = asn1PD_UMTS_GSM_Classmark3(ctx, &pvalue->gsm_Classmark3);
-   RT_CHECK(ctx, stat, 0, "gsm-Classmark3", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_cdma2000* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cdma2000-MessageList */
-   stat = asn1PD_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
-   RT_CHECK(ctx, stat, 0, "cdma2000-MessageList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* gsm */
-         pvalue->u.gsm = (InterRAT_UE_RadioAccessCapability_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_UE_RadioAccessCapability_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, "InterRAT-UE-RadioAccessCapability");
-         asn1Init_UMTS_InterRAT_UE_RadioAccessCapability_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRAT-UE-RadioAccessCapability");
-         break;
-      case 1: /* cdma2000 */
-         pvalue->u.cdma2000 = (InterRAT_UE_RadioAccessCapability_cdma2000*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_UE_RadioAccessCapability_cdma2000));
-         if (pvalue->u.cdma2000 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cdma2000", -1, "InterRAT-UE-RadioAccessCapability");
-         asn1Init_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(pvalue->u.cdma2000);
-         stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(ctx, pvalue->u.cdma2000);
-         RT_CHECK(ctx, stat, 0, "cdma2000", -1, "InterRAT-UE-RadioAccessCapability");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-UE-RadioAccessCapability");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapabilityList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapabilityList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterRAT_UE_RadioAccessCapability* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRAT_UE_RadioAccessCapability));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "InterRAT-UE-RadioAccessCapability", (int32_t)i, "InterRAT-UE-RadioAccessCapabilityList");
-      elem = (InterRAT_UE_RadioAccessCapability*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterRAT_UE_RadioAccessCapability(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "InterRAT-UE-RadioAccessCapability", (int32_t)i, "InterRAT-UE-RadioAccessCapabilityList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* geranIu-RadioAccessCapability */
-   stat = asn1PD_UMTS_GERANIu_RadioAccessCapability(ctx, &pvalue->geranIu_RadioAccessCapability);
-   RT_CHECK(ctx, stat, 0, "geranIu-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v590ext");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_SecurityCapability_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapability_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gsmSecurityCapability */
-   stat = asn1PD_UMTS_GsmSecurityCapability(ctx, &pvalue->gsmSecurityCapability);
-   RT_CHECK(ctx, stat, 0, "gsmSecurityCapability", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_SecurityCapability(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapability* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-SecurityCapability");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* gsm */
-         pvalue->u.gsm = (InterRAT_UE_SecurityCapability_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_UE_SecurityCapability_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, "InterRAT-UE-SecurityCapability");
-         asn1Init_UMTS_InterRAT_UE_SecurityCapability_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_InterRAT_UE_SecurityCapability_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRAT-UE-SecurityCapability");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-UE-SecurityCapability");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_SecurityCapList(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-SecurityCapList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterRAT_UE_SecurityCapability* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRAT_UE_SecurityCapability));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "InterRAT-UE-SecurityCapability", (int32_t)i, "InterRAT-UE-SecurityCapList");
-      elem = (InterRAT_UE_SecurityCapability*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterRAT_UE_SecurityCapability(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterRAT_UE_SecurityCapability(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "InterRAT-UE-SecurityCapability", (int32_t)i, "InterRAT-UE-SecurityCapList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_HO_FailureCause(rtxContext* RT_RESTRICT ctx, InterRAT_HO_FailureCause* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-HO-FailureCause");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* configurationUnacceptable */
-         break;
-      case 1: /* physicalChannelFailure */
-         break;
-      case 2: /* protocolError */
-         pvalue->u.protocolError = (ProtocolErrorInformation*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorInformation));
-         if (pvalue->u.protocolError == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "protocolError", -1, "InterRAT-HO-FailureCause");
-         asn1Init_UMTS_ProtocolErrorInformation(pvalue->u.protocolError);
-         stat = asn1PD_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
-         RT_CHECK(ctx, stat, 0, "protocolError", -1, "InterRAT-HO-FailureCause");
-         break;
-      case 3: /* interRAT-ProtocolError */
-         break;
-      case 4: /* unspecified */
-         break;
-      case 5: /* spare11 */
-         break;
-      case 6: /* spare10 */
-         break;
-      case 7: /* spare9 */
-         break;
-      case 8: /* spare8 */
-         break;
-      case 9: /* spare7 */
-         break;
-      case 10: /* spare6 */
-         break;
-      case 11: /* spare5 */
-         break;
-      case 12: /* spare4 */
-         break;
-      case 13: /* spare3 */
-         break;
-      case 14: /* spare2 */
-         break;
-      case 15: /* spare1 */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-HO-FailureCause");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, TDD_UMTS_Frequency_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-UMTS-Frequency-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      FrequencyInfoTDD* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfoTDD));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "FrequencyInfoTDD", (int32_t)i, "TDD-UMTS-Frequency-List");
-      elem = (FrequencyInfoTDD*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "FrequencyInfoTDD", (int32_t)i, "TDD-UMTS-Frequency-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Rplmn_Information(rtxContext* RT_RESTRICT ctx, Rplmn_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Rplmn-Information");
-   /* gsm-BA-Range-List */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List);
-      RT_CHECK(ctx, stat, 0, "gsm-BA-Range-List", -1, "Rplmn-Information");
-   }
-   /* fdd-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "fdd-UMTS-Frequency-List", -1, "Rplmn-Information");
-   }
-   /* tdd-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "tdd-UMTS-Frequency-List", -1, "Rplmn-Information");
-   }
-   /* cdma2000-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "cdma2000-UMTS-Frequency-List", -1, "Rplmn-Information");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Rplmn_Information_r4(rtxContext* RT_RESTRICT ctx, Rplmn_Information_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Rplmn-Information-r4");
-   /* gsm-BA-Range-List */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List);
-      RT_CHECK(ctx, stat, 0, "gsm-BA-Range-List", -1, "Rplmn-Information-r4");
-   }
-   /* fdd-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "fdd-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
-   }
-   /* tdd384-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd384_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "tdd384-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
-   }
-   /* tdd128-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd128_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "tdd128-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
-   }
-   /* cdma2000-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "cdma2000-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v4b0ext-IEs");
-   /* mapping-LCR */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Mapping_LCR_r4(ctx, &pvalue->mapping_LCR);
-      RT_CHECK(ctx, stat, 0, "mapping-LCR", -1, "SysInfoType4-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType4_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v590ext");
-   /* cellSelectReselectInfo-v590ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, &pvalue->cellSelectReselectInfo_v590ext);
-      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo-v590ext", -1, "SysInfoType4-v590ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v5b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v5b0ext-IEs");
-   /* cellSelectReselectInfoPCHFACH-v5b0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(ctx, &pvalue->cellSelectReselectInfoPCHFACH_v5b0ext);
-      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoPCHFACH-v5b0ext", -1, "SysInfoType4-v5b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v5c0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v5c0ext-IEs");
-   /* cellSelectReselectInfoTreselectionScaling-v5c0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(ctx, &pvalue->cellSelectReselectInfoTreselectionScaling_v5c0ext);
-      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoTreselectionScaling-v5c0ext", -1, "SysInfoType4-v5c0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType4-v5c0ext */
-   stat = asn1PD_UMTS_SysInfoType4_v5c0ext_IEs(ctx, &pvalue->sysInfoType4_v5c0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType4-v5c0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType4-v5b0ext */
-   stat = asn1PD_UMTS_SysInfoType4_v5b0ext_IEs(ctx, &pvalue->sysInfoType4_v5b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType4-v5b0ext", -1, 0);
-   /* v5c0NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(ctx, &pvalue->v5c0NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType4-v590ext */
-   stat = asn1PD_UMTS_SysInfoType4_v590ext(ctx, &pvalue->sysInfoType4_v590ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType4-v590ext", -1, 0);
-   /* v5b0NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(ctx, &pvalue->v5b0NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType4-v4b0ext */
-   stat = asn1PD_UMTS_SysInfoType4_v4b0ext_IEs(ctx, &pvalue->sysInfoType4_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType4-v4b0ext", -1, 0);
-   /* v590NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4(rtxContext* RT_RESTRICT ctx, SysInfoType4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4");
-   /* cellIdentity */
-   stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cellIdentity);
-   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "SysInfoType4");
-   /* cellSelectReselectInfo */
-   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_3_4(ctx, &pvalue->cellSelectReselectInfo);
-   RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo", -1, "SysInfoType4");
-   /* cellAccessRestriction */
-   stat = asn1PD_UMTS_CellAccessRestriction(ctx, &pvalue->cellAccessRestriction);
-   RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType4");
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5bis(rtxContext* RT_RESTRICT ctx, SysInfoType5bis* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = asn1PD_UMTS_SysInfoType5(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5bis");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* aich-PowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->aich_PowerOffset, -22, 5);
-   RT_CHECK(ctx, stat, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->dummy, -10, 5);
-      RT_CHECK(ctx, stat, "CSICH-PowerOffset", "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
-   }
-   /* openLoopPowerControl-TDD */
-   stat = asn1PD_UMTS_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD);
-   RT_CHECK(ctx, stat, 0, "openLoopPowerControl-TDD", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (SysInfoType6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType6_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_SysInfoType6_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SysInfoType6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (SysInfoType6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType6_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_SysInfoType6_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_SysInfoType6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
-   }
-   /* pCCPCH-LCR-Extensions */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions);
-      RT_CHECK(ctx, stat, 0, "pCCPCH-LCR-Extensions", -1, 0);
-   }
-   /* sCCPCH-LCR-ExtensionsList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList);
-      RT_CHECK(ctx, stat, 0, "sCCPCH-LCR-ExtensionsList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v4b0ext-IEs");
-   /* openLoopPowerControl-IPDL-TDD */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
-      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, "SysInfoType6-v4b0ext-IEs");
-   }
-   /* prach-SystemInformationList-LCR-r4 */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4);
-      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList-LCR-r4", -1, "SysInfoType6-v4b0ext-IEs");
-   }
-   /* tdd128SpecificInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType6-v4b0ext-IEs");
-   }
-   /* frequencyBandIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->frequencyBandIndicator, 0, 7);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType6-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v590ext-IEs");
-   /* hcr-r5-SpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType6-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v650ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v650ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* frequencyBandIndicator2 */
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequencyBandIndicator2, 0, 15);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType6-v650ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v690ext-IEs");
-   /* additionalPRACH-TF-and-TFCS-CCCH-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List);
-      RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-List", -1, "SysInfoType6-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
-   }
-   /* prach-SystemInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v770ext-IEs");
-   /* tdd768SpecificInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "tdd768SpecificInfo", -1, "SysInfoType6-v770ext-IEs");
-   }
-   /* sccpch-SystemInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformationList", -1, "SysInfoType6-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType6-v770ext */
-   stat = asn1PD_UMTS_SysInfoType6_v770ext_IEs(ctx, &pvalue->sysInfoType6_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType6-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType6-v690ext */
-   stat = asn1PD_UMTS_SysInfoType6_v690ext_IEs(ctx, &pvalue->sysInfoType6_v690ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType6-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType6-v650ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v650ext_IEs(ctx, &pvalue->sysInfoType6_v650ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType6-v650ext", -1, 0);
-   }
-   /* v690nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(ctx, &pvalue->v690nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType6-v590ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v590ext_IEs(ctx, &pvalue->sysInfoType6_v590ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType6-v590ext", -1, 0);
-   }
-   /* v650nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(ctx, &pvalue->v650nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v650nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType6-v4b0ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0ext_IEs(ctx, &pvalue->sysInfoType6_v4b0ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType6-v4b0ext", -1, 0);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6(rtxContext* RT_RESTRICT ctx, SysInfoType6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6");
-   /* pich-PowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->pich_PowerOffset, -10, 5);
-   RT_CHECK(ctx, stat, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType6");
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_SysInfoType6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType6");
-   /* primaryCCPCH-Info */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "SysInfoType6");
-   }
-   /* prach-SystemInformationList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, "SysInfoType6");
-   }
-   /* sCCPCH-SystemInformationList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "sCCPCH-SystemInformationList", -1, "SysInfoType6");
-   }
-   /* cbs-DRX-Level1Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information);
-      RT_CHECK(ctx, stat, 0, "cbs-DRX-Level1Information", -1, "SysInfoType6");
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType8_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType8(rtxContext* RT_RESTRICT ctx, SysInfoType8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType8");
-   /* dummy1 */
-   stat = asn1PD_UMTS_CPCH_Parameters(ctx, &pvalue->dummy1);
-   RT_CHECK(ctx, stat, 0, "dummy1", -1, "SysInfoType8");
-   /* dummy2 */
-   stat = asn1PD_UMTS_CPCH_SetInfoList(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat, 0, "dummy2", -1, "SysInfoType8");
-   /* dummy3 */
-   stat = pd_ConsInt8(ctx, &pvalue->dummy3, -10, 5);
-   RT_CHECK(ctx, stat, "CSICH-PowerOffset", "dummy3", -1, "SysInfoType8");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType9_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType9(rtxContext* RT_RESTRICT ctx, SysInfoType9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType9");
-   /* dummy */
-   stat = asn1PD_UMTS_CPCH_PersistenceLevelsList(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType9");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType9");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType10_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType10_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType10(rtxContext* RT_RESTRICT ctx, SysInfoType10* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType10");
-   /* dummy */
-   stat = asn1PD_UMTS_DRAC_SysInfoList(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType10");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType10_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType10");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-IdleTimersAndConstants-v3a0ext */
-   stat = asn1PD_UMTS_UE_IdleTimersAndConstants_v3a0ext(ctx, &pvalue->ue_IdleTimersAndConstants_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants-v3a0ext", -1, "SysInfoType13-v3a0ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-v4b0ext-IEs");
-   /* capabilityUpdateRequirement-r4Ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CapabilityUpdateRequirement_r4_ext(ctx, &pvalue->capabilityUpdateRequirement_r4Ext);
-      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement-r4Ext", -1, "SysInfoType13-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-v770ext-IEs");
-   /* capabilityUpdateRequirement */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CapabilityUpdateRequirement_v770ext(ctx, &pvalue->capabilityUpdateRequirement);
-      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "SysInfoType13-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType13-v770ext */
-   stat = asn1PD_UMTS_SysInfoType13_v770ext_IEs(ctx, &pvalue->sysInfoType13_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType13-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType13-v4b0ext */
-   stat = asn1PD_UMTS_SysInfoType13_v4b0ext_IEs(ctx, &pvalue->sysInfoType13_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType13-v4b0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType13-v3a0ext */
-   stat = asn1PD_UMTS_SysInfoType13_v3a0ext_IEs(ctx, &pvalue->sysInfoType13_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType13-v3a0ext", -1, 0);
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13(rtxContext* RT_RESTRICT ctx, SysInfoType13* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13");
-   /* cn-DomainSysInfoList */
-   stat = asn1PD_UMTS_CN_DomainSysInfoList(ctx, &pvalue->cn_DomainSysInfoList);
-   RT_CHECK(ctx, stat, 0, "cn-DomainSysInfoList", -1, "SysInfoType13");
-   /* ue-IdleTimersAndConstants */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_IdleTimersAndConstants(ctx, &pvalue->ue_IdleTimersAndConstants);
-      RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants", -1, "SysInfoType13");
-   }
-   /* capabilityUpdateRequirement */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CapabilityUpdateRequirement(ctx, &pvalue->capabilityUpdateRequirement);
-      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "SysInfoType13");
-   }
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType13");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ANSI_41_RAND_Information(rtxContext* RT_RESTRICT ctx, ANSI_41_RAND_Information* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-RAND-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_1_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_1_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_1(rtxContext* RT_RESTRICT ctx, SysInfoType13_1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-1");
-   /* ansi-41-RAND-Information */
-   stat = asn1PD_UMTS_ANSI_41_RAND_Information(ctx, &pvalue->ansi_41_RAND_Information);
-   RT_CHECK(ctx, stat, 0, "ansi-41-RAND-Information", -1, "SysInfoType13-1");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_1_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-1");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ANSI_41_UserZoneID_Information(rtxContext* RT_RESTRICT ctx, ANSI_41_UserZoneID_Information* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-UserZoneID-Information");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_2_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_2(rtxContext* RT_RESTRICT ctx, SysInfoType13_2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-2");
-   /* ansi-41-UserZoneID-Information */
-   stat = asn1PD_UMTS_ANSI_41_UserZoneID_Information(ctx, &pvalue->ansi_41_UserZoneID_Information);
-   RT_CHECK(ctx, stat, 0, "ansi-41-UserZoneID-Information", -1, "SysInfoType13-2");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-2");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ANSI_41_PrivateNeighbourListInfo(rtxContext* RT_RESTRICT ctx, ANSI_41_PrivateNeighbourListInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-PrivateNeighbourListInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_3_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_3(rtxContext* RT_RESTRICT ctx, SysInfoType13_3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-3");
-   /* ansi-41-PrivateNeighbourListInfo */
-   stat = asn1PD_UMTS_ANSI_41_PrivateNeighbourListInfo(ctx, &pvalue->ansi_41_PrivateNeighbourListInfo);
-   RT_CHECK(ctx, stat, 0, "ansi-41-PrivateNeighbourListInfo", -1, "SysInfoType13-3");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-3");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ANSI_41_GlobalServiceRedirectInfo(rtxContext* RT_RESTRICT ctx, ANSI_41_GlobalServiceRedirectInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-GlobalServiceRedirectInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_4_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_4_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_4(rtxContext* RT_RESTRICT ctx, SysInfoType13_4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-4");
-   /* ansi-41-GlobalServiceRedirectInfo */
-   stat = asn1PD_UMTS_ANSI_41_GlobalServiceRedirectInfo(ctx, &pvalue->ansi_41_GlobalServiceRedirectInfo);
-   RT_CHECK(ctx, stat, 0, "ansi-41-GlobalServiceRedirectInfo", -1, "SysInfoType13-4");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_4_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType14_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType14_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType14(rtxContext* RT_RESTRICT ctx, SysInfoType14* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType14");
-   /* individualTS-InterferenceList */
-   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, "SysInfoType14");
-   /* expirationTimeFactor */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->expirationTimeFactor, 1, 8);
-      RT_CHECK(ctx, stat, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType14");
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType14_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType14");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-v4b0ext-IEs");
-   /* up-Ipdl-Parameters-TDD */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->up_Ipdl_Parameters_TDD);
-      RT_CHECK(ctx, stat, 0, "up-Ipdl-Parameters-TDD", -1, "SysInfoType15-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-Positioning-GPS-ReferenceTime */
-   stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_Positioning_GPS_ReferenceTime);
-   RT_CHECK(ctx, stat, 0, "ue-Positioning-GPS-ReferenceTime", -1, "SysInfoType15-v770ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-v770ext */
-   stat = asn1PD_UMTS_SysInfoType15_v770ext_IEs(ctx, &pvalue->sysInfoType15_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-v4b0ext */
-   stat = asn1PD_UMTS_SysInfoType15_v4b0ext_IEs(ctx, &pvalue->sysInfoType15_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-v4b0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15(rtxContext* RT_RESTRICT ctx, SysInfoType15* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15");
-   /* ue-positioning-GPS-CipherParameters */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GPS_CipherParameters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-CipherParameters", -1, "SysInfoType15");
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   stat = asn1PD_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "SysInfoType15");
-   /* ue-positioning-GPS-ReferenceTime */
-   stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "SysInfoType15");
-   /* ue-positioning-GPS-Real-timeIntegrity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "SysInfoType15");
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType15");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15bis-v860ext-IEs");
-   /* ue-Positioning-GANSS-AddIonoModel */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->ue_Positioning_GANSS_AddIonoModel);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AddIonoModel", -1, "SysInfoType15bis-v860ext-IEs");
-   }
-   /* ue-Positioning-GANSS-EarthOrientationPara */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->ue_Positioning_GANSS_EarthOrientationPara);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-EarthOrientationPara", -1, "SysInfoType15bis-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15bis-v860ext */
-   stat = asn1PD_UMTS_SysInfoType15bis_v860ext_IEs(ctx, &pvalue->sysInfoType15bis_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15bis-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15bis(rtxContext* RT_RESTRICT ctx, SysInfoType15bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15bis");
-   /* ue-positioning-GANSS-ReferencePosition */
-   stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->ue_positioning_GANSS_ReferencePosition);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferencePosition", -1, "SysInfoType15bis");
-   /* ue-positioning-GANSS-ReferenceTime */
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "SysInfoType15bis");
-   /* ue-positioning-GANSS-IonosphericModel */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->ue_positioning_GANSS_IonosphericModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-IonosphericModel", -1, "SysInfoType15bis");
-   }
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, "SysInfoType15bis");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-positioning-GPS-DGPS-Corrections */
-   stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "SysInfoType15-1-v920ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-1-v920ext */
-   stat = asn1PD_UMTS_SysInfoType15_1_v920ext_IEs(ctx, &pvalue->sysInfoType15_1_v920ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-1-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1(rtxContext* RT_RESTRICT ctx, SysInfoType15_1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-1");
-   /* ue-positioning-GPS-DGPS-Corrections */
-   stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "SysInfoType15-1");
-   /* v920NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType15-1");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1bis_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ue-positioning-GANSS-DGANSS-Corrections */
-   stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DGANSS-Corrections", -1, "SysInfoType15-1bis-v920ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-1bis-v920ext */
-   stat = asn1PD_UMTS_SysInfoType15_1bis_v920ext_IEs(ctx, &pvalue->sysInfoType15_1bis_v920ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-1bis-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-1bis");
-   /* ue-positioning-GANSS-DGANSS-Corrections */
-   stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DGANSS-Corrections", -1, "SysInfoType15-1bis");
-   /* v920NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType15-1bis");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_2(rtxContext* RT_RESTRICT ctx, SysInfoType15_2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-2");
-   /* transmissionTOW */
-   stat = pd_ConsUInt32(ctx, &pvalue->transmissionTOW, 0, 604799);
-   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-2");
-   /* satID */
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "SysInfoType15-2");
-   /* ephemerisParameter */
-   stat = asn1PD_UMTS_EphemerisParameter(ctx, &pvalue->ephemerisParameter);
-   RT_CHECK(ctx, stat, 0, "ephemerisParameter", -1, "SysInfoType15-2");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_2bis_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2bis_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_2bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_2bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-2bis");
-   /* ue-positioning-GANSS-navigationModel */
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->ue_positioning_GANSS_navigationModel);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-navigationModel", -1, "SysInfoType15-2bis");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_2bis_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2bis");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_2ter_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2ter_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_2ter(rtxContext* RT_RESTRICT ctx, SysInfoType15_2ter* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-2ter");
-   /* ue-positioning-GANSS-AddNavigationModels */
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->ue_positioning_GANSS_AddNavigationModels);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AddNavigationModels", -1, "SysInfoType15-2ter");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_2ter_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2ter");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_3(rtxContext* RT_RESTRICT ctx, SysInfoType15_3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-3");
-   /* transmissionTOW */
-   stat = pd_ConsUInt32(ctx, &pvalue->transmissionTOW, 0, 604799);
-   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-3");
-   /* ue-positioning-GPS-Almanac */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "SysInfoType15-3");
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "SysInfoType15-3");
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "SysInfoType15-3");
-   }
-   /* satMask */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      RT_SET_SIZE(ctx, 1, 32);
-      stat = pd_BitString32(ctx, &pvalue->satMask, 1, 32);
-      RT_CHECK(ctx, stat, 0, "satMask", -1, "SysInfoType15-3");
-   }
-   /* lsbTOW */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->lsbTOW, 8, 8);
-      RT_CHECK(ctx, stat, 0, "lsbTOW", -1, "SysInfoType15-3");
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_SysInfoType15_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-3");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_3bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-3bis-v860ext-IEs");
-   /* ue-Positioning-GANSS-Almanac */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->ue_Positioning_GANSS_Almanac);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-Almanac", -1, "SysInfoType15-3bis-v860ext-IEs");
-   }
-   /* ue-Positioning-GANSS-AddUTCModels */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->ue_Positioning_GANSS_AddUTCModels);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AddUTCModels", -1, "SysInfoType15-3bis-v860ext-IEs");
-   }
-   /* ue-Positioning-GANSS-AuxiliaryInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->ue_Positioning_GANSS_AuxiliaryInfo);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AuxiliaryInfo", -1, "SysInfoType15-3bis-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-3bis-v860ext */
-   stat = asn1PD_UMTS_SysInfoType15_3bis_v860ext_IEs(ctx, &pvalue->sysInfoType15_3bis_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-3bis-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_3bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-3bis");
-   /* ue-positioning-GANSS-Almanac */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac(ctx, &pvalue->ue_positioning_GANSS_Almanac);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-Almanac", -1, "SysInfoType15-3bis");
-   }
-   /* ue-positioning-GANSS-TimeModels */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_TimeModels(ctx, &pvalue->ue_positioning_GANSS_TimeModels);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-TimeModels", -1, "SysInfoType15-3bis");
-   }
-   /* ue-positioning-GANSS-UTC-Model */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->ue_positioning_GANSS_UTC_Model);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-UTC-Model", -1, "SysInfoType15-3bis");
-   }
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, "SysInfoType15-3bis");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_4_v3a0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-4-v3a0ext");
-   /* sfn-Offset-Validity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-4-v3a0ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-4-v3a0ext");
-         pvalue->sfn_Offset_Validity = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_4_v4b0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v4b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-4-v4b0ext");
-   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-r4ext", -1, "SysInfoType15-4-v4b0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-4-v4b0ext */
-   stat = asn1PD_UMTS_SysInfoType15_4_v4b0ext(ctx, &pvalue->sysInfoType15_4_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-4-v4b0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-4-v3a0ext */
-   stat = asn1PD_UMTS_SysInfoType15_4_v3a0ext(ctx, &pvalue->sysInfoType15_4_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-4-v3a0ext", -1, 0);
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_4(rtxContext* RT_RESTRICT ctx, SysInfoType15_4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-4");
-   /* ue-positioning-OTDOA-CipherParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_OTDOA_CipherParameters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-CipherParameters", -1, "SysInfoType15-4");
-   }
-   /* ue-positioning-OTDOA-AssistanceData */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "SysInfoType15-4");
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType15-4");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_5_v3a0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-5-v3a0ext");
-   /* sfn-Offset-Validity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-5-v3a0ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-5-v3a0ext");
-         pvalue->sfn_Offset_Validity = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-5-v770ext-IEs");
-   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-UEB-ext", -1, "SysInfoType15-5-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-5-v770ext */
-   stat = asn1PD_UMTS_SysInfoType15_5_v770ext_IEs(ctx, &pvalue->sysInfoType15_5_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-5-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-5-v3a0ext */
-   stat = asn1PD_UMTS_SysInfoType15_5_v3a0ext(ctx, &pvalue->sysInfoType15_5_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-5-v3a0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_5(rtxContext* RT_RESTRICT ctx, SysInfoType15_5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-5");
-   /* ue-positioning-OTDOA-AssistanceData-UEB */
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "SysInfoType15-5");
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType15-5");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_6_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_6_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_6(rtxContext* RT_RESTRICT ctx, SysInfoType15_6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-6");
-   /* ue-positioning-GANSS-TOD */
-   stat = pd_ConsUInt32(ctx, &pvalue->ue_positioning_GANSS_TOD, 0, 86399);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-TOD", -1, "SysInfoType15-6");
-   /* ue-positioning-GANSS-ReferenceMeasurementInformation */
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->ue_positioning_GANSS_ReferenceMeasurementInformation);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceMeasurementInformation", -1, "SysInfoType15-6");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_6_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_7_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_7(rtxContext* RT_RESTRICT ctx, SysInfoType15_7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-7");
-   /* ue-positioning-GANSS-DataBitAssistance */
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->ue_positioning_GANSS_DataBitAssistance);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DataBitAssistance", -1, "SysInfoType15-7");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_8_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_8(rtxContext* RT_RESTRICT ctx, SysInfoType15_8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-8");
-   /* ue-positioning-GANSS-DataCipheringInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GANSS_DataCipheringInfo);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DataCipheringInfo", -1, "SysInfoType15-8");
-   }
-   /* ue-positioning-GANSS-realTimeIntegrity */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->ue_positioning_GANSS_realTimeIntegrity);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-realTimeIntegrity", -1, "SysInfoType15-8");
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType15_8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-8");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_LCR_r4(ctx, &pvalue->pusch_SysInfoList);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, 0);
-   }
-   /* pdsch-SysInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_LCR_r4(ctx, &pvalue->pdsch_SysInfoList);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17-v4b0ext-IEs");
-   /* tdd128SpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType17-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_HCR_r5(ctx, &pvalue->pusch_SysInfoList);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, 0);
-   }
-   /* pdsch-SysInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_HCR_r5(ctx, &pvalue->pdsch_SysInfoList);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17-v590ext-IEs");
-   /* hcr-r5-SpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType17-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17-v770ext-IEs");
-   /* tdd768SpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "tdd768SpecificInfo", -1, "SysInfoType17-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType17-v770ext */
-   stat = asn1PD_UMTS_SysInfoType17_v770ext_IEs(ctx, &pvalue->sysInfoType17_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType17-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType17-v590ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType17_v590ext_IEs(ctx, &pvalue->sysInfoType17_v590ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType17-v590ext", -1, 0);
-   }
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType17-v4b0ext */
-   stat = asn1PD_UMTS_SysInfoType17_v4b0ext_IEs(ctx, &pvalue->sysInfoType17_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType17-v4b0ext", -1, 0);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17(rtxContext* RT_RESTRICT ctx, SysInfoType17* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17");
-   /* pusch-SysInfoList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList(ctx, &pvalue->pusch_SysInfoList);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, "SysInfoType17");
-   }
-   /* pdsch-SysInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList(ctx, &pvalue->pdsch_SysInfoList);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, "SysInfoType17");
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType17");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType19_v920ext(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* utra-PriorityInfoList-v920ext */
-   stat = asn1PD_UMTS_UTRA_PriorityInfoList_v920ext(ctx, &pvalue->utra_PriorityInfoList_v920ext);
-   RT_CHECK(ctx, stat, 0, "utra-PriorityInfoList-v920ext", -1, "SysInfoType19-v920ext");
-   /* eutra-FrequencyAndPriorityInfoList-v920ext */
-   stat = asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList_v920ext);
-   RT_CHECK(ctx, stat, 0, "eutra-FrequencyAndPriorityInfoList-v920ext", -1, "SysInfoType19-v920ext");
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType19-v920ext */
-   stat = asn1PD_UMTS_SysInfoType19_v920ext(ctx, &pvalue->sysInfoType19_v920ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType19-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType19(rtxContext* RT_RESTRICT ctx, SysInfoType19* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType19");
-   /* utra-PriorityInfoList */
-   stat = asn1PD_UMTS_UTRA_PriorityInfoList(ctx, &pvalue->utra_PriorityInfoList);
-   RT_CHECK(ctx, stat, 0, "utra-PriorityInfoList", -1, "SysInfoType19");
-   /* gsm-PriorityInfoList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GSM_PriorityInfoList(ctx, &pvalue->gsm_PriorityInfoList);
-      RT_CHECK(ctx, stat, 0, "gsm-PriorityInfoList", -1, "SysInfoType19");
-   }
-   /* eutra-FrequencyAndPriorityInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfoList(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList);
-      RT_CHECK(ctx, stat, 0, "eutra-FrequencyAndPriorityInfoList", -1, "SysInfoType19");
-   }
-   /* v920NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType19");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType20_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType20_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType20(rtxContext* RT_RESTRICT ctx, SysInfoType20* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel_non_broadcastIndication* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType20");
-   /* hNBName */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HNBName(ctx, &pvalue->hNBName);
-      RT_CHECK(ctx, stat, 0, "hNBName", -1, "SysInfoType20");
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType20_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType20");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication, pvalue);
 }
 
-int asn1PD_UMTS_UE_HistoryInformation(rtxContext* RT_RESTRICT ctx, UE_HistoryInformation* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_Satellite_clock_model(rtxContext* RT_RESTRICT ctx, Satellite_clock_model* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-HistoryInformation");
-   /* ue-InactivityPeriod */
-   stat = pd_ConsUInt8(ctx, &pvalue->ue_InactivityPeriod, 1, 120);
-   RT_CHECK(ctx, stat, 0, "ue-InactivityPeriod", -1, "UE-HistoryInformation");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "UE-HistoryInformation");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "UE-HistoryInformation");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   /* ul-dataVolumeHistory */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DataVolumeHistory(ctx, &pvalue->ul_dataVolumeHistory);
-      RT_CHECK(ctx, stat, 0, "ul-dataVolumeHistory", -1, "UE-HistoryInformation");
-   }
-   /* dl-dataVolumeHistory */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DataVolumeHistory(ctx, &pvalue->dl_dataVolumeHistory);
-      RT_CHECK(ctx, stat, 0, "dl-dataVolumeHistory", -1, "UE-HistoryInformation");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_AccessProbabilityFactor(rtxContext* RT_RESTRICT ctx, MBMS_AccessProbabilityFactor* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-AccessProbabilityFactor");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CellGroupIdentity_r6(rtxContext* RT_RESTRICT ctx, MBMS_CellGroupIdentity_r6* RT_RESTRICT pvalue)
-{
-   int stat;
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Satellite-clock-model");
+   /* t-oc */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pd_BitString32At(ctx, cur, &pvalue->t_oc, 14, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-oc", -1, "Satellite-clock-model");
+   /* af2 */
    RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, pvalue, 12, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CellGroupIdentity-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CommonCCTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonCCTrChIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonCCTrChIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CommonPhyChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonPhyChIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonPhyChIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CommonRBIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonRBIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CommonRBInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBInformation_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* commonRBIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->commonRBIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonRBIdentity", "commonRBIdentity", -1, "MBMS-CommonRBInformation-r6");
-   /* pdcp-Info */
-   stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "MBMS-CommonRBInformation-r6");
-   /* rlc-Info */
-   stat = asn1PD_UMTS_RLC_Info_MTCH_r6(ctx, &pvalue->rlc_Info);
-   RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-CommonRBInformation-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CommonRBInformationList_r6(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBInformationList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonRBInformationList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_CommonRBInformation_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_CommonRBInformation_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-CommonRBInformation-r6", (int32_t)i, "MBMS-CommonRBInformationList-r6");
-      elem = (MBMS_CommonRBInformation_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_CommonRBInformation_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_CommonRBInformation_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-CommonRBInformation-r6", (int32_t)i, "MBMS-CommonRBInformationList-r6");
+   stat = pd_BitString32At(ctx, cur, &pvalue->af2, 12, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, "af2", -1, "Satellite-clock-model");
+   /* af1 */
+   RT_SET_SIZE(ctx, 18, 18);
+   stat = pd_BitString32At(ctx, cur, &pvalue->af1, 18, 18);
+   RT_CHECK_AT(ctx, cur, stat, 0, "af1", -1, "Satellite-clock-model");
+   /* af0 */
+   RT_SET_SIZE(ctx, 28, 28);
+   stat = pd_BitString32At(ctx, cur, &pvalue->af0, 28, 28);
+   RT_CHECK_AT(ctx, cur, stat, 0, "af0", -1, "Satellite-clock-model");
+   /* tgd */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 10, 10);
+      stat = pd_BitString32At(ctx, cur, &pvalue->tgd, 10, 10);
+      RT_CHECK_AT(ctx, cur, stat, 0, "tgd", -1, "Satellite-clock-model");
+   }
+   /* model-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->model_id, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, 0, "model-id", -1, "Satellite-clock-model");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_CommonTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonTrChIdentity* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Satellite_clock_model(rtxContext* RT_RESTRICT ctx, Satellite_clock_model* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonTrChIdentity");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_Satellite_clock_model, pvalue);
 }
 
-int asn1PD_UMTS_MBMS_ConnectedModeCountingScope(rtxContext* RT_RESTRICT ctx, MBMS_ConnectedModeCountingScope* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* countingForUraPCH */
-   stat = rtxDecBitInline(ctx, &pvalue->countingForUraPCH);
-   RT_CHECK(ctx, stat, 0, "countingForUraPCH", -1, "MBMS-ConnectedModeCountingScope");
-   /* countingForCellPCH */
-   stat = rtxDecBitInline(ctx, &pvalue->countingForCellPCH);
-   RT_CHECK(ctx, stat, 0, "countingForCellPCH", -1, "MBMS-ConnectedModeCountingScope");
-   /* countingForCellFACH */
-   stat = rtxDecBitInline(ctx, &pvalue->countingForCellFACH);
-   RT_CHECK(ctx, stat, 0, "countingForCellFACH", -1, "MBMS-ConnectedModeCountingScope");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SCCPCHIdentity(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SCCPCHIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SoftComb_TimingOffset(rtxContext* RT_RESTRICT ctx, MBMS_SoftComb_TimingOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SoftComb-TimingOffset");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ShortTransmissionID(rtxContext* RT_RESTRICT ctx, MBMS_ShortTransmissionID* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ShortTransmissionID");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_LogicalChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_LogicalChIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-LogicalChIdentity");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PTM_RBInformation_C(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_C* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rbInformation */
-   stat = pd_ConsUInt8(ctx, &pvalue->rbInformation, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonRBIdentity", "rbInformation", -1, "MBMS-PTM-RBInformation-C");
-   /* shortTransmissionID */
-   stat = pd_ConsUInt8(ctx, &pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-C");
-   /* logicalChIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->logicalChIdentity, 1, 15);
-   RT_CHECK(ctx, stat, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-C");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PTM_RBInformation_CList(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_CList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_Satellite_clock_modelList(rtxContext* RT_RESTRICT ctx, Satellite_clock_modelList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PTM-RBInformation-CList");
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Satellite-clock-modelList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      MBMS_PTM_RBInformation_C* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PTM_RBInformation_C));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-PTM-RBInformation-C", (int32_t)i, "MBMS-PTM-RBInformation-CList");
-      elem = (MBMS_PTM_RBInformation_C*)(node + 1);
+      Satellite_clock_model* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Satellite_clock_model));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Satellite-clock-model", (int32_t)i, "Satellite-clock-modelList");
+      elem = (Satellite_clock_model*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_Satellite_clock_model(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_C(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-PTM-RBInformation-C", (int32_t)i, "MBMS-PTM-RBInformation-CList");
+      stat = dec_Satellite_clock_model(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Satellite-clock-model", (int32_t)i, "Satellite-clock-modelList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_TrCHInformation_Curr(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_Curr* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Satellite_clock_modelList(rtxContext* RT_RESTRICT ctx, Satellite_clock_modelList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Satellite_clock_modelList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_ClockModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ClockModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* satellite-clock-modelList */
+   stat = dec_Satellite_clock_modelList(ctx, &pvalue->satellite_clock_modelList, cur);
+   RT_CHECK(ctx, stat, 0, "satellite-clock-modelList", -1, "UE-Positioning-GANSS-ClockModel");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_ClockModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ClockModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_ClockModel, pvalue);
+}
+
+RT_MERGED_BODY int dec_KeplerianParameters(rtxContext* RT_RESTRICT ctx, KeplerianParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* toe-nav */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pd_BitString32At(ctx, cur, &pvalue->toe_nav, 14, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "toe-nav", -1, "KeplerianParameters");
+   /* ganss-omega-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->ganss_omega_nav, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-omega-nav", -1, "KeplerianParameters");
+   /* delta-n-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->delta_n_nav, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "delta-n-nav", -1, "KeplerianParameters");
+   /* m-zero-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->m_zero_nav, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "m-zero-nav", -1, "KeplerianParameters");
+   /* omegadot-nav */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->omegadot_nav, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "omegadot-nav", -1, "KeplerianParameters");
+   /* ganss-e-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->ganss_e_nav, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-e-nav", -1, "KeplerianParameters");
+   /* idot-nav */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pd_BitString32At(ctx, cur, &pvalue->idot_nav, 14, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "idot-nav", -1, "KeplerianParameters");
+   /* a-sqrt-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->a_sqrt_nav, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "a-sqrt-nav", -1, "KeplerianParameters");
+   /* i-zero-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->i_zero_nav, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "i-zero-nav", -1, "KeplerianParameters");
+   /* omega-zero-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->omega_zero_nav, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "omega-zero-nav", -1, "KeplerianParameters");
+   /* c-rs-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->c_rs_nav, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-rs-nav", -1, "KeplerianParameters");
+   /* c-is-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->c_is_nav, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-is-nav", -1, "KeplerianParameters");
+   /* c-us-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->c_us_nav, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-us-nav", -1, "KeplerianParameters");
+   /* c-rc-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->c_rc_nav, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-rc-nav", -1, "KeplerianParameters");
+   /* c-ic-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->c_ic_nav, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-ic-nav", -1, "KeplerianParameters");
+   /* c-uc-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->c_uc_nav, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-uc-nav", -1, "KeplerianParameters");
+   return 0;
+}
+
+int asn1PD_UMTS_KeplerianParameters(rtxContext* RT_RESTRICT ctx, KeplerianParameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_KeplerianParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_OrbitModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_OrbitModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-Curr");
-   /* transpCh-Info */
-   stat = pd_ConsUInt8(ctx, &pvalue->transpCh_Info, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Curr");
-   /* rbInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation);
-      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-Curr");
-   }
-   /* msch-ConfigurationInfo */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-OrbitModel");
+   /* keplerianParameters */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-Curr");
+      pvalue->m |= 0x1u;
+      stat = dec_KeplerianParameters(ctx, &pvalue->keplerianParameters, cur);
+      RT_CHECK(ctx, stat, 0, "keplerianParameters", -1, "UE-Positioning-GANSS-OrbitModel");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_TrCHInformation_CurrList(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_CurrList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_OrbitModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_OrbitModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_OrbitModel, pvalue);
+}
+
+static int dec_Ganss_Sat_Info_Nav(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_Nav* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* satId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satId, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "satId", -1, "Ganss-Sat-Info-Nav");
+   /* svHealth */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->svHealth, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "svHealth", -1, "Ganss-Sat-Info-Nav");
+   /* iod */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, &pvalue->iod, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "iod", -1, "Ganss-Sat-Info-Nav");
+   /* ganssClockModel */
+   stat = dec_UE_Positioning_GANSS_ClockModel(ctx, &pvalue->ganssClockModel, cur);
+   RT_CHECK(ctx, stat, 0, "ganssClockModel", -1, "Ganss-Sat-Info-Nav");
+   /* ganssOrbitModel */
+   stat = dec_UE_Positioning_GANSS_OrbitModel(ctx, &pvalue->ganssOrbitModel, cur);
+   RT_CHECK(ctx, stat, 0, "ganssOrbitModel", -1, "Ganss-Sat-Info-Nav");
+   return 0;
+}
+
+int asn1PD_UMTS_Ganss_Sat_Info_Nav(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_Nav* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Ganss_Sat_Info_Nav, pvalue);
+}
+
+RT_MERGED_BODY int dec_Ganss_Sat_Info_NavList(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_NavList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-CurrList");
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Ganss-Sat-Info-NavList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      MBMS_TrCHInformation_Curr* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TrCHInformation_Curr));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-TrCHInformation-Curr", (int32_t)i, "MBMS-TrCHInformation-CurrList");
-      elem = (MBMS_TrCHInformation_Curr*)(node + 1);
+      Ganss_Sat_Info_Nav* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Ganss_Sat_Info_Nav));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Ganss-Sat-Info-Nav", (int32_t)i, "Ganss-Sat-Info-NavList");
+      elem = (Ganss_Sat_Info_Nav*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_MBMS_TrCHInformation_Curr(elem);
+      asn1Init_UMTS_Ganss_Sat_Info_Nav(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_TrCHInformation_Curr(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-Curr", (int32_t)i, "MBMS-TrCHInformation-CurrList");
+      stat = dec_Ganss_Sat_Info_Nav(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Ganss-Sat-Info-Nav", (int32_t)i, "Ganss-Sat-Info-NavList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_CurrentCell_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_CurrentCell_SCCPCH_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Ganss_Sat_Info_NavList(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_NavList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Ganss_Sat_Info_NavList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_NavigationModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CurrentCell-SCCPCH-r6");
-   /* sccpchIdentity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->sccpchIdentity, 1, 16);
-      RT_CHECK(ctx, stat, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-CurrentCell-SCCPCH-r6");
-   }
-   /* secondaryCCPCH-Info */
-   stat = pd_ConsUInt8(ctx, &pvalue->secondaryCCPCH_Info, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-CurrentCell-SCCPCH-r6");
-   /* softComb-TimingOffset */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->softComb_TimingOffset, 0, 3);
-      RT_CHECK(ctx, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, "MBMS-CurrentCell-SCCPCH-r6");
-   }
-   /* transpCh-InfoCommonForAllTrCh */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-NavigationModel");
+   /* non-broadcastIndication */
    if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-NavigationModel");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-NavigationModel");
+         pvalue->non_broadcastIndication = ui;
+      }
+   }
+   /* ganssSatInfoNavList */
+   stat = dec_Ganss_Sat_Info_NavList(ctx, &pvalue->ganssSatInfoNavList, cur);
+   RT_CHECK(ctx, stat, 0, "ganssSatInfoNavList", -1, "UE-Positioning-GANSS-NavigationModel");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_NavigationModel, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_RealTimeIntegrity_element(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_RealTimeIntegrity_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* bad-ganss-satId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->bad_ganss_satId, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "bad-ganss-satId", -1, 0);
+   /* bad-ganss-signalId */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->bad_ganss_signalId, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "bad-ganss-signalId", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_RealTimeIntegrity_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_RealTimeIntegrity_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_RealTimeIntegrity(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_RealTimeIntegrity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-RealTimeIntegrity");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_GANSS_RealTimeIntegrity_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_GANSS_RealTimeIntegrity_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "UE-Positioning-GANSS-RealTimeIntegrity");
+      elem = (UE_Positioning_GANSS_RealTimeIntegrity_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_Positioning_GANSS_RealTimeIntegrity_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "UE-Positioning-GANSS-RealTimeIntegrity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_RealTimeIntegrity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_RealTimeIntegrity, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_Data_Bit_Assistance(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Data_Bit_Assistance* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ganss-tod */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganss_tod, 0, 59);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-tod", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
+   /* dataBitAssistanceList */
+   stat = dec_DataBitAssistanceList(ctx, &pvalue->dataBitAssistanceList, cur);
+   RT_CHECK(ctx, stat, 0, "dataBitAssistanceList", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Data_Bit_Assistance* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_Data_Bit_Assistance, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSSatelliteInformation(rtxContext* RT_RESTRICT ctx, GANSSSatelliteInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSSatelliteInformation");
+   /* ganssSatId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssSatId, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssSatId", -1, "GANSSSatelliteInformation");
+   /* dopplerZeroOrder */
+   stat = pd_ConsInt16At(ctx, cur, &pvalue->dopplerZeroOrder, -2048, 2047);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dopplerZeroOrder", -1, "GANSSSatelliteInformation");
+   /* extraDoppler */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ExtraDoppler(ctx, &pvalue->extraDoppler, cur);
+      RT_CHECK(ctx, stat, 0, "extraDoppler", -1, "GANSSSatelliteInformation");
+   }
+   /* codePhase */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->codePhase, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, 0, "codePhase", -1, "GANSSSatelliteInformation");
+   /* integerCodePhase */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->integerCodePhase, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "integerCodePhase", -1, "GANSSSatelliteInformation");
+   /* codePhaseSearchWindow */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->codePhaseSearchWindow, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "codePhaseSearchWindow", -1, "GANSSSatelliteInformation");
+   /* azimuthandElevation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_AzimuthAndElevation(ctx, &pvalue->azimuthandElevation, cur);
+      RT_CHECK(ctx, stat, 0, "azimuthandElevation", -1, "GANSSSatelliteInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSSatelliteInformation(rtxContext* RT_RESTRICT ctx, GANSSSatelliteInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSSatelliteInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSSatelliteInformationList(rtxContext* RT_RESTRICT ctx, GANSSSatelliteInformationList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSSatelliteInformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSSSatelliteInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSSatelliteInformation));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GANSSSatelliteInformation", (int32_t)i, "GANSSSatelliteInformationList");
+      elem = (GANSSSatelliteInformation*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSSSatelliteInformation(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSSSatelliteInformation(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GANSSSatelliteInformation", (int32_t)i, "GANSSSatelliteInformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSSatelliteInformationList(rtxContext* RT_RESTRICT ctx, GANSSSatelliteInformationList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSSatelliteInformationList, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_ReferenceMeasurementInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceMeasurementInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
+   /* ganssSignalId */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssSignalId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
+   }
+   /* satelliteInformationList */
+   stat = dec_GANSSSatelliteInformationList(ctx, &pvalue->satelliteInformationList, cur);
+   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceMeasurementInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_ReferenceMeasurementInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_Almanac(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Almanac* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac");
+   /* ganss-wk-number */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganss_wk_number, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-Almanac");
+   /* alm-keplerianParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianParameters", -1, "UE-Positioning-GANSS-Almanac");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_Almanac(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Almanac* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_Almanac, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_UTCModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_UTCModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* a-one-utc */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->a_one_utc, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "a-one-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* a-zero-utc */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->a_zero_utc, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "a-zero-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* t-ot-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->t_ot_utc, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-ot-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* delta-t-ls-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->delta_t_ls_utc, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "delta-t-ls-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* w-n-t-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->w_n_t_utc, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "w-n-t-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* w-n-lsf-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->w_n_lsf_utc, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "w-n-lsf-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* dn-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->dn_utc, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dn-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* delta-t-lsf-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->delta_t_lsf_utc, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "delta-t-lsf-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_UTCModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_UTCModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_UTCModel, pvalue);
+}
+
+static int dec_GANSSGenericData(rtxContext* RT_RESTRICT ctx, GANSSGenericData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 9, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSGenericData");
+   /* ganssId */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssId", -1, "GANSSGenericData");
+   }
+   /* ganssTimeModelsList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2u;
+      stat = dec_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList, cur);
+      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData");
+   }
+   /* uePositioningDGANSSCorrections */
+   if (present & ((uint32_t)1 << 6)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
-      RT_CHECK(ctx, stat, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, "MBMS-CurrentCell-SCCPCH-r6");
+      stat = dec_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData");
    }
-   /* transpCHInformation */
-   stat = asn1PD_UMTS_MBMS_TrCHInformation_CurrList(ctx, &pvalue->transpCHInformation);
-   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   /* uePositioningGANSSNavigationModel */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData");
+   }
+   /* uePositioningGANSSRealTimeIntegrity */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10u;
+      stat = dec_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData");
+   }
+   /* uePositioningGANSSDataBitAssistance */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20u;
+      stat = dec_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData");
+   }
+   /* uePositioningGANSSReferenceMeasurementInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40u;
+      stat = dec_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData");
+   }
+   /* uePositioningGANSSAlmanac */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80u;
+      stat = dec_UE_Positioning_GANSS_Almanac(ctx, &pvalue->uePositioningGANSSAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData");
+   }
+   /* uePositioningGANSSUTCModel */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100u;
+      stat = dec_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_CurrentCell_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_CurrentCell_SCCPCHList_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_GANSSGenericData(rtxContext* RT_RESTRICT ctx, GANSSGenericData* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericData, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication, pvalue);
+}
+
+RT_MERGED_BODY int dec_NAVclockModel(rtxContext* RT_RESTRICT ctx, NAVclockModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* navToc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navToc, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navToc", -1, "NAVclockModel");
+   /* navaf2 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navaf2, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navaf2", -1, "NAVclockModel");
+   /* navaf1 */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navaf1, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navaf1", -1, "NAVclockModel");
+   /* navaf0 */
+   RT_SET_SIZE(ctx, 22, 22);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navaf0, 22, 22);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navaf0", -1, "NAVclockModel");
+   /* navTgd */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navTgd, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navTgd", -1, "NAVclockModel");
+   return 0;
+}
+
+int asn1PD_UMTS_NAVclockModel(rtxContext* RT_RESTRICT ctx, NAVclockModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NAVclockModel, pvalue);
+}
+
+RT_MERGED_BODY int dec_GLONASSclockModel(rtxContext* RT_RESTRICT ctx, GLONASSclockModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GLONASSclockModel");
+   /* gloTau */
+   RT_SET_SIZE(ctx, 22, 22);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloTau, 22, 22);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloTau", -1, "GLONASSclockModel");
+   /* gloGamma */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloGamma, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloGamma", -1, "GLONASSclockModel");
+   /* gloDeltaTau */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 5, 5);
+      stat = pd_BitString32At(ctx, cur, &pvalue->gloDeltaTau, 5, 5);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gloDeltaTau", -1, "GLONASSclockModel");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GLONASSclockModel(rtxContext* RT_RESTRICT ctx, GLONASSclockModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GLONASSclockModel, pvalue);
+}
+
+RT_MERGED_BODY int dec_SBASclockModel(rtxContext* RT_RESTRICT ctx, SBASclockModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sbasTo */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasTo, 13, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasTo", -1, "SBASclockModel");
+   /* sbasAgfo */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasAgfo, 12, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasAgfo", -1, "SBASclockModel");
+   /* sbasAgf1 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasAgf1, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasAgf1", -1, "SBASclockModel");
+   return 0;
+}
+
+int asn1PD_UMTS_SBASclockModel(rtxContext* RT_RESTRICT ctx, SBASclockModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SBASclockModel, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_AddClockModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddClockModels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AddClockModels");
+   /* navClockModel */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NAVclockModel(ctx, &pvalue->navClockModel, cur);
+      RT_CHECK(ctx, stat, 0, "navClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
+   }
+   /* cnavClockModel */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CNAVclockModel(ctx, &pvalue->cnavClockModel, cur);
+      RT_CHECK(ctx, stat, 0, "cnavClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
+   }
+   /* glonassClockModel */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_GLONASSclockModel(ctx, &pvalue->glonassClockModel, cur);
+      RT_CHECK(ctx, stat, 0, "glonassClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
+   }
+   /* sbasClockModel */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_SBASclockModel(ctx, &pvalue->sbasClockModel, cur);
+      RT_CHECK(ctx, stat, 0, "sbasClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AddClockModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddClockModels* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AddClockModels, pvalue);
+}
+
+RT_MERGED_BODY int dec_NavModel_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, NavModel_NAVKeplerianSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* navURA */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navURA, 4, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navURA", -1, "NavModel-NAVKeplerianSet");
+   /* navFitFlag */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navFitFlag, 1, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navFitFlag", -1, "NavModel-NAVKeplerianSet");
+   /* navToe */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navToe, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navToe", -1, "NavModel-NAVKeplerianSet");
+   /* navOmega */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navOmega, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navOmega", -1, "NavModel-NAVKeplerianSet");
+   /* navDeltaN */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navDeltaN, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navDeltaN", -1, "NavModel-NAVKeplerianSet");
+   /* navM0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navM0, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navM0", -1, "NavModel-NAVKeplerianSet");
+   /* navOmegaADot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navOmegaADot, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navOmegaADot", -1, "NavModel-NAVKeplerianSet");
+   /* navE */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navE, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navE", -1, "NavModel-NAVKeplerianSet");
+   /* navIDot */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navIDot, 14, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navIDot", -1, "NavModel-NAVKeplerianSet");
+   /* navAPowerHalf */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navAPowerHalf, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navAPowerHalf", -1, "NavModel-NAVKeplerianSet");
+   /* navI0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navI0, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navI0", -1, "NavModel-NAVKeplerianSet");
+   /* navOmegaA0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navOmegaA0, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navOmegaA0", -1, "NavModel-NAVKeplerianSet");
+   /* navCrs */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navCrs, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navCrs", -1, "NavModel-NAVKeplerianSet");
+   /* navCis */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navCis, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navCis", -1, "NavModel-NAVKeplerianSet");
+   /* navCus */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navCus, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navCus", -1, "NavModel-NAVKeplerianSet");
+   /* navCrc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navCrc, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navCrc", -1, "NavModel-NAVKeplerianSet");
+   /* navCic */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navCic, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navCic", -1, "NavModel-NAVKeplerianSet");
+   /* navCuc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->navCuc, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navCuc", -1, "NavModel-NAVKeplerianSet");
+   return 0;
+}
+
+int asn1PD_UMTS_NavModel_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, NavModel_NAVKeplerianSet* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NavModel_NAVKeplerianSet, pvalue);
+}
+
+RT_MERGED_BODY int dec_NavModel_CNAVKeplerianSet_cnavMo(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavMo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavMo(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavMo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NavModel_CNAVKeplerianSet_cnavMo, pvalue);
+}
+
+RT_MERGED_BODY int dec_NavModel_CNAVKeplerianSet_cnavE(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavE* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavE(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavE* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NavModel_CNAVKeplerianSet_cnavE, pvalue);
+}
+
+RT_MERGED_BODY int dec_NavModel_CNAVKeplerianSet_cnavOmega(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavOmega* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavOmega(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavOmega* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NavModel_CNAVKeplerianSet_cnavOmega, pvalue);
+}
+
+RT_MERGED_BODY int dec_NavModel_CNAVKeplerianSet_cnavOMEGA0(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavOMEGA0* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavOMEGA0(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavOMEGA0* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NavModel_CNAVKeplerianSet_cnavOMEGA0, pvalue);
+}
+
+RT_MERGED_BODY int dec_NavModel_CNAVKeplerianSet_cnavIo(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavIo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavIo(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet_cnavIo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NavModel_CNAVKeplerianSet_cnavIo, pvalue);
+}
+
+RT_MERGED_BODY int dec_NavModel_CNAVKeplerianSet(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cnavTop */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavTop, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavTop", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavURAindex */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavURAindex, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavURAindex", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavDeltaA */
+   RT_SET_SIZE(ctx, 26, 26);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavDeltaA, 26, 26);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavDeltaA", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavAdot */
+   RT_SET_SIZE(ctx, 25, 25);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavAdot, 25, 25);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavAdot", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavDeltaNo */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavDeltaNo, 17, 17);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavDeltaNo", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavDeltaNoDot */
+   RT_SET_SIZE(ctx, 23, 23);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavDeltaNoDot, 23, 23);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavDeltaNoDot", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavMo */
+   stat = dec_NavModel_CNAVKeplerianSet_cnavMo(ctx, &pvalue->cnavMo, cur);
+   RT_CHECK(ctx, stat, 0, "cnavMo", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavE */
+   stat = dec_NavModel_CNAVKeplerianSet_cnavE(ctx, &pvalue->cnavE, cur);
+   RT_CHECK(ctx, stat, 0, "cnavE", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavOmega */
+   stat = dec_NavModel_CNAVKeplerianSet_cnavOmega(ctx, &pvalue->cnavOmega, cur);
+   RT_CHECK(ctx, stat, 0, "cnavOmega", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavOMEGA0 */
+   stat = dec_NavModel_CNAVKeplerianSet_cnavOMEGA0(ctx, &pvalue->cnavOMEGA0, cur);
+   RT_CHECK(ctx, stat, 0, "cnavOMEGA0", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavDeltaOmegaDot */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavDeltaOmegaDot, 17, 17);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavDeltaOmegaDot", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavIo */
+   stat = dec_NavModel_CNAVKeplerianSet_cnavIo(ctx, &pvalue->cnavIo, cur);
+   RT_CHECK(ctx, stat, 0, "cnavIo", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavIoDot */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavIoDot, 15, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavIoDot", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCis */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavCis, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavCis", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCic */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavCic, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavCic", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCrs */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavCrs, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavCrs", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCrc */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavCrc, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavCrc", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCus */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavCus, 21, 21);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavCus", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCuc */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cnavCuc, 21, 21);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cnavCuc", -1, "NavModel-CNAVKeplerianSet");
+   return 0;
+}
+
+int asn1PD_UMTS_NavModel_CNAVKeplerianSet(rtxContext* RT_RESTRICT ctx, NavModel_CNAVKeplerianSet* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NavModel_CNAVKeplerianSet, pvalue);
+}
+
+RT_MERGED_BODY int dec_NavModel_GLONASSecef(rtxContext* RT_RESTRICT ctx, NavModel_GLONASSecef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NavModel-GLONASSecef");
+   /* gloEn */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloEn, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloEn", -1, "NavModel-GLONASSecef");
+   /* gloP1 */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloP1, 2, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloP1", -1, "NavModel-GLONASSecef");
+   /* gloP2 */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloP2, 1, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloP2", -1, "NavModel-GLONASSecef");
+   /* gloM */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 2, 2);
+      stat = pd_BitString32At(ctx, cur, &pvalue->gloM, 2, 2);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gloM", -1, "NavModel-GLONASSecef");
+   }
+   /* gloX */
+   RT_SET_SIZE(ctx, 27, 27);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloX, 27, 27);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloX", -1, "NavModel-GLONASSecef");
+   /* gloXdot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloXdot, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloXdot", -1, "NavModel-GLONASSecef");
+   /* gloXdotdot */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloXdotdot, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloXdotdot", -1, "NavModel-GLONASSecef");
+   /* gloY */
+   RT_SET_SIZE(ctx, 27, 27);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloY, 27, 27);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloY", -1, "NavModel-GLONASSecef");
+   /* gloYdot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloYdot, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloYdot", -1, "NavModel-GLONASSecef");
+   /* gloYdotdot */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloYdotdot, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloYdotdot", -1, "NavModel-GLONASSecef");
+   /* gloZ */
+   RT_SET_SIZE(ctx, 27, 27);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloZ, 27, 27);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloZ", -1, "NavModel-GLONASSecef");
+   /* gloZdot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloZdot, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloZdot", -1, "NavModel-GLONASSecef");
+   /* gloZdotdot */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->gloZdotdot, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gloZdotdot", -1, "NavModel-GLONASSecef");
+   return 0;
+}
+
+int asn1PD_UMTS_NavModel_GLONASSecef(rtxContext* RT_RESTRICT ctx, NavModel_GLONASSecef* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NavModel_GLONASSecef, pvalue);
+}
+
+RT_MERGED_BODY int dec_NavModel_SBASecef(rtxContext* RT_RESTRICT ctx, NavModel_SBASecef* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NavModel-SBASecef");
+   /* sbasTo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pd_BitString32At(ctx, cur, &pvalue->sbasTo, 13, 13);
+      RT_CHECK_AT(ctx, cur, stat, 0, "sbasTo", -1, "NavModel-SBASecef");
+   }
+   /* sbasAccuracy */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasAccuracy, 4, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasAccuracy", -1, "NavModel-SBASecef");
+   /* sbasXg */
+   RT_SET_SIZE(ctx, 30, 30);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasXg, 30, 30);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasXg", -1, "NavModel-SBASecef");
+   /* sbasYg */
+   RT_SET_SIZE(ctx, 30, 30);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasYg, 30, 30);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasYg", -1, "NavModel-SBASecef");
+   /* sbasZg */
+   RT_SET_SIZE(ctx, 25, 25);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasZg, 25, 25);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasZg", -1, "NavModel-SBASecef");
+   /* sbasXgDot */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasXgDot, 17, 17);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasXgDot", -1, "NavModel-SBASecef");
+   /* sbasYgDot */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasYgDot, 17, 17);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasYgDot", -1, "NavModel-SBASecef");
+   /* sbasZgDot */
+   RT_SET_SIZE(ctx, 18, 18);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasZgDot, 18, 18);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasZgDot", -1, "NavModel-SBASecef");
+   /* sbasXgDotDot */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasXgDotDot, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasXgDotDot", -1, "NavModel-SBASecef");
+   /* sbagYgDotDot */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbagYgDotDot, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbagYgDotDot", -1, "NavModel-SBASecef");
+   /* sbasZgDotDot */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, &pvalue->sbasZgDotDot, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sbasZgDotDot", -1, "NavModel-SBASecef");
+   return 0;
+}
+
+int asn1PD_UMTS_NavModel_SBASecef(rtxContext* RT_RESTRICT ctx, NavModel_SBASecef* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NavModel_SBASecef, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_AddOrbitModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddOrbitModels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AddOrbitModels");
+   /* navKeplerianSet */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NavModel_NAVKeplerianSet(ctx, &pvalue->navKeplerianSet, cur);
+      RT_CHECK(ctx, stat, 0, "navKeplerianSet", -1, "UE-Positioning-GANSS-AddOrbitModels");
+   }
+   /* cnavKeplerianSet */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NavModel_CNAVKeplerianSet(ctx, &pvalue->cnavKeplerianSet, cur);
+      RT_CHECK(ctx, stat, 0, "cnavKeplerianSet", -1, "UE-Positioning-GANSS-AddOrbitModels");
+   }
+   /* glonassECEF */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_NavModel_GLONASSecef(ctx, &pvalue->glonassECEF, cur);
+      RT_CHECK(ctx, stat, 0, "glonassECEF", -1, "UE-Positioning-GANSS-AddOrbitModels");
+   }
+   /* sbasECEF */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_NavModel_SBASecef(ctx, &pvalue->sbasECEF, cur);
+      RT_CHECK(ctx, stat, 0, "sbasECEF", -1, "UE-Positioning-GANSS-AddOrbitModels");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AddOrbitModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddOrbitModels* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AddOrbitModels, pvalue);
+}
+
+RT_MERGED_BODY int dec_Ganss_Sat_Info_AddNav(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_AddNav* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* satId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satId, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "satId", -1, "Ganss-Sat-Info-AddNav");
+   /* svHealth */
+   RT_SET_SIZE(ctx, 6, 6);
+   stat = pd_BitString32At(ctx, cur, &pvalue->svHealth, 6, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, "svHealth", -1, "Ganss-Sat-Info-AddNav");
+   /* iod */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->iod, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "iod", -1, "Ganss-Sat-Info-AddNav");
+   /* ganssClockModel */
+   stat = dec_UE_Positioning_GANSS_AddClockModels(ctx, &pvalue->ganssClockModel, cur);
+   RT_CHECK(ctx, stat, 0, "ganssClockModel", -1, "Ganss-Sat-Info-AddNav");
+   /* ganssOrbitModel */
+   stat = dec_UE_Positioning_GANSS_AddOrbitModels(ctx, &pvalue->ganssOrbitModel, cur);
+   RT_CHECK(ctx, stat, 0, "ganssOrbitModel", -1, "Ganss-Sat-Info-AddNav");
+   return 0;
+}
+
+int asn1PD_UMTS_Ganss_Sat_Info_AddNav(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_AddNav* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Ganss_Sat_Info_AddNav, pvalue);
+}
+
+RT_MERGED_BODY int dec_Ganss_Sat_Info_AddNavList(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_AddNavList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CurrentCell-SCCPCHList-r6");
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Ganss-Sat-Info-AddNavList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      MBMS_CurrentCell_SCCPCH_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_CurrentCell_SCCPCH_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-CurrentCell-SCCPCH-r6", (int32_t)i, "MBMS-CurrentCell-SCCPCHList-r6");
-      elem = (MBMS_CurrentCell_SCCPCH_r6*)(node + 1);
+      Ganss_Sat_Info_AddNav* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Ganss_Sat_Info_AddNav));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Ganss-Sat-Info-AddNav", (int32_t)i, "Ganss-Sat-Info-AddNavList");
+      elem = (Ganss_Sat_Info_AddNav*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_MBMS_CurrentCell_SCCPCH_r6(elem);
+      asn1Init_UMTS_Ganss_Sat_Info_AddNav(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_CurrentCell_SCCPCH_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-CurrentCell-SCCPCH-r6", (int32_t)i, "MBMS-CurrentCell-SCCPCHList-r6");
+      stat = dec_Ganss_Sat_Info_AddNav(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Ganss-Sat-Info-AddNav", (int32_t)i, "Ganss-Sat-Info-AddNavList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_JoinedInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_JoinedInformation_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_Ganss_Sat_Info_AddNavList(rtxContext* RT_RESTRICT ctx, Ganss_Sat_Info_AddNavList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Ganss_Sat_Info_AddNavList, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_AddNavigationModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-JoinedInformation-r6");
-   /* p-TMSI */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AddNavigationModels");
+   /* non-broadcastIndication */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_P_TMSI_GSM_MAP(ctx, &pvalue->p_TMSI);
-      RT_CHECK(ctx, stat, 0, "p-TMSI", -1, "MBMS-JoinedInformation-r6");
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-AddNavigationModels");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-AddNavigationModels");
+         pvalue->non_broadcastIndication = ui;
+      }
    }
+   /* ganssSatInfoNavList */
+   stat = dec_Ganss_Sat_Info_AddNavList(ctx, &pvalue->ganssSatInfoNavList, cur);
+   RT_CHECK(ctx, stat, 0, "ganssSatInfoNavList", -1, "UE-Positioning-GANSS-AddNavigationModels");
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* periodStart */
-   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 7);
-   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
-   /* periodDuration */
-   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AddNavigationModels, pvalue);
 }
 
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_32(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_Almanac_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Almanac_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-32");
-   /* cycleOffset */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac-v860ext");
+   /* alm-keplerianNAVAlmanac */
+   if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 7);
-      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-32");
+      stat = dec_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianNAVAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
    }
-   /* mtch-L1CombiningPeriodList */
-   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-32");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* periodStart */
-   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 15);
-   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
-   /* periodDuration */
-   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 16);
-   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   /* alm-keplerianReducedAlmanac */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianReducedAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_64(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-64");
-   /* cycleOffset */
+   /* alm-keplerianMidiAlmanac */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianMidiAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
+   }
+   /* alm-keplerianGLONASS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianGLONASS", -1, "UE-Positioning-GANSS-Almanac-v860ext");
+   }
+   /* alm-ecefSBASAlmanac */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 15);
-      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-64");
+      pvalue->m |= 0x10u;
+      stat = dec_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-ecefSBASAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
    }
-   /* mtch-L1CombiningPeriodList */
-   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-64");
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_Almanac_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Almanac_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_Almanac_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTCmodelSet1(rtxContext* RT_RESTRICT ctx, UTCmodelSet1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   /* periodStart */
-   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 31);
-   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
-   /* periodDuration */
-   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 32);
-   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   /* utcA0 */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcA0, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcA0", -1, "UTCmodelSet1");
+   /* utcA1 */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcA1, 13, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcA1", -1, "UTCmodelSet1");
+   /* utcA2 */
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcA2, 7, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcA2", -1, "UTCmodelSet1");
+   /* utcDeltaTls */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcDeltaTls, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcDeltaTls", -1, "UTCmodelSet1");
+   /* utcTot */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcTot, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcTot", -1, "UTCmodelSet1");
+   /* utcWNot */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcWNot, 13, 13);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcWNot", -1, "UTCmodelSet1");
+   /* utcWNlsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcWNlsf, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcWNlsf", -1, "UTCmodelSet1");
+   /* utcDN */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcDN, 4, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcDN", -1, "UTCmodelSet1");
+   /* utcDeltaTlsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcDeltaTlsf, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcDeltaTlsf", -1, "UTCmodelSet1");
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UTCmodelSet1(rtxContext* RT_RESTRICT ctx, UTCmodelSet1* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UTCmodelSet1, pvalue);
 }
 
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_128(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-128");
-   /* cycleOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 31);
-      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-128");
-   }
-   /* mtch-L1CombiningPeriodList */
-   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-128");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* periodStart */
-   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 63);
-   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
-   /* periodDuration */
-   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 64);
-   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_256(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UTCmodelSet2(rtxContext* RT_RESTRICT ctx, UTCmodelSet2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-256");
-   /* cycleOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 63);
-      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-256");
-   }
-   /* mtch-L1CombiningPeriodList */
-   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-256");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* periodStart */
-   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 127);
-   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
-   /* periodDuration */
-   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 128);
-   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_512(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-512");
-   /* cycleOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 127);
-      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-512");
-   }
-   /* mtch-L1CombiningPeriodList */
-   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-512");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* periodStart */
-   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 255);
-   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
-   /* periodDuration */
-   stat = pd_ConsUInt16(ctx, &pvalue->periodDuration, 1, 256);
-   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
-      elem = (MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_1024(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-1024");
-   /* cycleOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 255);
-      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-1024");
-   }
-   /* mtch-L1CombiningPeriodList */
-   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-1024");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* cycleLength-32 */
-         pvalue->u.cycleLength_32 = (MBMS_L1CombiningSchedule_32*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_32));
-         if (pvalue->u.cycleLength_32 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cycleLength-32", -1, "MBMS-L1CombiningSchedule");
-         asn1Init_UMTS_MBMS_L1CombiningSchedule_32(pvalue->u.cycleLength_32);
-         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_32(ctx, pvalue->u.cycleLength_32);
-         RT_CHECK(ctx, stat, 0, "cycleLength-32", -1, "MBMS-L1CombiningSchedule");
-         break;
-      case 1: /* cycleLength-64 */
-         pvalue->u.cycleLength_64 = (MBMS_L1CombiningSchedule_64*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_64));
-         if (pvalue->u.cycleLength_64 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cycleLength-64", -1, "MBMS-L1CombiningSchedule");
-         asn1Init_UMTS_MBMS_L1CombiningSchedule_64(pvalue->u.cycleLength_64);
-         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_64(ctx, pvalue->u.cycleLength_64);
-         RT_CHECK(ctx, stat, 0, "cycleLength-64", -1, "MBMS-L1CombiningSchedule");
-         break;
-      case 2: /* cycleLength-128 */
-         pvalue->u.cycleLength_128 = (MBMS_L1CombiningSchedule_128*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_128));
-         if (pvalue->u.cycleLength_128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cycleLength-128", -1, "MBMS-L1CombiningSchedule");
-         asn1Init_UMTS_MBMS_L1CombiningSchedule_128(pvalue->u.cycleLength_128);
-         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_128(ctx, pvalue->u.cycleLength_128);
-         RT_CHECK(ctx, stat, 0, "cycleLength-128", -1, "MBMS-L1CombiningSchedule");
-         break;
-      case 3: /* cycleLength-256 */
-         pvalue->u.cycleLength_256 = (MBMS_L1CombiningSchedule_256*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_256));
-         if (pvalue->u.cycleLength_256 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cycleLength-256", -1, "MBMS-L1CombiningSchedule");
-         asn1Init_UMTS_MBMS_L1CombiningSchedule_256(pvalue->u.cycleLength_256);
-         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_256(ctx, pvalue->u.cycleLength_256);
-         RT_CHECK(ctx, stat, 0, "cycleLength-256", -1, "MBMS-L1CombiningSchedule");
-         break;
-      case 4: /* cycleLength-512 */
-         pvalue->u.cycleLength_512 = (MBMS_L1CombiningSchedule_512*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_512));
-         if (pvalue->u.cycleLength_512 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cycleLength-512", -1, "MBMS-L1CombiningSchedule");
-         asn1Init_UMTS_MBMS_L1CombiningSchedule_512(pvalue->u.cycleLength_512);
-         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_512(ctx, pvalue->u.cycleLength_512);
-         RT_CHECK(ctx, stat, 0, "cycleLength-512", -1, "MBMS-L1CombiningSchedule");
-         break;
-      case 5: /* cycleLength-1024 */
-         pvalue->u.cycleLength_1024 = (MBMS_L1CombiningSchedule_1024*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_1024));
-         if (pvalue->u.cycleLength_1024 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cycleLength-1024", -1, "MBMS-L1CombiningSchedule");
-         asn1Init_UMTS_MBMS_L1CombiningSchedule_1024(pvalue->u.cycleLength_1024);
-         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_1024(ctx, pvalue->u.cycleLength_1024);
-         RT_CHECK(ctx, stat, 0, "cycleLength-1024", -1, "MBMS-L1CombiningSchedule");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MBMS-L1CombiningSchedule");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningTransmTimeDiff(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningTransmTimeDiff* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningTransmTimeDiff");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L23Configuration_sameAsCurrent(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration_sameAsCurrent* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* currentCell-SCCPCH */
-   stat = pd_ConsUInt8(ctx, &pvalue->currentCell_SCCPCH, 1, 16);
-   RT_CHECK(ctx, stat, "MBMS-SCCPCHIdentity", "currentCell-SCCPCH", -1, 0);
-   /* msch-ConfigurationInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PTM_RBInformation_N(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_N* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* shortTransmissionID */
-   stat = pd_ConsUInt8(ctx, &pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-N");
-   /* logicalChIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->logicalChIdentity, 1, 15);
-   RT_CHECK(ctx, stat, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-N");
-   /* layer1-CombiningStatus */
-   stat = rtxDecBitInline(ctx, &pvalue->layer1_CombiningStatus);
-   RT_CHECK(ctx, stat, 0, "layer1-CombiningStatus", -1, "MBMS-PTM-RBInformation-N");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PTM_RBInformation_NList(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_NList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PTM-RBInformation-NList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_PTM_RBInformation_N* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PTM_RBInformation_N));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-PTM-RBInformation-N", (int32_t)i, "MBMS-PTM-RBInformation-NList");
-      elem = (MBMS_PTM_RBInformation_N*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_N(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-PTM-RBInformation-N", (int32_t)i, "MBMS-PTM-RBInformation-NList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TrCHInformation_Neighb(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_Neighb* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-Neighb");
-   /* transpCh-Info */
-   stat = pd_ConsUInt8(ctx, &pvalue->transpCh_Info, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Neighb");
-   /* transpCh-CombiningStatus */
-   stat = rtxDecBitInline(ctx, &pvalue->transpCh_CombiningStatus);
-   RT_CHECK(ctx, stat, 0, "transpCh-CombiningStatus", -1, "MBMS-TrCHInformation-Neighb");
-   /* rbInformation */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTCmodelSet2");
+   /* nA */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->nA, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nA", -1, "UTCmodelSet2");
+   /* tauC */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->tauC, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tauC", -1, "UTCmodelSet2");
+   /* deltaUT1 */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_NList(ctx, &pvalue->rbInformation);
-      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-Neighb");
+      stat = dec_DeltaUT1(ctx, &pvalue->deltaUT1, cur);
+      RT_CHECK(ctx, stat, 0, "deltaUT1", -1, "UTCmodelSet2");
    }
-   /* msch-ConfigurationInfo */
+   /* kp */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-Neighb");
+      RT_SET_SIZE(ctx, 2, 2);
+      stat = pd_BitString32At(ctx, cur, &pvalue->kp, 2, 2);
+      RT_CHECK_AT(ctx, cur, stat, 0, "kp", -1, "UTCmodelSet2");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_TrCHInformation_NeighbList(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_NeighbList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UTCmodelSet2(rtxContext* RT_RESTRICT ctx, UTCmodelSet2* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-NeighbList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_TrCHInformation_Neighb* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TrCHInformation_Neighb));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-TrCHInformation-Neighb", (int32_t)i, "MBMS-TrCHInformation-NeighbList");
-      elem = (MBMS_TrCHInformation_Neighb*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_TrCHInformation_Neighb(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_TrCHInformation_Neighb(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-Neighb", (int32_t)i, "MBMS-TrCHInformation-NeighbList");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UTCmodelSet2, pvalue);
 }
 
-int asn1PD_UMTS_MBMS_L23Configuration_different(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration_different* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UTCmodelSet3(rtxContext* RT_RESTRICT ctx, UTCmodelSet3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* transpCh-InfoCommonForAllTrCh */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
-      RT_CHECK(ctx, stat, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, 0);
-   }
-   /* transpCHInformation */
-   stat = asn1PD_UMTS_MBMS_TrCHInformation_NeighbList(ctx, &pvalue->transpCHInformation);
-   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L23Configuration(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L23Configuration");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sameAsCurrent */
-         pvalue->u.sameAsCurrent = (MBMS_L23Configuration_sameAsCurrent*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L23Configuration_sameAsCurrent));
-         if (pvalue->u.sameAsCurrent == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsCurrent", -1, "MBMS-L23Configuration");
-         asn1Init_UMTS_MBMS_L23Configuration_sameAsCurrent(pvalue->u.sameAsCurrent);
-         stat = asn1PD_UMTS_MBMS_L23Configuration_sameAsCurrent(ctx, pvalue->u.sameAsCurrent);
-         RT_CHECK(ctx, stat, 0, "sameAsCurrent", -1, "MBMS-L23Configuration");
-         break;
-      case 1: /* different */
-         pvalue->u.different = (MBMS_L23Configuration_different*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L23Configuration_different));
-         if (pvalue->u.different == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "different", -1, "MBMS-L23Configuration");
-         asn1Init_UMTS_MBMS_L23Configuration_different(pvalue->u.different);
-         stat = asn1PD_UMTS_MBMS_L23Configuration_different(ctx, pvalue->u.different);
-         RT_CHECK(ctx, stat, 0, "different", -1, "MBMS-L23Configuration");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MBMS-L23Configuration");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHPowerOffset(rtxContext* RT_RESTRICT ctx, MBMS_MICHPowerOffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsInt8(ctx, pvalue, -10, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MICHPowerOffset");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NI_CountPerFrame(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NI-CountPerFrame");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* channelisationCode256 */
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
-   /* ni-CountPerFrame */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ni_CountPerFrame, 0, 3);
-   RT_CHECK(ctx, stat, "MBMS-NI-CountPerFrame", "ni-CountPerFrame", -1, 0);
-   /* sttd-Indicator */
-   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHNotificationIndLength(rtxContext* RT_RESTRICT ctx, MBMS_MICHNotificationIndLength* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MICHNotificationIndLength");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   /* channelisationCode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, 0);
-   /* repetitionPeriodLengthOffset */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
-   }
-   /* mbmsNotificationIndLength */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->mbmsNotificationIndLength, 0, 2);
-      RT_CHECK(ctx, stat, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
-   }
-   else {
-      pvalue->mbmsNotificationIndLength = 0;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddStrParm(ctx, "channelisationCodeList");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, 0);
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timeslot */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, 0);
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   /* channelisationCodeList */
-   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(ctx, &pvalue->channelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, 0);
-   /* repetitionPeriodLengthOffset */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
-   }
-   /* mbmsNotificationIndLength */
-   if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->mbmsNotificationIndLength, 0, 2);
-      RT_CHECK(ctx, stat, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
-   }
-   else {
-      pvalue->mbmsNotificationIndLength = 0;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (MBMS_MICHConfigurationInfo_r6_mode_fdd*)rtxMemHeapAllocZ(ctx, sizeof(MBMS_MICHConfigurationInfo_r6_mode_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd384 */
-         pvalue->u.tdd384 = (MBMS_MICHConfigurationInfo_r6_mode_tdd384*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_r6_mode_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (MBMS_MICHConfigurationInfo_r6_mode_tdd128*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_r6_mode_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* michPowerOffset */
-   stat = pd_ConsInt8(ctx, &pvalue->michPowerOffset, -10, 5);
-   RT_CHECK(ctx, stat, "MBMS-MICHPowerOffset", "michPowerOffset", -1, "MBMS-MICHConfigurationInfo-r6");
-   /* mode */
-   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* midambleShiftAndBurstType */
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* mbsfnSpecialTimeSlot */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->mbsfnSpecialTimeSlot, 0, 3);
-      RT_CHECK(ctx, stat, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (MBMS_MICHConfigurationInfo_v770ext_mode_tdd384*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_v770ext_mode_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd768 */
-         pvalue->u.tdd768 = (MBMS_MICHConfigurationInfo_v770ext_mode_tdd768*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_v770ext_mode_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 2: /* tdd128 */
-         pvalue->u.tdd128 = (MBMS_MICHConfigurationInfo_v770ext_mode_tdd128*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_v770ext_mode_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mode */
-   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-v770ext");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NI_CountPerFrame_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame_IMB384* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NI-CountPerFrame-IMB384");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext_mode_imb384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* channelisationCode256 */
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
-   /* ni-CountPerFrame */
-   stat = pd_ConsUnsigned(ctx, &pvalue->ni_CountPerFrame, 0, 3);
-   RT_CHECK(ctx, stat, "MBMS-NI-CountPerFrame-IMB384", "ni-CountPerFrame", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext_mode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* imb384 */
-         pvalue->u.imb384 = (MBMS_MICHConfigurationInfo_v890ext_mode_imb384*)rtxMemHeapAllocZ(ctx, sizeof(MBMS_MICHConfigurationInfo_v890ext_mode_imb384));
-         if (pvalue->u.imb384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imb384", -1, 0);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(ctx, pvalue->u.imb384);
-         RT_CHECK(ctx, stat, 0, "imb384", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mode */
-   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-v890ext");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_serviceIdentity* RT_RESTRICT pvalue)
-{
-   int stat;
+   /* utcA1wnt */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcA1wnt, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcA1wnt", -1, "UTCmodelSet3");
+   /* utcA0wnt */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcA0wnt, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcA0wnt", -1, "UTCmodelSet3");
+   /* utcTot */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcTot, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcTot", -1, "UTCmodelSet3");
+   /* utcWNt */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcWNt, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcWNt", -1, "UTCmodelSet3");
+   /* utcDeltaTls */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcDeltaTls, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcDeltaTls", -1, "UTCmodelSet3");
+   /* utcWNlsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcWNlsf, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcWNlsf", -1, "UTCmodelSet3");
+   /* utcDN */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcDN, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcDN", -1, "UTCmodelSet3");
+   /* utcDeltaTlsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcDeltaTlsf, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcDeltaTlsf", -1, "UTCmodelSet3");
+   /* utcStandardID */
    RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_BitString32At(ctx, cur, &pvalue->utcStandardID, 3, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcStandardID", -1, "UTCmodelSet3");
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_plmn_Identity_other* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UTCmodelSet3(rtxContext* RT_RESTRICT ctx, UTCmodelSet3* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sameAsMIB-MultiPLMN-Id */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sameAsMIB_MultiPLMN_Id, 1, 5);
-         RT_CHECK(ctx, stat, 0, "sameAsMIB-MultiPLMN-Id", -1, 0);
-         break;
-      case 1: /* explicitPLMN-Id */
-         pvalue->u.explicitPLMN_Id = (PLMN_Identity*)rtxMemHeapAlloc(ctx, sizeof(PLMN_Identity));
-         if (pvalue->u.explicitPLMN_Id == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicitPLMN-Id", -1, 0);
-         asn1Init_UMTS_PLMN_Identity(pvalue->u.explicitPLMN_Id);
-         stat = asn1PD_UMTS_PLMN_Identity(ctx, pvalue->u.explicitPLMN_Id);
-         RT_CHECK(ctx, stat, 0, "explicitPLMN-Id", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UTCmodelSet3, pvalue);
 }
 
-int asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_plmn_Identity* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sameAsMIB-PLMN-Id */
-         break;
-      case 1: /* other */
-         pvalue->u.other = (MBMS_ServiceIdentity_r6_plmn_Identity_other*)rtxMemHeapAlloc(ctx, sizeof(MBMS_ServiceIdentity_r6_plmn_Identity_other));
-         if (pvalue->u.other == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "other", -1, 0);
-         asn1Init_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(pvalue->u.other);
-         stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(ctx, pvalue->u.other);
-         RT_CHECK(ctx, stat, 0, "other", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceIdentity_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* serviceIdentity */
-   stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(ctx, &pvalue->serviceIdentity);
-   RT_CHECK(ctx, stat, 0, "serviceIdentity", -1, "MBMS-ServiceIdentity-r6");
-   /* plmn-Identity */
-   stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "MBMS-ServiceIdentity-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TransmissionIdentity(rtxContext* RT_RESTRICT ctx, MBMS_TransmissionIdentity* RT_RESTRICT pvalue)
+static int dec_UE_Positioning_GANSS_AddUTCModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddUTCModels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TransmissionIdentity");
-   /* mbms-ServiceIdentity */
-   stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6(ctx, &pvalue->mbms_ServiceIdentity);
-   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "MBMS-TransmissionIdentity");
-   /* mbms-SessionIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "MBMS-TransmissionIdentity");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_RequiredUEAction_Mod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_Mod* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-RequiredUEAction-Mod");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PFLIndex(rtxContext* RT_RESTRICT ctx, MBMS_PFLIndex* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PFLIndex");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PFLInfo(rtxContext* RT_RESTRICT ctx, MBMS_PFLInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PFLInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6_mbms_PreferredFrequency* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* mcch */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.mcch, 1, 4);
-         RT_CHECK(ctx, stat, "MBMS-PFLIndex", "mcch", -1, 0);
-         break;
-      case 1: /* dcch */
-         pvalue->u.dcch = (MBMS_PFLInfo*)rtxMemHeapAlloc(ctx, sizeof(MBMS_PFLInfo));
-         if (pvalue->u.dcch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dcch", -1, 0);
-         asn1Init_UMTS_MBMS_PFLInfo(pvalue->u.dcch);
-         stat = asn1PD_UMTS_MBMS_PFLInfo(ctx, pvalue->u.dcch);
-         RT_CHECK(ctx, stat, 0, "dcch", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifedService_r6_dummy(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6_dummy* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifedService_r6(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifedService-r6");
-   /* mbms-TransmissionIdentity */
-   stat = asn1PD_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
-   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-ModifedService-r6");
-   /* mbms-RequiredUEAction */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mbms_RequiredUEAction, 0, 5);
-   RT_CHECK(ctx, stat, "MBMS-RequiredUEAction-Mod", "mbms-RequiredUEAction", -1, "MBMS-ModifedService-r6");
-   /* mbms-PreferredFrequency */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(ctx, &pvalue->mbms_PreferredFrequency);
-      RT_CHECK(ctx, stat, 0, "mbms-PreferredFrequency", -1, "MBMS-ModifedService-r6");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "dummy", -1, "MBMS-ModifedService-r6");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "dummy", -1, "MBMS-ModifedService-r6");
-         pvalue->dummy = ui;
-      }
-   }
-   /* continueMCCHReading */
-   stat = rtxDecBitInline(ctx, &pvalue->continueMCCHReading);
-   RT_CHECK(ctx, stat, 0, "continueMCCHReading", -1, "MBMS-ModifedService-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifedServiceList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ModifedServiceList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifedServiceList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ModifedService_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ModifedService_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ModifedService-r6", (int32_t)i, "MBMS-ModifedServiceList-r6");
-      elem = (MBMS_ModifedService_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_ModifedService_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ModifedService_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-ModifedService-r6", (int32_t)i, "MBMS-ModifedServiceList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_ClusterFrequency_r7(rtxContext* RT_RESTRICT ctx, MBSFN_ClusterFrequency_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-ClusterFrequency-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifiedService_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedService_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifiedService-v770ext");
-   /* mbsfnClusterFrequency */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->mbsfnClusterFrequency, 1, 16);
-      RT_CHECK(ctx, stat, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-ModifiedService-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PTM_RBReleaseCause_LCR_r7(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBReleaseCause_LCR_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PTM-RBReleaseCause-LCR-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifiedService_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedService_LCR_v7c0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifiedService-LCR-v7c0ext");
-   /* rbReleaseCause */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->rbReleaseCause, 0, 7);
-      RT_CHECK(ctx, stat, "MBMS-PTM-RBReleaseCause-LCR-r7", "rbReleaseCause", -1, "MBMS-ModifiedService-LCR-v7c0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedServiceList_v770ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifiedServiceList-v770ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ModifiedService_v770ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ModifiedService_v770ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ModifiedService-v770ext", (int32_t)i, "MBMS-ModifiedServiceList-v770ext");
-      elem = (MBMS_ModifiedService_v770ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_ModifiedService_v770ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ModifiedService_v770ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-ModifiedService-v770ext", (int32_t)i, "MBMS-ModifiedServiceList-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifiedServiceList_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedServiceList_LCR_v7c0ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifiedServiceList-LCR-v7c0ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ModifiedService_LCR_v7c0ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ModifiedService_LCR_v7c0ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ModifiedService-LCR-v7c0ext", (int32_t)i, "MBMS-ModifiedServiceList-LCR-v7c0ext");
-      elem = (MBMS_ModifiedService_LCR_v7c0ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_ModifiedService_LCR_v7c0ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ModifiedService_LCR_v7c0ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-ModifiedService-LCR-v7c0ext", (int32_t)i, "MBMS-ModifiedServiceList-LCR-v7c0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SCCPCHPwrOffsetDiff(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHPwrOffsetDiff* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SCCPCHPwrOffsetDiff");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* softComb-TimingOffset */
-   stat = pd_ConsUnsigned(ctx, &pvalue->softComb_TimingOffset, 0, 3);
-   RT_CHECK(ctx, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
-   /* mbms-L1CombiningTransmTimeDiff */
-   stat = pd_ConsUInt8(ctx, &pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
-   RT_CHECK(ctx, stat, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
-   /* mbms-L1CombiningSchedule */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule);
-      RT_CHECK(ctx, stat, 0, "mbms-L1CombiningSchedule", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6_layer1Combining* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd*)rtxMemHeapAlloc(ctx, sizeof(MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-r6");
-   /* secondaryCCPCH-Info */
-   stat = pd_ConsUInt8(ctx, &pvalue->secondaryCCPCH_Info, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-r6");
-   /* secondaryCCPCHPwrOffsetDiff */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
-      RT_CHECK(ctx, stat, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-r6");
-   }
-   /* layer1Combining */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(ctx, &pvalue->layer1Combining);
-      RT_CHECK(ctx, stat, 0, "layer1Combining", -1, "MBMS-NeighbouringCellSCCPCH-r6");
-   }
-   /* mbms-L23Configuration */
-   stat = asn1PD_UMTS_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration);
-   RT_CHECK(ctx, stat, 0, "mbms-L23Configuration", -1, "MBMS-NeighbouringCellSCCPCH-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* softComb-TimingOffset */
-   stat = pd_ConsUnsigned(ctx, &pvalue->softComb_TimingOffset, 0, 3);
-   RT_CHECK(ctx, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
-   /* mbms-L1CombiningTransmTimeDiff */
-   stat = pd_ConsUInt8(ctx, &pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
-   RT_CHECK(ctx, stat, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
-   /* mbms-L1CombiningSchedule */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule);
-      RT_CHECK(ctx, stat, 0, "mbms-L1CombiningSchedule", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd*)rtxMemHeapAlloc(ctx, sizeof(MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   /* secondaryCCPCH-Info */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AddUTCModels");
+   /* utcModel1 */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryCCPCH_Info, 1, 32);
-      RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+      stat = dec_UTCmodelSet1(ctx, &pvalue->utcModel1, cur);
+      RT_CHECK(ctx, stat, 0, "utcModel1", -1, "UE-Positioning-GANSS-AddUTCModels");
    }
-   /* secondaryCCPCH-InfoDiff */
-   stat = asn1PD_UMTS_SecondaryCCPCHInfoDiff_MBMS(ctx, &pvalue->secondaryCCPCH_InfoDiff);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-InfoDiff", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   /* secondaryCCPCHPwrOffsetDiff */
+   /* utcModel2 */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
-      RT_CHECK(ctx, stat, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+      stat = dec_UTCmodelSet2(ctx, &pvalue->utcModel2, cur);
+      RT_CHECK(ctx, stat, 0, "utcModel2", -1, "UE-Positioning-GANSS-AddUTCModels");
    }
-   /* layer1Combining */
+   /* utcModel3 */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(ctx, &pvalue->layer1Combining);
-      RT_CHECK(ctx, stat, 0, "layer1Combining", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   }
-   /* mbms-L23Configuration */
-   stat = asn1PD_UMTS_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration);
-   RT_CHECK(ctx, stat, 0, "mbms-L23Configuration", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCHList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_NeighbouringCellSCCPCH_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_NeighbouringCellSCCPCH_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-NeighbouringCellSCCPCH-r6", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-r6");
-      elem = (MBMS_NeighbouringCellSCCPCH_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-NeighbouringCellSCCPCH-r6", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-r6");
+      stat = dec_UTCmodelSet3(ctx, &pvalue->utcModel3, cur);
+      RT_CHECK(ctx, stat, 0, "utcModel3", -1, "UE-Positioning-GANSS-AddUTCModels");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCHList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCHList_v770ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_AddUTCModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddUTCModels* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-v770ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_NeighbouringCellSCCPCH_v770ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_NeighbouringCellSCCPCH_v770ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-NeighbouringCellSCCPCH-v770ext", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-v770ext");
-      elem = (MBMS_NeighbouringCellSCCPCH_v770ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-NeighbouringCellSCCPCH-v770ext", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-v770ext");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AddUTCModels, pvalue);
 }
 
-int asn1PD_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(rtxContext* RT_RESTRICT ctx, MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 40, 40);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext(rtxContext* RT_RESTRICT ctx, MBMS_NetworkStandardTimeInformation_LCR_v890ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
-   /* networkStandardTime */
-   stat = asn1PD_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(ctx, &pvalue->networkStandardTime);
-   RT_CHECK(ctx, stat, 0, "networkStandardTime", -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
-   /* correlativeSFN */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->correlativeSFN, 0, 4095);
-      RT_CHECK(ctx, stat, 0, "correlativeSFN", -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NumberOfNeighbourCells_r6(rtxContext* RT_RESTRICT ctx, MBMS_NumberOfNeighbourCells_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NumberOfNeighbourCells-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PhyChInformation_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_IMB384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mbms-CommonPhyChIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->mbms_CommonPhyChIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-IMB384");
-   /* secondaryCCPCHInfo-MBMS */
-   stat = asn1PD_UMTS_SecondaryCCPCHFrameType2Info(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-IMB384");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PhyChInformationList_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_IMB384* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PhyChInformationList-IMB384");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_PhyChInformation_IMB384* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PhyChInformation_IMB384));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-PhyChInformation-IMB384", (int32_t)i, "MBMS-PhyChInformationList-IMB384");
-      elem = (MBMS_PhyChInformation_IMB384*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_PhyChInformation_IMB384(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_PhyChInformation_IMB384(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-IMB384", (int32_t)i, "MBMS-PhyChInformationList-IMB384");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PhyChInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mbms-CommonPhyChIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->mbms_CommonPhyChIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r6");
-   /* secondaryCCPCHInfo-MBMS */
-   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PhyChInformation_r7(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mbms-CommonPhyChIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->mbms_CommonPhyChIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r7");
-   /* secondaryCCPCHInfo-MBMS */
-   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PhyChInformationList_r6(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PhyChInformationList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_PhyChInformation_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PhyChInformation_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-PhyChInformation-r6", (int32_t)i, "MBMS-PhyChInformationList-r6");
-      elem = (MBMS_PhyChInformation_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_PhyChInformation_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_PhyChInformation_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-r6", (int32_t)i, "MBMS-PhyChInformationList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PhyChInformationList_r7(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PhyChInformationList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_PhyChInformation_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PhyChInformation_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-PhyChInformation-r7", (int32_t)i, "MBMS-PhyChInformationList-r7");
-      elem = (MBMS_PhyChInformation_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_PhyChInformation_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_PhyChInformation_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-r7", (int32_t)i, "MBMS-PhyChInformationList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PL_ServiceRestrictInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_PL_ServiceRestrictInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PL-ServiceRestrictInfo-r6");
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PL-ServiceRestrictInfo-r6");
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_Qoffset(rtxContext* RT_RESTRICT ctx, MBMS_Qoffset* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-Qoffset");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation* RT_RESTRICT pvalue)
+static int dec_UE_Positioning_GANSS_AuxiliaryInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AuxiliaryInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AuxiliaryInfo");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* mbms-Qoffset */
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.mbms_Qoffset, 0, 7);
-         RT_CHECK(ctx, stat, "MBMS-Qoffset", "mbms-Qoffset", -1, 0);
+      case 0: /* ganssID1 */
+         pvalue->u.ganssID1 = (AuxInfoGANSS_ID1*)rtxMemHeapAlloc(ctx, sizeof(AuxInfoGANSS_ID1));
+         if (pvalue->u.ganssID1 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ganssID1", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+         asn1Init_UMTS_AuxInfoGANSS_ID1(pvalue->u.ganssID1);
+         stat = dec_AuxInfoGANSS_ID1(ctx, pvalue->u.ganssID1, cur);
+         RT_CHECK(ctx, stat, 0, "ganssID1", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
          break;
-      case 1: /* mbms-HCSoffset */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.mbms_HCSoffset, 0, 7);
-         RT_CHECK(ctx, stat, 0, "mbms-HCSoffset", -1, 0);
+      case 1: /* ganssID3 */
+         pvalue->u.ganssID3 = (AuxInfoGANSS_ID3*)rtxMemHeapAlloc(ctx, sizeof(AuxInfoGANSS_ID3));
+         if (pvalue->u.ganssID3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ganssID3", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+         asn1Init_UMTS_AuxInfoGANSS_ID3(pvalue->u.ganssID3);
+         stat = dec_AuxInfoGANSS_ID3(ctx, pvalue->u.ganssID3, cur);
+         RT_CHECK(ctx, stat, 0, "ganssID3", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-GANSS-AuxiliaryInfo");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyInfo_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AuxiliaryInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AuxiliaryInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSGenericData_v860ext(rtxContext* RT_RESTRICT ctx, GANSSGenericData_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PreferredFrequencyInfo-r6");
-   /* mbmsPreferredFrequency */
-   if (present & ((uint32_t)1 << 1)) {
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSGenericData-v860ext");
+   /* uePositiningGANSSsbasID */
+   if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->mbmsPreferredFrequency, 1, 4);
-      RT_CHECK(ctx, stat, 0, "mbmsPreferredFrequency", -1, "MBMS-PreferredFrequencyInfo-r6");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->uePositiningGANSSsbasID, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-v860ext");
    }
-   /* layerConvergenceInformation */
-   stat = asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(ctx, &pvalue->layerConvergenceInformation);
-   RT_CHECK(ctx, stat, 0, "layerConvergenceInformation", -1, "MBMS-PreferredFrequencyInfo-r6");
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
+   /* uePositioningGANSSAddNavigationModels */
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "MBMS-PreferredFrequencyInfo-r6");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "MBMS-PreferredFrequencyInfo-r6");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
+      stat = dec_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-v860ext");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PreferredFrequencyList_r6(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PreferredFrequencyList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_PreferredFrequencyInfo_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PreferredFrequencyInfo_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-PreferredFrequencyInfo-r6", (int32_t)i, "MBMS-PreferredFrequencyList-r6");
-      elem = (MBMS_PreferredFrequencyInfo_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_PreferredFrequencyInfo_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-PreferredFrequencyInfo-r6", (int32_t)i, "MBMS-PreferredFrequencyList-r6");
+   /* uePositioningGANSSAlmanac */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->uePositioningGANSSAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-v860ext");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PTMActivationTime_r6(rtxContext* RT_RESTRICT ctx, MBMS_PTMActivationTime_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 2047);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PTMActivationTime-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_RequiredUEAction_UMod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_UMod* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-RequiredUEAction-UMod");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SelectedServicesListFull(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesListFull* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SelectedServicesListFull");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ServiceIdentity_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceIdentity_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ServiceIdentity-r6", (int32_t)i, "MBMS-SelectedServicesListFull");
-      elem = (MBMS_ServiceIdentity_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_ServiceIdentity_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-ServiceIdentity-r6", (int32_t)i, "MBMS-SelectedServicesListFull");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SelectedServiceInfo_status(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServiceInfo_status* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* none */
-         break;
-      case 1: /* some */
-         pvalue->u.some = (MBMS_SelectedServicesListFull*)rtxMemHeapAlloc(ctx, sizeof(MBMS_SelectedServicesListFull));
-         if (pvalue->u.some == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "some", -1, 0);
-         asn1Init_UMTS_MBMS_SelectedServicesListFull(pvalue->u.some);
-         stat = asn1PD_UMTS_MBMS_SelectedServicesListFull(ctx, pvalue->u.some);
-         RT_CHECK(ctx, stat, 0, "some", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SelectedServiceInfo(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServiceInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* status */
-   stat = asn1PD_UMTS_MBMS_SelectedServiceInfo_status(ctx, &pvalue->status);
-   RT_CHECK(ctx, stat, 0, "status", -1, "MBMS-SelectedServiceInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SelectedServicesListShort(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesListShort* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SelectedServicesListShort");
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddStrParm(ctx, "MBMS-SelectedServicesListShort");
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-SelectedServicesListShort");
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 64);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_FAIL(ctx, stat, "MBMS-ShortTransmissionID", "MBMS-ShortTransmissionID", (int32_t)i, "MBMS-SelectedServicesListShort");
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SelectedServicesShort(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesShort* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mbms-SelectedServicesList */
-   stat = asn1PD_UMTS_MBMS_SelectedServicesListShort(ctx, &pvalue->mbms_SelectedServicesList);
-   RT_CHECK(ctx, stat, 0, "mbms-SelectedServicesList", -1, "MBMS-SelectedServicesShort");
-   /* modificationPeriodIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->modificationPeriodIdentity, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modificationPeriodIdentity", -1, "MBMS-SelectedServicesShort");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceAccessInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceAccessInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceAccessInfo-r6");
-   /* shortTransmissionID */
-   stat = pd_ConsUInt8(ctx, &pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-ServiceAccessInfo-r6");
-   /* accessprobabilityFactor-Idle */
-   stat = pd_ConsUnsigned(ctx, &pvalue->accessprobabilityFactor_Idle, 0, 31);
-   RT_CHECK(ctx, stat, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Idle", -1, "MBMS-ServiceAccessInfo-r6");
-   /* accessprobabilityFactor-Connected */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->accessprobabilityFactor_Connected, 0, 31);
-      RT_CHECK(ctx, stat, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Connected", -1, "MBMS-ServiceAccessInfo-r6");
-   }
-   /* mbms-ConnectedModeCountingScope */
-   stat = asn1PD_UMTS_MBMS_ConnectedModeCountingScope(ctx, &pvalue->mbms_ConnectedModeCountingScope);
-   RT_CHECK(ctx, stat, 0, "mbms-ConnectedModeCountingScope", -1, "MBMS-ServiceAccessInfo-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceAccessInfoList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceAccessInfoList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceAccessInfoList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ServiceAccessInfo_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceAccessInfo_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ServiceAccessInfo-r6", (int32_t)i, "MBMS-ServiceAccessInfoList-r6");
-      elem = (MBMS_ServiceAccessInfo_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_ServiceAccessInfo_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ServiceAccessInfo_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-ServiceAccessInfo-r6", (int32_t)i, "MBMS-ServiceAccessInfoList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceTransmInfo(rtxContext* RT_RESTRICT ctx, MBMS_ServiceTransmInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* start */
-   stat = pd_ConsUInt8(ctx, &pvalue->start, 0, 255);
-   RT_CHECK(ctx, stat, 0, "start", -1, "MBMS-ServiceTransmInfo");
-   /* duration */
-   stat = pd_ConsUInt16(ctx, &pvalue->duration, 1, 256);
-   RT_CHECK(ctx, stat, 0, "duration", -1, "MBMS-ServiceTransmInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceTransmInfoList(rtxContext* RT_RESTRICT ctx, MBMS_ServiceTransmInfoList* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceTransmInfoList");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ServiceTransmInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceTransmInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ServiceTransmInfo", (int32_t)i, "MBMS-ServiceTransmInfoList");
-      elem = (MBMS_ServiceTransmInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ServiceTransmInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-ServiceTransmInfo", (int32_t)i, "MBMS-ServiceTransmInfoList");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceSchedulingInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceSchedulingInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceSchedulingInfo-r6");
-   /* mbms-TransmissionIdentity */
-   stat = asn1PD_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
-   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-ServiceSchedulingInfo-r6");
-   /* mbms-ServiceTransmInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_ServiceTransmInfoList(ctx, &pvalue->mbms_ServiceTransmInfoList);
-      RT_CHECK(ctx, stat, 0, "mbms-ServiceTransmInfoList", -1, "MBMS-ServiceSchedulingInfo-r6");
-   }
-   /* nextSchedulingperiod */
-   stat = pd_ConsUInt8(ctx, &pvalue->nextSchedulingperiod, 0, 31);
-   RT_CHECK(ctx, stat, 0, "nextSchedulingperiod", -1, "MBMS-ServiceSchedulingInfo-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceSchedulingInfoList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceSchedulingInfoList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceSchedulingInfoList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ServiceSchedulingInfo_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceSchedulingInfo_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ServiceSchedulingInfo-r6", (int32_t)i, "MBMS-ServiceSchedulingInfoList-r6");
-      elem = (MBMS_ServiceSchedulingInfo_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_ServiceSchedulingInfo_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ServiceSchedulingInfo_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-ServiceSchedulingInfo-r6", (int32_t)i, "MBMS-ServiceSchedulingInfoList-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TrCHInformation_SIB5(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_SIB5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-SIB5");
-   /* transpCh-Identity */
-   stat = pd_ConsUInt8(ctx, &pvalue->transpCh_Identity, 1, 8);
-   RT_CHECK(ctx, stat, 0, "transpCh-Identity", -1, "MBMS-TrCHInformation-SIB5");
-   /* rbInformation */
+   /* uePositioningGANSSAddUTCModels */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation);
-      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-SIB5");
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-v860ext");
    }
-   /* msch-ConfigurationInfo */
+   /* uePositioningGANSSAuxiliaryInfo */
    if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericData_v860ext(rtxContext* RT_RESTRICT ctx, GANSSGenericData_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericData_v860ext, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_Almanac_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Almanac_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac-r8");
+   /* ganss-wk-number */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganss_wk_number, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-Almanac-r8");
+   /* alm-keplerianParameters */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianParameters", -1, "UE-Positioning-GANSS-Almanac-r8");
+   }
+   /* alm-keplerianNAVAlmanac */
+   if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-SIB5");
+      stat = dec_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianNAVAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TrCHInformation_SIB5List(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_SIB5List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-SIB5List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_TrCHInformation_SIB5* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TrCHInformation_SIB5));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-TrCHInformation-SIB5", (int32_t)i, "MBMS-TrCHInformation-SIB5List");
-      elem = (MBMS_TrCHInformation_SIB5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_TrCHInformation_SIB5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_TrCHInformation_SIB5(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-SIB5", (int32_t)i, "MBMS-TrCHInformation-SIB5List");
+   /* alm-keplerianReducedAlmanac */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = dec_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianReducedAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SIBType5_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_SIBType5_SCCPCH_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* sccpchIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->sccpchIdentity, 1, 16);
-   RT_CHECK(ctx, stat, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-SIBType5-SCCPCH-r6");
-   /* transpCHInformation */
-   stat = asn1PD_UMTS_MBMS_TrCHInformation_SIB5List(ctx, &pvalue->transpCHInformation);
-   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, "MBMS-SIBType5-SCCPCH-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SIBType5_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_SIBType5_SCCPCHList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SIBType5-SCCPCHList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_SIBType5_SCCPCH_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_SIBType5_SCCPCH_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-SIBType5-SCCPCH-r6", (int32_t)i, "MBMS-SIBType5-SCCPCHList-r6");
-      elem = (MBMS_SIBType5_SCCPCH_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_SIBType5_SCCPCH_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_SIBType5_SCCPCH_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-SIBType5-SCCPCH-r6", (int32_t)i, "MBMS-SIBType5-SCCPCHList-r6");
+   /* alm-keplerianMidiAlmanac */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = dec_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianMidiAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TimersAndCounters_r6(rtxContext* RT_RESTRICT ctx, MBMS_TimersAndCounters_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TimersAndCounters-r6");
-   /* t-318 */
+   /* alm-keplerianGLONASS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = dec_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianGLONASS", -1, "UE-Positioning-GANSS-Almanac-r8");
+   }
+   /* alm-ecefSBASAlmanac */
    if (present & ((uint32_t)1 << 0)) {
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_318, 0, 14);
-      RT_CHECK(ctx, stat, "T-318", "t-318", -1, "MBMS-TimersAndCounters-r6");
-   }
-   else {
-      pvalue->t_318 = 3;
+      pvalue->m |= 0x20u;
+      stat = dec_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-ecefSBASAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_TranspChInfoForCCTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForCCTrCh_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_Almanac_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Almanac_r8* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* commonCCTrChIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->commonCCTrChIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonCCTrChIdentity", "commonCCTrChIdentity", -1, "MBMS-TranspChInfoForCCTrCh-r6");
-   /* transportFormatCombinationSet */
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "MBMS-TranspChInfoForCCTrCh-r6");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_Almanac_r8, pvalue);
 }
 
-int asn1PD_UMTS_MBMS_TranspChInfoForEachCCTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForEachCCTrCh_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TranspChInfoForEachCCTrCh-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_TranspChInfoForCCTrCh_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TranspChInfoForCCTrCh_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-TranspChInfoForCCTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachCCTrCh-r6");
-      elem = (MBMS_TranspChInfoForCCTrCh_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_TranspChInfoForCCTrCh_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_TranspChInfoForCCTrCh_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-TranspChInfoForCCTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachCCTrCh-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TranspChInfoForTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForTrCh_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* commonTrChIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->commonTrChIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonTrChIdentity", "commonTrChIdentity", -1, "MBMS-TranspChInfoForTrCh-r6");
-   /* transportFormatSet */
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "MBMS-TranspChInfoForTrCh-r6");
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TranspChInfoForEachTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForEachTrCh_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TranspChInfoForEachTrCh-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_TranspChInfoForTrCh_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TranspChInfoForTrCh_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-TranspChInfoForTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachTrCh-r6");
-      elem = (MBMS_TranspChInfoForTrCh_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_TranspChInfoForTrCh_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_TranspChInfoForTrCh_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-TranspChInfoForTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachTrCh-r6");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_UnmodifiedService_r6(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedService_r6* RT_RESTRICT pvalue)
+static int dec_GANSSGenericData_r8(rtxContext* RT_RESTRICT ctx, GANSSGenericData_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedService-r6");
-   /* mbms-TransmissionIdentity */
-   stat = asn1PD_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
-   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-UnmodifiedService-r6");
-   /* mbms-RequiredUEAction */
-   stat = pd_ConsUnsigned(ctx, &pvalue->mbms_RequiredUEAction, 0, 2);
-   RT_CHECK(ctx, stat, "MBMS-RequiredUEAction-UMod", "mbms-RequiredUEAction", -1, "MBMS-UnmodifiedService-r6");
-   /* mbms-PreferredFrequency */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 13, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSGenericData-r8");
+   /* ganssId */
+   if (present & ((uint32_t)1 << 12)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->mbms_PreferredFrequency, 1, 4);
-      RT_CHECK(ctx, stat, "MBMS-PFLIndex", "mbms-PreferredFrequency", -1, "MBMS-UnmodifiedService-r6");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssId", -1, "GANSSGenericData-r8");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_UnmodifiedServiceList_r6(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedServiceList_r6* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedServiceList-r6");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_UnmodifiedService_r6* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_UnmodifiedService_r6));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-UnmodifiedService-r6", (int32_t)i, "MBMS-UnmodifiedServiceList-r6");
-      elem = (MBMS_UnmodifiedService_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_UnmodifiedService_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_UnmodifiedService_r6(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-UnmodifiedService-r6", (int32_t)i, "MBMS-UnmodifiedServiceList-r6");
+   /* uePositiningGANSSsbasID */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->uePositiningGANSSsbasID, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r8");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_UnmodifiedService_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedService_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedService-v770ext");
-   /* mbsfnClusterFrequency */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->mbsfnClusterFrequency, 1, 16);
-      RT_CHECK(ctx, stat, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-UnmodifiedService-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_UnmodifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedServiceList_v770ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedServiceList-v770ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_UnmodifiedService_v770ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_UnmodifiedService_v770ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-UnmodifiedService-v770ext", (int32_t)i, "MBMS-UnmodifiedServiceList-v770ext");
-      elem = (MBMS_UnmodifiedService_v770ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_UnmodifiedService_v770ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_UnmodifiedService_v770ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBMS-UnmodifiedService-v770ext", (int32_t)i, "MBMS-UnmodifiedServiceList-v770ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand(rtxContext* RT_RESTRICT ctx, MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNservicesNotNotified_r7(rtxContext* RT_RESTRICT ctx, MBSFNservicesNotNotified_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNservicesNotNotified-r7");
-   /* notificationOfAllMBSFNServicesInTheBand */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "notificationOfAllMBSFNServicesInTheBand", -1, "MBSFNservicesNotNotified-r7");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "notificationOfAllMBSFNServicesInTheBand", -1, "MBSFNservicesNotNotified-r7");
-         pvalue->notificationOfAllMBSFNServicesInTheBand = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* mbsfnServicesNotified */
-         break;
-      case 1: /* mbsfnServicesNotNotified */
-         pvalue->u.mbsfnServicesNotNotified = (MBSFNservicesNotNotified_r7*)rtxMemHeapAlloc(ctx, sizeof(MBSFNservicesNotNotified_r7));
-         if (pvalue->u.mbsfnServicesNotNotified == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mbsfnServicesNotNotified", -1, 0);
-         asn1Init_UMTS_MBSFNservicesNotNotified_r7(pvalue->u.mbsfnServicesNotNotified);
-         stat = asn1PD_UMTS_MBSFNservicesNotNotified_r7(ctx, pvalue->u.mbsfnServicesNotNotified);
-         RT_CHECK(ctx, stat, 0, "mbsfnServicesNotNotified", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* mbsfnFrequency */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->mbsfnFrequency);
-   RT_CHECK(ctx, stat, 0, "mbsfnFrequency", -1, "MBSFNInterFrequencyNeighbour-r7");
-   /* mbsfnServicesNotification */
-   stat = asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(ctx, &pvalue->mbsfnServicesNotification);
-   RT_CHECK(ctx, stat, 0, "mbsfnServicesNotification", -1, "MBSFNInterFrequencyNeighbour-r7");
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_v860ext_imb_Indication* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNInterFrequencyNeighbour-v860ext");
-   /* imb-Indication */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "imb-Indication", -1, "MBSFNInterFrequencyNeighbour-v860ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "imb-Indication", -1, "MBSFNInterFrequencyNeighbour-v860ext");
-         pvalue->imb_Indication = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_InterFrequencyNeighbourList_r7(rtxContext* RT_RESTRICT ctx, MBSFN_InterFrequencyNeighbourList_r7* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-r7");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFNInterFrequencyNeighbour_r7* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNInterFrequencyNeighbour_r7));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFNInterFrequencyNeighbour-r7", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-r7");
-      elem = (MBSFNInterFrequencyNeighbour_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBSFNInterFrequencyNeighbour_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBSFNInterFrequencyNeighbour-r7", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-r7");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_InterFrequencyNeighbourList_v860ext(rtxContext* RT_RESTRICT ctx, MBSFN_InterFrequencyNeighbourList_v860ext* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-v860ext");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFNInterFrequencyNeighbour_v860ext* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNInterFrequencyNeighbour_v860ext));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFNInterFrequencyNeighbour-v860ext", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-v860ext");
-      elem = (MBSFNInterFrequencyNeighbour_v860ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBSFNInterFrequencyNeighbour_v860ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFNInterFrequencyNeighbour_v860ext(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBSFNInterFrequencyNeighbour-v860ext", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-v860ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_TDDTimeSlotInfo(rtxContext* RT_RESTRICT ctx, MBSFN_TDDTimeSlotInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* timeSlotNumber */
-   stat = pd_ConsUInt8(ctx, &pvalue->timeSlotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeSlotNumber", -1, "MBSFN-TDDTimeSlotInfo");
-   /* cellParametersID */
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "MBSFN-TDDTimeSlotInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_TDDInformation(rtxContext* RT_RESTRICT ctx, MBSFN_TDDInformation* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-TDDInformation");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFN_TDDTimeSlotInfo* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFN_TDDTimeSlotInfo));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFN-TDDTimeSlotInfo", (int32_t)i, "MBSFN-TDDInformation");
-      elem = (MBSFN_TDDTimeSlotInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFN_TDDTimeSlotInfo(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBSFN-TDDTimeSlotInfo", (int32_t)i, "MBSFN-TDDInformation");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_TDDTimeSlotInfo_LCR(rtxContext* RT_RESTRICT ctx, MBSFN_TDDTimeSlotInfo_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* frequencyIndex */
-   stat = pd_ConsUInt8(ctx, &pvalue->frequencyIndex, 1, 16);
-   RT_CHECK(ctx, stat, 0, "frequencyIndex", -1, "MBSFN-TDDTimeSlotInfo-LCR");
-   /* timeSlotList */
-   stat = asn1PD_UMTS_MBSFN_TDDInformation(ctx, &pvalue->timeSlotList);
-   RT_CHECK(ctx, stat, 0, "timeSlotList", -1, "MBSFN-TDDTimeSlotInfo-LCR");
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_TDDInformation_LCR(rtxContext* RT_RESTRICT ctx, MBSFN_TDDInformation_LCR* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-TDDInformation-LCR");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFN_TDDTimeSlotInfo_LCR* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFN_TDDTimeSlotInfo_LCR));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFN-TDDTimeSlotInfo-LCR", (int32_t)i, "MBSFN-TDDInformation-LCR");
-      elem = (MBSFN_TDDTimeSlotInfo_LCR*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBSFN_TDDTimeSlotInfo_LCR(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFN_TDDTimeSlotInfo_LCR(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBSFN-TDDTimeSlotInfo-LCR", (int32_t)i, "MBSFN-TDDInformation-LCR");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_TDM_Info(rtxContext* RT_RESTRICT ctx, MBSFN_TDM_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* shortTransmissionID */
-   stat = pd_ConsUInt8(ctx, &pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBSFN-TDM-Info");
-   /* tDMPeriod */
-   stat = pd_ConsUInt8(ctx, &pvalue->tDMPeriod, 2, 9);
-   RT_CHECK(ctx, stat, 0, "tDMPeriod", -1, "MBSFN-TDM-Info");
-   /* tDMOffset */
-   stat = pd_ConsUInt8(ctx, &pvalue->tDMOffset, 0, 8);
-   RT_CHECK(ctx, stat, 0, "tDMOffset", -1, "MBSFN-TDM-Info");
-   /* tDMLength */
-   stat = pd_ConsUInt8(ctx, &pvalue->tDMLength, 1, 8);
-   RT_CHECK(ctx, stat, 0, "tDMLength", -1, "MBSFN-TDM-Info");
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_TDM_Info_List(rtxContext* RT_RESTRICT ctx, MBSFN_TDM_Info_List* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-TDM-Info-List");
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFN_TDM_Info* elem;
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFN_TDM_Info));
-      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFN-TDM-Info", (int32_t)i, "MBSFN-TDM-Info-List");
-      elem = (MBSFN_TDM_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFN_TDM_Info(ctx, elem);
-      RT_CHECK(ctx, stat, 0, "MBSFN-TDM-Info", (int32_t)i, "MBSFN-TDM-Info-List");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r3_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdate-r3-IEs");
-   /* dummy */
+   /* ganssTimeModelsList */
    if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "ActiveSetUpdate-r3-IEs");
+      pvalue->m |= 0x4u;
+      stat = dec_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList, cur);
+      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData-r8");
    }
+   /* uePositioningDGANSSCorrections */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSNavigationModel */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x10u;
+      stat = dec_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSAddNavigationModels */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x20u;
+      stat = dec_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSRealTimeIntegrity */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x40u;
+      stat = dec_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSDataBitAssistance */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x80u;
+      stat = dec_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSReferenceMeasurementInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x100u;
+      stat = dec_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSAlmanac */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x200u;
+      stat = dec_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSUTCModel */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x400u;
+      stat = dec_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSAddUTCModels */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x800u;
+      stat = dec_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSAuxiliaryInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1000u;
+      stat = dec_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericData_r8(rtxContext* RT_RESTRICT ctx, GANSSGenericData_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericData_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_DGANSSCorrections_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_DGANSSCorrections_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dganssreferencetime */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dganssreferencetime, 0, 119);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections-r9");
+   /* dganssInfoList */
+   stat = dec_DGANSSInfoList_r9(ctx, &pvalue->dganssInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_DGANSSCorrections_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_DGANSSCorrections_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_DGANSSCorrections_r9, pvalue);
+}
+
+static int dec_GANSSGenericData_r9(rtxContext* RT_RESTRICT ctx, GANSSGenericData_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 13, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSGenericData-r9");
+   /* ganssId */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssId", -1, "GANSSGenericData-r9");
+   }
+   /* uePositiningGANSSsbasID */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->uePositiningGANSSsbasID, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r9");
+   }
+   /* ganssTimeModelsList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x4u;
+      stat = dec_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList, cur);
+      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningDGANSSCorrections */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_DGANSSCorrections_r9(ctx, &pvalue->uePositioningDGANSSCorrections, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSNavigationModel */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x10u;
+      stat = dec_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSAddNavigationModels */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x20u;
+      stat = dec_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSRealTimeIntegrity */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x40u;
+      stat = dec_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSDataBitAssistance */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x80u;
+      stat = dec_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSReferenceMeasurementInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x100u;
+      stat = dec_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSAlmanac */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x200u;
+      stat = dec_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSUTCModel */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x400u;
+      stat = dec_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSAddUTCModels */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x800u;
+      stat = dec_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSAuxiliaryInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1000u;
+      stat = dec_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericData_r9(rtxContext* RT_RESTRICT ctx, GANSSGenericData_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericData_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_DGANSSCorrections_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_DGANSSCorrections_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dganssInfoList */
+   stat = dec_DGANSSInfoList_v920ext(ctx, &pvalue->dganssInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_DGANSSCorrections_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_DGANSSCorrections_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_DGANSSCorrections_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSGenericData_v920ext(rtxContext* RT_RESTRICT ctx, GANSSGenericData_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSGenericData-v920ext");
+   /* uePositioningDGANSSCorrections */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->uePositioningDGANSSCorrections, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericData_v920ext(rtxContext* RT_RESTRICT ctx, GANSSGenericData_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericData_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSGenericDataList(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSGenericDataList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSSGenericData* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GANSSGenericData", (int32_t)i, "GANSSGenericDataList");
+      elem = (GANSSGenericData*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSSGenericData(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSSGenericData(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData", (int32_t)i, "GANSSGenericDataList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericDataList(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericDataList, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSGenericDataList_v860ext(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSGenericDataList-v860ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSSGenericData_v860ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData_v860ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GANSSGenericData-v860ext", (int32_t)i, "GANSSGenericDataList-v860ext");
+      elem = (GANSSGenericData_v860ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSSGenericData_v860ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSSGenericData_v860ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData-v860ext", (int32_t)i, "GANSSGenericDataList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericDataList_v860ext(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericDataList_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSGenericDataList_r8(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSGenericDataList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSSGenericData_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GANSSGenericData-r8", (int32_t)i, "GANSSGenericDataList-r8");
+      elem = (GANSSGenericData_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSSGenericData_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSSGenericData_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData-r8", (int32_t)i, "GANSSGenericDataList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericDataList_r8(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericDataList_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSGenericDataList_r9(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSGenericDataList-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSSGenericData_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData_r9));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GANSSGenericData-r9", (int32_t)i, "GANSSGenericDataList-r9");
+      elem = (GANSSGenericData_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSSGenericData_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSSGenericData_r9(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData-r9", (int32_t)i, "GANSSGenericDataList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericDataList_r9(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericDataList_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSSGenericDataList_v920ext(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GANSSGenericDataList-v920ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GANSSGenericData_v920ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData_v920ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GANSSGenericData-v920ext", (int32_t)i, "GANSSGenericDataList-v920ext");
+      elem = (GANSSGenericData_v920ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GANSSGenericData_v920ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GANSSGenericData_v920ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData-v920ext", (int32_t)i, "GANSSGenericDataList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GANSSGenericDataList_v920ext(rtxContext* RT_RESTRICT ctx, GANSSGenericDataList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSSGenericDataList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SatellitesListRelatedData(rtxContext* RT_RESTRICT ctx, SatellitesListRelatedData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* satId */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satId, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "satId", -1, "SatellitesListRelatedData");
+   /* iod */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->iod, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, 0, "iod", -1, "SatellitesListRelatedData");
+   return 0;
+}
+
+int asn1PD_UMTS_SatellitesListRelatedData(rtxContext* RT_RESTRICT ctx, SatellitesListRelatedData* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SatellitesListRelatedData, pvalue);
+}
+
+RT_MERGED_BODY int dec_SatellitesListRelatedDataList(rtxContext* RT_RESTRICT ctx, SatellitesListRelatedDataList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SatellitesListRelatedDataList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SatellitesListRelatedData* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SatellitesListRelatedData));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SatellitesListRelatedData", (int32_t)i, "SatellitesListRelatedDataList");
+      elem = (SatellitesListRelatedData*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SatellitesListRelatedData(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SatellitesListRelatedData", (int32_t)i, "SatellitesListRelatedDataList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SatellitesListRelatedDataList(rtxContext* RT_RESTRICT ctx, SatellitesListRelatedDataList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SatellitesListRelatedDataList, pvalue);
+}
+
+RT_MERGED_BODY int dec_GanssNavigationModelAdditionalData(rtxContext* RT_RESTRICT ctx, GanssNavigationModelAdditionalData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GanssNavigationModelAdditionalData");
+   /* ganssWeek */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ganssWeek, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssWeek", -1, "GanssNavigationModelAdditionalData");
+   /* ganssToe */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssToe, 0, 167);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssToe", -1, "GanssNavigationModelAdditionalData");
+   /* t-toeLimit */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->t_toeLimit, 0, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-toeLimit", -1, "GanssNavigationModelAdditionalData");
+   /* satellitesListRelatedDataList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SatellitesListRelatedDataList(ctx, &pvalue->satellitesListRelatedDataList, cur);
+      RT_CHECK(ctx, stat, 0, "satellitesListRelatedDataList", -1, "GanssNavigationModelAdditionalData");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GanssNavigationModelAdditionalData(rtxContext* RT_RESTRICT ctx, GanssNavigationModelAdditionalData* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GanssNavigationModelAdditionalData, pvalue);
+}
+
+RT_MERGED_BODY int dec_GanssReqGenericData(rtxContext* RT_RESTRICT ctx, GanssReqGenericData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GanssReqGenericData");
+   /* ganssId */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssId", -1, "GanssReqGenericData");
+   }
+   /* ganssRealTimeIntegrity */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ganssRealTimeIntegrity);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssRealTimeIntegrity", -1, "GanssReqGenericData");
+   /* ganssDifferentialCorrection */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DGANSS_Sig_Id_Req(ctx, &pvalue->ganssDifferentialCorrection, cur);
+      RT_CHECK(ctx, stat, 0, "ganssDifferentialCorrection", -1, "GanssReqGenericData");
+   }
+   /* ganssAlmanac */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ganssAlmanac);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssAlmanac", -1, "GanssReqGenericData");
+   /* ganssNavigationModel */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ganssNavigationModel);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssNavigationModel", -1, "GanssReqGenericData");
+   /* ganssTimeModelGNSS-GNSS */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->ganssTimeModelGNSS_GNSS, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssTimeModelGNSS-GNSS", -1, "GanssReqGenericData");
+   }
+   /* ganssReferenceMeasurementInfo */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ganssReferenceMeasurementInfo);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssReferenceMeasurementInfo", -1, "GanssReqGenericData");
+   /* ganssDataBits */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_GanssDataBits(ctx, &pvalue->ganssDataBits, cur);
+      RT_CHECK(ctx, stat, 0, "ganssDataBits", -1, "GanssReqGenericData");
+   }
+   /* ganssUTCModel */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ganssUTCModel);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssUTCModel", -1, "GanssReqGenericData");
+   /* ganssNavigationModelAdditionalData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_GanssNavigationModelAdditionalData(ctx, &pvalue->ganssNavigationModelAdditionalData, cur);
+      RT_CHECK(ctx, stat, 0, "ganssNavigationModelAdditionalData", -1, "GanssReqGenericData");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GanssReqGenericData(rtxContext* RT_RESTRICT ctx, GanssReqGenericData* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GanssReqGenericData, pvalue);
+}
+
+RT_MERGED_BODY int dec_GanssReqGenericData_v860ext_ganssAddNavigationModel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddNavigationModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAddNavigationModel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddNavigationModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GanssReqGenericData_v860ext_ganssAddNavigationModel, pvalue);
+}
+
+RT_MERGED_BODY int dec_GanssReqGenericData_v860ext_ganssAddUTCmodel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddUTCmodel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAddUTCmodel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddUTCmodel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GanssReqGenericData_v860ext_ganssAddUTCmodel, pvalue);
+}
+
+RT_MERGED_BODY int dec_GanssReqGenericData_v860ext_ganssAuxInfo(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAuxInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAuxInfo(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAuxInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GanssReqGenericData_v860ext_ganssAuxInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_GanssReqGenericData_v860ext_ganssAddADchoices(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddADchoices* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* orbitModelID */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->orbitModelID, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "orbitModelID", -1, 0);
+   }
+   /* clockModelID */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->clockModelID, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "clockModelID", -1, 0);
+   }
+   /* utcModelID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->utcModelID, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "utcModelID", -1, 0);
+   }
+   /* almanacModelID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->almanacModelID, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "almanacModelID", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAddADchoices(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddADchoices* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GanssReqGenericData_v860ext_ganssAddADchoices, pvalue);
+}
+
+RT_MERGED_BODY int dec_GanssReqGenericData_v860ext(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GanssReqGenericData-v860ext");
+   /* sbasId */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sbasId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-GANSS-SBAS-ID", "sbasId", -1, "GanssReqGenericData-v860ext");
+   }
+   /* ganssAddNavigationModel */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ganssAddNavigationModel", -1, "GanssReqGenericData-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "ganssAddNavigationModel", -1, "GanssReqGenericData-v860ext");
+         pvalue->ganssAddNavigationModel = ui;
+      }
+   }
+   /* ganssAddUTCmodel */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ganssAddUTCmodel", -1, "GanssReqGenericData-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "ganssAddUTCmodel", -1, "GanssReqGenericData-v860ext");
+         pvalue->ganssAddUTCmodel = ui;
+      }
+   }
+   /* ganssAuxInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ganssAuxInfo", -1, "GanssReqGenericData-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "ganssAuxInfo", -1, "GanssReqGenericData-v860ext");
+         pvalue->ganssAuxInfo = ui;
+      }
+   }
+   /* ganssAddADchoices */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_GanssReqGenericData_v860ext_ganssAddADchoices(ctx, &pvalue->ganssAddADchoices, cur);
+      RT_CHECK(ctx, stat, 0, "ganssAddADchoices", -1, "GanssReqGenericData-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GanssReqGenericData_v860ext(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GanssReqGenericData_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_GanssRequestedGenericAssistanceDataList(rtxContext* RT_RESTRICT ctx, GanssRequestedGenericAssistanceDataList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GanssRequestedGenericAssistanceDataList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GanssReqGenericData* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GanssReqGenericData));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GanssReqGenericData", (int32_t)i, "GanssRequestedGenericAssistanceDataList");
+      elem = (GanssReqGenericData*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GanssReqGenericData(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GanssReqGenericData(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GanssReqGenericData", (int32_t)i, "GanssRequestedGenericAssistanceDataList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GanssRequestedGenericAssistanceDataList(rtxContext* RT_RESTRICT ctx, GanssRequestedGenericAssistanceDataList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GanssRequestedGenericAssistanceDataList, pvalue);
+}
+
+RT_MERGED_BODY int dec_GanssRequestedGenericAssistanceDataList_v860ext(rtxContext* RT_RESTRICT ctx, GanssRequestedGenericAssistanceDataList_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GanssRequestedGenericAssistanceDataList-v860ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GanssReqGenericData_v860ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GanssReqGenericData_v860ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GanssReqGenericData-v860ext", (int32_t)i, "GanssRequestedGenericAssistanceDataList-v860ext");
+      elem = (GanssReqGenericData_v860ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GanssReqGenericData_v860ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GanssReqGenericData_v860ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GanssReqGenericData-v860ext", (int32_t)i, "GanssRequestedGenericAssistanceDataList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GanssRequestedGenericAssistanceDataList_v860ext(rtxContext* RT_RESTRICT ctx, GanssRequestedGenericAssistanceDataList_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GanssRequestedGenericAssistanceDataList_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_GANSS_Storm_Flag(rtxContext* RT_RESTRICT ctx, GANSS_Storm_Flag* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* storm-flag-one */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->storm_flag_one);
+   RT_CHECK_AT(ctx, cur, stat, 0, "storm-flag-one", -1, "GANSS-Storm-Flag");
+   /* storm-flag-two */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->storm_flag_two);
+   RT_CHECK_AT(ctx, cur, stat, 0, "storm-flag-two", -1, "GANSS-Storm-Flag");
+   /* storm-flag-three */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->storm_flag_three);
+   RT_CHECK_AT(ctx, cur, stat, 0, "storm-flag-three", -1, "GANSS-Storm-Flag");
+   /* storm-flag-four */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->storm_flag_four);
+   RT_CHECK_AT(ctx, cur, stat, 0, "storm-flag-four", -1, "GANSS-Storm-Flag");
+   /* storm-flag-five */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->storm_flag_five);
+   RT_CHECK_AT(ctx, cur, stat, 0, "storm-flag-five", -1, "GANSS-Storm-Flag");
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_Storm_Flag(rtxContext* RT_RESTRICT ctx, GANSS_Storm_Flag* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GANSS_Storm_Flag, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_CarrierRSSI(rtxContext* RT_RESTRICT ctx, GSM_CarrierRSSI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 6, 6);
+   stat = pd_BitString32At(ctx, cur, pvalue, 6, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GSM-CarrierRSSI");
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_CarrierRSSI(rtxContext* RT_RESTRICT ctx, GSM_CarrierRSSI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_CarrierRSSI, pvalue);
+}
+
+RT_MERGED_BODY int dec_ObservedTimeDifferenceToGSM(rtxContext* RT_RESTRICT ctx, ObservedTimeDifferenceToGSM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ObservedTimeDifferenceToGSM");
+   return 0;
+}
+
+int asn1PD_UMTS_ObservedTimeDifferenceToGSM(rtxContext* RT_RESTRICT ctx, ObservedTimeDifferenceToGSM* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ObservedTimeDifferenceToGSM, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_MeasuredResults(rtxContext* RT_RESTRICT ctx, GSM_MeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GSM-MeasuredResults");
+   /* gsm-CarrierRSSI */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_GSM_CarrierRSSI(ctx, &pvalue->gsm_CarrierRSSI, cur);
+      RT_CHECK(ctx, stat, 0, "gsm-CarrierRSSI", -1, "GSM-MeasuredResults");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dummy, 46, 173);
+      RT_CHECK_AT(ctx, cur, stat, 0, "dummy", -1, "GSM-MeasuredResults");
+   }
+   /* bsicReported */
+   stat = dec_BSICReported(ctx, &pvalue->bsicReported, cur);
+   RT_CHECK(ctx, stat, 0, "bsicReported", -1, "GSM-MeasuredResults");
    /* dummy2 */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* newU-RNTI */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* dummy3 */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dummy3);
-      RT_CHECK(ctx, stat, 0, "dummy3", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x40u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* rl-AdditionInformationList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* rl-RemovalInformationList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x200u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* dummy4 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_SSDT_Information(ctx, &pvalue->dummy4);
-      RT_CHECK(ctx, stat, 0, "dummy4", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v4b0ext-IEs");
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "ActiveSetUpdate-v4b0ext-IEs");
-   }
-   /* cell-id-PerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "ActiveSetUpdate-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v590ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v590ext-IEs");
-   /* dpc-Mode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-v590ext-IEs");
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "ActiveSetUpdate-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v690ext-IEs");
-   /* primary-plmn-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "ActiveSetUpdate-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v690ext */
-   stat = asn1PD_UMTS_ActiveSetUpdate_v690ext_IEs(ctx, &pvalue->activeSetUpdate_v690ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v690ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v590ext */
-   stat = asn1PD_UMTS_ActiveSetUpdate_v590ext_IEs(ctx, &pvalue->activeSetUpdate_v590ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v4b0ext */
-   stat = asn1PD_UMTS_ActiveSetUpdate_v4b0ext_IEs(ctx, &pvalue->activeSetUpdate_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v4b0ext", -1, 0);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r3-add-ext", -1, 0);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r3(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-r3 */
-   stat = asn1PD_UMTS_ActiveSetUpdate_r3_IEs(ctx, &pvalue->activeSetUpdate_r3);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r6_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r6_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r6-IEs");
-   /* activationTime */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   /* newU-RNTI */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   /* newH-RNTI */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x40u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   /* rl-AdditionInformationList */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList_r6(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   /* rl-RemovalInformationList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x200u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   /* dpc-Mode */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x400u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r6-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v6b0ext-IEs");
-   /* rl-AdditionInformation-list-v6b0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RL_AdditionInformation_list_v6b0ext(ctx, &pvalue->rl_AdditionInformation_list_v6b0ext);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformation-list-v6b0ext", -1, "ActiveSetUpdate-v6b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v6b0ext */
-   stat = asn1PD_UMTS_ActiveSetUpdate_v6b0ext_IEs(ctx, &pvalue->activeSetUpdate_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v6b0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-r6 */
-   stat = asn1PD_UMTS_ActiveSetUpdate_r6_IEs(ctx, &pvalue->activeSetUpdate_r6);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r6", -1, 0);
-   /* activeSetUpdate-r6-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r6_add_ext);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r6-add-ext", -1, 0);
-   }
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r7_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r7_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 21);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r7-IEs");
-   /* activationTime */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* newU-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* newH-RNTI */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x400u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* rl-AdditionInformationList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList_r7(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* rl-RemovalInformationList */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x2000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* dpc-Mode */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x4000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation_r7(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* ul-16QAM-Config */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* e-dch-ReconfInfoSameCell */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* e-TFC-Boost-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x100000u;
-      stat = rtxDecBitInline(ctx, &pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v780ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v780ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v780ext-IEs");
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "ActiveSetUpdate-v780ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "ActiveSetUpdate-v780ext-IEs");
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v7f0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v7f0ext-IEs");
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v7f0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v7g0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v7g0ext-IEs");
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v7g0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUdpate-v7g0ext */
-   stat = asn1PD_UMTS_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUdpate_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUdpate-v7g0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUdpate-v7f0ext */
-   stat = asn1PD_UMTS_ActiveSetUpdate_v7f0ext_IEs(ctx, &pvalue->activeSetUdpate_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUdpate-v7f0ext", -1, 0);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v780ext */
-   stat = asn1PD_UMTS_ActiveSetUpdate_v780ext_IEs(ctx, &pvalue->activeSetUpdate_v780ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v780ext", -1, 0);
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-r7 */
-   stat = asn1PD_UMTS_ActiveSetUpdate_r7_IEs(ctx, &pvalue->activeSetUpdate_r7);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r7", -1, 0);
-   /* activeSetUpdate-r7-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r7_add_ext);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r7-add-ext", -1, 0);
-   }
-   /* v780NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r8_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r8_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 23);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r8-IEs");
-   /* activationTime */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* newU-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* newH-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x400u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* rl-AdditionInformationList */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList_r8(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* servingCellChangeParameters */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters);
-      RT_CHECK(ctx, stat, 0, "servingCellChangeParameters", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* rl-RemovalInformationList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x4000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* dpc-Mode */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x8000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation_r8(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* ul-16QAM-Config */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* e-dch-ReconfInfoSameCell */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* e-TFC-Boost-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x200000u;
-      stat = rtxDecBitInline(ctx, &pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v890ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v890ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v890ext-IEs");
-   /* dl-SecondaryCellInfoFDD-v890ext */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "ActiveSetUpdate-v890ext-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v890ext-IEs");
-   }
-   /* rl-AdditionInformationList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList_v890ext(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-v890ext-IEs");
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->dummy2, 0, 4095);
+      RT_CHECK_AT(ctx, cur, stat, "ObservedTimeDifferenceToGSM", "dummy2", -1, "GSM-MeasuredResults");
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_GSM_MeasuredResults(rtxContext* RT_RESTRICT ctx, GSM_MeasuredResults* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_GSM_MeasuredResults, pvalue);
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v7g0ext */
-   stat = asn1PD_UMTS_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUpdate_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v7g0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v890ext */
-   stat = asn1PD_UMTS_ActiveSetUpdate_v890ext_IEs(ctx, &pvalue->activeSetUpdate_v890ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v890ext", -1, 0);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-r8 */
-   stat = asn1PD_UMTS_ActiveSetUpdate_r8_IEs(ctx, &pvalue->activeSetUpdate_r8);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r8", -1, 0);
-   /* activeSetUpdate-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r8_add_ext);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r8-add-ext", -1, 0);
-   }
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r9_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r9_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 27);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r9-IEs");
-   /* activationTime */
-   if (present & ((uint32_t)1 << 26)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* newU-RNTI */
-   if (present & ((uint32_t)1 << 25)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* newH-RNTI */
-   if (present & ((uint32_t)1 << 24)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x400u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* ul-SecondaryCellInfoFDD */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* e-dch-ReconfigurationInfo-SecULFrequency */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(ctx, &pvalue->e_dch_ReconfigurationInfo_SecULFrequency);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo-SecULFrequency", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* rl-AdditionInformationList */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList_r9(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* rl-AdditionInformationList-SecULFreq */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList_SecULFreq(ctx, &pvalue->rl_AdditionInformationList_SecULFreq);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList-SecULFreq", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* servingCellChangeParameters */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters);
-      RT_CHECK(ctx, stat, 0, "servingCellChangeParameters", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* rl-RemovalInformationList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* rl-RemovalInformationList-SecULFreq */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList_SecULFreq(ctx, &pvalue->rl_RemovalInformationList_SecULFreq);
-      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList-SecULFreq", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x40000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* dpc-Mode */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x80000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation_r9(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* ul-16QAM-Config */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* e-dch-ReconfInfoSameCell */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* e-TFC-Boost-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2000000u;
-      stat = rtxDecBitInline(ctx, &pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-r9 */
-   stat = asn1PD_UMTS_ActiveSetUpdate_r9_IEs(ctx, &pvalue->activeSetUpdate_r9);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r9", -1, 0);
-   /* activeSetUpdate-r9-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r9_add_ext);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r9-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_GSM_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, GSM_MeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r9 */
-         pvalue->u.r9 = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GSM-MeasuredResultsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GSM_MeasuredResults* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_MeasuredResults));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GSM-MeasuredResults", (int32_t)i, "GSM-MeasuredResultsList");
+      elem = (GSM_MeasuredResults*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GSM_MeasuredResults(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GSM_MeasuredResults(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GSM-MeasuredResults", (int32_t)i, "GSM-MeasuredResultsList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_GSM_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, GSM_MeasuredResultsList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_MeasuredResultsList, pvalue);
+}
+
+RT_MERGED_BODY int dec_GPS_TOW_1sec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1sec* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r8 */
-         pvalue->u.r8 = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsUInt32At(ctx, cur, pvalue, 0, 604799);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GPS-TOW-1sec");
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_GPS_TOW_1sec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1sec* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GPS_TOW_1sec, pvalue);
+}
+
+RT_MERGED_BODY int dec_GPS_TOW_Assist(rtxContext* RT_RESTRICT ctx, GPS_TOW_Assist* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* satID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, "SatID", "satID", -1, "GPS-TOW-Assist");
+   /* tlm-Message */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pd_BitString32At(ctx, cur, &pvalue->tlm_Message, 14, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tlm-Message", -1, "GPS-TOW-Assist");
+   /* tlm-Reserved */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_BitString32At(ctx, cur, &pvalue->tlm_Reserved, 2, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tlm-Reserved", -1, "GPS-TOW-Assist");
+   /* alert */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->alert);
+   RT_CHECK_AT(ctx, cur, stat, 0, "alert", -1, "GPS-TOW-Assist");
+   /* antiSpoof */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->antiSpoof);
+   RT_CHECK_AT(ctx, cur, stat, 0, "antiSpoof", -1, "GPS-TOW-Assist");
+   return 0;
+}
+
+int asn1PD_UMTS_GPS_TOW_Assist(rtxContext* RT_RESTRICT ctx, GPS_TOW_Assist* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GPS_TOW_Assist, pvalue);
+}
+
+RT_MERGED_BODY int dec_GPS_TOW_AssistList(rtxContext* RT_RESTRICT ctx, GPS_TOW_AssistList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r7 */
-         pvalue->u.r7 = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GPS-TOW-AssistList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GPS_TOW_Assist* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GPS_TOW_Assist));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GPS-TOW-Assist", (int32_t)i, "GPS-TOW-AssistList");
+      elem = (GPS_TOW_Assist*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GPS_TOW_Assist(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GPS-TOW-Assist", (int32_t)i, "GPS-TOW-AssistList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_GPS_TOW_AssistList(rtxContext* RT_RESTRICT ctx, GPS_TOW_AssistList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GPS_TOW_AssistList, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_CellID(rtxContext* RT_RESTRICT ctx, GSM_CellID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* gsm-CellID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->gsm_CellID, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gsm-CellID", -1, "GSM-CellID");
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_CellID(rtxContext* RT_RESTRICT ctx, GSM_CellID* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_CellID, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_PriorityInfo(rtxContext* RT_RESTRICT ctx, GSM_PriorityInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* gsmCellGroup */
+   stat = dec_GSM_CellGroup(ctx, &pvalue->gsmCellGroup, cur);
+   RT_CHECK(ctx, stat, 0, "gsmCellGroup", -1, "GSM-PriorityInfo");
+   /* priority */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->priority, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "priority", -1, "GSM-PriorityInfo");
+   /* qRxLevMinGSM */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->qRxLevMinGSM, -58, -13);
+   RT_CHECK_AT(ctx, cur, stat, 0, "qRxLevMinGSM", -1, "GSM-PriorityInfo");
+   /* threshXhigh */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->threshXhigh, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "threshXhigh", -1, "GSM-PriorityInfo");
+   /* threshXlow */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->threshXlow, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "threshXlow", -1, "GSM-PriorityInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_PriorityInfo(rtxContext* RT_RESTRICT ctx, GSM_PriorityInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_PriorityInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_PriorityInfoList(rtxContext* RT_RESTRICT ctx, GSM_PriorityInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r6 */
-         pvalue->u.r6 = (ActiveSetUpdate_later_than_r3_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GSM-PriorityInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GSM_PriorityInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_PriorityInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GSM-PriorityInfo", (int32_t)i, "GSM-PriorityInfoList");
+      elem = (GSM_PriorityInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GSM_PriorityInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GSM_PriorityInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GSM-PriorityInfo", (int32_t)i, "GSM-PriorityInfoList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3* RT_RESTRICT pvalue)
+int asn1PD_UMTS_GSM_PriorityInfoList(rtxContext* RT_RESTRICT ctx, GSM_PriorityInfoList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_GSM_PriorityInfoList, pvalue);
 }
 
-int asn1PD_UMTS_ActiveSetUpdate(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_GSMCellGroupingList(rtxContext* RT_RESTRICT ctx, GSMCellGroupingList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (ActiveSetUpdate_r3*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "ActiveSetUpdate");
-         asn1Init_UMTS_ActiveSetUpdate_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_ActiveSetUpdate_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "ActiveSetUpdate");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (ActiveSetUpdate_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "ActiveSetUpdate");
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "ActiveSetUpdate");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ActiveSetUpdate");
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GSMCellGroupingList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GSM_CellID* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_CellID));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GSM-CellID", (int32_t)i, "GSMCellGroupingList");
+      elem = (GSM_CellID*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GSM_CellID(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GSM-CellID", (int32_t)i, "GSMCellGroupingList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_GSMCellGroupingList(rtxContext* RT_RESTRICT ctx, GSMCellGroupingList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdateComplete-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdateComplete_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdateComplete-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdateComplete(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdateComplete");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateComplete");
-   /* dummy */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "ActiveSetUpdateComplete");
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, "ActiveSetUpdateComplete");
-   }
-   /* dummy3 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->dummy3);
-      RT_CHECK(ctx, stat, 0, "dummy3", -1, "ActiveSetUpdateComplete");
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "ActiveSetUpdateComplete");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdateFailure-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdateFailure_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdateFailure-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdateFailure(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdateFailure");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateFailure");
-   /* failureCause */
-   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat, 0, "failureCause", -1, "ActiveSetUpdateFailure");
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "ActiveSetUpdateFailure");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_r3_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "AssistanceDataDelivery-r3-IEs");
-   /* ue-positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "AssistanceDataDelivery-r3-IEs");
-   }
-   /* ue-positioning-OTDOA-AssistanceData-UEB */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "AssistanceDataDelivery-r3-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_v3a0ext(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v3a0ext");
-   /* sfn-Offset-Validity */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "AssistanceDataDelivery-v3a0ext");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "AssistanceDataDelivery-v3a0ext");
-         pvalue->sfn_Offset_Validity = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v4b0ext-IEs");
-   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-r4ext", -1, "AssistanceDataDelivery-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_v770ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v770ext-IEs");
-   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-UEB-ext", -1, "AssistanceDataDelivery-v770ext-IEs");
-   }
-   /* ue-Positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(ctx, &pvalue->ue_Positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-GPS-AssistanceData", -1, "AssistanceDataDelivery-v770ext-IEs");
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "AssistanceDataDelivery-v770ext-IEs");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_GSMCellGroupingList, pvalue);
 }
 

@@ -6,9006 +6,9436 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_AssistanceDataDelivery_v860ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v860ext-IEs");
-   /* ue-positioning-GANSS-AssistanceData-v860ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v860ext);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData-v860ext", -1, "AssistanceDataDelivery-v860ext-IEs");
-   }
-   return 0;
-}
+/* The bodies of this unit. */
+RT_MERGED_BODY int dec_IdleIntervalInfo(rtxContext* RT_RESTRICT ctx, IdleIntervalInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCell_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqCell_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCell(rtxContext* RT_RESTRICT ctx, NewInterFreqCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellList(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCell_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellList_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCell_r8_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r8_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCell_r8(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellList_r8(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellInfoList_r8(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCell_r9_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r9_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCell_r9(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellList_r9(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, InterFreqSIAcquisition* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, InterFreqCellList_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellMeasuredResultsList(rtxContext* RT_RESTRICT ctx, InterFreqCellMeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqCellMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, InterFreqCellMeasuredResultsList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterFreqEvent(rtxContext* RT_RESTRICT ctx, InterFreqEvent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterFreqEvent_r6(rtxContext* RT_RESTRICT ctx, InterFreqEvent_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqEventList(rtxContext* RT_RESTRICT ctx, InterFreqEventList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqEventList_r6(rtxContext* RT_RESTRICT ctx, InterFreqEventList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ThreholdNonUsedFrequency_deltaList(rtxContext* RT_RESTRICT ctx, ThreholdNonUsedFrequency_deltaList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Inter_FreqEventCriteria_v590ext(rtxContext* RT_RESTRICT ctx, Inter_FreqEventCriteria_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Inter_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, Inter_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqEventResults_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, InterFreqEventResults_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasQuantity_reportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRA_CarrierRSSI(rtxContext* RT_RESTRICT ctx, UTRA_CarrierRSSI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasuredResults(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResults_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqRACHRepCellsList(rtxContext* RT_RESTRICT ctx, InterFreqRACHRepCellsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PeriodicalWithReportingCellStatus(rtxContext* RT_RESTRICT ctx, PeriodicalWithReportingCellStatus* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReportingCellStatusOpt(rtxContext* RT_RESTRICT ctx, ReportingCellStatusOpt* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqReportCriteria(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEvent_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqEventCriteria_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaList_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportingCriteria_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqEvent_r6(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventCriteria_r6(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaList_r6(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, InterFreqReportingCriteria_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqEvent_r7(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventCriteria_r7(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaList_r7(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportingCriteria_r7(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqEventOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaListOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqReportingCriteria_r9(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, InterFreqReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_AdditionInfoList(rtxContext* RT_RESTRICT ctx, RL_AdditionInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RL_InformationLists(rtxContext* RT_RESTRICT ctx, RL_InformationLists* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_AutonomousUpdateMode(rtxContext* RT_RESTRICT ctx, UE_AutonomousUpdateMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterFrequencyMeasurement_r8(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NC_Mode(rtxContext* RT_RESTRICT ctx, NC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_TargetCellDescription_technologySpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, InterRAT_TargetCellDescription_technologySpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_TargetCellDescription(rtxContext* RT_RESTRICT ctx, InterRAT_TargetCellDescription* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATCellInfoIndication(rtxContext* RT_RESTRICT ctx, InterRATCellInfoIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATCellInfoList_r4(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterRATCellInfoList_r6(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATEvent(rtxContext* RT_RESTRICT ctx, InterRATEvent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATEventList(rtxContext* RT_RESTRICT ctx, InterRATEventList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementQuantityGSM(rtxContext* RT_RESTRICT ctx, MeasurementQuantityGSM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasQuantity_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_ratSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasQuantity_ratSpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_ratSpecificInfo_is_2000* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasQuantity_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_ratSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterRATMeasQuantity(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo_is_2000* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementQuantityEUTRA(rtxContext* RT_RESTRICT ctx, MeasurementQuantityEUTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasQuantity_r8_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterRATMeasQuantity_r8(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasuredResults(rtxContext* RT_RESTRICT ctx, InterRATMeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterRATMeasuredResultsList(rtxContext* RT_RESTRICT ctx, InterRATMeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATReportingQuantity_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_ratSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATReportingQuantity_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_ratSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATReportingQuantity(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATReportingCriteria(rtxContext* RT_RESTRICT ctx, InterRATReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterRATReportCriteria(rtxContext* RT_RESTRICT ctx, InterRATReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasurement(rtxContext* RT_RESTRICT ctx, InterRATMeasurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasurement_r4(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterRATMeasurement_r6(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasurement_r8_interRATMeasurementObjects(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r8_interRATMeasurementObjects* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATReportingQuantity_r8_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterRATMeasurement_r8(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRATMeasurement_r9_interRATMeasurementObjects(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r9_interRATMeasurementObjects* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterRATMeasurement_r9(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCell(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellList(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCell_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellList_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RemovedIntraFreqCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellInfoListInfoOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoListInfoOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellInfoListOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCell_r9(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellList_r9(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqSIAcquisitionInfo(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisitionInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisition* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, IntraFreqMeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, IntraFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_IntraFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IntraFrequencyMeasuredResultsListOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasuredResultsListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IP_Length(rtxContext* RT_RESTRICT ctx, IP_Length* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IP_PCCPCH_r4(rtxContext* RT_RESTRICT ctx, IP_PCCPCH_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IP_Spacing(rtxContext* RT_RESTRICT ctx, IP_Spacing* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_IP_Spacing_TDD(rtxContext* RT_RESTRICT ctx, IP_Spacing_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_RLC_BuffersPayload(rtxContext* RT_RESTRICT ctx, RLC_BuffersPayload* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_VarianceOfRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, VarianceOfRLC_BufferPayload* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TrafficVolumeMeasuredResults(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TrafficVolumeMeasuredResultsList(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIR(rtxContext* RT_RESTRICT ctx, SIR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIR_TimeslotList(rtxContext* RT_RESTRICT ctx, SIR_TimeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIR_MeasurementResults(rtxContext* RT_RESTRICT ctx, SIR_MeasurementResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIR_MeasurementList(rtxContext* RT_RESTRICT ctx, SIR_MeasurementList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_QualityMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, QualityMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_QualityMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, QualityMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_QualityMeasuredResults(rtxContext* RT_RESTRICT ctx, QualityMeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_TransmittedPower(rtxContext* RT_RESTRICT ctx, UE_TransmittedPower* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RX_TX_TimeDifferenceType1(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RX_TX_ReportEntry(rtxContext* RT_RESTRICT ctx, UE_RX_TX_ReportEntry* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RX_TX_ReportEntryList(rtxContext* RT_RESTRICT ctx, UE_RX_TX_ReportEntryList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_TransmittedPowerTDD_List(rtxContext* RT_RESTRICT ctx, UE_TransmittedPowerTDD_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_ErrorCause(rtxContext* RT_RESTRICT ctx, UE_Positioning_ErrorCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SatData(rtxContext* RT_RESTRICT ctx, SatData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SatDataList(rtxContext* RT_RESTRICT ctx, SatDataList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_NavModelAddDataReq(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_NavModelAddDataReq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GPS_AdditionalAssistanceDataRequest(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AdditionalAssistanceDataRequest* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_Error(rtxContext* RT_RESTRICT ctx, UE_Positioning_Error* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_MeasuredResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasuredResults(rtxContext* RT_RESTRICT ctx, MeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasuredResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Neighbour_v390ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Neighbour_v390ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Neighbour_v390ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Neighbour_v390ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Neighbour_v390ext(rtxContext* RT_RESTRICT ctx, Neighbour_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NeighbourList_v390ext(rtxContext* RT_RESTRICT ctx, NeighbourList_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_MeasuredResults_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResults_v390ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResults_v590ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_ADVinfo_ext(rtxContext* RT_RESTRICT ctx, T_ADVinfo_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_ErrorCause_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ErrorCause_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_Error_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_Error_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_Error_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Error_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsListOnSecUlFreq(rtxContext* RT_RESTRICT ctx, MeasuredResultsListOnSecUlFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_T_ADVinfo(rtxContext* RT_RESTRICT ctx, T_ADVinfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, MeasuredResults_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, MeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsList_v770xet_element(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v770xet_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsList_v770xet(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v770xet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsList_v860ext_element(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v860ext_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsList_v860ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsOnRACH_currentCell(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MonitoredCellRACH_Result_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MonitoredCellRACH_Result_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MonitoredCellRACH_Result_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MonitoredCellRACH_Result(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MonitoredCellRACH_List(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasuredResultsOnRACH(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MonitoredCellRACH_List_v7g0ext(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_List_v7g0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsOnRACH_v7g0ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_v7g0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasuredResultsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACHinterFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_MethodType(rtxContext* RT_RESTRICT ctx, UE_Positioning_MethodType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_PositioningMethod(rtxContext* RT_RESTRICT ctx, PositioningMethod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_ResponseTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_ResponseTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_Accuracy(rtxContext* RT_RESTRICT ctx, UE_Positioning_Accuracy* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_ReportingQuantity(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_MeasurementInterval(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementInterval* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ThresholdPositionChange(rtxContext* RT_RESTRICT ctx, ThresholdPositionChange* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ThresholdSFN_SFN_Change(rtxContext* RT_RESTRICT ctx, ThresholdSFN_SFN_Change* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ThresholdSFN_GPS_TOW(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GPS_TOW* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_EventSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_EventParam(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParam* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_EventParamList(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParamList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_ReportCriteria(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_IPDL_Parameters(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SFN_SFN_RelTimeDifference1(rtxContext* RT_RESTRICT ctx, SFN_SFN_RelTimeDifference1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SFN_SFN_Drift(rtxContext* RT_RESTRICT ctx, SFN_SFN_Drift* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_OTDOA_SearchWindowSize(rtxContext* RT_RESTRICT ctx, OTDOA_SearchWindowSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_OTDOA_NeighbourCellList(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_OTDOA_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_utran_GPSTimingOfCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTime_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTime(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SFN_TOW_Uncertainty(rtxContext* RT_RESTRICT ctx, SFN_TOW_Uncertainty* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_GPS_DriftRate(rtxContext* RT_RESTRICT ctx, UTRAN_GPS_DriftRate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GPS_ReferenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReferenceLocation(rtxContext* RT_RESTRICT ctx, ReferenceLocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GPS_DGPS_Corrections(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SatelliteStatus(rtxContext* RT_RESTRICT ctx, SatelliteStatus* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SubFrame1Reserved(rtxContext* RT_RESTRICT ctx, SubFrame1Reserved* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_EphemerisParameter(rtxContext* RT_RESTRICT ctx, EphemerisParameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NavigationModelSatInfo(rtxContext* RT_RESTRICT ctx, NavigationModelSatInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NavigationModelSatInfoList(rtxContext* RT_RESTRICT ctx, NavigationModelSatInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_NavigationModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_NavigationModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GPS_IonosphericModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_IonosphericModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GPS_UTC_Model(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_UTC_Model* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_Almanac_sv_GlobalHealth(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_Almanac_sv_GlobalHealth* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GPS_Almanac(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_Almanac* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_AcquisitionAssistance(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_ReferenceCellInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GPS_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_Measurement(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TrafficVolumeReportCriteria(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_TrafficVolumeMeasurement(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIR_TFCS(rtxContext* RT_RESTRICT ctx, SIR_TFCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SIR_TFCS_List(rtxContext* RT_RESTRICT ctx, SIR_TFCS_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_QualityReportingQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, QualityReportingQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_QualityReportingQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, QualityReportingQuantity_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_QualityReportingQuantity(rtxContext* RT_RESTRICT ctx, QualityReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_QualityReportingCriteriaSingle(rtxContext* RT_RESTRICT ctx, QualityReportingCriteriaSingle* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_QualityReportingCriteria(rtxContext* RT_RESTRICT ctx, QualityReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_QualityReportCriteria(rtxContext* RT_RESTRICT ctx, QualityReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_QualityMeasurement(rtxContext* RT_RESTRICT ctx, QualityMeasurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TransmittedPowerThreshold(rtxContext* RT_RESTRICT ctx, TransmittedPowerThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_6AB_Event(rtxContext* RT_RESTRICT ctx, UE_6AB_Event* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_RX_TX_TimeDifferenceThreshold(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_6FG_Event(rtxContext* RT_RESTRICT ctx, UE_6FG_Event* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalEventParam(rtxContext* RT_RESTRICT ctx, UE_InternalEventParam* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalEventParamList(rtxContext* RT_RESTRICT ctx, UE_InternalEventParamList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalReportingCriteria(rtxContext* RT_RESTRICT ctx, UE_InternalReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_InternalReportCriteria(rtxContext* RT_RESTRICT ctx, UE_InternalReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalMeasurement(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasurementType(rtxContext* RT_RESTRICT ctx, MeasurementType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
 
-int asn1PD_UMTS_AssistanceDataDelivery_v920ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v920ext_IEs* RT_RESTRICT pvalue)
+/* Bodies held by other units. */
+RT_DECODE_EXTERN(FrequencyInfo)
+RT_DECODE_EXTERN(CellMeasurementEventResults_LCR_r4)
+RT_DECODE_EXTERN(CellInfo)
+RT_DECODE_EXTERN(RemovedInterFreqCellList)
+RT_DECODE_EXTERN(CellsForInterFreqMeasList)
+RT_DECODE_EXTERN(CellInfo_r4)
+RT_DECODE_EXTERN(CellInfo_r9)
+RT_DECODE_EXTERN(PrimaryCPICH_Info)
+RT_DECODE_EXTERN(CSGInterFreqCellInfoList)
+RT_DECODE_EXTERN(CellMeasuredResults)
+RT_DECODE_EXTERN(CellMeasuredResults_v920ext)
+RT_DECODE_EXTERN(Event2a)
+RT_DECODE_EXTERN(Event2b)
+RT_DECODE_EXTERN(Event2c)
+RT_DECODE_EXTERN(Event2d)
+RT_DECODE_EXTERN(Event2e)
+RT_DECODE_EXTERN(Event2f)
+RT_DECODE_EXTERN(Event2a_r6)
+RT_DECODE_EXTERN(Event2b_r6)
+RT_DECODE_EXTERN(Event2c_r6)
+RT_DECODE_EXTERN(Event2d_r6)
+RT_DECODE_EXTERN(Event2e_r6)
+RT_DECODE_EXTERN(Event2f_r6)
+RT_DECODE_EXTERN(DeltaRSCPPerCell)
+RT_DECODE_EXTERN(IntraFreqMeasQuantity)
+RT_DECODE_EXTERN(PeriodicalReportingCriteria)
+RT_DECODE_EXTERN(ReportingCellStatus)
+RT_DECODE_EXTERN(IntraFreqReportingCriteria)
+RT_DECODE_EXTERN(Event1a_r4)
+RT_DECODE_EXTERN(Event1b_r4)
+RT_DECODE_EXTERN(Event1c)
+RT_DECODE_EXTERN(Event1e)
+RT_DECODE_EXTERN(Event1f)
+RT_DECODE_EXTERN(Event1d)
+RT_DECODE_EXTERN(Event1e_r6)
+RT_DECODE_EXTERN(Event1f_r6)
+RT_DECODE_EXTERN(Event1j_r6)
+RT_DECODE_EXTERN(Event1b_r7)
+RT_DECODE_EXTERN(Event1a_OnSecUlFreq_r9)
+RT_DECODE_EXTERN(Event1b_OnSecUlFreq_r9)
+RT_DECODE_EXTERN(CellReportingQuantities)
+RT_DECODE_EXTERN(RL_RemovalInformationList)
+RT_DECODE_EXTERN(MeasurementValidity)
+RT_DECODE_EXTERN(BSIC)
+RT_DECODE_EXTERN(RemovedInterRATCellList)
+RT_DECODE_EXTERN(NewInterRATCellList)
+RT_DECODE_EXTERN(CellsForInterRATMeasList)
+RT_DECODE_EXTERN(Event3a)
+RT_DECODE_EXTERN(Event3b)
+RT_DECODE_EXTERN(Event3c)
+RT_DECODE_EXTERN(Event3d)
+RT_DECODE_EXTERN(GSM_MeasuredResultsList)
+RT_DECODE_EXTERN(InterRATCellInfoList)
+RT_DECODE_EXTERN(EUTRA_FrequencyList)
+RT_DECODE_EXTERN(EUTRA_FrequencyList_r9)
+RT_DECODE_EXTERN(RemovedIntraFreqCellList)
+RT_DECODE_EXTERN(CellsForIntraFreqMeasList)
+RT_DECODE_EXTERN(CellsForIntraFreqMeasListOnSecULFreq)
+RT_DECODE_EXTERN(CSGIntraFreqCellInfoList)
+RT_DECODE_EXTERN(IntraFreqReportingQuantity)
+RT_DECODE_EXTERN(CellMeasuredResults_r9)
+RT_DECODE_EXTERN(BLER_MeasurementResultsList)
+RT_DECODE_EXTERN(UE_Positioning_OTDOA_Measurement)
+RT_DECODE_EXTERN(UE_Positioning_PositionEstimateInfo)
+RT_DECODE_EXTERN(UE_Positioning_GPS_MeasurementResults)
+RT_DECODE_EXTERN(EXT_UL_TimingAdvance)
+RT_DECODE_EXTERN(GanssRequestedGenericAssistanceDataList)
+RT_DECODE_EXTERN(UE_Positioning_PositionEstimateInfo_v770ext)
+RT_DECODE_EXTERN(UE_Positioning_GPS_MeasurementResults_v770ext)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_MeasuredResults)
+RT_DECODE_EXTERN(GanssRequestedGenericAssistanceDataList_v860ext)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_MeasuredResults_v860ext)
+RT_DECODE_EXTERN(TimeslotISCP_List)
+RT_DECODE_EXTERN(SFN_SFN_ObsTimeDifference)
+RT_DECODE_EXTERN(CellAndChannelIdentity)
+RT_DECODE_EXTERN(BurstModeParameters)
+RT_DECODE_EXTERN(GPS_TOW_AssistList)
+RT_DECODE_EXTERN(EllipsoidPointAltitudeEllipsoide)
+RT_DECODE_EXTERN(DGPS_CorrectionSatInfoList)
+RT_DECODE_EXTERN(AlmanacSatInfoList)
+RT_DECODE_EXTERN(AcquisitionSatInfoList)
+RT_DECODE_EXTERN(BadSatList)
+RT_DECODE_EXTERN(TrafficVolumeReportingCriteria)
+RT_DECODE_EXTERN(TrafficVolumeMeasurementObjectList)
+RT_DECODE_EXTERN(TrafficVolumeMeasQuantity)
+RT_DECODE_EXTERN(TrafficVolumeReportingQuantity)
+RT_DECODE_EXTERN(TFCS_IdentityPlain)
+RT_DECODE_EXTERN(BLER_TransChIdList)
+RT_DECODE_EXTERN(UE_InternalMeasQuantity)
+
+RT_MERGED_BODY int dec_IdleIntervalInfo(rtxContext* RT_RESTRICT ctx, IdleIntervalInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v920ext-IEs");
-   /* ue-positioning-GPS-AssistanceData-v920ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IdleIntervalInfo");
+   /* k */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData_v920ext);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData-v920ext", -1, "AssistanceDataDelivery-v920ext-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->k, 2, 3);
+      RT_CHECK_AT(ctx, cur, stat, 0, "k", -1, "IdleIntervalInfo");
    }
-   /* ue-positioning-GANSS-AssistanceData-v920ext */
+   /* offset */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v920ext);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData-v920ext", -1, "AssistanceDataDelivery-v920ext-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->offset, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "offset", -1, "IdleIntervalInfo");
    }
    return 0;
 }
 
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_IdleIntervalInfo(rtxContext* RT_RESTRICT ctx, IdleIntervalInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IdleIntervalInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCell_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqCell_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
+   /* frequencyInfo */
+   stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqCell-LCR-r4");
+   /* nonFreqRelatedEventResults */
+   stat = dec_CellMeasurementEventResults_LCR_r4(ctx, &pvalue->nonFreqRelatedEventResults, cur);
+   RT_CHECK(ctx, stat, 0, "nonFreqRelatedEventResults", -1, "InterFreqCell-LCR-r4");
    return 0;
 }
 
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterFreqCell_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqCell_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCell_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCell(rtxContext* RT_RESTRICT ctx, NewInterFreqCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-v920ext */
-   stat = asn1PD_UMTS_AssistanceDataDelivery_v920ext_IEs(ctx, &pvalue->assistanceDataDelivery_v920ext);
-   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-v860ext */
-   stat = asn1PD_UMTS_AssistanceDataDelivery_v860ext_IEs(ctx, &pvalue->assistanceDataDelivery_v860ext);
-   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v860ext", -1, 0);
-   /* v920NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(ctx, &pvalue->v920NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-v770ext */
-   stat = asn1PD_UMTS_AssistanceDataDelivery_v770ext_IEs(ctx, &pvalue->assistanceDataDelivery_v770ext);
-   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v770ext", -1, 0);
-   /* v860NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(ctx, &pvalue->v860NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-v4b0ext */
-   stat = asn1PD_UMTS_AssistanceDataDelivery_v4b0ext_IEs(ctx, &pvalue->assistanceDataDelivery_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v4b0ext", -1, 0);
-   /* v770NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-r3-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCell");
+   /* interFreqCellID */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->assistanceDataDelivery_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-r3-add-ext", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell");
    }
-   /* v4b0NonCriticalExtensions */
+   /* frequencyInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell");
    }
+   /* cellInfo */
+   stat = dec_CellInfo(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell");
    return 0;
 }
 
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterFreqCell(rtxContext* RT_RESTRICT ctx, NewInterFreqCell* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-v3a0ext */
-   stat = asn1PD_UMTS_AssistanceDataDelivery_v3a0ext(ctx, &pvalue->assistanceDataDelivery_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v3a0ext", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCell, pvalue);
 }
 
-int asn1PD_UMTS_AssistanceDataDelivery_r3(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-r3 */
-   stat = asn1PD_UMTS_AssistanceDataDelivery_r3_IEs(ctx, &pvalue->assistanceDataDelivery_r3);
-   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-r3", -1, 0);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_later_than_r3(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_NewInterFreqCellList(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (AssistanceDataDelivery_r3*)rtxMemHeapAlloc(ctx, sizeof(AssistanceDataDelivery_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "AssistanceDataDelivery");
-         asn1Init_UMTS_AssistanceDataDelivery_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_AssistanceDataDelivery_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "AssistanceDataDelivery");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (AssistanceDataDelivery_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(AssistanceDataDelivery_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "AssistanceDataDelivery");
-         stat = asn1PD_UMTS_AssistanceDataDelivery_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "AssistanceDataDelivery");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "AssistanceDataDelivery");
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCell", (int32_t)i, "NewInterFreqCellList");
+      elem = (NewInterFreqCell*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCell(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewInterFreqCell(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell", (int32_t)i, "NewInterFreqCellList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterFreqCellList(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellList, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRAN-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRAN-r3-IEs");
-   /* dummy */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoList");
+   /* removedInterFreqCellList */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRAN-r3-IEs");
+      stat = dec_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList");
    }
-   /* activationTime */
+   /* newInterFreqCellList */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellChangeOrderFromUTRAN-r3-IEs");
+      stat = dec_NewInterFreqCellList(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList");
    }
-   /* rab-InformationList */
+   /* cellsForInterFreqMeasList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RAB_InformationList(ctx, &pvalue->rab_InformationList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "CellChangeOrderFromUTRAN-r3-IEs");
+      stat = dec_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList");
    }
-   /* interRAT-TargetCellDescription */
-   stat = asn1PD_UMTS_InterRAT_TargetCellDescription(ctx, &pvalue->interRAT_TargetCellDescription);
-   RT_CHECK(ctx, stat, 0, "interRAT-TargetCellDescription", -1, "CellChangeOrderFromUTRAN-r3-IEs");
    return 0;
 }
 
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sI */
-         pvalue->u.sI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
-         if (pvalue->u.sI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sI", -1, 0);
-         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.sI);
-         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
-         RT_CHECK(ctx, stat, 0, "sI", -1, 0);
-         break;
-      case 1: /* pSI */
-         pvalue->u.pSI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
-         if (pvalue->u.pSI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pSI", -1, 0);
-         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.pSI);
-         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
-         RT_CHECK(ctx, stat, 0, "pSI", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellInfoList, pvalue);
 }
 
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_v590ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_NewInterFreqCell_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRAN-v590ext-IEs");
-   /* geran-SystemInfoType */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
-      RT_CHECK(ctx, stat, 0, "geran-SystemInfoType", -1, "CellChangeOrderFromUTRAN-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellChangeOrderFromUTRAN-v590ext */
-   stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_v590ext);
-   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-v590ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellChangeOrderFromUTRAN-r3-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCell-r4");
+   /* interFreqCellID */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellChangeOrderFromUTRAN_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-r3-add-ext", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r4");
    }
-   /* v590NonCriticalExtensions */
+   /* frequencyInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r4");
    }
+   /* cellInfo */
+   stat = dec_CellInfo_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r4");
    return 0;
 }
 
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterFreqCell_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellChangeOrderFromUTRAN-IEs */
-   stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_IEs);
-   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-IEs", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCell_r4, pvalue);
 }
 
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRAN(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_NewInterFreqCellList_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRAN");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (CellChangeOrderFromUTRAN_r3*)rtxMemHeapAlloc(ctx, sizeof(CellChangeOrderFromUTRAN_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "CellChangeOrderFromUTRAN");
-         asn1Init_UMTS_CellChangeOrderFromUTRAN_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "CellChangeOrderFromUTRAN");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (CellChangeOrderFromUTRAN_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(CellChangeOrderFromUTRAN_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "CellChangeOrderFromUTRAN");
-         stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CellChangeOrderFromUTRAN");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellChangeOrderFromUTRAN");
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCell_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCell-r4", (int32_t)i, "NewInterFreqCellList-r4");
+      elem = (NewInterFreqCell_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCell_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewInterFreqCell_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r4", (int32_t)i, "NewInterFreqCellList-r4");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterFreqCellList_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellList_r4, pvalue);
+}
+
+static int dec_InterFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
-   }
-   /* interRAT-ChangeFailureCause */
-   stat = asn1PD_UMTS_InterRAT_ChangeFailureCause(ctx, &pvalue->interRAT_ChangeFailureCause);
-   RT_CHECK(ctx, stat, 0, "interRAT-ChangeFailureCause", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellChangeOrderFromUTRANFailure-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellChangeOrderFromUTRANFailure_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRANFailure-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellChangeOrderFromUTRANFailure-r3 */
-   stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRANFailure_r3);
-   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRANFailure-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_dummy_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_dummy* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRANFailure");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (CellChangeOrderFromUTRANFailure_r3*)rtxMemHeapAlloc(ctx, sizeof(CellChangeOrderFromUTRANFailure_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "CellChangeOrderFromUTRANFailure");
-         asn1Init_UMTS_CellChangeOrderFromUTRANFailure_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "CellChangeOrderFromUTRANFailure");
-         break;
-      case 1: /* dummy */
-         pvalue->u.dummy = (CellChangeOrderFromUTRANFailure_dummy*)rtxMemHeapAllocZ(ctx, sizeof(CellChangeOrderFromUTRANFailure_dummy));
-         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure");
-         stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellChangeOrderFromUTRANFailure");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v7e0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v7e0ext-IEs");
-   /* supportForTwoDRXSchemesInPCH */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "CellUpdate-v7e0ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "CellUpdate-v7e0ext-IEs");
-         pvalue->supportForTwoDRXSchemesInPCH = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v7g0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v7g0ext-IEs");
-   /* measuredResultsOnRACH-v7g0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
-      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH-v7g0ext", -1, "CellUpdate-v7g0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-v7g0ext */
-   stat = asn1PD_UMTS_CellUpdate_v7g0ext_IEs(ctx, &pvalue->cellUpdate_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v7g0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-r3-add-ext-IEs");
-   /* cellUpdate-v7e0ext */
-   stat = asn1PD_UMTS_CellUpdate_v7e0ext_IEs(ctx, &pvalue->cellUpdate_v7e0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v7e0ext", -1, "CellUpdate-r3-add-ext-IEs");
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, "CellUpdate-r3-add-ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v590ext(rtxContext* RT_RESTRICT ctx, CellUpdate_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v590ext");
-   /* establishmentCause */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->establishmentCause, 0, 31);
-      RT_CHECK(ctx, stat, "EstablishmentCause", "establishmentCause", -1, "CellUpdate-v590ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v690ext_IEs_trafficVolumeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_trafficVolumeIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v690ext_IEs_reconfigurationStatusIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_reconfigurationStatusIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v690ext-IEs");
-   /* cellUpdateCause-ext */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->cellUpdateCause_ext, 0, 3);
-      RT_CHECK(ctx, stat, "CellUpdateCause-ext", "cellUpdateCause-ext", -1, "CellUpdate-v690ext-IEs");
-   }
-   /* trafficVolumeIndicator */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoList-r4");
+   /* removedInterFreqCellList */
    if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeIndicator", -1, "CellUpdate-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "trafficVolumeIndicator", -1, "CellUpdate-v690ext-IEs");
-         pvalue->trafficVolumeIndicator = ui;
-      }
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r4");
    }
-   /* measuredResultsOnRACHinterFreq */
+   /* newInterFreqCellList */
    if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellList_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r4");
+   }
+   /* cellsForInterFreqMeasList */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
-      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "CellUpdate-v690ext-IEs");
-   }
-   /* reconfigurationStatusIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "reconfigurationStatusIndicator", -1, "CellUpdate-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "reconfigurationStatusIndicator", -1, "CellUpdate-v690ext-IEs");
-         pvalue->reconfigurationStatusIndicator = ui;
-      }
+      stat = dec_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r4");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v6b0ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellInfoList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCell_r8_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r8_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraSecondaryFreqIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->intraSecondaryFreqIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "intraSecondaryFreqIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCell_r8_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r8_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCell_r8_modeSpecificInfo_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* noInfo */
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (NewInterFreqCell_r8_modeSpecificInfo_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(NewInterFreqCell_r8_modeSpecificInfo_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = dec_NewInterFreqCell_r8_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCell_r8_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCell_r8(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v6b0ext-IEs");
-   /* mbmsSelectedServices */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCell-r8");
+   /* interFreqCellID */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_SelectedServicesShort(ctx, &pvalue->mbmsSelectedServices);
-      RT_CHECK(ctx, stat, 0, "mbmsSelectedServices", -1, "CellUpdate-v6b0ext-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r8");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r8");
+   }
+   /* cellInfo */
+   stat = dec_CellInfo_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r8");
+   /* modeSpecificInfo */
+   stat = dec_NewInterFreqCell_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "NewInterFreqCell-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCell_r8(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCell_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCellList_r8(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCell_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_r8));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCell-r8", (int32_t)i, "NewInterFreqCellList-r8");
+      elem = (NewInterFreqCell_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCell_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewInterFreqCell_r8(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r8", (int32_t)i, "NewInterFreqCellList-r8");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_v770ext_IEs_csCallType(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_csCallType* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterFreqCellList_r8(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_r8* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellList_r8, pvalue);
 }
 
-int asn1PD_UMTS_CellUpdate_v770ext_IEs_hspdschReception_CellFach(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_hspdschReception_CellFach* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v770ext_IEs_capabilityChangeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_capabilityChangeIndicator* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v770ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_InterFreqCellInfoList_r8(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v770ext-IEs");
-   /* csCallType */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->csCallType, 0, 3);
-      RT_CHECK(ctx, stat, 0, "csCallType", -1, "CellUpdate-v770ext-IEs");
-   }
-   /* hspdschReception-CellFach */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoList-r8");
+   /* removedInterFreqCellList */
    if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "hspdschReception-CellFach", -1, "CellUpdate-v770ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "hspdschReception-CellFach", -1, "CellUpdate-v770ext-IEs");
-         pvalue->hspdschReception_CellFach = ui;
-      }
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r8");
    }
-   /* ueMobilityStateIndicator */
+   /* newInterFreqCellList */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "CellUpdate-v770ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "CellUpdate-v770ext-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
+      pvalue->m |= 0x2u;
+      stat = dec_NewInterFreqCellList_r8(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r8");
    }
-   /* capabilityChangeIndicator */
+   /* cellsForInterFreqMeasList */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "capabilityChangeIndicator", -1, "CellUpdate-v770ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "capabilityChangeIndicator", -1, "CellUpdate-v770ext-IEs");
-         pvalue->capabilityChangeIndicator = ui;
-      }
+      pvalue->m |= 0x4u;
+      stat = dec_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r8");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfCommonEDCH* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterFreqCellInfoList_r8(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellInfoList_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCell_r9_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r9_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraSecondaryFreqIndicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->intraSecondaryFreqIndicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "intraSecondaryFreqIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCell_r9_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r9_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCell_r9_modeSpecificInfo_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* noInfo */
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (NewInterFreqCell_r9_modeSpecificInfo_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(NewInterFreqCell_r9_modeSpecificInfo_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = dec_NewInterFreqCell_r9_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r9_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCell_r9_modeSpecificInfo, pvalue);
 }
 
-int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfMACiis* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfSPSOperation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v860ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_NewInterFreqCell_r9(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v860ext-IEs");
-   /* supportOfCommonEDCH */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCell-r9");
+   /* interFreqCellID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r9");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r9");
+   }
+   /* cellInfo */
+   stat = dec_CellInfo_r9(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r9");
+   /* modeSpecificInfo */
+   stat = dec_NewInterFreqCell_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "NewInterFreqCell-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCell_r9(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCell_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCellList_r9(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellList-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCell_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_r9));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCell-r9", (int32_t)i, "NewInterFreqCellList-r9");
+      elem = (NewInterFreqCell_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCell_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewInterFreqCell_r9(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r9", (int32_t)i, "NewInterFreqCellList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellList_r9(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellList_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryScramblingCode */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryScramblingCode, cur);
+   RT_CHECK(ctx, stat, 0, "primaryScramblingCode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqSIAcquisition_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (InterFreqSIAcquisition_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqSIAcquisition_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_InterFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqSIAcquisition_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, InterFreqSIAcquisition* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* frequencyInfo */
+   stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqSIAcquisition");
+   /* modeSpecificInfo */
+   stat = dec_InterFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "InterFreqSIAcquisition");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, InterFreqSIAcquisition* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqSIAcquisition, pvalue);
+}
+
+static int dec_InterFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoList-r9");
+   /* removedInterFreqCellList */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "CellUpdate-v860ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "CellUpdate-v860ext-IEs");
-         pvalue->supportOfCommonEDCH = ui;
-      }
+      stat = dec_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r9");
    }
-   /* supportOfHS-DSCHDRXOperation */
+   /* newInterFreqCellList */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfHS-DSCHDRXOperation", -1, "CellUpdate-v860ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfHS-DSCHDRXOperation", -1, "CellUpdate-v860ext-IEs");
-         pvalue->supportOfHS_DSCHDRXOperation = ui;
-      }
+      stat = dec_NewInterFreqCellList_r9(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r9");
    }
-   /* supportOfMACiis */
+   /* cellsForInterFreqMeasList */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "CellUpdate-v860ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "CellUpdate-v860ext-IEs");
-         pvalue->supportOfMACiis = ui;
-      }
+      stat = dec_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r9");
    }
-   /* supportOfSPSOperation */
+   /* cSGInterFreqCellInfoList */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "CellUpdate-v860ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "CellUpdate-v860ext-IEs");
-         pvalue->supportOfSPSOperation = ui;
-      }
+      stat = dec_CSGInterFreqCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "cSGInterFreqCellInfoList", -1, "InterFreqCellInfoList-r9");
    }
-   /* supportOfControlChannelDRXOperation */
+   /* interFreqSIAcquisition */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "CellUpdate-v860ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "CellUpdate-v860ext-IEs");
-         pvalue->supportOfControlChannelDRXOperation = ui;
-      }
+      stat = dec_InterFreqSIAcquisition(ctx, &pvalue->interFreqSIAcquisition, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSIAcquisition", -1, "InterFreqCellInfoList-r9");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoList_r9* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellInfoList_r9, pvalue);
 }
 
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_InterFreqCellList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, InterFreqCellList_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-v860ext */
-   stat = asn1PD_UMTS_CellUpdate_v860ext_IEs(ctx, &pvalue->cellUpdate_v860ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-v770ext */
-   stat = asn1PD_UMTS_CellUpdate_v770ext_IEs(ctx, &pvalue->cellUpdate_v770ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v770ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellList-LCR-r4-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      InterFreqCell_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqCell_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "InterFreqCell-LCR-r4", (int32_t)i, "InterFreqCellList-LCR-r4-ext");
+      elem = (InterFreqCell_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_InterFreqCell_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_InterFreqCell_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "InterFreqCell-LCR-r4", (int32_t)i, "InterFreqCellList-LCR-r4-ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterFreqCellList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, InterFreqCellList_LCR_r4_ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-v6b0ext */
-   stat = asn1PD_UMTS_CellUpdate_v6b0ext_IEs(ctx, &pvalue->cellUpdate_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v6b0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellList_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellMeasuredResultsList(rtxContext* RT_RESTRICT ctx, InterFreqCellMeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellMeasuredResultsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellMeasuredResults* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellMeasuredResults", (int32_t)i, "InterFreqCellMeasuredResultsList");
+      elem = (CellMeasuredResults*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellMeasuredResults(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellMeasuredResults(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellMeasuredResults", (int32_t)i, "InterFreqCellMeasuredResultsList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterFreqCellMeasuredResultsList(rtxContext* RT_RESTRICT ctx, InterFreqCellMeasuredResultsList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-v690ext */
-   stat = asn1PD_UMTS_CellUpdate_v690ext_IEs(ctx, &pvalue->cellUpdate_v690ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v690ext", -1, 0);
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellMeasuredResultsList, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqCellMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, InterFreqCellMeasuredResultsList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqCellMeasuredResultsList-v920ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellMeasuredResults_v920ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults_v920ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellMeasuredResults-v920ext", (int32_t)i, "InterFreqCellMeasuredResultsList-v920ext");
+      elem = (CellMeasuredResults_v920ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellMeasuredResults_v920ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellMeasuredResults_v920ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-v920ext", (int32_t)i, "InterFreqCellMeasuredResultsList-v920ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterFreqCellMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, InterFreqCellMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-v590ext */
-   stat = asn1PD_UMTS_CellUpdate_v590ext(ctx, &pvalue->cellUpdate_v590ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_InterFreqCellMeasuredResultsList_v920ext, pvalue);
 }
 
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      {
-         rtxDynBitStr carrier;
-         rtxContext outer;
-         stat = pd_DynBitString(ctx, &carrier);
-         RT_CHECK(ctx, stat, 0, "cellUpdate-r3-add-ext", -1, 0);
-         rtxCopyContext(&outer, ctx);
-         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
-         if (stat == 0) {
-            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
-            stat = asn1PD_UMTS_CellUpdate_r3_add_ext_IEs(ctx, &pvalue->cellUpdate_r3_add_ext);
-            RT_CHECK(ctx, stat, 0, "cellUpdate-r3-add-ext", -1, 0);
-         }
-         rtxCopyContext(ctx, &outer);
-         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
-      }
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return stat;
-}
-
-int asn1PD_UMTS_CellUpdate(rtxContext* RT_RESTRICT ctx, CellUpdate* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate");
-   /* u-RNTI */
-   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "CellUpdate");
-   /* startList */
-   stat = asn1PD_UMTS_STARTList(ctx, &pvalue->startList);
-   RT_CHECK(ctx, stat, 0, "startList", -1, "CellUpdate");
-   /* am-RLC-ErrorIndicationRb2-3or4 */
-   stat = rtxDecBitInline(ctx, &pvalue->am_RLC_ErrorIndicationRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "am-RLC-ErrorIndicationRb2-3or4", -1, "CellUpdate");
-   /* am-RLC-ErrorIndicationRb5orAbove */
-   stat = rtxDecBitInline(ctx, &pvalue->am_RLC_ErrorIndicationRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "am-RLC-ErrorIndicationRb5orAbove", -1, "CellUpdate");
-   /* cellUpdateCause */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cellUpdateCause, 0, 7);
-   RT_CHECK(ctx, stat, "CellUpdateCause", "cellUpdateCause", -1, "CellUpdate");
-   /* failureCause */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FailureCauseWithProtErrTrId(ctx, &pvalue->failureCause);
-      RT_CHECK(ctx, stat, 0, "failureCause", -1, "CellUpdate");
-   }
-   /* rb-timer-indicator */
-   stat = asn1PD_UMTS_Rb_timer_indicator(ctx, &pvalue->rb_timer_indicator);
-   RT_CHECK(ctx, stat, 0, "rb-timer-indicator", -1, "CellUpdate");
-   /* measuredResultsOnRACH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
-      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "CellUpdate");
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "CellUpdate");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
+static int dec_InterFreqEvent(rtxContext* RT_RESTRICT ctx, InterFreqEvent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqEvent");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+      case 0: /* event2a */
+         pvalue->u.event2a = (Event2a*)rtxMemHeapAlloc(ctx, sizeof(Event2a));
+         if (pvalue->u.event2a == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event2a", -1, "InterFreqEvent");
+         asn1Init_UMTS_Event2a(pvalue->u.event2a);
+         stat = dec_Event2a(ctx, pvalue->u.event2a, cur);
+         RT_CHECK(ctx, stat, 0, "event2a", -1, "InterFreqEvent");
          break;
-      case 1: /* tdd */
+      case 1: /* event2b */
+         pvalue->u.event2b = (Event2b*)rtxMemHeapAlloc(ctx, sizeof(Event2b));
+         if (pvalue->u.event2b == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event2b", -1, "InterFreqEvent");
+         asn1Init_UMTS_Event2b(pvalue->u.event2b);
+         stat = dec_Event2b(ctx, pvalue->u.event2b, cur);
+         RT_CHECK(ctx, stat, 0, "event2b", -1, "InterFreqEvent");
+         break;
+      case 2: /* event2c */
+         pvalue->u.event2c = (Event2c*)rtxMemHeapAlloc(ctx, sizeof(Event2c));
+         if (pvalue->u.event2c == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event2c", -1, "InterFreqEvent");
+         asn1Init_UMTS_Event2c(pvalue->u.event2c);
+         stat = dec_Event2c(ctx, pvalue->u.event2c, cur);
+         RT_CHECK(ctx, stat, 0, "event2c", -1, "InterFreqEvent");
+         break;
+      case 3: /* event2d */
+         pvalue->u.event2d = (Event2d*)rtxMemHeapAlloc(ctx, sizeof(Event2d));
+         if (pvalue->u.event2d == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event2d", -1, "InterFreqEvent");
+         asn1Init_UMTS_Event2d(pvalue->u.event2d);
+         stat = dec_Event2d(ctx, pvalue->u.event2d, cur);
+         RT_CHECK(ctx, stat, 0, "event2d", -1, "InterFreqEvent");
+         break;
+      case 4: /* event2e */
+         pvalue->u.event2e = (Event2e*)rtxMemHeapAlloc(ctx, sizeof(Event2e));
+         if (pvalue->u.event2e == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event2e", -1, "InterFreqEvent");
+         asn1Init_UMTS_Event2e(pvalue->u.event2e);
+         stat = dec_Event2e(ctx, pvalue->u.event2e, cur);
+         RT_CHECK(ctx, stat, 0, "event2e", -1, "InterFreqEvent");
+         break;
+      case 5: /* event2f */
+         pvalue->u.event2f = (Event2f*)rtxMemHeapAlloc(ctx, sizeof(Event2f));
+         if (pvalue->u.event2f == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event2f", -1, "InterFreqEvent");
+         asn1Init_UMTS_Event2f(pvalue->u.event2f);
+         stat = dec_Event2f(ctx, pvalue->u.event2f, cur);
+         RT_CHECK(ctx, stat, 0, "event2f", -1, "InterFreqEvent");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqEvent");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterFreqEvent(rtxContext* RT_RESTRICT ctx, InterFreqEvent* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_InterFreqEvent, pvalue);
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+static int dec_InterFreqEvent_r6(rtxContext* RT_RESTRICT ctx, InterFreqEvent_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqEvent-r6");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+      case 0: /* event2a */
+         pvalue->u.event2a = (Event2a_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2a_r6));
+         if (pvalue->u.event2a == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event2a", -1, "InterFreqEvent-r6");
+         asn1Init_UMTS_Event2a_r6(pvalue->u.event2a);
+         stat = dec_Event2a_r6(ctx, pvalue->u.event2a, cur);
+         RT_CHECK(ctx, stat, 0, "event2a", -1, "InterFreqEvent-r6");
          break;
-      case 1: /* tdd */
+      case 1: /* event2b */
+         pvalue->u.event2b = (Event2b_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2b_r6));
+         if (pvalue->u.event2b == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event2b", -1, "InterFreqEvent-r6");
+         asn1Init_UMTS_Event2b_r6(pvalue->u.event2b);
+         stat = dec_Event2b_r6(ctx, pvalue->u.event2b, cur);
+         RT_CHECK(ctx, stat, 0, "event2b", -1, "InterFreqEvent-r6");
+         break;
+      case 2: /* event2c */
+         pvalue->u.event2c = (Event2c_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2c_r6));
+         if (pvalue->u.event2c == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event2c", -1, "InterFreqEvent-r6");
+         asn1Init_UMTS_Event2c_r6(pvalue->u.event2c);
+         stat = dec_Event2c_r6(ctx, pvalue->u.event2c, cur);
+         RT_CHECK(ctx, stat, 0, "event2c", -1, "InterFreqEvent-r6");
+         break;
+      case 3: /* event2d */
+         pvalue->u.event2d = (Event2d_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2d_r6));
+         if (pvalue->u.event2d == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event2d", -1, "InterFreqEvent-r6");
+         asn1Init_UMTS_Event2d_r6(pvalue->u.event2d);
+         stat = dec_Event2d_r6(ctx, pvalue->u.event2d, cur);
+         RT_CHECK(ctx, stat, 0, "event2d", -1, "InterFreqEvent-r6");
+         break;
+      case 4: /* event2e */
+         pvalue->u.event2e = (Event2e_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2e_r6));
+         if (pvalue->u.event2e == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event2e", -1, "InterFreqEvent-r6");
+         asn1Init_UMTS_Event2e_r6(pvalue->u.event2e);
+         stat = dec_Event2e_r6(ctx, pvalue->u.event2e, cur);
+         RT_CHECK(ctx, stat, 0, "event2e", -1, "InterFreqEvent-r6");
+         break;
+      case 5: /* event2f */
+         pvalue->u.event2f = (Event2f_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2f_r6));
+         if (pvalue->u.event2f == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event2f", -1, "InterFreqEvent-r6");
+         asn1Init_UMTS_Event2f_r6(pvalue->u.event2f);
+         stat = dec_Event2f_r6(ctx, pvalue->u.event2f, cur);
+         RT_CHECK(ctx, stat, 0, "event2f", -1, "InterFreqEvent-r6");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqEvent-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_r3_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterFreqEvent_r6(rtxContext* RT_RESTRICT ctx, InterFreqEvent_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqEvent_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqEventList(rtxContext* RT_RESTRICT ctx, InterFreqEventList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqEventList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      InterFreqEvent* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqEvent));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "InterFreqEvent", (int32_t)i, "InterFreqEventList");
+      elem = (InterFreqEvent*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_InterFreqEvent(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_InterFreqEvent(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "InterFreqEvent", (int32_t)i, "InterFreqEventList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqEventList(rtxContext* RT_RESTRICT ctx, InterFreqEventList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqEventList, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqEventList_r6(rtxContext* RT_RESTRICT ctx, InterFreqEventList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqEventList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      InterFreqEvent_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqEvent_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "InterFreqEvent-r6", (int32_t)i, "InterFreqEventList-r6");
+      elem = (InterFreqEvent_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_InterFreqEvent_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_InterFreqEvent_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "InterFreqEvent-r6", (int32_t)i, "InterFreqEventList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqEventList_r6(rtxContext* RT_RESTRICT ctx, InterFreqEventList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqEventList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasuredResultsList-v590ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DeltaRSCPPerCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DeltaRSCPPerCell));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DeltaRSCPPerCell", (int32_t)i, "InterFrequencyMeasuredResultsList-v590ext");
+      elem = (DeltaRSCPPerCell*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DeltaRSCPPerCell(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DeltaRSCPPerCell(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "InterFrequencyMeasuredResultsList-v590ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFrequencyMeasuredResultsList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_ThreholdNonUsedFrequency_deltaList(rtxContext* RT_RESTRICT ctx, ThreholdNonUsedFrequency_deltaList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ThreholdNonUsedFrequency-deltaList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DeltaRSCPPerCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DeltaRSCPPerCell));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DeltaRSCPPerCell", (int32_t)i, "ThreholdNonUsedFrequency-deltaList");
+      elem = (DeltaRSCPPerCell*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DeltaRSCPPerCell(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DeltaRSCPPerCell(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "ThreholdNonUsedFrequency-deltaList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ThreholdNonUsedFrequency_deltaList(rtxContext* RT_RESTRICT ctx, ThreholdNonUsedFrequency_deltaList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ThreholdNonUsedFrequency_deltaList, pvalue);
+}
+
+RT_MERGED_BODY int dec_Inter_FreqEventCriteria_v590ext(rtxContext* RT_RESTRICT ctx, Inter_FreqEventCriteria_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 23);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellUpdateConfirm-r3-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 22)) {
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Inter-FreqEventCriteria-v590ext");
+   /* threholdUsedFrequency-delta */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->threholdUsedFrequency_delta, -5, -1);
+   RT_CHECK_AT(ctx, cur, stat, "DeltaRSCP", "threholdUsedFrequency-delta", -1, "Inter-FreqEventCriteria-v590ext");
+   /* threholdNonUsedFrequency-deltaList */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r3-IEs");
+      stat = dec_ThreholdNonUsedFrequency_deltaList(ctx, &pvalue->threholdNonUsedFrequency_deltaList, cur);
+      RT_CHECK(ctx, stat, 0, "threholdNonUsedFrequency-deltaList", -1, "Inter-FreqEventCriteria-v590ext");
    }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 21)) {
+   return 0;
+}
+
+int asn1PD_UMTS_Inter_FreqEventCriteria_v590ext(rtxContext* RT_RESTRICT ctx, Inter_FreqEventCriteria_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Inter_FreqEventCriteria_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_Inter_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, Inter_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Inter-FreqEventCriteriaList-v590ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Inter_FreqEventCriteria_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Inter_FreqEventCriteria_v590ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Inter-FreqEventCriteria-v590ext", (int32_t)i, "Inter-FreqEventCriteriaList-v590ext");
+      elem = (Inter_FreqEventCriteria_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_Inter_FreqEventCriteria_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_Inter_FreqEventCriteria_v590ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Inter-FreqEventCriteria-v590ext", (int32_t)i, "Inter-FreqEventCriteriaList-v590ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Inter_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, Inter_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Inter_FreqEventCriteriaList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFrequencyMeasuredResultsList-v590ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DeltaRSCPPerCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DeltaRSCPPerCell));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DeltaRSCPPerCell", (int32_t)i, "IntraFrequencyMeasuredResultsList-v590ext");
+      elem = (DeltaRSCPPerCell*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DeltaRSCPPerCell(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DeltaRSCPPerCell(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "IntraFrequencyMeasuredResultsList-v590ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFrequencyMeasuredResultsList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqEventResults_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, InterFreqEventResults_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqEventResults-LCR-r4-ext");
+   /* eventID */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->eventID, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults-LCR-r4-ext");
+   /* interFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqCellList_LCR_r4_ext(ctx, &pvalue->interFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellList", -1, "InterFreqEventResults-LCR-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqEventResults_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, InterFreqEventResults_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqEventResults_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqMeasQuantity */
+   stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* freqQualityEstimateQuantity-FDD */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->freqQualityEstimateQuantity_FDD, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "FreqQualityEstimateQuantity-FDD", "freqQualityEstimateQuantity-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* freqQualityEstimateQuantity-TDD */
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, "FreqQualityEstimateQuantity-TDD", "freqQualityEstimateQuantity-TDD", -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, "FreqQualityEstimateQuantity-TDD", "freqQualityEstimateQuantity-TDD", -1, 0);
+      pvalue->freqQualityEstimateQuantity_TDD = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* filterCoefficient */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->filterCoefficient, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
+   }
+   else {
+      pvalue->filterCoefficient = 0;
+   }
+   /* modeSpecificInfo */
+   stat = dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasQuantity_reportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, 0);
+         asn1Init_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, 0);
+         break;
+      case 1: /* interFreqReportingCriteria */
+         pvalue->u.interFreqReportingCriteria = (InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria));
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFreqReportingCriteria", -1, 0);
+         asn1Init_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(pvalue->u.interFreqReportingCriteria);
+         stat = dec_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity_reportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasQuantity_reportingCriteria, pvalue);
+}
+
+static int dec_InterFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* reportingCriteria */
+   stat = dec_InterFreqMeasQuantity_reportingCriteria(ctx, &pvalue->reportingCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportingCriteria", -1, "InterFreqMeasQuantity");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, InterFreqMeasQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRA_CarrierRSSI(rtxContext* RT_RESTRICT ctx, UTRA_CarrierRSSI* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTRA-CarrierRSSI");
+   return 0;
+}
+
+int asn1PD_UMTS_UTRA_CarrierRSSI(rtxContext* RT_RESTRICT ctx, UTRA_CarrierRSSI* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRA_CarrierRSSI, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasuredResults(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasuredResults");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqMeasuredResults");
+   }
+   /* utra-CarrierRSSI */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r3-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->utra_CarrierRSSI, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "UTRA-CarrierRSSI", "utra-CarrierRSSI", -1, "InterFreqMeasuredResults");
    }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 20)) {
+   /* interFreqCellMeasuredResultsList */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r3-IEs");
+      stat = dec_InterFreqCellMeasuredResultsList(ctx, &pvalue->interFreqCellMeasuredResultsList, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellMeasuredResultsList", -1, "InterFreqMeasuredResults");
    }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasuredResults(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasuredResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResults_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasuredResults-v920ext");
+   /* interFreqCellMeasuredResultsList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqCellMeasuredResultsList_v920ext(ctx, &pvalue->interFreqCellMeasuredResultsList, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellMeasuredResultsList", -1, "InterFreqMeasuredResults-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResults_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasuredResults_v920ext, pvalue);
+}
+
+static int dec_InterFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasuredResultsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      InterFreqMeasuredResults* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqMeasuredResults));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "InterFreqMeasuredResults", (int32_t)i, "InterFreqMeasuredResultsList");
+      elem = (InterFreqMeasuredResults*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_InterFreqMeasuredResults(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_InterFreqMeasuredResults(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "InterFreqMeasuredResults", (int32_t)i, "InterFreqMeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResultsList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasuredResultsList, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasuredResultsList-v920ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      InterFreqMeasuredResults_v920ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqMeasuredResults_v920ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "InterFreqMeasuredResults-v920ext", (int32_t)i, "InterFreqMeasuredResultsList-v920ext");
+      elem = (InterFreqMeasuredResults_v920ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_InterFreqMeasuredResults_v920ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_InterFreqMeasuredResults_v920ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "InterFreqMeasuredResults-v920ext", (int32_t)i, "InterFreqMeasuredResultsList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, InterFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqMeasuredResultsList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqRACHRepCellsList(rtxContext* RT_RESTRICT ctx, InterFreqRACHRepCellsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqRACHRepCellsList");
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "InterFreqRACHRepCellsList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "InterFreqRACHRepCellsList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "InterFreqRACHRepCellsList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRACHRepCellsList(rtxContext* RT_RESTRICT ctx, InterFreqRACHRepCellsList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqRACHRepCellsList, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqReportingCriteria");
+   /* interFreqEventList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqEventList(ctx, &pvalue->interFreqEventList, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqEventList", -1, "InterFreqReportingCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, InterFreqReportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqReportingCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_PeriodicalWithReportingCellStatus(rtxContext* RT_RESTRICT ctx, PeriodicalWithReportingCellStatus* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PeriodicalWithReportingCellStatus");
+   /* periodicalReportingCriteria */
+   stat = dec_PeriodicalReportingCriteria(ctx, &pvalue->periodicalReportingCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "PeriodicalWithReportingCellStatus");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "PeriodicalWithReportingCellStatus");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PeriodicalWithReportingCellStatus(rtxContext* RT_RESTRICT ctx, PeriodicalWithReportingCellStatus* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PeriodicalWithReportingCellStatus, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReportingCellStatusOpt(rtxContext* RT_RESTRICT ctx, ReportingCellStatusOpt* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReportingCellStatusOpt");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "ReportingCellStatusOpt");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ReportingCellStatusOpt(rtxContext* RT_RESTRICT ctx, ReportingCellStatusOpt* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReportingCellStatusOpt, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqReportCriteria(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqReportCriteria");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         asn1Init_UMTS_IntraFreqReportingCriteria(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         break;
+      case 1: /* interFreqReportingCriteria */
+         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria));
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         asn1Init_UMTS_InterFreqReportingCriteria(pvalue->u.interFreqReportingCriteria);
+         stat = dec_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         break;
+      case 2: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria");
+         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria");
+         break;
+      case 3: /* noReporting */
+         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
+         if (pvalue->u.noReporting == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "noReporting", -1, "InterFreqReportCriteria");
+         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
+         stat = dec_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqReportCriteria(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqReportCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEvent_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEvent-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e1a */
+         pvalue->u.e1a = (Event1a_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_r4));
+         if (pvalue->u.e1a == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEvent-r4");
+         asn1Init_UMTS_Event1a_r4(pvalue->u.e1a);
+         stat = dec_Event1a_r4(ctx, pvalue->u.e1a, cur);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r4");
+         break;
+      case 1: /* e1b */
+         pvalue->u.e1b = (Event1b_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1b_r4));
+         if (pvalue->u.e1b == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEvent-r4");
+         asn1Init_UMTS_Event1b_r4(pvalue->u.e1b);
+         stat = dec_Event1b_r4(ctx, pvalue->u.e1b, cur);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r4");
+         break;
+      case 2: /* e1c */
+         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
+         if (pvalue->u.e1c == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEvent-r4");
+         stat = dec_Event1c(ctx, pvalue->u.e1c, cur);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r4");
+         break;
+      case 3: /* e1d */
+         break;
+      case 4: /* e1e */
+         pvalue->u.e1e = (Event1e*)rtxMemHeapAllocZ(ctx, sizeof(Event1e));
+         if (pvalue->u.e1e == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEvent-r4");
+         stat = dec_Event1e(ctx, pvalue->u.e1e, cur);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r4");
+         break;
+      case 5: /* e1f */
+         pvalue->u.e1f = (Event1f*)rtxMemHeapAllocZ(ctx, sizeof(Event1f));
+         if (pvalue->u.e1f == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEvent-r4");
+         stat = dec_Event1f(ctx, pvalue->u.e1f, cur);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r4");
+         break;
+      case 6: /* e1g */
+         break;
+      case 7: /* e1h */
+         stat = pd_ConsInt16At(ctx, cur, &pvalue->u.e1h, -115, 165);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-r4");
+         break;
+      case 8: /* e1i */
+         stat = pd_ConsInt16At(ctx, cur, &pvalue->u.e1i, -115, 165);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEvent_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEvent_r4, pvalue);
+}
+
+static int dec_IntraFreqEventCriteria_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteria-r4");
+   /* event */
+   stat = dec_IntraFreqEvent_r4(ctx, &pvalue->event, cur);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r4");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r4");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r4");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteria_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteria_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaList_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IntraFreqEventCriteria_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "IntraFreqEventCriteria-r4", (int32_t)i, "IntraFreqEventCriteriaList-r4");
+      elem = (IntraFreqEventCriteria_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_IntraFreqEventCriteria_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_IntraFreqEventCriteria_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r4", (int32_t)i, "IntraFreqEventCriteriaList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteriaList_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteriaList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportingCriteria_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingCriteria-r4");
+   /* eventCriteriaList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqEventCriteriaList_r4(ctx, &pvalue->eventCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingCriteria_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportingCriteria_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqReportCriteria-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r4));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         asn1Init_UMTS_IntraFreqReportingCriteria_r4(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         break;
+      case 1: /* interFreqReportingCriteria */
+         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria));
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         asn1Init_UMTS_InterFreqReportingCriteria(pvalue->u.interFreqReportingCriteria);
+         stat = dec_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         break;
+      case 2: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         break;
+      case 3: /* noReporting */
+         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
+         if (pvalue->u.noReporting == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "noReporting", -1, "InterFreqReportCriteria-r4");
+         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
+         stat = dec_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqReportCriteria_r4, pvalue);
+}
+
+static int dec_IntraFreqEvent_r6(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEvent-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e1a */
+         pvalue->u.e1a = (Event1a_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_r4));
+         if (pvalue->u.e1a == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEvent-r6");
+         asn1Init_UMTS_Event1a_r4(pvalue->u.e1a);
+         stat = dec_Event1a_r4(ctx, pvalue->u.e1a, cur);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r6");
+         break;
+      case 1: /* e1b */
+         pvalue->u.e1b = (Event1b_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1b_r4));
+         if (pvalue->u.e1b == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEvent-r6");
+         asn1Init_UMTS_Event1b_r4(pvalue->u.e1b);
+         stat = dec_Event1b_r4(ctx, pvalue->u.e1b, cur);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r6");
+         break;
+      case 2: /* e1c */
+         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
+         if (pvalue->u.e1c == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEvent-r6");
+         stat = dec_Event1c(ctx, pvalue->u.e1c, cur);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r6");
+         break;
+      case 3: /* e1d */
+         pvalue->u.e1d = (Event1d*)rtxMemHeapAlloc(ctx, sizeof(Event1d));
+         if (pvalue->u.e1d == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1d", -1, "IntraFreqEvent-r6");
+         asn1Init_UMTS_Event1d(pvalue->u.e1d);
+         stat = dec_Event1d(ctx, pvalue->u.e1d, cur);
+         RT_CHECK(ctx, stat, 0, "e1d", -1, "IntraFreqEvent-r6");
+         break;
+      case 4: /* e1e */
+         pvalue->u.e1e = (Event1e_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1e_r6));
+         if (pvalue->u.e1e == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEvent-r6");
+         stat = dec_Event1e_r6(ctx, pvalue->u.e1e, cur);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r6");
+         break;
+      case 5: /* e1f */
+         pvalue->u.e1f = (Event1f_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1f_r6));
+         if (pvalue->u.e1f == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEvent-r6");
+         stat = dec_Event1f_r6(ctx, pvalue->u.e1f, cur);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r6");
+         break;
+      case 6: /* e1g */
+         break;
+      case 7: /* e1h */
+         stat = pd_ConsInt16At(ctx, cur, &pvalue->u.e1h, -120, 165);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r6");
+         break;
+      case 8: /* e1i */
+         stat = pd_ConsInt16At(ctx, cur, &pvalue->u.e1i, -120, 165);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r6");
+         break;
+      case 9: /* e1j */
+         pvalue->u.e1j = (Event1j_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1j_r6));
+         if (pvalue->u.e1j == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1j", -1, "IntraFreqEvent-r6");
+         stat = dec_Event1j_r6(ctx, pvalue->u.e1j, cur);
+         RT_CHECK(ctx, stat, 0, "e1j", -1, "IntraFreqEvent-r6");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEvent_r6(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEvent_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventCriteria_r6(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteria-r6");
+   /* event */
+   stat = dec_IntraFreqEvent_r6(ctx, &pvalue->event, cur);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r6");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r6");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r6");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteria_r6(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteria_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaList_r6(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IntraFreqEventCriteria_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "IntraFreqEventCriteria-r6", (int32_t)i, "IntraFreqEventCriteriaList-r6");
+      elem = (IntraFreqEventCriteria_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_IntraFreqEventCriteria_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_IntraFreqEventCriteria_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r6", (int32_t)i, "IntraFreqEventCriteriaList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteriaList_r6(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteriaList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingCriteria-r6");
+   /* eventCriteriaList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqEventCriteriaList_r6(ctx, &pvalue->eventCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportingCriteria_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, InterFreqReportingCriteria_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqReportingCriteria-r6");
+   /* interFreqEventList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqEventList_r6(ctx, &pvalue->interFreqEventList, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqEventList", -1, "InterFreqReportingCriteria-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, InterFreqReportingCriteria_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqReportingCriteria_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqReportCriteria-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r6));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         asn1Init_UMTS_IntraFreqReportingCriteria_r6(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         break;
+      case 1: /* interFreqReportingCriteria */
+         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria_r6));
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         asn1Init_UMTS_InterFreqReportingCriteria_r6(pvalue->u.interFreqReportingCriteria);
+         stat = dec_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         break;
+      case 2: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         break;
+      case 3: /* noReporting */
+         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
+         if (pvalue->u.noReporting == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "noReporting", -1, "InterFreqReportCriteria-r6");
+         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
+         stat = dec_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r6");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqReportCriteria_r6, pvalue);
+}
+
+static int dec_IntraFreqEvent_r7(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEvent-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e1a */
+         pvalue->u.e1a = (Event1a_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_r4));
+         if (pvalue->u.e1a == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEvent-r7");
+         asn1Init_UMTS_Event1a_r4(pvalue->u.e1a);
+         stat = dec_Event1a_r4(ctx, pvalue->u.e1a, cur);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r7");
+         break;
+      case 1: /* e1b */
+         pvalue->u.e1b = (Event1b_r7*)rtxMemHeapAlloc(ctx, sizeof(Event1b_r7));
+         if (pvalue->u.e1b == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEvent-r7");
+         asn1Init_UMTS_Event1b_r7(pvalue->u.e1b);
+         stat = dec_Event1b_r7(ctx, pvalue->u.e1b, cur);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r7");
+         break;
+      case 2: /* e1c */
+         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
+         if (pvalue->u.e1c == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEvent-r7");
+         stat = dec_Event1c(ctx, pvalue->u.e1c, cur);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r7");
+         break;
+      case 3: /* e1d */
+         pvalue->u.e1d = (Event1d*)rtxMemHeapAlloc(ctx, sizeof(Event1d));
+         if (pvalue->u.e1d == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1d", -1, "IntraFreqEvent-r7");
+         asn1Init_UMTS_Event1d(pvalue->u.e1d);
+         stat = dec_Event1d(ctx, pvalue->u.e1d, cur);
+         RT_CHECK(ctx, stat, 0, "e1d", -1, "IntraFreqEvent-r7");
+         break;
+      case 4: /* e1e */
+         pvalue->u.e1e = (Event1e_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1e_r6));
+         if (pvalue->u.e1e == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEvent-r7");
+         stat = dec_Event1e_r6(ctx, pvalue->u.e1e, cur);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r7");
+         break;
+      case 5: /* e1f */
+         pvalue->u.e1f = (Event1f_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1f_r6));
+         if (pvalue->u.e1f == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEvent-r7");
+         stat = dec_Event1f_r6(ctx, pvalue->u.e1f, cur);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r7");
+         break;
+      case 6: /* e1g */
+         break;
+      case 7: /* e1h */
+         stat = pd_ConsInt16At(ctx, cur, &pvalue->u.e1h, -120, 165);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r7");
+         break;
+      case 8: /* e1i */
+         stat = pd_ConsInt16At(ctx, cur, &pvalue->u.e1i, -120, 165);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r7");
+         break;
+      case 9: /* e1j */
+         pvalue->u.e1j = (Event1j_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1j_r6));
+         if (pvalue->u.e1j == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1j", -1, "IntraFreqEvent-r7");
+         stat = dec_Event1j_r6(ctx, pvalue->u.e1j, cur);
+         RT_CHECK(ctx, stat, 0, "e1j", -1, "IntraFreqEvent-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEvent_r7(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEvent_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventCriteria_r7(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteria-r7");
+   /* event */
+   stat = dec_IntraFreqEvent_r7(ctx, &pvalue->event, cur);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r7");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r7");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r7");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteria_r7(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteria_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaList_r7(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IntraFreqEventCriteria_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "IntraFreqEventCriteria-r7", (int32_t)i, "IntraFreqEventCriteriaList-r7");
+      elem = (IntraFreqEventCriteria_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_IntraFreqEventCriteria_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_IntraFreqEventCriteria_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r7", (int32_t)i, "IntraFreqEventCriteriaList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteriaList_r7(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteriaList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportingCriteria_r7(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingCriteria-r7");
+   /* eventCriteriaList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingCriteria_r7(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportingCriteria_r7, pvalue);
+}
+
+static int dec_InterFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqReportCriteria-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r7));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         asn1Init_UMTS_IntraFreqReportingCriteria_r7(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         break;
+      case 1: /* interFreqReportingCriteria */
+         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria_r6));
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         asn1Init_UMTS_InterFreqReportingCriteria_r6(pvalue->u.interFreqReportingCriteria);
+         stat = dec_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         break;
+      case 2: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         break;
+      case 3: /* noReporting */
+         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
+         if (pvalue->u.noReporting == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "noReporting", -1, "InterFreqReportCriteria-r7");
+         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
+         stat = dec_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqReportCriteria_r7, pvalue);
+}
+
+static int dec_IntraFreqEventOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventOnSecULFreq");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e1a */
+         pvalue->u.e1a = (Event1a_OnSecUlFreq_r9*)rtxMemHeapAlloc(ctx, sizeof(Event1a_OnSecUlFreq_r9));
+         if (pvalue->u.e1a == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEventOnSecULFreq");
+         asn1Init_UMTS_Event1a_OnSecUlFreq_r9(pvalue->u.e1a);
+         stat = dec_Event1a_OnSecUlFreq_r9(ctx, pvalue->u.e1a, cur);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      case 1: /* e1b */
+         pvalue->u.e1b = (Event1b_OnSecUlFreq_r9*)rtxMemHeapAlloc(ctx, sizeof(Event1b_OnSecUlFreq_r9));
+         if (pvalue->u.e1b == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEventOnSecULFreq");
+         asn1Init_UMTS_Event1b_OnSecUlFreq_r9(pvalue->u.e1b);
+         stat = dec_Event1b_OnSecUlFreq_r9(ctx, pvalue->u.e1b, cur);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      case 2: /* e1c */
+         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
+         if (pvalue->u.e1c == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEventOnSecULFreq");
+         stat = dec_Event1c(ctx, pvalue->u.e1c, cur);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      case 3: /* e1e */
+         pvalue->u.e1e = (Event1e_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1e_r6));
+         if (pvalue->u.e1e == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEventOnSecULFreq");
+         stat = dec_Event1e_r6(ctx, pvalue->u.e1e, cur);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      case 4: /* e1f */
+         pvalue->u.e1f = (Event1f_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1f_r6));
+         if (pvalue->u.e1f == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEventOnSecULFreq");
+         stat = dec_Event1f_r6(ctx, pvalue->u.e1f, cur);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEventOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* event */
+   stat = dec_IntraFreqEventOnSecULFreq(ctx, &pvalue->event, cur);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* hysteresis */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->hysteresis, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteriaOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteriaOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IntraFreqEventCriteriaOnSecULFreq* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteriaOnSecULFreq));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "IntraFreqEventCriteriaOnSecULFreq", (int32_t)i, 0);
+      elem = (IntraFreqEventCriteriaOnSecULFreq*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_IntraFreqEventCriteriaOnSecULFreq(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_IntraFreqEventCriteriaOnSecULFreq(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteriaOnSecULFreq", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqEventCriteriaListOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* frequencyInfo */
+   stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "IntraFreqEventCriteriaListOnSecULFreq");
+   /* intraFreqEventCriteria */
+   stat = dec_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(ctx, &pvalue->intraFreqEventCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqEventCriteria", -1, "IntraFreqEventCriteriaListOnSecULFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteriaListOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqEventCriteriaListOnSecULFreq, pvalue);
+}
+
+static int dec_IntraFreqReportingCriteria_r9(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingCriteria-r9");
+   /* eventCriteriaList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r9");
+   }
+   /* eventCriteriaListOnSecULFreq */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_IntraFreqEventCriteriaListOnSecULFreq(ctx, &pvalue->eventCriteriaListOnSecULFreq, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaListOnSecULFreq", -1, "IntraFreqReportingCriteria-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingCriteria_r9(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportingCriteria_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFreqReportCriteria-r9");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r9*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r9));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         asn1Init_UMTS_IntraFreqReportingCriteria_r9(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         break;
+      case 1: /* interFreqReportingCriteria */
+         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria_r6));
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         asn1Init_UMTS_InterFreqReportingCriteria_r6(pvalue->u.interFreqReportingCriteria);
+         stat = dec_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         break;
+      case 2: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         break;
+      case 3: /* noReporting */
+         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
+         if (pvalue->u.noReporting == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "noReporting", -1, "InterFreqReportCriteria-r9");
+         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
+         stat = dec_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r9");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, InterFreqReportCriteria_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqReportCriteria_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, InterFreqReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* utra-Carrier-RSSI */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->utra_Carrier_RSSI);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utra-Carrier-RSSI", -1, "InterFreqReportingQuantity");
+   /* frequencyQualityEstimate */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->frequencyQualityEstimate);
+   RT_CHECK_AT(ctx, cur, stat, 0, "frequencyQualityEstimate", -1, "InterFreqReportingQuantity");
+   /* nonFreqRelatedQuantities */
+   stat = dec_CellReportingQuantities(ctx, &pvalue->nonFreqRelatedQuantities, cur);
+   RT_CHECK(ctx, stat, 0, "nonFreqRelatedQuantities", -1, "InterFreqReportingQuantity");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, InterFreqReportingQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFreqReportingQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_AdditionInfoList(rtxContext* RT_RESTRICT ctx, RL_AdditionInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PrimaryCPICH_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-AdditionInfoList");
+      elem = (PrimaryCPICH_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PrimaryCPICH_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-AdditionInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_AdditionInfoList(rtxContext* RT_RESTRICT ctx, RL_AdditionInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_AdditionInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_RL_InformationLists(rtxContext* RT_RESTRICT ctx, RL_InformationLists* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RL-InformationLists");
+   /* rl-AdditionInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RL_AdditionInfoList(ctx, &pvalue->rl_AdditionInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInfoList", -1, "RL-InformationLists");
+   }
+   /* rL-RemovalInformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_RL_RemovalInformationList(ctx, &pvalue->rL_RemovalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rL-RemovalInformationList", -1, "RL-InformationLists");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RL_InformationLists(rtxContext* RT_RESTRICT ctx, RL_InformationLists* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RL_InformationLists, pvalue);
+}
+
+static int dec_UE_AutonomousUpdateMode(rtxContext* RT_RESTRICT ctx, UE_AutonomousUpdateMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-AutonomousUpdateMode");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dummy */
+         break;
+      case 1: /* onWithNoReporting */
+         break;
+      case 2: /* dummy2 */
+         pvalue->u.dummy2 = (RL_InformationLists*)rtxMemHeapAlloc(ctx, sizeof(RL_InformationLists));
+         if (pvalue->u.dummy2 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dummy2", -1, "UE-AutonomousUpdateMode");
+         asn1Init_UMTS_RL_InformationLists(pvalue->u.dummy2);
+         stat = dec_RL_InformationLists(ctx, pvalue->u.dummy2, cur);
+         RT_CHECK(ctx, stat, 0, "dummy2", -1, "UE-AutonomousUpdateMode");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-AutonomousUpdateMode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_AutonomousUpdateMode(rtxContext* RT_RESTRICT ctx, UE_AutonomousUpdateMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_AutonomousUpdateMode, pvalue);
+}
+
+static int dec_InterFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasurement");
+   /* interFreqCellInfoList */
+   stat = dec_InterFreqCellInfoList(ctx, &pvalue->interFreqCellInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement");
+   /* interFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement");
+   }
+   /* interFreqReportingQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement");
+   }
+   /* interFreqSetUpdate */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r3-IEs");
+      stat = dec_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement");
    }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 18)) {
+   /* reportCriteria */
+   stat = dec_InterFreqReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFrequencyMeasurement, pvalue);
+}
+
+static int dec_InterFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasurement-r4");
+   /* interFreqCellInfoList */
+   stat = dec_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r4");
+   /* interFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r4");
+   }
+   /* interFreqReportingQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r4");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r4");
+   }
+   /* interFreqSetUpdate */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r4");
+   }
+   /* reportCriteria */
+   stat = dec_InterFreqReportCriteria_r4(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFrequencyMeasurement_r4, pvalue);
+}
+
+static int dec_InterFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasurement-r6");
+   /* interFreqCellInfoList */
+   stat = dec_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r6");
+   /* interFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r6");
+   }
+   /* interFreqReportingQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r6");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r6");
+   }
+   /* interFreqSetUpdate */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r6");
+   }
+   /* reportCriteria */
+   stat = dec_InterFreqReportCriteria_r6(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFrequencyMeasurement_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasurement-r7");
+   /* interFreqCellInfoList */
+   stat = dec_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r7");
+   /* interFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r7");
+   }
+   /* interFreqReportingQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r7");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r7");
+   }
+   /* interFreqSetUpdate */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r7");
+   }
+   /* reportCriteria */
+   stat = dec_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFrequencyMeasurement_r7, pvalue);
+}
+
+static int dec_InterFrequencyMeasurement_r8(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasurement-r8");
+   /* interFreqCellInfoList */
+   stat = dec_InterFreqCellInfoList_r8(ctx, &pvalue->interFreqCellInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r8");
+   /* interFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* interFreqReportingQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* interFreqSetUpdate */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* adjacentFrequencyIndex */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r3-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->adjacentFrequencyIndex, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r8");
    }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r3-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r3-IEs");
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r3-IEs");
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* modeSpecificTransChInfo */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
+   /* reportCriteria */
+   stat = dec_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFrequencyMeasurement_r8(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterFrequencyMeasurement_r8, pvalue);
+}
+
+static int dec_InterFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasurement-r9");
+   /* interFreqCellInfoList */
+   stat = dec_InterFreqCellInfoList_r9(ctx, &pvalue->interFreqCellInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r9");
+   /* interFreqMeasQuantity */
    if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x80000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r3-IEs");
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v3a0ext(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v3a0ext");
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-v3a0ext");
+      stat = dec_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r9");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v4b0ext-IEs");
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "CellUpdateConfirm-v4b0ext-IEs");
-   }
-   /* cell-id-PerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "CellUpdateConfirm-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v590ext-IEs");
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "CellUpdateConfirm-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v5d0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v5d0ext-IEs");
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-v5d0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v690ext-IEs");
-   /* primary-plmn-Identity */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "CellUpdateConfirm-v690ext-IEs");
-   }
-   /* harq-Preamble-Mode */
+   /* interFreqReportingQuantity */
    if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "CellUpdateConfirm-v690ext-IEs");
+      stat = dec_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r9");
    }
-   /* beaconPLEst */
+   /* measurementValidity */
    if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "CellUpdateConfirm-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "CellUpdateConfirm-v690ext-IEs");
-         pvalue->beaconPLEst = ui;
-      }
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r9");
    }
-   /* postVerificationPeriod */
+   /* interFreqSetUpdate */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "CellUpdateConfirm-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "CellUpdateConfirm-v690ext-IEs");
-         pvalue->postVerificationPeriod = ui;
-      }
+      stat = dec_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r9");
    }
-   /* dhs-sync */
+   /* adjacentFrequencyIndex */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x10u;
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "CellUpdateConfirm-v690ext-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->adjacentFrequencyIndex, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
    }
-   /* mbms-PL-ServiceRestrictInfo */
+   /* interBandFrequencyIndex */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-v690ext-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interBandFrequencyIndex, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, 0, "interBandFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
    }
+   /* reportCriteria */
+   stat = dec_InterFreqReportCriteria_r9(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r9");
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, InterFrequencyMeasurement_r9* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_InterFrequencyMeasurement_r9, pvalue);
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v690ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v5d0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v590ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v4b0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v4b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v4b0ext", -1, 0);
-   /* v590NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r3-add-ext", -1, 0);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v3a0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v3a0ext(ctx, &pvalue->cellUpdateConfirm_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v3a0ext", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r3 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs(ctx, &pvalue->cellUpdateConfirm_r3);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r3", -1, 0);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_NC_Mode(rtxContext* RT_RESTRICT ctx, NC_Mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_BitString32At(ctx, cur, pvalue, 3, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NC-Mode");
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_NC_Mode(rtxContext* RT_RESTRICT ctx, NC_Mode* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r4_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r4-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r4-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x40u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r4-IEs");
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r4-IEs");
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r4(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* modeSpecificTransChInfo */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x100000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r4-IEs");
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v690ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v5d0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v590ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r4_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r4-add-ext", -1, 0);
-   }
-   /* v590NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r4 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs(ctx, &pvalue->cellUpdateConfirm_r4);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r4", -1, 0);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r5_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 26);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r5-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 25)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 24)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r5-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x80u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r5-IEs");
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r5-IEs");
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r5(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* modeSpecificTransChInfo */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x200000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r5-IEs");
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v690ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v5d0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r5 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs(ctx, &pvalue->cellUpdateConfirm_r5);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r5", -1, 0);
-   /* cellUpdateConfirm-r5-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r5_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r5-add-ext", -1, 0);
-   }
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r6_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r6_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r6-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 30)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 29)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 28)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 27)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 26)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 25)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 24)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r6-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x200u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r6-IEs");
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r6-IEs");
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x10000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x1000000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x40000000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r6-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r6-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v6b0ext-IEs");
-   /* dl-InformationPerRL-List-v6b0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "CellUpdateConfirm-v6b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v6b0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v6b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v6b0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r6 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r6_IEs(ctx, &pvalue->cellUpdateConfirm_r6);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6", -1, 0);
-   /* cellUpdateConfirm-r6-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r6_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6-add-ext", -1, 0);
-   }
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r7_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint64_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 6);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r7-IEs");
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r7-IEs");
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 37)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 36)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 35)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 34)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 33)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 32)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 31)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 30)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 29)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r7-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 28)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* waitTime */
-   if (present & ((uint64_t)1 << 27)) {
-      pvalue->m |= 0x400u;
-      stat = pd_ConsUInt8(ctx, &pvalue->waitTime, 0, 15);
-      RT_CHECK(ctx, stat, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r7-IEs");
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r7-IEs");
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 26)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 25)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 24)) {
-      pvalue->m |= 0x2000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint64_t)1 << 23)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint64_t)1 << 22)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint64_t)1 << 21)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 20)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint64_t)1 << 19)) {
-      pvalue->m |= 0x40000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 18)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint64_t)1 << 17)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 16)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint64_t)1 << 14)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 13)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 12)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 11)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 10)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 9)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 8)) {
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 7)) {
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 6)) {
-      pvalue->m |= 0x80000000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 5)) {
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 4)) {
-      pvalue->m |= 0x200000000ull;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 3)) {
-      pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 2)) {
-      pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 1)) {
-      pvalue->m |= 0x1000000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r7-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 0)) {
-      pvalue->m |= 0x2000000000ull;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r7-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r7-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7d0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v7d0ext-IEs");
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-v7d0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7f0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v7f0ext-IEs");
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-v7f0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7g0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v7g0ext-IEs");
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-v7g0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v7g0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v7g0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7g0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v7f0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v7f0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7f0ext", -1, 0);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r7-add-ext-IEs");
-   /* cellUpdateConfirm-v7d0ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7d0ext", -1, "CellUpdateConfirm-r7-add-ext-IEs");
-   }
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, "CellUpdateConfirm-r7-add-ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v780ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v780ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v780ext-IEs");
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "CellUpdateConfirm-v780ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "CellUpdateConfirm-v780ext-IEs");
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v860ext_IEs_rab_InformationSetup* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rab-InformationSetup-r7 */
-   stat = asn1PD_UMTS_RAB_InformationSetup_r7(ctx, &pvalue->rab_InformationSetup_r7);
-   RT_CHECK(ctx, stat, 0, "rab-InformationSetup-r7", -1, 0);
-   /* rab-InformationSetup-v820ext */
-   stat = asn1PD_UMTS_RAB_InformationSetup_v820ext(ctx, &pvalue->rab_InformationSetup_v820ext);
-   RT_CHECK(ctx, stat, 0, "rab-InformationSetup-v820ext", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v860ext-IEs");
-   /* rab-InformationSetup */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(ctx, &pvalue->rab_InformationSetup);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetup", -1, "CellUpdateConfirm-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v860ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs(ctx, &pvalue->cellUpdateConfirm_v860ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v780ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v780ext_IEs(ctx, &pvalue->cellUpdateConfirm_v780ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v780ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r7 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r7_IEs(ctx, &pvalue->cellUpdateConfirm_r7);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7", -1, 0);
-   /* cellUpdateConfirm-r7-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      {
-         rtxDynBitStr carrier;
-         rtxContext outer;
-         stat = pd_DynBitString(ctx, &carrier);
-         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
-         rtxCopyContext(&outer, ctx);
-         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
-         if (stat == 0) {
-            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
-            stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs(ctx, &pvalue->cellUpdateConfirm_r7_add_ext);
-            RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
-         }
-         rtxCopyContext(ctx, &outer);
-         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
-      }
-   }
-   /* v780NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
-   }
-   return stat;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r8_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r8_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint64_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 11);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r8-IEs");
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r8-IEs");
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 42)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 41)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 40)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 39)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 38)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 37)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 36)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 35)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 34)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r8-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 33)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* waitTime */
-   if (present & ((uint64_t)1 << 32)) {
-      pvalue->m |= 0x400u;
-      stat = pd_ConsUInt8(ctx, &pvalue->waitTime, 0, 15);
-      RT_CHECK(ctx, stat, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r8-IEs");
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r8-IEs");
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 31)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 30)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 29)) {
-      pvalue->m |= 0x2000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* defaultConfigForCellFACH */
-   if (present & ((uint64_t)1 << 28)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* rab-InformationSetup */
-   if (present & ((uint64_t)1 << 27)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RAB_InformationSetup_r8(ctx, &pvalue->rab_InformationSetup);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetup", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint64_t)1 << 26)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint64_t)1 << 25)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint64_t)1 << 24)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 23)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint64_t)1 << 22)) {
-      pvalue->m |= 0x100000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 21)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint64_t)1 << 20)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 19)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 18)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint64_t)1 << 17)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 16)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 14)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 12)) {
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 11)) {
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 10)) {
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 9)) {
-      pvalue->m |= 0x200000000ull;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 8)) {
-      pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 6)) {
-      pvalue->m |= 0x1000000000ull;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 5)) {
-      pvalue->m |= 0x2000000000ull;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 4)) {
-      pvalue->m |= 0x4000000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 3)) {
-      pvalue->m |= 0x8000000000ull;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 2)) {
-      pvalue->m |= 0x10000000000ull;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 1)) {
-      pvalue->m |= 0x20000000000ull;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "CellUpdateConfirm-r8-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 0)) {
-      pvalue->m |= 0x40000000000ull;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r8-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r8-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v890ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v890ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v890ext-IEs");
-   /* dl-SecondaryCellInfoFDD-v890ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "CellUpdateConfirm-v890ext-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-v890ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v8a0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v8a0ext-IEs");
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-v8a0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v8a0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v8a0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v8a0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v8a0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v7g0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v7g0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7g0ext", -1, 0);
-   /* v8a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v890ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v890ext_IEs(ctx, &pvalue->cellUpdateConfirm_v890ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v890ext", -1, 0);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v7f0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v7f0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7f0ext", -1, 0);
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v7d0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7d0ext", -1, 0);
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r8 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r8_IEs(ctx, &pvalue->cellUpdateConfirm_r8);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8", -1, 0);
-   /* cellUpdateConfirm-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r8_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8-add-ext", -1, 0);
-   }
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r9_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r9_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint64_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 13);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r9-IEs");
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r9-IEs");
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 44)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 43)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 42)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 41)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 40)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 39)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 38)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 37)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 36)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r9-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 35)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* waitTime */
-   if (present & ((uint64_t)1 << 34)) {
-      pvalue->m |= 0x400u;
-      stat = pd_ConsUInt8(ctx, &pvalue->waitTime, 0, 15);
-      RT_CHECK(ctx, stat, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r9-IEs");
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r9-IEs");
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 33)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 32)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 31)) {
-      pvalue->m |= 0x2000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* defaultConfigForCellFACH */
-   if (present & ((uint64_t)1 << 30)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* rab-InformationSetup */
-   if (present & ((uint64_t)1 << 29)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RAB_InformationSetup_r8(ctx, &pvalue->rab_InformationSetup);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetup", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint64_t)1 << 28)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint64_t)1 << 27)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint64_t)1 << 26)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 25)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint64_t)1 << 24)) {
-      pvalue->m |= 0x100000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 23)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint64_t)1 << 22)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 21)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 20)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint64_t)1 << 19)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 18)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 17)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 16)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 14)) {
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 12)) {
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 11)) {
-      pvalue->m |= 0x200000000ull;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 10)) {
-      pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 9)) {
-      pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* ul-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 8)) {
-      pvalue->m |= 0x1000000000ull;
-      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      pvalue->m |= 0x2000000000ull;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 6)) {
-      pvalue->m |= 0x4000000000ull;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 5)) {
-      pvalue->m |= 0x8000000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 4)) {
-      pvalue->m |= 0x10000000000ull;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 3)) {
-      pvalue->m |= 0x20000000000ull;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 2)) {
-      pvalue->m |= 0x40000000000ull;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 1)) {
-      pvalue->m |= 0x80000000000ull;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r9-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r9-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   /* cellDCHMeasOccasionInfo-TDD128 */
-   if (present & ((uint64_t)1 << 0)) {
-      pvalue->m |= 0x100000000000ull;
-      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "CellUpdateConfirm-r9-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r9 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r9_IEs(ctx, &pvalue->cellUpdateConfirm_r9);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9", -1, 0);
-   /* cellUpdateConfirm-r9-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r9_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r9 */
-         pvalue->u.r9 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r8 */
-         pvalue->u.r8 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r7 */
-         pvalue->u.r7 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r6 */
-         pvalue->u.r6 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r5 */
-         pvalue->u.r5 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5));
-         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r4 */
-         pvalue->u.r4 = (CellUpdateConfirm_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (CellUpdateConfirm_r3*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "CellUpdateConfirm");
-         asn1Init_UMTS_CellUpdateConfirm_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "CellUpdateConfirm");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (CellUpdateConfirm_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "CellUpdateConfirm");
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CellUpdateConfirm");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellUpdateConfirm");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v690ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v5d0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v590ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v4b0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v4b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v4b0ext", -1, 0);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-CCCH-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_CCCH_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-CCCH-r3-add-ext", -1, 0);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* u-RNTI */
-   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
-   /* cellUpdateConfirm-r3 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs(ctx, &pvalue->cellUpdateConfirm_r3);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v690ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v5d0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v590ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-CCCH-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_CCCH_r4_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-CCCH-r4-add-ext", -1, 0);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r4 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs(ctx, &pvalue->cellUpdateConfirm_r4);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r4", -1, 0);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v690ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v5d0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r5 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs(ctx, &pvalue->cellUpdateConfirm_r5);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r5", -1, 0);
-   /* cellUpdateConfirm-CCCH-r5-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_CCCH_r5_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-CCCH-r5-add-ext", -1, 0);
-   }
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v6b0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v6b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v6b0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r6 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r6_IEs(ctx, &pvalue->cellUpdateConfirm_r6);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6", -1, 0);
-   /* cellUpdateConfirm-r6-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r6_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6-add-ext", -1, 0);
-   }
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v860ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs(ctx, &pvalue->cellUpdateConfirm_v860ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v780ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v780ext_IEs(ctx, &pvalue->cellUpdateConfirm_v780ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v780ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r7 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r7_IEs(ctx, &pvalue->cellUpdateConfirm_r7);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7", -1, 0);
-   /* cellUpdateConfirm-r7-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      {
-         rtxDynBitStr carrier;
-         rtxContext outer;
-         stat = pd_DynBitString(ctx, &carrier);
-         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
-         rtxCopyContext(&outer, ctx);
-         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
-         if (stat == 0) {
-            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
-            stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs(ctx, &pvalue->cellUpdateConfirm_r7_add_ext);
-            RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
-         }
-         rtxCopyContext(ctx, &outer);
-         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
-      }
-   }
-   /* v780NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
-   }
-   return stat;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v8a0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v8a0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v8a0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v8a0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v890ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v890ext_IEs(ctx, &pvalue->cellUpdateConfirm_v890ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v890ext", -1, 0);
-   /* v8a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v7d0ext */
-   stat = asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7d0ext", -1, 0);
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r8 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r8_IEs(ctx, &pvalue->cellUpdateConfirm_r8);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8", -1, 0);
-   /* cellUpdateConfirm-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r8_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8-add-ext", -1, 0);
-   }
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r9 */
-   stat = asn1PD_UMTS_CellUpdateConfirm_r9_IEs(ctx, &pvalue->cellUpdateConfirm_r9);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9", -1, 0);
-   /* cellUpdateConfirm-r9-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r9_add_ext);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r9 */
-         pvalue->u.r9 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r8 */
-         pvalue->u.r8 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r7 */
-         pvalue->u.r7 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r6 */
-         pvalue->u.r6 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r5 */
-         pvalue->u.r5 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5));
-         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r4 */
-         pvalue->u.r4 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* u-RNTI */
-   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-CCCH");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (CellUpdateConfirm_CCCH_r3*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "CellUpdateConfirm-CCCH");
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "CellUpdateConfirm-CCCH");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (CellUpdateConfirm_CCCH_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "CellUpdateConfirm-CCCH");
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CellUpdateConfirm-CCCH");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellUpdateConfirm-CCCH");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck_r3_IEs(rtxContext* RT_RESTRICT ctx, CounterCheck_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CounterCheck-r3-IEs");
-   /* rb-COUNT-C-MSB-InformationList */
-   stat = asn1PD_UMTS_RB_COUNT_C_MSB_InformationList(ctx, &pvalue->rb_COUNT_C_MSB_InformationList);
-   RT_CHECK(ctx, stat, 0, "rb-COUNT-C-MSB-InformationList", -1, "CounterCheck-r3-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CounterCheck_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* counterCheck-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->counterCheck_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "counterCheck-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck_r3(rtxContext* RT_RESTRICT ctx, CounterCheck_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* counterCheck-r3 */
-   stat = asn1PD_UMTS_CounterCheck_r3_IEs(ctx, &pvalue->counterCheck_r3);
-   RT_CHECK(ctx, stat, 0, "counterCheck-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CounterCheck_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, CounterCheck_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck_later_than_r3(rtxContext* RT_RESTRICT ctx, CounterCheck_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_CounterCheck_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck(rtxContext* RT_RESTRICT ctx, CounterCheck* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CounterCheck");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (CounterCheck_r3*)rtxMemHeapAlloc(ctx, sizeof(CounterCheck_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "CounterCheck");
-         asn1Init_UMTS_CounterCheck_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_CounterCheck_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "CounterCheck");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (CounterCheck_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(CounterCheck_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "CounterCheck");
-         stat = asn1PD_UMTS_CounterCheck_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CounterCheck");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CounterCheck");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheckResponse_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CounterCheckResponse_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* counterCheckResponse-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->counterCheckResponse_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "counterCheckResponse-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheckResponse(rtxContext* RT_RESTRICT ctx, CounterCheckResponse* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CounterCheckResponse");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CounterCheckResponse");
-   /* rb-COUNT-C-InformationList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RB_COUNT_C_InformationList(ctx, &pvalue->rb_COUNT_C_InformationList);
-      RT_CHECK(ctx, stat, 0, "rb-COUNT-C-InformationList", -1, "CounterCheckResponse");
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CounterCheckResponse_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "CounterCheckResponse");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer_r3_IEs(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "DownlinkDirectTransfer-r3-IEs");
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "DownlinkDirectTransfer-r3-IEs");
-   /* nas-Message */
-   stat = asn1PD_UMTS_NAS_Message(ctx, &pvalue->nas_Message);
-   RT_CHECK(ctx, stat, 0, "nas-Message", -1, "DownlinkDirectTransfer-r3-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* downlinkDirectTransfer-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->downlinkDirectTransfer_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "downlinkDirectTransfer-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer_r3(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* downlinkDirectTransfer-r3 */
-   stat = asn1PD_UMTS_DownlinkDirectTransfer_r3_IEs(ctx, &pvalue->downlinkDirectTransfer_r3);
-   RT_CHECK(ctx, stat, 0, "downlinkDirectTransfer-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer_later_than_r3(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_DownlinkDirectTransfer_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DownlinkDirectTransfer");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (DownlinkDirectTransfer_r3*)rtxMemHeapAlloc(ctx, sizeof(DownlinkDirectTransfer_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "DownlinkDirectTransfer");
-         asn1Init_UMTS_DownlinkDirectTransfer_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_DownlinkDirectTransfer_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "DownlinkDirectTransfer");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (DownlinkDirectTransfer_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkDirectTransfer_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "DownlinkDirectTransfer");
-         stat = asn1PD_UMTS_DownlinkDirectTransfer_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "DownlinkDirectTransfer");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DownlinkDirectTransfer");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ETWSPrimaryNotificationWithSecurity(rtxContext* RT_RESTRICT ctx, ETWSPrimaryNotificationWithSecurity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ETWSPrimaryNotificationWithSecurity");
-   /* etws-Information */
-   stat = asn1PD_UMTS_ETWS_Information(ctx, &pvalue->etws_Information);
-   RT_CHECK(ctx, stat, 0, "etws-Information", -1, "ETWSPrimaryNotificationWithSecurity");
-   /* etws-WarningSecurityInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ETWS_WarningSecurityInfo(ctx, &pvalue->etws_WarningSecurityInfo);
-      RT_CHECK(ctx, stat, 0, "etws-WarningSecurityInfo", -1, "ETWSPrimaryNotificationWithSecurity");
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "ETWSPrimaryNotificationWithSecurity");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_complete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* srb-InformationSetupList */
-   stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   /* ul-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   /* dl-CommonTransChInfo */
-   stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   /* dl-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   /* dl-CommonInformation */
-   stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 10);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity", "defaultConfigIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* predefinedConfigIdentity */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
-         break;
-      case 1: /* defaultConfig */
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-CommonInformationPost */
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-CommonInformationPost */
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* preConfigMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (HandoverToUTRANCommand_r3_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* preconfiguration */
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r3-IEs");
-   /* new-U-RNTI */
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r3-IEs");
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "dummy", -1, "HandoverToUTRANCommand-r3-IEs");
-   }
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r3-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r3-IEs");
-   /* maxAllowedUL-TX-Power */
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r3-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-r3 */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs(ctx, &pvalue->handoverToUTRANCommand_r3);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r3", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_complete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* srb-InformationSetupList */
-   stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r4(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   /* ul-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   /* dl-CommonTransChInfo */
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   /* dl-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r4(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   /* dl-CommonInformation */
-   stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 12);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r4", "defaultConfigIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* predefinedConfigIdentity */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
-         break;
-      case 1: /* defaultConfig */
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-CommonInformationPost */
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* preConfigMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (HandoverToUTRANCommand_r4_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* preconfiguration */
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r4-IEs");
-   /* new-U-RNTI */
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r4-IEs");
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r4-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r4-IEs");
-   /* maxAllowedUL-TX-Power */
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r4-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-r4 */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs(ctx, &pvalue->handoverToUTRANCommand_r4);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r4", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_complete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* srb-InformationSetupList */
-   stat = asn1PD_UMTS_SRB_InformationSetupList_r5(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r5(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   /* ul-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   /* dl-CommonTransChInfo */
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   /* dl-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r5(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   /* dl-CommonInformation */
-   stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 13);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r5", "defaultConfigIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* predefinedConfigIdentity */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
-         break;
-      case 1: /* defaultConfig */
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-CommonInformationPost */
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* preConfigMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (HandoverToUTRANCommand_r5_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* preconfiguration */
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r5-IEs");
-   /* new-U-RNTI */
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r5-IEs");
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r5-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r5-IEs");
-   /* maxAllowedUL-TX-Power */
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r5-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-r5 */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs(ctx, &pvalue->handoverToUTRANCommand_r5);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r5", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_complete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* srb-InformationSetupList */
-   stat = asn1PD_UMTS_SRB_InformationSetupList_r6(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r6(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   /* ul-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   /* dl-CommonTransChInfo */
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   /* dl-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, 0);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, 0);
-   }
-   /* dl-CommonInformation */
-   stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* predefinedConfigIdentity */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
-         break;
-      case 1: /* defaultConfig */
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-CommonInformationPost */
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* preConfigMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (HandoverToUTRANCommand_r6_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* preconfiguration */
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r6-IEs");
-   /* new-U-RNTI */
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r6-IEs");
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r6-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r6-IEs");
-   /* maxAllowedUL-TX-Power */
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r6-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v6b0ext-IEs");
-   /* ue-hspa-identities */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_HSPA_Identities_r6(ctx, &pvalue->ue_hspa_identities);
-      RT_CHECK(ctx, stat, 0, "ue-hspa-identities", -1, "HandoverToUTRANCommand-v6b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-v6b0ext */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v6b0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v6b0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-r6 */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs(ctx, &pvalue->handoverToUTRANCommand_r6);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r6", -1, 0);
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_complete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* srb-InformationSetupList */
-   stat = asn1PD_UMTS_SRB_InformationSetupList_r7(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r7(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   /* ul-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   /* dl-CommonTransChInfo */
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   /* dl-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, 0);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, 0);
-   }
-   /* dl-CommonInformation */
-   stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* predefinedConfigIdentity */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
-         break;
-      case 1: /* defaultConfig */
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-CommonInformationPost */
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      case 2: /* tdd768 */
-         pvalue->u.tdd768 = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* preConfigMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (HandoverToUTRANCommand_r7_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* preconfiguration */
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r7-IEs");
-   /* new-U-RNTI */
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r7-IEs");
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 2);
-      RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r7-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "HandoverToUTRANCommand-r7-IEs");
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "HandoverToUTRANCommand-r7-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "HandoverToUTRANCommand-r7-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "HandoverToUTRANCommand-r7-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r7-IEs");
-   /* maxAllowedUL-TX-Power */
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r7-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_v780ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_v780ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v780ext-IEs");
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "HandoverToUTRANCommand-v780ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "HandoverToUTRANCommand-v780ext-IEs");
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_v820ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_v820ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v820ext-IEs");
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_v820ext(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "HandoverToUTRANCommand-v820ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_v7d0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v7d0ext-IEs");
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "HandoverToUTRANCommand-v7d0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-v7d0ext */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v7d0ext);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v7d0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-v820ext */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v820ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v820ext);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v820ext", -1, 0);
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-v780ext */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v780ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v780ext);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v780ext", -1, 0);
-   /* v820NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v820NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-r7 */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs(ctx, &pvalue->handoverToUTRANCommand_r7);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r7", -1, 0);
-   /* v780NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_complete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* srb-InformationSetupList */
-   stat = asn1PD_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   /* ul-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   /* dl-CommonTransChInfo */
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   /* dl-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, 0);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, 0);
-   }
-   /* dl-CommonInformation */
-   stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
-   /* dlul-HSPA-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DLUL_HSPA_Information_r8(ctx, &pvalue->dlul_HSPA_Information);
-      RT_CHECK(ctx, stat, 0, "dlul-HSPA-Information", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* predefinedConfigIdentity */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
-         break;
-      case 1: /* defaultConfig */
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(pvalue->u.defaultConfig);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-CommonInformationPost */
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      case 2: /* tdd768 */
-         pvalue->u.tdd768 = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* preConfigMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (HandoverToUTRANCommand_r8_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* preconfiguration */
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r8-IEs");
-   /* new-U-RNTI */
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r8-IEs");
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 2);
-      RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r8-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "HandoverToUTRANCommand-r8-IEs");
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "HandoverToUTRANCommand-r8-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "HandoverToUTRANCommand-r8-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "HandoverToUTRANCommand-r8-IEs");
-   }
-   /* defaultConfigForCellFACH */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "HandoverToUTRANCommand-r8-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r8-IEs");
-   /* maxAllowedUL-TX-Power */
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r8-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_v890ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_v890ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v890ext-IEs");
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "HandoverToUTRANCommand-v890ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_v8a0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v8a0ext-IEs");
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "HandoverToUTRANCommand-v8a0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-v8a0ext */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v8a0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v8a0ext);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v8a0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-v890ext */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v890ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v890ext);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v890ext", -1, 0);
-   /* v8a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-v7d0ext */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v7d0ext);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v7d0ext", -1, 0);
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-r8 */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs(ctx, &pvalue->handoverToUTRANCommand_r8);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r8", -1, 0);
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_complete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* srb-InformationSetupList */
-   stat = asn1PD_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   /* ul-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   /* dl-CommonTransChInfo */
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   /* dl-AddReconfTransChInfoList */
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, 0);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, 0);
-   }
-   /* dl-CommonInformation */
-   stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
-   /* dlul-HSPA-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DLUL_HSPA_Information_r9(ctx, &pvalue->dlul_HSPA_Information);
-      RT_CHECK(ctx, stat, 0, "dlul-HSPA-Information", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* predefinedConfigIdentity */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
-         break;
-      case 1: /* defaultConfig */
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(pvalue->u.defaultConfig);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-CommonInformationPost */
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
-   /* dl-InformationPerRL */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
-   /* frequencyInfo */
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* tdd384 */
-         pvalue->u.tdd384 = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 1: /* tdd128 */
-         pvalue->u.tdd128 = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      case 2: /* tdd768 */
-         pvalue->u.tdd768 = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         pvalue->u.tdd = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* preConfigMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (HandoverToUTRANCommand_r9_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* preconfiguration */
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r9-IEs");
-   /* new-U-RNTI */
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r9-IEs");
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 2);
-      RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r9-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "HandoverToUTRANCommand-r9-IEs");
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "HandoverToUTRANCommand-r9-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "HandoverToUTRANCommand-r9-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "HandoverToUTRANCommand-r9-IEs");
-   }
-   /* defaultConfigForCellFACH */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "HandoverToUTRANCommand-r9-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r9-IEs");
-   /* maxAllowedUL-TX-Power */
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r9-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANCommand-r9 */
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs(ctx, &pvalue->handoverToUTRANCommand_r9);
-   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r9", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r9 */
-         pvalue->u.r9 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r8 */
-         pvalue->u.r8 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r7 */
-         pvalue->u.r7 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r6 */
-         pvalue->u.r6 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r5 */
-         pvalue->u.r5 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5));
-         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r4 */
-         pvalue->u.r4 = (HandoverToUTRANCommand_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (HandoverToUTRANCommand_r3*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "HandoverToUTRANCommand");
-         asn1Init_UMTS_HandoverToUTRANCommand_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "HandoverToUTRANCommand");
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, "HandoverToUTRANCommand");
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, "HandoverToUTRANCommand");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "HandoverToUTRANCommand");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverToUTRANComplete-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->handoverToUTRANComplete_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "handoverToUTRANComplete-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANComplete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANComplete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANComplete");
-   /* startList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_STARTList(ctx, &pvalue->startList);
-      RT_CHECK(ctx, stat, 0, "startList", -1, "HandoverToUTRANComplete");
-   }
-   /* count-C-ActivationTime */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "HandoverToUTRANComplete");
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "HandoverToUTRANComplete");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0ext(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v3a0ext");
-   /* start-Value */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_Value);
-      RT_CHECK(ctx, stat, 0, "start-Value", -1, "InitialDirectTransfer-v3a0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v7g0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v7g0ext-IEs");
-   /* measuredResultsOnRACH-v7g0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
-      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH-v7g0ext", -1, "InitialDirectTransfer-v7g0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_r3_add_ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-r3-add-ext-IEs");
-   /* initialDirectTransfer-v7g0ext */
-   stat = asn1PD_UMTS_InitialDirectTransfer_v7g0ext_IEs(ctx, &pvalue->initialDirectTransfer_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v7g0ext", -1, "InitialDirectTransfer-r3-add-ext-IEs");
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "InitialDirectTransfer-r3-add-ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v590ext(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v590ext");
-   /* establishmentCause */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->establishmentCause, 0, 31);
-      RT_CHECK(ctx, stat, "EstablishmentCause", "establishmentCause", -1, "InitialDirectTransfer-v590ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v690ext_IEs(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v690ext-IEs");
-   /* plmn-Identity */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "InitialDirectTransfer-v690ext-IEs");
-   }
-   /* measuredResultsOnRACHinterFreq */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
-      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "InitialDirectTransfer-v690ext-IEs");
-   }
-   /* mbms-JoinedInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
-      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "InitialDirectTransfer-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v770ext_IEs_csCallType(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v770ext_IEs_csCallType* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v770ext_IEs(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v770ext-IEs");
-   /* csCallType */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->csCallType, 0, 3);
-      RT_CHECK(ctx, stat, 0, "csCallType", -1, "InitialDirectTransfer-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v860ext_IEs_supportOfCSG* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v860ext_IEs(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v860ext-IEs");
-   /* supportOfCSG */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportOfCSG", -1, "InitialDirectTransfer-v860ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportOfCSG", -1, "InitialDirectTransfer-v860ext-IEs");
-         pvalue->supportOfCSG = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* initialDirectTransfer-v860ext */
-   stat = asn1PD_UMTS_InitialDirectTransfer_v860ext_IEs(ctx, &pvalue->initialDirectTransfer_v860ext);
-   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* initialDirectTransfer-v770ext */
-   stat = asn1PD_UMTS_InitialDirectTransfer_v770ext_IEs(ctx, &pvalue->initialDirectTransfer_v770ext);
-   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v770ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* initialDirectTransfer-v690ext */
-   stat = asn1PD_UMTS_InitialDirectTransfer_v690ext_IEs(ctx, &pvalue->initialDirectTransfer_v690ext);
-   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* initialDirectTransfer-v590ext */
-   stat = asn1PD_UMTS_InitialDirectTransfer_v590ext(ctx, &pvalue->initialDirectTransfer_v590ext);
-   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* initialDirectTransfer-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      {
-         rtxDynBitStr carrier;
-         rtxContext outer;
-         stat = pd_DynBitString(ctx, &carrier);
-         RT_CHECK(ctx, stat, 0, "initialDirectTransfer-r3-add-ext", -1, 0);
-         rtxCopyContext(&outer, ctx);
-         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
-         if (stat == 0) {
-            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
-            stat = asn1PD_UMTS_InitialDirectTransfer_r3_add_ext_IEs(ctx, &pvalue->initialDirectTransfer_r3_add_ext);
-            RT_CHECK(ctx, stat, 0, "initialDirectTransfer-r3-add-ext", -1, 0);
-         }
-         rtxCopyContext(ctx, &outer);
-         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
-      }
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return stat;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* initialDirectTransfer-v3a0ext */
-   stat = asn1PD_UMTS_InitialDirectTransfer_v3a0ext(ctx, &pvalue->initialDirectTransfer_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v3a0ext", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer");
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "InitialDirectTransfer");
-   /* intraDomainNasNodeSelector */
-   stat = asn1PD_UMTS_IntraDomainNasNodeSelector(ctx, &pvalue->intraDomainNasNodeSelector);
-   RT_CHECK(ctx, stat, 0, "intraDomainNasNodeSelector", -1, "InitialDirectTransfer");
-   /* nas-Message */
-   stat = asn1PD_UMTS_NAS_Message(ctx, &pvalue->nas_Message);
-   RT_CHECK(ctx, stat, 0, "nas-Message", -1, "InitialDirectTransfer");
-   /* measuredResultsOnRACH */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
-      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "InitialDirectTransfer");
-   }
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "InitialDirectTransfer");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gsm-Messages */
-   stat = asn1PD_UMTS_GSM_MessageList(ctx, &pvalue->gsm_Messages);
-   RT_CHECK(ctx, stat, 0, "gsm-Messages", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* single-GSM-Message */
-         pvalue->u.single_GSM_Message = (HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message));
-         if (pvalue->u.single_GSM_Message == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "single-GSM-Message", -1, 0);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message(ctx, pvalue->u.single_GSM_Message);
-         RT_CHECK(ctx, stat, 0, "single-GSM-Message", -1, 0);
-         break;
-      case 1: /* gsm-MessageList */
-         pvalue->u.gsm_MessageList = (HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList));
-         if (pvalue->u.gsm_MessageList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm-MessageList", -1, 0);
-         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(pvalue->u.gsm_MessageList);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(ctx, pvalue->u.gsm_MessageList);
-         RT_CHECK(ctx, stat, 0, "gsm-MessageList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_NC_Mode, pvalue);
 }
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_TargetCellDescription_technologySpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
-   /* activationTime */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
-   }
-   /* toHandoverRAB-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->toHandoverRAB_Info);
-      RT_CHECK(ctx, stat, 0, "toHandoverRAB-Info", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
-   }
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* bsic */
+   stat = dec_BSIC(ctx, &pvalue->bsic, cur);
+   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
    /* frequency-band */
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
-   /* gsm-message */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message(ctx, &pvalue->gsm_message);
-   RT_CHECK(ctx, stat, 0, "gsm-message", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->frequency_band, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "Frequency-Band", "frequency-band", -1, 0);
+   /* bcch-ARFCN */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   /* ncMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NC_Mode(ctx, &pvalue->ncMode, cur);
+      RT_CHECK(ctx, stat, 0, "ncMode", -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_TargetCellDescription_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_TargetCellDescription_technologySpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, InterRAT_TargetCellDescription_technologySpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* sI */
-         pvalue->u.sI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
-         if (pvalue->u.sI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sI", -1, 0);
-         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.sI);
-         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
-         RT_CHECK(ctx, stat, 0, "sI", -1, 0);
+      case 0: /* gsm */
+         pvalue->u.gsm = (InterRAT_TargetCellDescription_technologySpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_TargetCellDescription_technologySpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(pvalue->u.gsm);
+         stat = dec_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
-      case 1: /* pSI */
-         pvalue->u.pSI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
-         if (pvalue->u.pSI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pSI", -1, 0);
-         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.pSI);
-         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
-         RT_CHECK(ctx, stat, 0, "pSI", -1, 0);
+      case 1: /* is-2000 */
+         break;
+      case 2: /* spare2 */
+         break;
+      case 3: /* spare1 */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_v690ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, InterRAT_TargetCellDescription_technologySpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_TargetCellDescription_technologySpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_TargetCellDescription(rtxContext* RT_RESTRICT ctx, InterRAT_TargetCellDescription* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* technologySpecificInfo */
+   stat = dec_InterRAT_TargetCellDescription_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "InterRAT-TargetCellDescription");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_TargetCellDescription(rtxContext* RT_RESTRICT ctx, InterRAT_TargetCellDescription* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_TargetCellDescription, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATCellInfoIndication(rtxContext* RT_RESTRICT ctx, InterRATCellInfoIndication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATCellInfoIndication");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATCellInfoIndication(rtxContext* RT_RESTRICT ctx, InterRATCellInfoIndication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATCellInfoIndication, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATCellInfoList_r4(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM-v690ext-IEs");
-   /* geran-SystemInfoType */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
-      RT_CHECK(ctx, stat, 0, "geran-SystemInfoType", -1, "HandoverFromUTRANCommand-GSM-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM-v860ext-IEs");
-   /* sr-vcc-SecurityRABInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SR_VCC_SecurityRABInfo_v860ext(ctx, &pvalue->sr_vcc_SecurityRABInfo);
-      RT_CHECK(ctx, stat, 0, "sr-vcc-SecurityRABInfo", -1, "HandoverFromUTRANCommand-GSM-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANCommand-GSM-v860ext */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v860ext);
-   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANCommand-GSM-v690ext */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v690ext);
-   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-v690ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANCommand-GSM-r3-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATCellInfoList-r4");
+   /* removedInterRATCellList */
+   stat = dec_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList, cur);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-r4");
+   /* newInterRATCellList */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANCommand_GSM_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-r3-add-ext", -1, 0);
+      stat = dec_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-r4");
    }
-   /* v690NonCriticalExtensions */
+   /* cellsForInterRATMeasList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+      stat = dec_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList-r4");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterRATCellInfoList_r4(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATCellInfoList_r4, pvalue);
+}
+
+static int dec_InterRATCellInfoList_r6(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANCommand-GSM-r3 */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_r3);
-   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gsm-Messages */
-   stat = asn1PD_UMTS_GSM_MessageList(ctx, &pvalue->gsm_Messages);
-   RT_CHECK(ctx, stat, 0, "gsm-Messages", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* single-GSM-Message */
-         pvalue->u.single_GSM_Message = (HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message));
-         if (pvalue->u.single_GSM_Message == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "single-GSM-Message", -1, 0);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message(ctx, pvalue->u.single_GSM_Message);
-         RT_CHECK(ctx, stat, 0, "single-GSM-Message", -1, 0);
-         break;
-      case 1: /* gsm-MessageList */
-         pvalue->u.gsm_MessageList = (HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList));
-         if (pvalue->u.gsm_MessageList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm-MessageList", -1, 0);
-         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(pvalue->u.gsm_MessageList);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(ctx, pvalue->u.gsm_MessageList);
-         RT_CHECK(ctx, stat, 0, "gsm-MessageList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* sI */
-         pvalue->u.sI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
-         if (pvalue->u.sI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sI", -1, 0);
-         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.sI);
-         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
-         RT_CHECK(ctx, stat, 0, "sI", -1, 0);
-         break;
-      case 1: /* pSI */
-         pvalue->u.pSI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
-         if (pvalue->u.pSI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pSI", -1, 0);
-         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.pSI);
-         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
-         RT_CHECK(ctx, stat, 0, "pSI", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r6_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
-   /* activationTime */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATCellInfoList-r6");
+   /* removedInterRATCellList */
+   stat = dec_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList, cur);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-r6");
+   /* newInterRATCellList */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+      stat = dec_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-r6");
    }
-   /* toHandoverRAB-Info */
+   /* cellsForInterRATMeasList */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationList_r6(ctx, &pvalue->toHandoverRAB_Info);
-      RT_CHECK(ctx, stat, 0, "toHandoverRAB-Info", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+      stat = dec_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList-r6");
    }
-   /* frequency-band */
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
-   /* gsm-message */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message(ctx, &pvalue->gsm_message);
-   RT_CHECK(ctx, stat, 0, "gsm-message", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
-   /* geran-SystemInfoType */
+   /* interRATCellInfoIndication-r6 */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
-      RT_CHECK(ctx, stat, 0, "geran-SystemInfoType", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->interRATCellInfoIndication_r6, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication-r6", -1, "InterRATCellInfoList-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterRATCellInfoList_r6(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_r6* RT_RESTRICT pvalue)
 {
-   int stat = 0;
+   RT_DECODE_ENTRY(ctx, dec_InterRATCellInfoList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATEvent(rtxContext* RT_RESTRICT ctx, InterRATEvent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATEvent");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* event3a */
+         pvalue->u.event3a = (Event3a*)rtxMemHeapAlloc(ctx, sizeof(Event3a));
+         if (pvalue->u.event3a == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event3a", -1, "InterRATEvent");
+         asn1Init_UMTS_Event3a(pvalue->u.event3a);
+         stat = dec_Event3a(ctx, pvalue->u.event3a, cur);
+         RT_CHECK(ctx, stat, 0, "event3a", -1, "InterRATEvent");
+         break;
+      case 1: /* event3b */
+         pvalue->u.event3b = (Event3b*)rtxMemHeapAlloc(ctx, sizeof(Event3b));
+         if (pvalue->u.event3b == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event3b", -1, "InterRATEvent");
+         asn1Init_UMTS_Event3b(pvalue->u.event3b);
+         stat = dec_Event3b(ctx, pvalue->u.event3b, cur);
+         RT_CHECK(ctx, stat, 0, "event3b", -1, "InterRATEvent");
+         break;
+      case 2: /* event3c */
+         pvalue->u.event3c = (Event3c*)rtxMemHeapAlloc(ctx, sizeof(Event3c));
+         if (pvalue->u.event3c == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event3c", -1, "InterRATEvent");
+         asn1Init_UMTS_Event3c(pvalue->u.event3c);
+         stat = dec_Event3c(ctx, pvalue->u.event3c, cur);
+         RT_CHECK(ctx, stat, 0, "event3c", -1, "InterRATEvent");
+         break;
+      case 3: /* event3d */
+         pvalue->u.event3d = (Event3d*)rtxMemHeapAlloc(ctx, sizeof(Event3d));
+         if (pvalue->u.event3d == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event3d", -1, "InterRATEvent");
+         asn1Init_UMTS_Event3d(pvalue->u.event3d);
+         stat = dec_Event3d(ctx, pvalue->u.event3d, cur);
+         RT_CHECK(ctx, stat, 0, "event3d", -1, "InterRATEvent");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterRATEvent");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterRATEvent(rtxContext* RT_RESTRICT ctx, InterRATEvent* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATEvent, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATEventList(rtxContext* RT_RESTRICT ctx, InterRATEventList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATEventList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      InterRATEvent* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRATEvent));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "InterRATEvent", (int32_t)i, "InterRATEventList");
+      elem = (InterRATEvent*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_InterRATEvent(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_InterRATEvent(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "InterRATEvent", (int32_t)i, "InterRATEventList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATEventList(rtxContext* RT_RESTRICT ctx, InterRATEventList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATEventList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementQuantityGSM(rtxContext* RT_RESTRICT ctx, MeasurementQuantityGSM* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementQuantityGSM");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementQuantityGSM(rtxContext* RT_RESTRICT ctx, MeasurementQuantityGSM* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementQuantityGSM, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasQuantity_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_ratSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
-   pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANCommand-GSM-v860ext */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v860ext);
-   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-v860ext", -1, 0);
-   /* nonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* measurementQuantity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->measurementQuantity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MeasurementQuantityGSM", "measurementQuantity", -1, 0);
+   /* filterCoefficient */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->filterCoefficient, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
    }
+   else {
+      pvalue->filterCoefficient = 0;
+   }
+   /* bsic-VerificationRequired */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->bsic_VerificationRequired, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "BSIC-VerificationRequired", "bsic-VerificationRequired", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasQuantity_ratSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasQuantity_ratSpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_ratSpecificInfo_is_2000* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANCommand-GSM-r6 */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_r6);
-   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-r6", -1, 0);
-   /* handoverFromUTRANCommand-GSM-r6-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tadd-EcIo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tadd_EcIo, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tadd-EcIo", -1, 0);
+   /* tcomp-EcIo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tcomp_EcIo, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tcomp-EcIo", -1, 0);
+   /* softSlope */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANCommand_GSM_r6_add_ext);
-      RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-r6-add-ext", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->softSlope, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, 0, "softSlope", -1, 0);
    }
-   /* v860NonCriticalExtensions */
+   /* addIntercept */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->addIntercept, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, 0, "addIntercept", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_ratSpecificInfo_is_2000* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasQuantity_ratSpecificInfo_is_2000, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasQuantity_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_ratSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm */
+         pvalue->u.gsm = (InterRATMeasQuantity_ratSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_ratSpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(pvalue->u.gsm);
+         stat = dec_InterRATMeasQuantity_ratSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      case 1: /* is-2000 */
+         pvalue->u.is_2000 = (InterRATMeasQuantity_ratSpecificInfo_is_2000*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_ratSpecificInfo_is_2000));
+         if (pvalue->u.is_2000 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "is-2000", -1, 0);
+         asn1Init_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(pvalue->u.is_2000);
+         stat = dec_InterRATMeasQuantity_ratSpecificInfo_is_2000(ctx, pvalue->u.is_2000, cur);
+         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_ratSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasQuantity_ratSpecificInfo, pvalue);
+}
+
+static int dec_InterRATMeasQuantity(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATMeasQuantity");
+   /* measQuantityUTRAN-QualityEstimate */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->measQuantityUTRAN_QualityEstimate, cur);
+      RT_CHECK(ctx, stat, 0, "measQuantityUTRAN-QualityEstimate", -1, "InterRATMeasQuantity");
+   }
+   /* ratSpecificInfo */
+   stat = dec_InterRATMeasQuantity_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATMeasQuantity");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasQuantity(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* measurementQuantity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->measurementQuantity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MeasurementQuantityGSM", "measurementQuantity", -1, 0);
+   /* filterCoefficient */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->filterCoefficient, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
+   }
+   else {
+      pvalue->filterCoefficient = 0;
+   }
+   /* bsic-VerificationRequired */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->bsic_VerificationRequired, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "BSIC-VerificationRequired", "bsic-VerificationRequired", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasQuantity_r8_ratSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo_is_2000* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tadd-EcIo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tadd_EcIo, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tadd-EcIo", -1, 0);
+   /* tcomp-EcIo */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tcomp_EcIo, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tcomp-EcIo", -1, 0);
+   /* softSlope */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->softSlope, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, 0, "softSlope", -1, 0);
+   }
+   /* addIntercept */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->addIntercept, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, 0, "addIntercept", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo_is_2000* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementQuantityEUTRA(rtxContext* RT_RESTRICT ctx, MeasurementQuantityEUTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementQuantityEUTRA");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementQuantityEUTRA(rtxContext* RT_RESTRICT ctx, MeasurementQuantityEUTRA* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementQuantityEUTRA, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* measurementQuantity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->measurementQuantity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "MeasurementQuantityEUTRA", "measurementQuantity", -1, 0);
+   /* filterCoefficient */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->filterCoefficient, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
+   }
+   else {
+      pvalue->filterCoefficient = 0;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasQuantity_r8_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm */
+         pvalue->u.gsm = (InterRATMeasQuantity_r8_ratSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_r8_ratSpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(pvalue->u.gsm);
+         stat = dec_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      case 1: /* is-2000 */
+         pvalue->u.is_2000 = (InterRATMeasQuantity_r8_ratSpecificInfo_is_2000*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_r8_ratSpecificInfo_is_2000));
+         if (pvalue->u.is_2000 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "is-2000", -1, 0);
+         asn1Init_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(pvalue->u.is_2000);
+         stat = dec_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(ctx, pvalue->u.is_2000, cur);
+         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
+         break;
+      case 2: /* e-UTRA */
+         pvalue->u.e_UTRA = (InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA));
+         if (pvalue->u.e_UTRA == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "e-UTRA", -1, 0);
+         asn1Init_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(pvalue->u.e_UTRA);
+         stat = dec_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(ctx, pvalue->u.e_UTRA, cur);
+         RT_CHECK(ctx, stat, 0, "e-UTRA", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8_ratSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasQuantity_r8_ratSpecificInfo, pvalue);
+}
+
+static int dec_InterRATMeasQuantity_r8(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATMeasQuantity-r8");
+   /* measQuantityUTRAN-QualityEstimate */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->measQuantityUTRAN_QualityEstimate, cur);
+      RT_CHECK(ctx, stat, 0, "measQuantityUTRAN-QualityEstimate", -1, "InterRATMeasQuantity-r8");
+   }
+   /* ratSpecificInfo */
+   stat = dec_InterRATMeasQuantity_r8_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATMeasQuantity-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasQuantity_r8(rtxContext* RT_RESTRICT ctx, InterRATMeasQuantity_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasQuantity_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasuredResults(rtxContext* RT_RESTRICT ctx, InterRATMeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATMeasuredResults");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm */
+         pvalue->u.gsm = (GSM_MeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(GSM_MeasuredResultsList));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, "InterRATMeasuredResults");
+         asn1Init_UMTS_GSM_MeasuredResultsList(pvalue->u.gsm);
+         stat = dec_GSM_MeasuredResultsList(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRATMeasuredResults");
+         break;
+      case 1: /* spare */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterRATMeasuredResults");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasuredResults(rtxContext* RT_RESTRICT ctx, InterRATMeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasuredResults, pvalue);
+}
+
+static int dec_InterRATMeasuredResultsList(rtxContext* RT_RESTRICT ctx, InterRATMeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATMeasuredResultsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      InterRATMeasuredResults* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRATMeasuredResults));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "InterRATMeasuredResults", (int32_t)i, "InterRATMeasuredResultsList");
+      elem = (InterRATMeasuredResults*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_InterRATMeasuredResults(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_InterRATMeasuredResults(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "InterRATMeasuredResults", (int32_t)i, "InterRATMeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasuredResultsList(rtxContext* RT_RESTRICT ctx, InterRATMeasuredResultsList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasuredResultsList, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATReportingQuantity_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_ratSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dummy */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dummy);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dummy", -1, 0);
+   /* dummy2 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dummy2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dummy2", -1, 0);
+   /* gsm-Carrier-RSSI */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->gsm_Carrier_RSSI);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gsm-Carrier-RSSI", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATReportingQuantity_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATReportingQuantity_ratSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATReportingQuantity_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_ratSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm */
+         pvalue->u.gsm = (InterRATReportingQuantity_ratSpecificInfo_gsm*)rtxMemHeapAllocZ(ctx, sizeof(InterRATReportingQuantity_ratSpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         stat = dec_InterRATReportingQuantity_ratSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATReportingQuantity_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_ratSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATReportingQuantity_ratSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATReportingQuantity(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* utran-EstimatedQuality */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->utran_EstimatedQuality);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utran-EstimatedQuality", -1, "InterRATReportingQuantity");
+   /* ratSpecificInfo */
+   stat = dec_InterRATReportingQuantity_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATReportingQuantity");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATReportingQuantity(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATReportingQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATReportingCriteria(rtxContext* RT_RESTRICT ctx, InterRATReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATReportingCriteria");
+   /* interRATEventList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterRATEventList(ctx, &pvalue->interRATEventList, cur);
+      RT_CHECK(ctx, stat, 0, "interRATEventList", -1, "InterRATReportingCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATReportingCriteria(rtxContext* RT_RESTRICT ctx, InterRATReportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATReportingCriteria, pvalue);
+}
+
+static int dec_InterRATReportCriteria(rtxContext* RT_RESTRICT ctx, InterRATReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATReportCriteria");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* interRATReportingCriteria */
+         pvalue->u.interRATReportingCriteria = (InterRATReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterRATReportingCriteria));
+         if (pvalue->u.interRATReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATReportingCriteria", -1, "InterRATReportCriteria");
+         asn1Init_UMTS_InterRATReportingCriteria(pvalue->u.interRATReportingCriteria);
+         stat = dec_InterRATReportingCriteria(ctx, pvalue->u.interRATReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interRATReportingCriteria", -1, "InterRATReportCriteria");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "InterRATReportCriteria");
+         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterRATReportCriteria");
+         break;
+      case 2: /* noReporting */
+         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
+         if (pvalue->u.noReporting == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "noReporting", -1, "InterRATReportCriteria");
+         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
+         stat = dec_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterRATReportCriteria");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterRATReportCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATReportCriteria(rtxContext* RT_RESTRICT ctx, InterRATReportCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATReportCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasurement(rtxContext* RT_RESTRICT ctx, InterRATMeasurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATMeasurement");
+   /* interRATCellInfoList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurement");
+   }
+   /* interRATMeasQuantity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement");
+   }
+   /* interRATReportingQuantity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement");
+   }
+   /* reportCriteria */
+   stat = dec_InterRATReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasurement(rtxContext* RT_RESTRICT ctx, InterRATMeasurement* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasurement, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasurement_r4(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATMeasurement-r4");
+   /* interRATCellInfoList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterRATCellInfoList_r4(ctx, &pvalue->interRATCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurement-r4");
+   }
+   /* interRATMeasQuantity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r4");
+   }
+   /* interRATReportingQuantity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r4");
+   }
+   /* reportCriteria */
+   stat = dec_InterRATReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasurement_r4(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasurement_r4, pvalue);
+}
+
+static int dec_InterRATMeasurement_r6(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATMeasurement-r6");
+   /* interRATCellInfoList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterRATCellInfoList_r6(ctx, &pvalue->interRATCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurement-r6");
+   }
+   /* interRATMeasQuantity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r6");
+   }
+   /* interRATReportingQuantity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r6");
+   }
+   /* reportCriteria */
+   stat = dec_InterRATReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasurement_r6(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasurement_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasurement_r8_interRATMeasurementObjects(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r8_interRATMeasurementObjects* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* interRATCellInfoList */
+         pvalue->u.interRATCellInfoList = (InterRATCellInfoList_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATCellInfoList_r6));
+         if (pvalue->u.interRATCellInfoList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATCellInfoList", -1, 0);
+         asn1Init_UMTS_InterRATCellInfoList_r6(pvalue->u.interRATCellInfoList);
+         stat = dec_InterRATCellInfoList_r6(ctx, pvalue->u.interRATCellInfoList, cur);
+         RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, 0);
+         break;
+      case 1: /* eutra-FrequencyList */
+         pvalue->u.eutra_FrequencyList = (EUTRA_FrequencyList*)rtxMemHeapAlloc(ctx, sizeof(EUTRA_FrequencyList));
+         if (pvalue->u.eutra_FrequencyList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "eutra-FrequencyList", -1, 0);
+         asn1Init_UMTS_EUTRA_FrequencyList(pvalue->u.eutra_FrequencyList);
+         stat = dec_EUTRA_FrequencyList(ctx, pvalue->u.eutra_FrequencyList, cur);
+         RT_CHECK(ctx, stat, 0, "eutra-FrequencyList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasurement_r8_interRATMeasurementObjects(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r8_interRATMeasurementObjects* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasurement_r8_interRATMeasurementObjects, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* gsm-Carrier-RSSI */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->gsm_Carrier_RSSI);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gsm-Carrier-RSSI", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATReportingQuantity_r8_ratSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* reportingQuantity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingQuantity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reportingQuantity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATReportingQuantity_r8_ratSpecificInfo_eutra, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATReportingQuantity_r8_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm */
+         pvalue->u.gsm = (InterRATReportingQuantity_r8_ratSpecificInfo_gsm*)rtxMemHeapAllocZ(ctx, sizeof(InterRATReportingQuantity_r8_ratSpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         stat = dec_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      case 1: /* eutra */
+         pvalue->u.eutra = (InterRATReportingQuantity_r8_ratSpecificInfo_eutra*)rtxMemHeapAllocZ(ctx, sizeof(InterRATReportingQuantity_r8_ratSpecificInfo_eutra));
+         if (pvalue->u.eutra == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "eutra", -1, 0);
+         stat = dec_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(ctx, pvalue->u.eutra, cur);
+         RT_CHECK(ctx, stat, 0, "eutra", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATReportingQuantity_r8_ratSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* utran-EstimatedQuality */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->utran_EstimatedQuality);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utran-EstimatedQuality", -1, "InterRATReportingQuantity-r8");
+   /* ratSpecificInfo */
+   stat = dec_InterRATReportingQuantity_r8_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATReportingQuantity-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATReportingQuantity_r8, pvalue);
+}
+
+static int dec_InterRATMeasurement_r8(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATMeasurement-r8");
+   /* interRATMeasurementObjects */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterRATMeasurement_r8_interRATMeasurementObjects(ctx, &pvalue->interRATMeasurementObjects, cur);
+      RT_CHECK(ctx, stat, 0, "interRATMeasurementObjects", -1, "InterRATMeasurement-r8");
+   }
+   /* interRATMeasQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterRATMeasQuantity_r8(ctx, &pvalue->interRATMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r8");
+   }
+   /* interRATReportingQuantity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_InterRATReportingQuantity_r8(ctx, &pvalue->interRATReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r8");
+   }
+   /* reportCriteria */
+   stat = dec_InterRATReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r8");
+   /* idleIntervalInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_IdleIntervalInfo(ctx, &pvalue->idleIntervalInfo, cur);
+      RT_CHECK(ctx, stat, 0, "idleIntervalInfo", -1, "InterRATMeasurement-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasurement_r8(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasurement_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRATMeasurement_r9_interRATMeasurementObjects(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r9_interRATMeasurementObjects* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* interRATCellInfoList */
+         pvalue->u.interRATCellInfoList = (InterRATCellInfoList_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATCellInfoList_r6));
+         if (pvalue->u.interRATCellInfoList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATCellInfoList", -1, 0);
+         asn1Init_UMTS_InterRATCellInfoList_r6(pvalue->u.interRATCellInfoList);
+         stat = dec_InterRATCellInfoList_r6(ctx, pvalue->u.interRATCellInfoList, cur);
+         RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, 0);
+         break;
+      case 1: /* eutra-FrequencyList */
+         pvalue->u.eutra_FrequencyList = (EUTRA_FrequencyList_r9*)rtxMemHeapAlloc(ctx, sizeof(EUTRA_FrequencyList_r9));
+         if (pvalue->u.eutra_FrequencyList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "eutra-FrequencyList", -1, 0);
+         asn1Init_UMTS_EUTRA_FrequencyList_r9(pvalue->u.eutra_FrequencyList);
+         stat = dec_EUTRA_FrequencyList_r9(ctx, pvalue->u.eutra_FrequencyList, cur);
+         RT_CHECK(ctx, stat, 0, "eutra-FrequencyList", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasurement_r9_interRATMeasurementObjects(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r9_interRATMeasurementObjects* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasurement_r9_interRATMeasurementObjects, pvalue);
+}
+
+static int dec_InterRATMeasurement_r9(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRATMeasurement-r9");
+   /* interRATMeasurementObjects */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_InterRATMeasurement_r9_interRATMeasurementObjects(ctx, &pvalue->interRATMeasurementObjects, cur);
+      RT_CHECK(ctx, stat, 0, "interRATMeasurementObjects", -1, "InterRATMeasurement-r9");
+   }
+   /* interRATMeasQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_InterRATMeasQuantity_r8(ctx, &pvalue->interRATMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r9");
+   }
+   /* interRATReportingQuantity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_InterRATReportingQuantity_r8(ctx, &pvalue->interRATReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r9");
+   }
+   /* reportCriteria */
+   stat = dec_InterRATReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r9");
+   /* idleIntervalInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_IdleIntervalInfo(ctx, &pvalue->idleIntervalInfo, cur);
+      RT_CHECK(ctx, stat, 0, "idleIntervalInfo", -1, "InterRATMeasurement-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasurement_r9(rtxContext* RT_RESTRICT ctx, InterRATMeasurement_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRATMeasurement_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCell(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCell");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell");
+   }
+   /* cellInfo */
+   stat = dec_CellInfo(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCell");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCell(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellList(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCell", (int32_t)i, "NewIntraFreqCellList");
+      elem = (NewIntraFreqCell*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCell(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewIntraFreqCell(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell", (int32_t)i, "NewIntraFreqCellList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellList(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellList, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoList");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoList");
+   }
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewIntraFreqCellList(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoList");
+   }
+   /* cellsForIntraFreqMeasList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCell_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCell-r4");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell-r4");
+   }
+   /* cellInfo */
+   stat = dec_CellInfo_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCell-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCell_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCell_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellList_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCell_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCell-r4", (int32_t)i, "NewIntraFreqCellList-r4");
+      elem = (NewIntraFreqCell_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCell_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewIntraFreqCell_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-r4", (int32_t)i, "NewIntraFreqCellList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellList_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellList_r4, pvalue);
+}
+
+static int dec_IntraFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoList-r4");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoList-r4");
+   }
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewIntraFreqCellList_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoList-r4");
+   }
+   /* cellsForIntraFreqMeasList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoList_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 5, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "removeSomeIntraFreqCells");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "IntraFreqCellIDOnSecULFreq", "IntraFreqCellIDOnSecULFreq", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells, pvalue);
+}
+
+RT_MERGED_BODY int dec_RemovedIntraFreqCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RemovedIntraFreqCellListOnSecULFreq");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* removeAllIntraFreqCells */
+         break;
+      case 1: /* removeSomeIntraFreqCells */
+         pvalue->u.removeSomeIntraFreqCells = (RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells*)rtxMemHeapAlloc(ctx, sizeof(RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells));
+         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellListOnSecULFreq");
+         asn1Init_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(pvalue->u.removeSomeIntraFreqCells);
+         stat = dec_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells, cur);
+         RT_CHECK(ctx, stat, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellListOnSecULFreq");
+         break;
+      case 2: /* removeNoIntraFreqCells */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RemovedIntraFreqCellListOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RemovedIntraFreqCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RemovedIntraFreqCellListOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellOnSecULFreq");
+   /* intraFreqCellIDOnSecULFreq */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqCellIDOnSecULFreq, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "IntraFreqCellIDOnSecULFreq", "intraFreqCellIDOnSecULFreq", -1, "NewIntraFreqCellOnSecULFreq");
+   }
+   /* cellInfo */
+   stat = dec_CellInfo_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellOnSecULFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellListOnSecULFreq");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCellOnSecULFreq* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellOnSecULFreq));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCellOnSecULFreq", (int32_t)i, "NewIntraFreqCellListOnSecULFreq");
+      elem = (NewIntraFreqCellOnSecULFreq*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCellOnSecULFreq(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewIntraFreqCellOnSecULFreq(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellOnSecULFreq", (int32_t)i, "NewIntraFreqCellListOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellListOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellInfoListInfoOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoListInfoOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoListInfoOnSecULFreq");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedIntraFreqCellListOnSecULFreq(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoListInfoOnSecULFreq");
+   }
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewIntraFreqCellListOnSecULFreq(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoListInfoOnSecULFreq");
+   }
+   /* cellsForIntraFreqMeasList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CellsForIntraFreqMeasListOnSecULFreq(ctx, &pvalue->cellsForIntraFreqMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoListInfoOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoListInfoOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoListInfoOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoListInfoOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellInfoListOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqCellInfoListOnSecULFreq */
+   stat = dec_IntraFreqCellInfoListInfoOnSecULFreq(ctx, &pvalue->intraFreqCellInfoListOnSecULFreq, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqCellInfoListOnSecULFreq", -1, "IntraFreqCellInfoListOnSecULFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoListOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoListOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCell_r9(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCell-r9");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell-r9");
+   }
+   /* cellInfo */
+   stat = dec_CellInfo_r9(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCell-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCell_r9(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCell_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellList_r9(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellList-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCell_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell_r9));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCell-r9", (int32_t)i, "NewIntraFreqCellList-r9");
+      elem = (NewIntraFreqCell_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCell_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewIntraFreqCell_r9(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-r9", (int32_t)i, "NewIntraFreqCellList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellList_r9(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellList_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqSIAcquisitionInfo(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisitionInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqSIAcquisitionInfo");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PrimaryCPICH_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, "IntraFreqSIAcquisitionInfo");
+      elem = (PrimaryCPICH_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_PrimaryCPICH_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "IntraFreqSIAcquisitionInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqSIAcquisitionInfo(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisitionInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqSIAcquisitionInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqSIAcquisitionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqSIAcquisitionInfo(ctx, &pvalue->intraFreqSIAcquisitionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqSIAcquisitionInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqSIAcquisition_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (IntraFreqSIAcquisition_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqSIAcquisition_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_IntraFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqSIAcquisition_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisition* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_IntraFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqSIAcquisition");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, IntraFreqSIAcquisition* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqSIAcquisition, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoList_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoList-r9");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoList-r9");
+   }
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_NewIntraFreqCellList_r9(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoList-r9");
+   }
+   /* cellsForIntraFreqMeasList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoList-r9");
+   }
+   /* cSGIntraFreqCellInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_CSGIntraFreqCellInfoList(ctx, &pvalue->cSGIntraFreqCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "cSGIntraFreqCellInfoList", -1, "IntraFreqCellInfoList-r9");
+   }
+   /* intraFreqSIAcquisition */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_IntraFreqSIAcquisition(ctx, &pvalue->intraFreqSIAcquisition, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqSIAcquisition", -1, "IntraFreqCellInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoList_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqCellInfoList_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, IntraFreqMeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasuredResultsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellMeasuredResults* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellMeasuredResults", (int32_t)i, "IntraFreqMeasuredResultsList");
+      elem = (CellMeasuredResults*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellMeasuredResults(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellMeasuredResults(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellMeasuredResults", (int32_t)i, "IntraFreqMeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, IntraFreqMeasuredResultsList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasuredResultsList, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, IntraFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasuredResultsList-v920ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellMeasuredResults_v920ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults_v920ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellMeasuredResults-v920ext", (int32_t)i, "IntraFreqMeasuredResultsList-v920ext");
+      elem = (CellMeasuredResults_v920ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellMeasuredResults_v920ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellMeasuredResults_v920ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-v920ext", (int32_t)i, "IntraFreqMeasuredResultsList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, IntraFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqMeasuredResultsList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportCriteria");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria");
+         asn1Init_UMTS_IntraFreqReportingCriteria(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria");
+         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria");
+         break;
+      case 2: /* noReporting */
+         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
+         if (pvalue->u.noReporting == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "noReporting", -1, "IntraFreqReportCriteria");
+         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
+         stat = dec_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportCriteria-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r4));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r4");
+         asn1Init_UMTS_IntraFreqReportingCriteria_r4(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r4");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r4");
+         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r4");
+         break;
+      case 2: /* noReporting */
+         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
+         if (pvalue->u.noReporting == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "noReporting", -1, "IntraFreqReportCriteria-r4");
+         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
+         stat = dec_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportCriteria_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportCriteria-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r6));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r6");
+         asn1Init_UMTS_IntraFreqReportingCriteria_r6(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r6");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r6");
+         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r6");
+         break;
+      case 2: /* noReporting */
+         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
+         if (pvalue->u.noReporting == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "noReporting", -1, "IntraFreqReportCriteria-r6");
+         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
+         stat = dec_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r6");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportCriteria_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportCriteria-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r7));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r7");
+         asn1Init_UMTS_IntraFreqReportingCriteria_r7(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r7");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r7");
+         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r7");
+         break;
+      case 2: /* noReporting */
+         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
+         if (pvalue->u.noReporting == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "noReporting", -1, "IntraFreqReportCriteria-r7");
+         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
+         stat = dec_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportCriteria_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportCriteria-r9");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r9*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r9));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r9");
+         asn1Init_UMTS_IntraFreqReportingCriteria_r9(pvalue->u.intraFreqReportingCriteria);
+         stat = dec_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r9");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r9");
+         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r9");
+         break;
+      case 2: /* noReporting */
+         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
+         if (pvalue->u.noReporting == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "noReporting", -1, "IntraFreqReportCriteria-r9");
+         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
+         stat = dec_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r9");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, IntraFreqReportCriteria_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFreqReportCriteria_r9, pvalue);
+}
+
+static int dec_IntraFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFrequencyMeasurement");
+   /* intraFreqCellInfoList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqCellInfoList(ctx, &pvalue->intraFreqCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement");
+   }
+   /* intraFreqReportingQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement");
+   }
+   /* reportCriteria */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_IntraFreqReportCriteria(ctx, &pvalue->reportCriteria, cur);
+      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFrequencyMeasurement, pvalue);
+}
+
+static int dec_IntraFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFrequencyMeasurement-r4");
+   /* intraFreqCellInfoList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r4");
+   }
+   /* intraFreqReportingQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r4");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r4");
+   }
+   /* reportCriteria */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_IntraFreqReportCriteria_r4(ctx, &pvalue->reportCriteria, cur);
+      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFrequencyMeasurement_r4, pvalue);
+}
+
+static int dec_IntraFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFrequencyMeasurement-r6");
+   /* intraFreqCellInfoList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r6");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r6");
+   }
+   /* intraFreqReportingQuantity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r6");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r6");
+   }
+   /* reportCriteria */
+   stat = dec_IntraFreqReportCriteria_r6(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFrequencyMeasurement_r6, pvalue);
+}
+
+static int dec_IntraFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFrequencyMeasurement-r7");
+   /* intraFreqCellInfoList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r7");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r7");
+   }
+   /* intraFreqReportingQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r7");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r7");
+   }
+   /* reportCriteria */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_IntraFreqReportCriteria_r7(ctx, &pvalue->reportCriteria, cur);
+      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFrequencyMeasurement_r7, pvalue);
+}
+
+static int dec_IntraFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFrequencyMeasurement-r9");
+   /* intraFreqCellInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntraFreqCellInfoList_r9(ctx, &pvalue->intraFreqCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r9");
+   }
+   /* intraFreqCellInfoListOnSecULFreq */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = dec_IntraFreqCellInfoListOnSecULFreq(ctx, &pvalue->intraFreqCellInfoListOnSecULFreq, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoListOnSecULFreq", -1, "IntraFrequencyMeasurement-r9");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = dec_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r9");
+   }
+   /* intraFreqReportingQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = dec_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r9");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r9");
+   }
+   /* reportCriteria */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = dec_IntraFreqReportCriteria_r9(ctx, &pvalue->reportCriteria, cur);
+      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasurement_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFrequencyMeasurement_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_IntraFrequencyMeasuredResultsListOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasuredResultsListOnSecULFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IntraFrequencyMeasuredResultsListOnSecULFreq");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellMeasuredResults_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults_r9));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CellMeasuredResults-r9", (int32_t)i, "IntraFrequencyMeasuredResultsListOnSecULFreq");
+      elem = (CellMeasuredResults_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellMeasuredResults_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CellMeasuredResults_r9(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-r9", (int32_t)i, "IntraFrequencyMeasuredResultsListOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFrequencyMeasuredResultsListOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFrequencyMeasuredResultsListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IntraFrequencyMeasuredResultsListOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_IP_Length(rtxContext* RT_RESTRICT ctx, IP_Length* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IP-Length");
+   return 0;
+}
+
+int asn1PD_UMTS_IP_Length(rtxContext* RT_RESTRICT ctx, IP_Length* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IP_Length, pvalue);
+}
+
+RT_MERGED_BODY int dec_IP_PCCPCH_r4(rtxContext* RT_RESTRICT ctx, IP_PCCPCH_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = rtxDecBitAt(ctx, cur, pvalue);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IP-PCCPCH-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_IP_PCCPCH_r4(rtxContext* RT_RESTRICT ctx, IP_PCCPCH_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IP_PCCPCH_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_IP_Spacing(rtxContext* RT_RESTRICT ctx, IP_Spacing* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IP-Spacing");
+   return 0;
+}
+
+int asn1PD_UMTS_IP_Spacing(rtxContext* RT_RESTRICT ctx, IP_Spacing* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IP_Spacing, pvalue);
+}
+
+RT_MERGED_BODY int dec_IP_Spacing_TDD(rtxContext* RT_RESTRICT ctx, IP_Spacing_TDD* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "IP-Spacing-TDD");
+   return 0;
+}
+
+int asn1PD_UMTS_IP_Spacing_TDD(rtxContext* RT_RESTRICT ctx, IP_Spacing_TDD* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_IP_Spacing_TDD, pvalue);
+}
+
+RT_MERGED_BODY int dec_RLC_BuffersPayload(rtxContext* RT_RESTRICT ctx, RLC_BuffersPayload* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "RLC-BuffersPayload");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_BuffersPayload(rtxContext* RT_RESTRICT ctx, RLC_BuffersPayload* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_RLC_BuffersPayload, pvalue);
+}
+
+RT_MERGED_BODY int dec_VarianceOfRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, VarianceOfRLC_BufferPayload* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "VarianceOfRLC-BufferPayload");
+   return 0;
+}
+
+int asn1PD_UMTS_VarianceOfRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, VarianceOfRLC_BufferPayload* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_VarianceOfRLC_BufferPayload, pvalue);
+}
+
+RT_MERGED_BODY int dec_TrafficVolumeMeasuredResults(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeMeasuredResults");
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "TrafficVolumeMeasuredResults");
+   /* rlc-BuffersPayload */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rlc_BuffersPayload, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "RLC-BuffersPayload", "rlc-BuffersPayload", -1, "TrafficVolumeMeasuredResults");
+   }
+   /* averageRLC-BufferPayload */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->averageRLC_BufferPayload, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "AverageRLC-BufferPayload", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasuredResults");
+   }
+   /* varianceOfRLC-BufferPayload */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->varianceOfRLC_BufferPayload, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "VarianceOfRLC-BufferPayload", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasuredResults");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeMeasuredResults(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeMeasuredResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_TrafficVolumeMeasuredResultsList(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeMeasuredResultsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TrafficVolumeMeasuredResults* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TrafficVolumeMeasuredResults));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TrafficVolumeMeasuredResults", (int32_t)i, "TrafficVolumeMeasuredResultsList");
+      elem = (TrafficVolumeMeasuredResults*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TrafficVolumeMeasuredResults(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TrafficVolumeMeasuredResults(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "TrafficVolumeMeasuredResults", (int32_t)i, "TrafficVolumeMeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeMeasuredResultsList(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasuredResultsList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeMeasuredResultsList, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIR(rtxContext* RT_RESTRICT ctx, SIR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIR");
+   return 0;
+}
+
+int asn1PD_UMTS_SIR(rtxContext* RT_RESTRICT ctx, SIR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIR, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIR_TimeslotList(rtxContext* RT_RESTRICT ctx, SIR_TimeslotList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIR-TimeslotList");
+      pvalue->n = n = raw + 1;
+      if (raw > 13) {
+         rtxErrAddStrParm(ctx, "SIR-TimeslotList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SIR-TimeslotList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 63);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "SIR", "SIR", (int32_t)i, "SIR-TimeslotList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SIR_TimeslotList(rtxContext* RT_RESTRICT ctx, SIR_TimeslotList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIR_TimeslotList, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIR_MeasurementResults(rtxContext* RT_RESTRICT ctx, SIR_MeasurementResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tfcs-ID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tfcs_ID, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "SIR-MeasurementResults");
+   /* sir-TimeslotList */
+   stat = dec_SIR_TimeslotList(ctx, &pvalue->sir_TimeslotList, cur);
+   RT_CHECK(ctx, stat, 0, "sir-TimeslotList", -1, "SIR-MeasurementResults");
+   return 0;
+}
+
+int asn1PD_UMTS_SIR_MeasurementResults(rtxContext* RT_RESTRICT ctx, SIR_MeasurementResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIR_MeasurementResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIR_MeasurementList(rtxContext* RT_RESTRICT ctx, SIR_MeasurementList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIR-MeasurementList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SIR_MeasurementResults* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SIR_MeasurementResults));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SIR-MeasurementResults", (int32_t)i, "SIR-MeasurementList");
+      elem = (SIR_MeasurementResults*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SIR_MeasurementResults(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SIR_MeasurementResults(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SIR-MeasurementResults", (int32_t)i, "SIR-MeasurementList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SIR_MeasurementList(rtxContext* RT_RESTRICT ctx, SIR_MeasurementList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIR_MeasurementList, pvalue);
+}
+
+RT_MERGED_BODY int dec_QualityMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, QualityMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sir-MeasurementResults */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SIR_MeasurementList(ctx, &pvalue->sir_MeasurementResults, cur);
+      RT_CHECK(ctx, stat, 0, "sir-MeasurementResults", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, QualityMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_QualityMeasuredResults_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_QualityMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, QualityMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (QualityMeasuredResults_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasuredResults_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_QualityMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_QualityMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, QualityMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_QualityMeasuredResults_modeSpecificInfo, pvalue);
+}
+
+static int dec_QualityMeasuredResults(rtxContext* RT_RESTRICT ctx, QualityMeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "QualityMeasuredResults");
+   /* blerMeasurementResultsList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_BLER_MeasurementResultsList(ctx, &pvalue->blerMeasurementResultsList, cur);
+      RT_CHECK(ctx, stat, 0, "blerMeasurementResultsList", -1, "QualityMeasuredResults");
+   }
+   /* modeSpecificInfo */
+   stat = dec_QualityMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "QualityMeasuredResults");
+   return 0;
+}
+
+int asn1PD_UMTS_QualityMeasuredResults(rtxContext* RT_RESTRICT ctx, QualityMeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_QualityMeasuredResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_TransmittedPower(rtxContext* RT_RESTRICT ctx, UE_TransmittedPower* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 104);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-TransmittedPower");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_TransmittedPower(rtxContext* RT_RESTRICT ctx, UE_TransmittedPower* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_TransmittedPower, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RX_TX_TimeDifferenceType1(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 768, 1791);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceType1");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RX_TX_TimeDifferenceType1(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RX_TX_TimeDifferenceType1, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RX_TX_ReportEntry(rtxContext* RT_RESTRICT ctx, UE_RX_TX_ReportEntry* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "UE-RX-TX-ReportEntry");
+   /* ue-RX-TX-TimeDifferenceType1 */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ue_RX_TX_TimeDifferenceType1, 768, 1791);
+   RT_CHECK_AT(ctx, cur, stat, "UE-RX-TX-TimeDifferenceType1", "ue-RX-TX-TimeDifferenceType1", -1, "UE-RX-TX-ReportEntry");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RX_TX_ReportEntry(rtxContext* RT_RESTRICT ctx, UE_RX_TX_ReportEntry* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RX_TX_ReportEntry, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RX_TX_ReportEntryList(rtxContext* RT_RESTRICT ctx, UE_RX_TX_ReportEntryList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RX-TX-ReportEntryList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_RX_TX_ReportEntry* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RX_TX_ReportEntry));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-RX-TX-ReportEntry", (int32_t)i, "UE-RX-TX-ReportEntryList");
+      elem = (UE_RX_TX_ReportEntry*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_RX_TX_ReportEntry(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-RX-TX-ReportEntry", (int32_t)i, "UE-RX-TX-ReportEntryList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RX_TX_ReportEntryList(rtxContext* RT_RESTRICT ctx, UE_RX_TX_ReportEntryList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RX_TX_ReportEntryList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-TransmittedPowerFDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_TransmittedPowerFDD, 0, 104);
+      RT_CHECK_AT(ctx, cur, stat, "UE-TransmittedPower", "ue-TransmittedPowerFDD", -1, 0);
+   }
+   /* ue-RX-TX-ReportEntryList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_RX_TX_ReportEntryList(ctx, &pvalue->ue_RX_TX_ReportEntryList, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RX-TX-ReportEntryList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasuredResults_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_TransmittedPowerTDD_List(rtxContext* RT_RESTRICT ctx, UE_TransmittedPowerTDD_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 4, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-TransmittedPowerTDD-List");
+      pvalue->n = n = raw + 1;
+      if (raw > 13) {
+         rtxErrAddStrParm(ctx, "UE-TransmittedPowerTDD-List");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UE-TransmittedPowerTDD-List");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 0, 104);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "UE-TransmittedPower", "UE-TransmittedPower", (int32_t)i, "UE-TransmittedPowerTDD-List");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_TransmittedPowerTDD_List(rtxContext* RT_RESTRICT ctx, UE_TransmittedPowerTDD_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_TransmittedPowerTDD_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-TransmittedPowerTDD-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_TransmittedPowerTDD_List(ctx, &pvalue->ue_TransmittedPowerTDD_List, cur);
+      RT_CHECK(ctx, stat, 0, "ue-TransmittedPowerTDD-List", -1, 0);
+   }
+   /* appliedTA */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->appliedTA, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, "UL-TimingAdvance", "appliedTA", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasuredResults_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_InternalMeasuredResults_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_UE_InternalMeasuredResults_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_InternalMeasuredResults_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UE_InternalMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasuredResults_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_UE_InternalMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalMeasuredResults");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasuredResults(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasuredResults, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_ErrorCause(rtxContext* RT_RESTRICT ctx, UE_Positioning_ErrorCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-ErrorCause");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ErrorCause(rtxContext* RT_RESTRICT ctx, UE_Positioning_ErrorCause* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_ErrorCause, pvalue);
+}
+
+RT_MERGED_BODY int dec_SatData(rtxContext* RT_RESTRICT ctx, SatData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* satID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, "SatID", "satID", -1, "SatData");
+   /* iode */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->iode, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "IODE", "iode", -1, "SatData");
+   return 0;
+}
+
+int asn1PD_UMTS_SatData(rtxContext* RT_RESTRICT ctx, SatData* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SatData, pvalue);
+}
+
+RT_MERGED_BODY int dec_SatDataList(rtxContext* RT_RESTRICT ctx, SatDataList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 0, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SatDataList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SatData* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SatData));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "SatData", (int32_t)i, "SatDataList");
+      elem = (SatData*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_SatData(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "SatData", (int32_t)i, "SatDataList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SatDataList(rtxContext* RT_RESTRICT ctx, SatDataList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SatDataList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_NavModelAddDataReq(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_NavModelAddDataReq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* gps-Week */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->gps_Week, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gps-Week", -1, "UE-Positioning-GPS-NavModelAddDataReq");
+   /* gps-Toe */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->gps_Toe, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gps-Toe", -1, "UE-Positioning-GPS-NavModelAddDataReq");
+   /* tToeLimit */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tToeLimit, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tToeLimit", -1, "UE-Positioning-GPS-NavModelAddDataReq");
+   /* satDataList */
+   stat = dec_SatDataList(ctx, &pvalue->satDataList, cur);
+   RT_CHECK(ctx, stat, 0, "satDataList", -1, "UE-Positioning-GPS-NavModelAddDataReq");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_NavModelAddDataReq(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_NavModelAddDataReq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_NavModelAddDataReq, pvalue);
+}
+
+static int dec_UE_Positioning_GPS_AdditionalAssistanceDataRequest(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AdditionalAssistanceDataRequest* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* almanacRequest */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->almanacRequest);
+   RT_CHECK_AT(ctx, cur, stat, 0, "almanacRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* utcModelRequest */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->utcModelRequest);
+   RT_CHECK_AT(ctx, cur, stat, 0, "utcModelRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* ionosphericModelRequest */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ionosphericModelRequest);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ionosphericModelRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* navigationModelRequest */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->navigationModelRequest);
+   RT_CHECK_AT(ctx, cur, stat, 0, "navigationModelRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* dgpsCorrectionsRequest */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dgpsCorrectionsRequest);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dgpsCorrectionsRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* referenceLocationRequest */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->referenceLocationRequest);
+   RT_CHECK_AT(ctx, cur, stat, 0, "referenceLocationRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* referenceTimeRequest */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->referenceTimeRequest);
+   RT_CHECK_AT(ctx, cur, stat, 0, "referenceTimeRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* aquisitionAssistanceRequest */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->aquisitionAssistanceRequest);
+   RT_CHECK_AT(ctx, cur, stat, 0, "aquisitionAssistanceRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* realTimeIntegrityRequest */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->realTimeIntegrityRequest);
+   RT_CHECK_AT(ctx, cur, stat, 0, "realTimeIntegrityRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* navModelAddDataRequest */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GPS_NavModelAddDataReq(ctx, &pvalue->navModelAddDataRequest, cur);
+      RT_CHECK(ctx, stat, 0, "navModelAddDataRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AdditionalAssistanceDataRequest* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_AdditionalAssistanceDataRequest, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_Error(rtxContext* RT_RESTRICT ctx, UE_Positioning_Error* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-Error");
+   /* errorReason */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->errorReason, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-ErrorCause", "errorReason", -1, "UE-Positioning-Error");
+   /* ue-positioning-GPS-additionalAssistanceDataRequest */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GPS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GPS_additionalAssistanceDataRequest, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Error(rtxContext* RT_RESTRICT ctx, UE_Positioning_Error* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_Error, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_MeasuredResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-MeasuredResults");
+   /* ue-positioning-OTDOA-Measurement */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_OTDOA_Measurement(ctx, &pvalue->ue_positioning_OTDOA_Measurement, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-Measurement", -1, "UE-Positioning-MeasuredResults");
+   }
+   /* ue-positioning-PositionEstimateInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_PositionEstimateInfo(ctx, &pvalue->ue_positioning_PositionEstimateInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-PositionEstimateInfo", -1, "UE-Positioning-MeasuredResults");
+   }
+   /* ue-positioning-GPS-Measurement */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GPS_MeasurementResults(ctx, &pvalue->ue_positioning_GPS_Measurement, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Measurement", -1, "UE-Positioning-MeasuredResults");
+   }
+   /* ue-positioning-Error */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_Error(ctx, &pvalue->ue_positioning_Error, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-Error", -1, "UE-Positioning-MeasuredResults");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_MeasuredResults(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_MeasuredResults, pvalue);
+}
+
+static int dec_MeasuredResults(rtxContext* RT_RESTRICT ctx, MeasuredResults* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResults");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqMeasuredResultsList */
+         pvalue->u.intraFreqMeasuredResultsList = (IntraFreqMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasuredResultsList));
+         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults");
+         asn1Init_UMTS_IntraFreqMeasuredResultsList(pvalue->u.intraFreqMeasuredResultsList);
+         stat = dec_IntraFreqMeasuredResultsList(ctx, pvalue->u.intraFreqMeasuredResultsList, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults");
+         break;
+      case 1: /* interFreqMeasuredResultsList */
+         pvalue->u.interFreqMeasuredResultsList = (InterFreqMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasuredResultsList));
+         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults");
+         asn1Init_UMTS_InterFreqMeasuredResultsList(pvalue->u.interFreqMeasuredResultsList);
+         stat = dec_InterFreqMeasuredResultsList(ctx, pvalue->u.interFreqMeasuredResultsList, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults");
+         break;
+      case 2: /* interRATMeasuredResultsList */
+         pvalue->u.interRATMeasuredResultsList = (InterRATMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasuredResultsList));
+         if (pvalue->u.interRATMeasuredResultsList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATMeasuredResultsList", -1, "MeasuredResults");
+         asn1Init_UMTS_InterRATMeasuredResultsList(pvalue->u.interRATMeasuredResultsList);
+         stat = dec_InterRATMeasuredResultsList(ctx, pvalue->u.interRATMeasuredResultsList, cur);
+         RT_CHECK(ctx, stat, 0, "interRATMeasuredResultsList", -1, "MeasuredResults");
+         break;
+      case 3: /* trafficVolumeMeasuredResultsList */
+         pvalue->u.trafficVolumeMeasuredResultsList = (TrafficVolumeMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasuredResultsList));
+         if (pvalue->u.trafficVolumeMeasuredResultsList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults");
+         asn1Init_UMTS_TrafficVolumeMeasuredResultsList(pvalue->u.trafficVolumeMeasuredResultsList);
+         stat = dec_TrafficVolumeMeasuredResultsList(ctx, pvalue->u.trafficVolumeMeasuredResultsList, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults");
+         break;
+      case 4: /* qualityMeasuredResults */
+         pvalue->u.qualityMeasuredResults = (QualityMeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasuredResults));
+         if (pvalue->u.qualityMeasuredResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "qualityMeasuredResults", -1, "MeasuredResults");
+         asn1Init_UMTS_QualityMeasuredResults(pvalue->u.qualityMeasuredResults);
+         stat = dec_QualityMeasuredResults(ctx, pvalue->u.qualityMeasuredResults, cur);
+         RT_CHECK(ctx, stat, 0, "qualityMeasuredResults", -1, "MeasuredResults");
+         break;
+      case 5: /* ue-InternalMeasuredResults */
+         pvalue->u.ue_InternalMeasuredResults = (UE_InternalMeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults));
+         if (pvalue->u.ue_InternalMeasuredResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults");
+         asn1Init_UMTS_UE_InternalMeasuredResults(pvalue->u.ue_InternalMeasuredResults);
+         stat = dec_UE_InternalMeasuredResults(ctx, pvalue->u.ue_InternalMeasuredResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults");
+         break;
+      case 6: /* ue-positioning-MeasuredResults */
+         pvalue->u.ue_positioning_MeasuredResults = (UE_Positioning_MeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasuredResults));
+         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults");
+         asn1Init_UMTS_UE_Positioning_MeasuredResults(pvalue->u.ue_positioning_MeasuredResults);
+         stat = dec_UE_Positioning_MeasuredResults(ctx, pvalue->u.ue_positioning_MeasuredResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults");
+         break;
+      case 7: /* spare */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResults(rtxContext* RT_RESTRICT ctx, MeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResults, pvalue);
+}
+
+static int dec_MeasuredResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* intraFreqMeasuredResultsList */
+   stat = dec_IntraFrequencyMeasuredResultsListOnSecULFreq(ctx, &pvalue->intraFreqMeasuredResultsList, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResultsOnSecUlFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnSecUlFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsOnSecUlFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_Neighbour_v390ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Neighbour_v390ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* frequencyInfo */
+   stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Neighbour_v390ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Neighbour_v390ext_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_Neighbour_v390ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Neighbour_v390ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (Neighbour_v390ext_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(Neighbour_v390ext_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_Neighbour_v390ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Neighbour_v390ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Neighbour_v390ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Neighbour_v390ext_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_Neighbour_v390ext(rtxContext* RT_RESTRICT ctx, Neighbour_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_Neighbour_v390ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Neighbour-v390ext");
+   return 0;
+}
+
+int asn1PD_UMTS_Neighbour_v390ext(rtxContext* RT_RESTRICT ctx, Neighbour_v390ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Neighbour_v390ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_NeighbourList_v390ext(rtxContext* RT_RESTRICT ctx, NeighbourList_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NeighbourList-v390ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Neighbour_v390ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Neighbour_v390ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Neighbour-v390ext", (int32_t)i, "NeighbourList-v390ext");
+      elem = (Neighbour_v390ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_Neighbour_v390ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_Neighbour_v390ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Neighbour-v390ext", (int32_t)i, "NeighbourList-v390ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NeighbourList_v390ext(rtxContext* RT_RESTRICT ctx, NeighbourList_v390ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NeighbourList_v390ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* neighbourList-v390ext */
+   stat = dec_NeighbourList_v390ext(ctx, &pvalue->neighbourList_v390ext, cur);
+   RT_CHECK(ctx, stat, 0, "neighbourList-v390ext", -1, "UE-Positioning-OTDOA-Measurement-v390ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_Measurement_v390ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_Measurement_v390ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_MeasuredResults_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-Positioning-OTDOA-Measurement-v390ext */
+   stat = dec_UE_Positioning_OTDOA_Measurement_v390ext(ctx, &pvalue->ue_Positioning_OTDOA_Measurement_v390ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-Measurement-v390ext", -1, "UE-Positioning-MeasuredResults-v390ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_MeasuredResults_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults_v390ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_MeasuredResults_v390ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResults_v390ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-positioning-MeasuredResults-v390ext */
+   stat = dec_UE_Positioning_MeasuredResults_v390ext(ctx, &pvalue->ue_positioning_MeasuredResults_v390ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults-v390ext", -1, "MeasuredResults-v390ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResults_v390ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v390ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResults_v390ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResults_v590ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResults-v590ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFrequencyMeasuredResultsList */
+         pvalue->u.intraFrequencyMeasuredResultsList = (IntraFrequencyMeasuredResultsList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasuredResultsList_v590ext));
+         if (pvalue->u.intraFrequencyMeasuredResultsList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
+         asn1Init_UMTS_IntraFrequencyMeasuredResultsList_v590ext(pvalue->u.intraFrequencyMeasuredResultsList);
+         stat = dec_IntraFrequencyMeasuredResultsList_v590ext(ctx, pvalue->u.intraFrequencyMeasuredResultsList, cur);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
+         break;
+      case 1: /* interFrequencyMeasuredResultsList */
+         pvalue->u.interFrequencyMeasuredResultsList = (InterFrequencyMeasuredResultsList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasuredResultsList_v590ext));
+         if (pvalue->u.interFrequencyMeasuredResultsList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
+         asn1Init_UMTS_InterFrequencyMeasuredResultsList_v590ext(pvalue->u.interFrequencyMeasuredResultsList);
+         stat = dec_InterFrequencyMeasuredResultsList_v590ext(ctx, pvalue->u.interFrequencyMeasuredResultsList, cur);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v590ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResults_v590ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResults_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* appliedTA */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_EXT_UL_TimingAdvance(ctx, &pvalue->appliedTA, cur);
+      RT_CHECK(ctx, stat, 0, "appliedTA", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_ADVinfo_ext(rtxContext* RT_RESTRICT ctx, T_ADVinfo_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* t-ADV */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->t_ADV, 0, 8191);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-ADV", -1, "T-ADVinfo-ext");
+   /* sfn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sfn", -1, "T-ADVinfo-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_T_ADVinfo_ext(rtxContext* RT_RESTRICT ctx, T_ADVinfo_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_T_ADVinfo_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* t-ADVinfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_T_ADVinfo_ext(ctx, &pvalue->t_ADVinfo, cur);
+      RT_CHECK(ctx, stat, 0, "t-ADVinfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384-768 */
+         pvalue->u.tdd384_768 = (UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768));
+         if (pvalue->u.tdd384_768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384-768", -1, 0);
+         asn1Init_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(pvalue->u.tdd384_768);
+         stat = dec_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(ctx, pvalue->u.tdd384_768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-768", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(pvalue->u.tdd128);
+         stat = dec_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasuredResults_v770ext_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalMeasuredResults-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasuredResults_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_ErrorCause_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ErrorCause_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-ErrorCause-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ErrorCause_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ErrorCause_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_ErrorCause_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ganssReferenceTime */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ganssReferenceTime);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssReferenceTime", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
+   /* ganssreferenceLocation */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ganssreferenceLocation);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssreferenceLocation", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
+   /* ganssIonosphericModel */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ganssIonosphericModel);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssIonosphericModel", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
+   /* ganssRequestedGenericAssistanceDataList */
+   stat = dec_GanssRequestedGenericAssistanceDataList(ctx, &pvalue->ganssRequestedGenericAssistanceDataList, cur);
+   RT_CHECK(ctx, stat, 0, "ganssRequestedGenericAssistanceDataList", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AdditionalAssistanceDataRequest, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_Error_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_Error_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-Error-r7");
+   /* errorReason */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->errorReason, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-ErrorCause-r7", "errorReason", -1, "UE-Positioning-Error-r7");
+   /* ue-positioning-GPS-additionalAssistanceDataRequest */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GPS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GPS_additionalAssistanceDataRequest, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error-r7");
+   }
+   /* ue-positioning-GANSS-additionalAssistanceDataRequest */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GANSS_additionalAssistanceDataRequest, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Error_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_Error_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_Error_r7, pvalue);
+}
+
+static int dec_UE_Positioning_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-MeasuredResults-v770ext");
+   /* ue-positioning-PositionEstimateInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_PositionEstimateInfo_v770ext(ctx, &pvalue->ue_positioning_PositionEstimateInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-PositionEstimateInfo", -1, "UE-Positioning-MeasuredResults-v770ext");
+   }
+   /* ue-positioning-GPS-Measurement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, &pvalue->ue_positioning_GPS_Measurement, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Measurement", -1, "UE-Positioning-MeasuredResults-v770ext");
+   }
+   /* ue-positioning-Error */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_Error_r7(ctx, &pvalue->ue_positioning_Error, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-Error", -1, "UE-Positioning-MeasuredResults-v770ext");
+   }
+   /* ue-positioning-Ganss-MeasuredResults */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_GANSS_MeasuredResults(ctx, &pvalue->ue_positioning_Ganss_MeasuredResults, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-Ganss-MeasuredResults", -1, "UE-Positioning-MeasuredResults-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_MeasuredResults_v770ext, pvalue);
+}
+
+static int dec_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResults-v770ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ueInternalMeasuredResults */
+         pvalue->u.ueInternalMeasuredResults = (UE_InternalMeasuredResults_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_v770ext));
+         if (pvalue->u.ueInternalMeasuredResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueInternalMeasuredResults", -1, "MeasuredResults-v770ext");
+         asn1Init_UMTS_UE_InternalMeasuredResults_v770ext(pvalue->u.ueInternalMeasuredResults);
+         stat = dec_UE_InternalMeasuredResults_v770ext(ctx, pvalue->u.ueInternalMeasuredResults, cur);
+         RT_CHECK(ctx, stat, 0, "ueInternalMeasuredResults", -1, "MeasuredResults-v770ext");
+         break;
+      case 1: /* ue-positioning-MeasuredResults */
+         pvalue->u.ue_positioning_MeasuredResults = (UE_Positioning_MeasuredResults_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasuredResults_v770ext));
+         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v770ext");
+         asn1Init_UMTS_UE_Positioning_MeasuredResults_v770ext(pvalue->u.ue_positioning_MeasuredResults);
+         stat = dec_UE_Positioning_MeasuredResults_v770ext(ctx, pvalue->u.ue_positioning_MeasuredResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v770ext");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResults_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+   /* ganssAddIonoModelReq */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 2, 2);
+      stat = pd_BitString32At(ctx, cur, &pvalue->ganssAddIonoModelReq, 2, 2);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssAddIonoModelReq", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+   }
+   /* ganssEOPreq */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "ganssEOPreq", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "ganssEOPreq", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+         pvalue->ganssEOPreq = ui;
+      }
+   }
+   /* ganssRequestedGenericAssistanceDataList */
+   stat = dec_GanssRequestedGenericAssistanceDataList_v860ext(ctx, &pvalue->ganssRequestedGenericAssistanceDataList, cur);
+   RT_CHECK(ctx, stat, 0, "ganssRequestedGenericAssistanceDataList", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_Error_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Error_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-Error-v860ext");
+   /* ue-positioning-GANSS-additionalAssistanceDataRequest */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(ctx, &pvalue->ue_positioning_GANSS_additionalAssistanceDataRequest, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Error_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Error_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_Error_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-MeasuredResults-v860ext");
+   /* ue-positioning-Error */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_Error_v860ext(ctx, &pvalue->ue_positioning_Error, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-Error", -1, "UE-Positioning-MeasuredResults-v860ext");
+   }
+   /* ue-positioning-Ganss-MeasurementResults */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, &pvalue->ue_positioning_Ganss_MeasurementResults, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-Ganss-MeasurementResults", -1, "UE-Positioning-MeasuredResults-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasuredResults_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_MeasuredResults_v860ext, pvalue);
+}
+
+static int dec_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResults-v860ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ue-positioning-MeasuredResults */
+         pvalue->u.ue_positioning_MeasuredResults = (UE_Positioning_MeasuredResults_v860ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasuredResults_v860ext));
+         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v860ext");
+         asn1Init_UMTS_UE_Positioning_MeasuredResults_v860ext(pvalue->u.ue_positioning_MeasuredResults);
+         stat = dec_UE_Positioning_MeasuredResults_v860ext(ctx, pvalue->u.ue_positioning_MeasuredResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v860ext");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResults_v860ext, pvalue);
+}
+
+static int dec_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResults-v920ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqMeasuredResultsList */
+         pvalue->u.intraFreqMeasuredResultsList = (IntraFreqMeasuredResultsList_v920ext*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasuredResultsList_v920ext));
+         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
+         asn1Init_UMTS_IntraFreqMeasuredResultsList_v920ext(pvalue->u.intraFreqMeasuredResultsList);
+         stat = dec_IntraFreqMeasuredResultsList_v920ext(ctx, pvalue->u.intraFreqMeasuredResultsList, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
+         break;
+      case 1: /* interFreqMeasuredResultsList */
+         pvalue->u.interFreqMeasuredResultsList = (InterFreqMeasuredResultsList_v920ext*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasuredResultsList_v920ext));
+         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
+         asn1Init_UMTS_InterFreqMeasuredResultsList_v920ext(pvalue->u.interFreqMeasuredResultsList);
+         stat = dec_InterFreqMeasuredResultsList_v920ext(ctx, pvalue->u.interFreqMeasuredResultsList, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, MeasuredResults_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResults_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResultsList-v920ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MeasuredResults_v920ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResults_v920ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MeasuredResults-v920ext", (int32_t)i, "MeasuredResultsList-v920ext");
+      elem = (MeasuredResults_v920ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MeasuredResults_v920ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MeasuredResults_v920ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MeasuredResults-v920ext", (int32_t)i, "MeasuredResultsList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsListOnSecUlFreq(rtxContext* RT_RESTRICT ctx, MeasuredResultsListOnSecUlFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResultsListOnSecUlFreq");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MeasuredResultsOnSecUlFreq* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResultsOnSecUlFreq));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MeasuredResultsOnSecUlFreq", (int32_t)i, "MeasuredResultsListOnSecUlFreq");
+      elem = (MeasuredResultsOnSecUlFreq*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MeasuredResultsOnSecUlFreq(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MeasuredResultsOnSecUlFreq(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MeasuredResultsOnSecUlFreq", (int32_t)i, "MeasuredResultsListOnSecUlFreq");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsListOnSecUlFreq(rtxContext* RT_RESTRICT ctx, MeasuredResultsListOnSecUlFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsListOnSecUlFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_T_ADVinfo(rtxContext* RT_RESTRICT ctx, T_ADVinfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* t-ADV */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->t_ADV, 0, 2047);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-ADV", -1, "T-ADVinfo");
+   /* sfn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sfn", -1, "T-ADVinfo");
+   return 0;
+}
+
+int asn1PD_UMTS_T_ADVinfo(rtxContext* RT_RESTRICT ctx, T_ADVinfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_T_ADVinfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalMeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-InternalMeasuredResults-LCR-r4");
+   /* ue-TransmittedPowerTDD-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_TransmittedPowerTDD_List(ctx, &pvalue->ue_TransmittedPowerTDD_List, cur);
+      RT_CHECK(ctx, stat, 0, "ue-TransmittedPowerTDD-List", -1, "UE-InternalMeasuredResults-LCR-r4");
+   }
+   /* t-ADVinfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_T_ADVinfo(ctx, &pvalue->t_ADVinfo, cur);
+      RT_CHECK(ctx, stat, 0, "t-ADVinfo", -1, "UE-InternalMeasuredResults-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, UE_InternalMeasuredResults_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasuredResults_LCR_r4, pvalue);
+}
+
+static int dec_MeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, MeasuredResults_LCR_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResults-LCR-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqMeasuredResultsList */
+         pvalue->u.intraFreqMeasuredResultsList = (IntraFreqMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasuredResultsList));
+         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         asn1Init_UMTS_IntraFreqMeasuredResultsList(pvalue->u.intraFreqMeasuredResultsList);
+         stat = dec_IntraFreqMeasuredResultsList(ctx, pvalue->u.intraFreqMeasuredResultsList, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 1: /* interFreqMeasuredResultsList */
+         pvalue->u.interFreqMeasuredResultsList = (InterFreqMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasuredResultsList));
+         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         asn1Init_UMTS_InterFreqMeasuredResultsList(pvalue->u.interFreqMeasuredResultsList);
+         stat = dec_InterFreqMeasuredResultsList(ctx, pvalue->u.interFreqMeasuredResultsList, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 2: /* interRATMeasuredResultsList */
+         pvalue->u.interRATMeasuredResultsList = (InterRATMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasuredResultsList));
+         if (pvalue->u.interRATMeasuredResultsList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         asn1Init_UMTS_InterRATMeasuredResultsList(pvalue->u.interRATMeasuredResultsList);
+         stat = dec_InterRATMeasuredResultsList(ctx, pvalue->u.interRATMeasuredResultsList, cur);
+         RT_CHECK(ctx, stat, 0, "interRATMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 3: /* trafficVolumeMeasuredResultsList */
+         pvalue->u.trafficVolumeMeasuredResultsList = (TrafficVolumeMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasuredResultsList));
+         if (pvalue->u.trafficVolumeMeasuredResultsList == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         asn1Init_UMTS_TrafficVolumeMeasuredResultsList(pvalue->u.trafficVolumeMeasuredResultsList);
+         stat = dec_TrafficVolumeMeasuredResultsList(ctx, pvalue->u.trafficVolumeMeasuredResultsList, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 4: /* qualityMeasuredResults */
+         pvalue->u.qualityMeasuredResults = (QualityMeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasuredResults));
+         if (pvalue->u.qualityMeasuredResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "qualityMeasuredResults", -1, "MeasuredResults-LCR-r4");
+         asn1Init_UMTS_QualityMeasuredResults(pvalue->u.qualityMeasuredResults);
+         stat = dec_QualityMeasuredResults(ctx, pvalue->u.qualityMeasuredResults, cur);
+         RT_CHECK(ctx, stat, 0, "qualityMeasuredResults", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 5: /* ue-InternalMeasuredResults */
+         pvalue->u.ue_InternalMeasuredResults = (UE_InternalMeasuredResults_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_LCR_r4));
+         if (pvalue->u.ue_InternalMeasuredResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults-LCR-r4");
+         asn1Init_UMTS_UE_InternalMeasuredResults_LCR_r4(pvalue->u.ue_InternalMeasuredResults);
+         stat = dec_UE_InternalMeasuredResults_LCR_r4(ctx, pvalue->u.ue_InternalMeasuredResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 6: /* ue-positioniing-MeasuredResults */
+         pvalue->u.ue_positioniing_MeasuredResults = (UE_Positioning_MeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasuredResults));
+         if (pvalue->u.ue_positioniing_MeasuredResults == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-positioniing-MeasuredResults", -1, "MeasuredResults-LCR-r4");
+         asn1Init_UMTS_UE_Positioning_MeasuredResults(pvalue->u.ue_positioniing_MeasuredResults);
+         stat = dec_UE_Positioning_MeasuredResults(ctx, pvalue->u.ue_positioniing_MeasuredResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioniing-MeasuredResults", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 7: /* spare */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, MeasuredResults_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResults_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, MeasuredResultsList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResultsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MeasuredResults* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResults));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MeasuredResults", (int32_t)i, "MeasuredResultsList");
+      elem = (MeasuredResults*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MeasuredResults(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MeasuredResults(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MeasuredResults", (int32_t)i, "MeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, MeasuredResultsList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_LCR_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResultsList-LCR-r4-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MeasuredResults_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResults_LCR_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MeasuredResults-LCR-r4", (int32_t)i, "MeasuredResultsList-LCR-r4-ext");
+      elem = (MeasuredResults_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MeasuredResults_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MeasuredResults_LCR_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MeasuredResults-LCR-r4", (int32_t)i, "MeasuredResultsList-LCR-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsList_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsList_v770xet_element(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v770xet_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* measuredResults */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasuredResults_v770ext(ctx, &pvalue->measuredResults, cur);
+      RT_CHECK(ctx, stat, 0, "measuredResults", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsList_v770xet_element(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v770xet_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsList_v770xet_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsList_v770xet(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v770xet* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResultsList-v770xet");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MeasuredResultsList_v770xet_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResultsList_v770xet_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "MeasuredResultsList-v770xet");
+      elem = (MeasuredResultsList_v770xet_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MeasuredResultsList_v770xet_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MeasuredResultsList_v770xet_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MeasuredResultsList-v770xet");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsList_v770xet(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v770xet* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsList_v770xet, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsList_v860ext_element(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v860ext_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* measuredResults */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasuredResults_v860ext(ctx, &pvalue->measuredResults, cur);
+      RT_CHECK(ctx, stat, 0, "measuredResults", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsList_v860ext_element(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v860ext_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsList_v860ext_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsList_v860ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResultsList-v860ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MeasuredResultsList_v860ext_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResultsList_v860ext_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, "MeasuredResultsList-v860ext");
+      elem = (MeasuredResultsList_v860ext_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MeasuredResultsList_v860ext_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MeasuredResultsList_v860ext_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MeasuredResultsList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsList_v860ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsList_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsList_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-Ec-N0 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.cpich_Ec_N0, 0, 63);
+         RT_CHECK_AT(ctx, cur, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+         break;
+      case 1: /* cpich-RSCP */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.cpich_RSCP, 0, 127);
+         RT_CHECK_AT(ctx, cur, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
+         break;
+      case 2: /* pathloss */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.pathloss, 46, 173);
+         RT_CHECK_AT(ctx, cur, stat, "Pathloss", "pathloss", -1, 0);
+         break;
+      case 3: /* spare */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* measurementQuantity */
+   stat = dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(ctx, &pvalue->measurementQuantity, cur);
+   RT_CHECK(ctx, stat, 0, "measurementQuantity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* timeslotISCP */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TimeslotISCP_List(ctx, &pvalue->timeslotISCP, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotISCP", -1, 0);
+   }
+   /* primaryCCPCH-RSCP */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_RSCP, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsOnRACH_currentCell(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_currentCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsOnRACH_currentCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-Ec-N0 */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.cpich_Ec_N0, 0, 63);
+         RT_CHECK_AT(ctx, cur, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+         break;
+      case 1: /* cpich-RSCP */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.cpich_RSCP, 0, 127);
+         RT_CHECK_AT(ctx, cur, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
+         break;
+      case 2: /* pathloss */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.pathloss, 46, 173);
+         RT_CHECK_AT(ctx, cur, stat, "Pathloss", "pathloss", -1, 0);
+         break;
+      case 3: /* spare */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_MonitoredCellRACH_Result_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* measurementQuantity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(ctx, &pvalue->measurementQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementQuantity", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MonitoredCellRACH_Result_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MonitoredCellRACH_Result_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellParametersID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParametersID, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, 0);
+   /* primaryCCPCH-RSCP */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->primaryCCPCH_RSCP, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MonitoredCellRACH_Result_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MonitoredCellRACH_Result_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (MonitoredCellRACH_Result_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(MonitoredCellRACH_Result_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_MonitoredCellRACH_Result_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (MonitoredCellRACH_Result_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(MonitoredCellRACH_Result_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_MonitoredCellRACH_Result_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MonitoredCellRACH_Result_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_MonitoredCellRACH_Result(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MonitoredCellRACH-Result");
+   /* sfn-SFN-ObsTimeDifference */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SFN_SFN_ObsTimeDifference(ctx, &pvalue->sfn_SFN_ObsTimeDifference, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-SFN-ObsTimeDifference", -1, "MonitoredCellRACH-Result");
+   }
+   /* modeSpecificInfo */
+   stat = dec_MonitoredCellRACH_Result_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "MonitoredCellRACH-Result");
+   return 0;
+}
+
+int asn1PD_UMTS_MonitoredCellRACH_Result(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_Result* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MonitoredCellRACH_Result, pvalue);
+}
+
+RT_MERGED_BODY int dec_MonitoredCellRACH_List(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MonitoredCellRACH-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MonitoredCellRACH_Result* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MonitoredCellRACH_Result));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MonitoredCellRACH-Result", (int32_t)i, "MonitoredCellRACH-List");
+      elem = (MonitoredCellRACH_Result*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MonitoredCellRACH_Result(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MonitoredCellRACH_Result(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MonitoredCellRACH-Result", (int32_t)i, "MonitoredCellRACH-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MonitoredCellRACH_List(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MonitoredCellRACH_List, pvalue);
+}
+
+static int dec_MeasuredResultsOnRACH(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResultsOnRACH");
+   /* currentCell */
+   stat = dec_MeasuredResultsOnRACH_currentCell(ctx, &pvalue->currentCell, cur);
+   RT_CHECK(ctx, stat, 0, "currentCell", -1, "MeasuredResultsOnRACH");
+   /* monitoredCells */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MonitoredCellRACH_List(ctx, &pvalue->monitoredCells, cur);
+      RT_CHECK(ctx, stat, 0, "monitoredCells", -1, "MeasuredResultsOnRACH");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsOnRACH(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsOnRACH, pvalue);
+}
+
+RT_MERGED_BODY int dec_MonitoredCellRACH_List_v7g0ext(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_List_v7g0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MonitoredCellRACH-List-v7g0ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DeltaRSCPPerCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DeltaRSCPPerCell));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DeltaRSCPPerCell", (int32_t)i, "MonitoredCellRACH-List-v7g0ext");
+      elem = (DeltaRSCPPerCell*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DeltaRSCPPerCell(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DeltaRSCPPerCell(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "MonitoredCellRACH-List-v7g0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MonitoredCellRACH_List_v7g0ext(rtxContext* RT_RESTRICT ctx, MonitoredCellRACH_List_v7g0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MonitoredCellRACH_List_v7g0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsOnRACH_v7g0ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_v7g0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasuredResultsOnRACH-v7g0ext");
+   /* currentCell-DeltaRSCP */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DeltaRSCPPerCell(ctx, &pvalue->currentCell_DeltaRSCP, cur);
+      RT_CHECK(ctx, stat, 0, "currentCell-DeltaRSCP", -1, "MeasuredResultsOnRACH-v7g0ext");
+   }
+   /* monitoredCellRACH-List-v7g0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MonitoredCellRACH_List_v7g0ext(ctx, &pvalue->monitoredCellRACH_List_v7g0ext, cur);
+      RT_CHECK(ctx, stat, 0, "monitoredCellRACH-List-v7g0ext", -1, "MeasuredResultsOnRACH-v7g0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsOnRACH_v7g0ext(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACH_v7g0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsOnRACH_v7g0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasuredResultsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACHinterFreq* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* interFreqCellIndication-SIB11 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellIndication_SIB11, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "interFreqCellIndication-SIB11", -1, "MeasuredResultsOnRACHinterFreq");
+   /* interFreqCellIndication-SIB12 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->interFreqCellIndication_SIB12, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "interFreqCellIndication-SIB12", -1, "MeasuredResultsOnRACHinterFreq");
+   /* interFreqRACHRepCellsList */
+   stat = dec_InterFreqRACHRepCellsList(ctx, &pvalue->interFreqRACHRepCellsList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqRACHRepCellsList", -1, "MeasuredResultsOnRACHinterFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MeasuredResultsOnRACHinterFreq* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasuredResultsOnRACHinterFreq, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_MethodType(rtxContext* RT_RESTRICT ctx, UE_Positioning_MethodType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-MethodType");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_MethodType(rtxContext* RT_RESTRICT ctx, UE_Positioning_MethodType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_MethodType, pvalue);
+}
+
+RT_MERGED_BODY int dec_PositioningMethod(rtxContext* RT_RESTRICT ctx, PositioningMethod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "PositioningMethod");
+   return 0;
+}
+
+int asn1PD_UMTS_PositioningMethod(rtxContext* RT_RESTRICT ctx, PositioningMethod* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_PositioningMethod, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_ResponseTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_ResponseTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-ResponseTime");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ResponseTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_ResponseTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_ResponseTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_Accuracy(rtxContext* RT_RESTRICT ctx, UE_Positioning_Accuracy* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pd_BitString32At(ctx, cur, pvalue, 7, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-Accuracy");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Accuracy(rtxContext* RT_RESTRICT ctx, UE_Positioning_Accuracy* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_Accuracy, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_ReportingQuantity(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity");
+   /* methodType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->methodType, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity");
+   /* positioningMethod */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->positioningMethod, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity");
+   /* dummy1 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dummy1, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-ResponseTime", "dummy1", -1, "UE-Positioning-ReportingQuantity");
+   /* horizontal-Accuracy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_Accuracy(ctx, &pvalue->horizontal_Accuracy, cur);
+      RT_CHECK(ctx, stat, 0, "horizontal-Accuracy", -1, "UE-Positioning-ReportingQuantity");
+   }
+   /* gps-TimingOfCellWanted */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->gps_TimingOfCellWanted);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity");
+   /* dummy2 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dummy2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dummy2", -1, "UE-Positioning-ReportingQuantity");
+   /* additionalAssistanceDataRequest */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->additionalAssistanceDataRequest);
+   RT_CHECK_AT(ctx, cur, stat, 0, "additionalAssistanceDataRequest", -1, "UE-Positioning-ReportingQuantity");
+   /* environmentCharacterisation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->environmentCharacterisation, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ReportingQuantity(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_ReportingQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_MeasurementInterval(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementInterval* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-MeasurementInterval");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_MeasurementInterval(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementInterval* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_MeasurementInterval, pvalue);
+}
+
+RT_MERGED_BODY int dec_ThresholdPositionChange(rtxContext* RT_RESTRICT ctx, ThresholdPositionChange* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ThresholdPositionChange");
+   return 0;
+}
+
+int asn1PD_UMTS_ThresholdPositionChange(rtxContext* RT_RESTRICT ctx, ThresholdPositionChange* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ThresholdPositionChange, pvalue);
+}
+
+RT_MERGED_BODY int dec_ThresholdSFN_SFN_Change(rtxContext* RT_RESTRICT ctx, ThresholdSFN_SFN_Change* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ThresholdSFN-SFN-Change");
+   return 0;
+}
+
+int asn1PD_UMTS_ThresholdSFN_SFN_Change(rtxContext* RT_RESTRICT ctx, ThresholdSFN_SFN_Change* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ThresholdSFN_SFN_Change, pvalue);
+}
+
+RT_MERGED_BODY int dec_ThresholdSFN_GPS_TOW(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GPS_TOW* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ThresholdSFN-GPS-TOW");
+   return 0;
+}
+
+int asn1PD_UMTS_ThresholdSFN_GPS_TOW(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GPS_TOW* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ThresholdSFN_GPS_TOW, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_EventSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-EventSpecificInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e7a */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.e7a, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdPositionChange", "e7a", -1, "UE-Positioning-EventSpecificInfo");
+         break;
+      case 1: /* e7b */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.e7b, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdSFN-SFN-Change", "e7b", -1, "UE-Positioning-EventSpecificInfo");
+         break;
+      case 2: /* e7c */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.e7c, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdSFN-GPS-TOW", "e7c", -1, "UE-Positioning-EventSpecificInfo");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-EventSpecificInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_EventSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_EventSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_EventParam(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParam* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* reportingAmount */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "UE-Positioning-EventParam");
+   /* reportFirstFix */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->reportFirstFix);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reportFirstFix", -1, "UE-Positioning-EventParam");
+   /* measurementInterval */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->measurementInterval, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-MeasurementInterval", "measurementInterval", -1, "UE-Positioning-EventParam");
+   /* eventSpecificInfo */
+   stat = dec_UE_Positioning_EventSpecificInfo(ctx, &pvalue->eventSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "eventSpecificInfo", -1, "UE-Positioning-EventParam");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_EventParam(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParam* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_EventParam, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_EventParamList(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParamList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-EventParamList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_EventParam* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_EventParam));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-Positioning-EventParam", (int32_t)i, "UE-Positioning-EventParamList");
+      elem = (UE_Positioning_EventParam*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_EventParam(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_Positioning_EventParam(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-EventParam", (int32_t)i, "UE-Positioning-EventParamList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_EventParamList(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParamList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_EventParamList, pvalue);
+}
+
+static int dec_UE_Positioning_ReportCriteria(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-ReportCriteria");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ue-positioning-ReportingCriteria */
+         pvalue->u.ue_positioning_ReportingCriteria = (UE_Positioning_EventParamList*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_EventParamList));
+         if (pvalue->u.ue_positioning_ReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria");
+         asn1Init_UMTS_UE_Positioning_EventParamList(pvalue->u.ue_positioning_ReportingCriteria);
+         stat = dec_UE_Positioning_EventParamList(ctx, pvalue->u.ue_positioning_ReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria");
+         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria");
+         break;
+      case 2: /* noReporting */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-ReportCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ReportCriteria(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_ReportCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellAndChannelIdentity */
+   stat = dec_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ueBased */
+         pvalue->u.ueBased = (UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased));
+         if (pvalue->u.ueBased == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueBased", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(ctx, pvalue->u.ueBased, cur);
+         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         break;
+      case 1: /* ueAssisted */
+         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted));
+         if (pvalue->u.ueAssisted == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueAssisted", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted, cur);
+         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_IPDL_Parameters(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters");
+   /* ip-Spacing */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ip_Spacing, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "IP-Spacing", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters");
+   /* ip-Length */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ip_Length, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "IP-Length", "ip-Length", -1, "UE-Positioning-IPDL-Parameters");
+   /* ip-Offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ip_Offset, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ip-Offset", -1, "UE-Positioning-IPDL-Parameters");
+   /* seed */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->seed, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "seed", -1, "UE-Positioning-IPDL-Parameters");
+   /* burstModeParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_BurstModeParameters(ctx, &pvalue->burstModeParameters, cur);
+      RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_IPDL_Parameters(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_IPDL_Parameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   /* sfn */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn, 0, 4095);
+      RT_CHECK_AT(ctx, cur, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   }
+   /* modeSpecificInfo */
+   stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   }
+   /* positioningMode */
+   stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(ctx, &pvalue->positioningMode, cur);
+   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   /* ue-positioning-IPDL-Paremeters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellAndChannelIdentity */
+   stat = dec_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SFN_SFN_RelTimeDifference1(rtxContext* RT_RESTRICT ctx, SFN_SFN_RelTimeDifference1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sfn-Offset */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn_Offset, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sfn-Offset", -1, "SFN-SFN-RelTimeDifference1");
+   /* sfn-sfn-Reltimedifference */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn_sfn_Reltimedifference, 0, 38399);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sfn-sfn-Reltimedifference", -1, "SFN-SFN-RelTimeDifference1");
+   return 0;
+}
+
+int asn1PD_UMTS_SFN_SFN_RelTimeDifference1(rtxContext* RT_RESTRICT ctx, SFN_SFN_RelTimeDifference1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SFN_SFN_RelTimeDifference1, pvalue);
+}
+
+RT_MERGED_BODY int dec_SFN_SFN_Drift(rtxContext* RT_RESTRICT ctx, SFN_SFN_Drift* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 28);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SFN-SFN-Drift");
+   return 0;
+}
+
+int asn1PD_UMTS_SFN_SFN_Drift(rtxContext* RT_RESTRICT ctx, SFN_SFN_Drift* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SFN_SFN_Drift, pvalue);
+}
+
+RT_MERGED_BODY int dec_OTDOA_SearchWindowSize(rtxContext* RT_RESTRICT ctx, OTDOA_SearchWindowSize* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "OTDOA-SearchWindowSize");
+   return 0;
+}
+
+int asn1PD_UMTS_OTDOA_SearchWindowSize(rtxContext* RT_RESTRICT ctx, OTDOA_SearchWindowSize* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_OTDOA_SearchWindowSize, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ueBased */
+         pvalue->u.ueBased = (UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased));
+         if (pvalue->u.ueBased == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueBased", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(ctx, pvalue->u.ueBased, cur);
+         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         break;
+      case 1: /* ueAssisted */
+         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted));
+         if (pvalue->u.ueAssisted == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueAssisted", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted, cur);
+         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   /* modeSpecificInfo */
+   stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   }
+   /* ue-positioning-IPDL-Paremeters */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   }
+   /* sfn-SFN-RelTimeDifference */
+   stat = dec_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference, cur);
+   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   /* sfn-SFN-Drift */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sfn_SFN_Drift, 0, 28);
+      RT_CHECK_AT(ctx, cur, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   }
+   /* searchWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->searchWindowSize, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   /* positioningMode */
+   stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(ctx, &pvalue->positioningMode, cur);
+   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo, pvalue);
+}
+
+static int dec_UE_Positioning_OTDOA_NeighbourCellList(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_OTDOA_NeighbourCellInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList");
+      elem = (UE_Positioning_OTDOA_NeighbourCellInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellList, pvalue);
+}
+
+static int dec_UE_Positioning_OTDOA_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData");
+   /* ue-positioning-OTDOA-ReferenceCellInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo", -1, "UE-Positioning-OTDOA-AssistanceData");
+   }
+   /* ue-positioning-OTDOA-NeighbourCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_OTDOA_NeighbourCellList(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList", -1, "UE-Positioning-OTDOA-AssistanceData");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_AssistanceData, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_utran_GPSTimingOfCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ms-part */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ms_part, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ms-part", -1, 0);
+   /* ls-part */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->ls_part, 0, 4294967295LL);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ls-part", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_utran_GPSTimingOfCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* referenceIdentity */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* referenceIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->referenceIdentity, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTime_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UTRAN_GPSReferenceTime_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GPSReferenceTime_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UTRAN_GPSReferenceTime_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GPSReferenceTime_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GPSReferenceTime_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GPSReferenceTime(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTRAN-GPSReferenceTime");
+   /* utran-GPSTimingOfCell */
+   stat = dec_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(ctx, &pvalue->utran_GPSTimingOfCell, cur);
+   RT_CHECK(ctx, stat, 0, "utran-GPSTimingOfCell", -1, "UTRAN-GPSReferenceTime");
+   /* modeSpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UTRAN_GPSReferenceTime_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UTRAN-GPSReferenceTime");
+   }
+   /* sfn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sfn", -1, "UTRAN-GPSReferenceTime");
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GPSReferenceTime(rtxContext* RT_RESTRICT ctx, UTRAN_GPSReferenceTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GPSReferenceTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_SFN_TOW_Uncertainty(rtxContext* RT_RESTRICT ctx, SFN_TOW_Uncertainty* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SFN-TOW-Uncertainty");
+   return 0;
+}
+
+int asn1PD_UMTS_SFN_TOW_Uncertainty(rtxContext* RT_RESTRICT ctx, SFN_TOW_Uncertainty* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SFN_TOW_Uncertainty, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_GPS_DriftRate(rtxContext* RT_RESTRICT ctx, UTRAN_GPS_DriftRate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTRAN-GPS-DriftRate");
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_GPS_DriftRate(rtxContext* RT_RESTRICT ctx, UTRAN_GPS_DriftRate* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_GPS_DriftRate, pvalue);
+}
+
+static int dec_UE_Positioning_GPS_ReferenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime");
+   /* gps-Week */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->gps_Week, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gps-Week", -1, "UE-Positioning-GPS-ReferenceTime");
+   /* gps-tow-1msec */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->gps_tow_1msec, 0, 604799999);
+   RT_CHECK_AT(ctx, cur, stat, "GPS-TOW-1msec", "gps-tow-1msec", -1, "UE-Positioning-GPS-ReferenceTime");
+   /* utran-GPSReferenceTime */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-ReferenceTime");
+   }
+   /* sfn-tow-Uncertainty */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sfn_tow_Uncertainty, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "SFN-TOW-Uncertainty", "sfn-tow-Uncertainty", -1, "UE-Positioning-GPS-ReferenceTime");
+   }
+   /* utran-GPS-DriftRate */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->utran_GPS_DriftRate, 0, 14);
+      RT_CHECK_AT(ctx, cur, stat, "UTRAN-GPS-DriftRate", "utran-GPS-DriftRate", -1, "UE-Positioning-GPS-ReferenceTime");
+   }
+   /* gps-TOW-AssistList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_GPS_TOW_AssistList(ctx, &pvalue->gps_TOW_AssistList, cur);
+      RT_CHECK(ctx, stat, 0, "gps-TOW-AssistList", -1, "UE-Positioning-GPS-ReferenceTime");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_ReferenceTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReferenceLocation(rtxContext* RT_RESTRICT ctx, ReferenceLocation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ellipsoidPointAltitudeEllipsoide */
+   stat = dec_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide, cur);
+   RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipsoide", -1, "ReferenceLocation");
+   return 0;
+}
+
+int asn1PD_UMTS_ReferenceLocation(rtxContext* RT_RESTRICT ctx, ReferenceLocation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReferenceLocation, pvalue);
+}
+
+static int dec_UE_Positioning_GPS_DGPS_Corrections(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* gps-TOW */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->gps_TOW, 0, 604799);
+   RT_CHECK_AT(ctx, cur, stat, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections");
+   /* statusHealth */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->statusHealth, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections");
+   /* dgps-CorrectionSatInfoList */
+   stat = dec_DGPS_CorrectionSatInfoList(ctx, &pvalue->dgps_CorrectionSatInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_DGPS_Corrections, pvalue);
+}
+
+RT_MERGED_BODY int dec_SatelliteStatus(rtxContext* RT_RESTRICT ctx, SatelliteStatus* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SatelliteStatus");
+   return 0;
+}
+
+int asn1PD_UMTS_SatelliteStatus(rtxContext* RT_RESTRICT ctx, SatelliteStatus* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SatelliteStatus, pvalue);
+}
+
+RT_MERGED_BODY int dec_SubFrame1Reserved(rtxContext* RT_RESTRICT ctx, SubFrame1Reserved* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* reserved1 */
+   RT_SET_SIZE(ctx, 23, 23);
+   stat = pd_BitString32At(ctx, cur, &pvalue->reserved1, 23, 23);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reserved1", -1, "SubFrame1Reserved");
+   /* reserved2 */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->reserved2, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reserved2", -1, "SubFrame1Reserved");
+   /* reserved3 */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->reserved3, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reserved3", -1, "SubFrame1Reserved");
+   /* reserved4 */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->reserved4, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reserved4", -1, "SubFrame1Reserved");
+   return 0;
+}
+
+int asn1PD_UMTS_SubFrame1Reserved(rtxContext* RT_RESTRICT ctx, SubFrame1Reserved* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SubFrame1Reserved, pvalue);
+}
+
+static int dec_EphemerisParameter(rtxContext* RT_RESTRICT ctx, EphemerisParameter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* codeOnL2 */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_BitString32At(ctx, cur, &pvalue->codeOnL2, 2, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "codeOnL2", -1, "EphemerisParameter");
+   /* uraIndex */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32At(ctx, cur, &pvalue->uraIndex, 4, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "uraIndex", -1, "EphemerisParameter");
+   /* satHealth */
+   RT_SET_SIZE(ctx, 6, 6);
+   stat = pd_BitString32At(ctx, cur, &pvalue->satHealth, 6, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, "satHealth", -1, "EphemerisParameter");
+   /* iodc */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32At(ctx, cur, &pvalue->iodc, 10, 10);
+   RT_CHECK_AT(ctx, cur, stat, 0, "iodc", -1, "EphemerisParameter");
+   /* l2Pflag */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32At(ctx, cur, &pvalue->l2Pflag, 1, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "l2Pflag", -1, "EphemerisParameter");
+   /* sf1Revd */
+   stat = dec_SubFrame1Reserved(ctx, &pvalue->sf1Revd, cur);
+   RT_CHECK(ctx, stat, 0, "sf1Revd", -1, "EphemerisParameter");
+   /* t-GD */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->t_GD, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-GD", -1, "EphemerisParameter");
+   /* t-oc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->t_oc, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-oc", -1, "EphemerisParameter");
+   /* af2 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->af2, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "af2", -1, "EphemerisParameter");
+   /* af1 */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->af1, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "af1", -1, "EphemerisParameter");
+   /* af0 */
+   RT_SET_SIZE(ctx, 22, 22);
+   stat = pd_BitString32At(ctx, cur, &pvalue->af0, 22, 22);
+   RT_CHECK_AT(ctx, cur, stat, 0, "af0", -1, "EphemerisParameter");
+   /* c-rs */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->c_rs, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-rs", -1, "EphemerisParameter");
+   /* delta-n */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->delta_n, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "delta-n", -1, "EphemerisParameter");
+   /* m0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->m0, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "m0", -1, "EphemerisParameter");
+   /* c-uc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->c_uc, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-uc", -1, "EphemerisParameter");
+   /* e */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->e, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "e", -1, "EphemerisParameter");
+   /* c-us */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->c_us, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-us", -1, "EphemerisParameter");
+   /* a-Sqrt */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->a_Sqrt, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "a-Sqrt", -1, "EphemerisParameter");
+   /* t-oe */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->t_oe, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-oe", -1, "EphemerisParameter");
+   /* fitInterval */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32At(ctx, cur, &pvalue->fitInterval, 1, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "fitInterval", -1, "EphemerisParameter");
+   /* aodo */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->aodo, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "aodo", -1, "EphemerisParameter");
+   /* c-ic */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->c_ic, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-ic", -1, "EphemerisParameter");
+   /* omega0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->omega0, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "omega0", -1, "EphemerisParameter");
+   /* c-is */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->c_is, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-is", -1, "EphemerisParameter");
+   /* i0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->i0, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "i0", -1, "EphemerisParameter");
+   /* c-rc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->c_rc, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "c-rc", -1, "EphemerisParameter");
+   /* omega */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->omega, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "omega", -1, "EphemerisParameter");
+   /* omegaDot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->omegaDot, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "omegaDot", -1, "EphemerisParameter");
+   /* iDot */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pd_BitString32At(ctx, cur, &pvalue->iDot, 14, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "iDot", -1, "EphemerisParameter");
+   return 0;
+}
+
+int asn1PD_UMTS_EphemerisParameter(rtxContext* RT_RESTRICT ctx, EphemerisParameter* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_EphemerisParameter, pvalue);
+}
+
+RT_MERGED_BODY int dec_NavigationModelSatInfo(rtxContext* RT_RESTRICT ctx, NavigationModelSatInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NavigationModelSatInfo");
+   /* satID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, "SatID", "satID", -1, "NavigationModelSatInfo");
+   /* satelliteStatus */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->satelliteStatus, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "SatelliteStatus", "satelliteStatus", -1, "NavigationModelSatInfo");
+   /* ephemerisParameter */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_EphemerisParameter(ctx, &pvalue->ephemerisParameter, cur);
+      RT_CHECK(ctx, stat, 0, "ephemerisParameter", -1, "NavigationModelSatInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NavigationModelSatInfo(rtxContext* RT_RESTRICT ctx, NavigationModelSatInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NavigationModelSatInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_NavigationModelSatInfoList(rtxContext* RT_RESTRICT ctx, NavigationModelSatInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NavigationModelSatInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NavigationModelSatInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NavigationModelSatInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NavigationModelSatInfo", (int32_t)i, "NavigationModelSatInfoList");
+      elem = (NavigationModelSatInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NavigationModelSatInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NavigationModelSatInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NavigationModelSatInfo", (int32_t)i, "NavigationModelSatInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NavigationModelSatInfoList(rtxContext* RT_RESTRICT ctx, NavigationModelSatInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NavigationModelSatInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_NavigationModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_NavigationModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* navigationModelSatInfoList */
+   stat = dec_NavigationModelSatInfoList(ctx, &pvalue->navigationModelSatInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "navigationModelSatInfoList", -1, "UE-Positioning-GPS-NavigationModel");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_NavigationModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_NavigationModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_NavigationModel, pvalue);
+}
+
+static int dec_UE_Positioning_GPS_IonosphericModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_IonosphericModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* alpha0 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->alpha0, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "alpha0", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* alpha1 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->alpha1, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "alpha1", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* alpha2 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->alpha2, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "alpha2", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* alpha3 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->alpha3, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "alpha3", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* beta0 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->beta0, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "beta0", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* beta1 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->beta1, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "beta1", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* beta2 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->beta2, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "beta2", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* beta3 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->beta3, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "beta3", -1, "UE-Positioning-GPS-IonosphericModel");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_IonosphericModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_IonosphericModel, pvalue);
+}
+
+static int dec_UE_Positioning_GPS_UTC_Model(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_UTC_Model* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* a1 */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32At(ctx, cur, &pvalue->a1, 24, 24);
+   RT_CHECK_AT(ctx, cur, stat, 0, "a1", -1, "UE-Positioning-GPS-UTC-Model");
+   /* a0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32At(ctx, cur, &pvalue->a0, 32, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "a0", -1, "UE-Positioning-GPS-UTC-Model");
+   /* t-ot */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->t_ot, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-ot", -1, "UE-Positioning-GPS-UTC-Model");
+   /* wn-t */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->wn_t, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "wn-t", -1, "UE-Positioning-GPS-UTC-Model");
+   /* delta-t-LS */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->delta_t_LS, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "delta-t-LS", -1, "UE-Positioning-GPS-UTC-Model");
+   /* wn-lsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->wn_lsf, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "wn-lsf", -1, "UE-Positioning-GPS-UTC-Model");
+   /* dn */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->dn, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dn", -1, "UE-Positioning-GPS-UTC-Model");
+   /* delta-t-LSF */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->delta_t_LSF, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "delta-t-LSF", -1, "UE-Positioning-GPS-UTC-Model");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_UTC_Model* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_UTC_Model, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_Almanac_sv_GlobalHealth(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_Almanac_sv_GlobalHealth* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 364, 364);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_Almanac_sv_GlobalHealth(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_Almanac_sv_GlobalHealth* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_Almanac_sv_GlobalHealth, pvalue);
+}
+
+static int dec_UE_Positioning_GPS_Almanac(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_Almanac* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-Almanac");
+   /* wn-a */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->wn_a, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "wn-a", -1, "UE-Positioning-GPS-Almanac");
+   /* almanacSatInfoList */
+   stat = dec_AlmanacSatInfoList(ctx, &pvalue->almanacSatInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "almanacSatInfoList", -1, "UE-Positioning-GPS-Almanac");
+   /* sv-GlobalHealth */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GPS_Almanac_sv_GlobalHealth(ctx, &pvalue->sv_GlobalHealth, cur);
+      RT_CHECK(ctx, stat, 0, "sv-GlobalHealth", -1, "UE-Positioning-GPS-Almanac");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_Almanac(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_Almanac* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_Almanac, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_AcquisitionAssistance(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance");
+   /* gps-ReferenceTime */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->gps_ReferenceTime, 0, 604799999);
+   RT_CHECK_AT(ctx, cur, stat, "GPS-TOW-1msec", "gps-ReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance");
+   /* utran-GPSReferenceTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance");
+   }
+   /* satelliteInformationList */
+   stat = dec_AcquisitionSatInfoList(ctx, &pvalue->satelliteInformationList, cur);
+   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GPS-AcquisitionAssistance");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_AcquisitionAssistance, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* referenceIdentity */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* referenceIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->referenceIdentity, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_ReferenceCellInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = dec_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-GPS-ReferenceCellInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceCellInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_ReferenceCellInfo, pvalue);
+}
+
+static int dec_UE_Positioning_GPS_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 10, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData");
+   /* ue-positioning-GPS-ReferenceTime */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData");
+   }
+   /* ue-positioning-GPS-ReferenceLocation */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x2u;
+      stat = dec_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData");
+   }
+   /* ue-positioning-GPS-DGPS-Corrections */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData");
+   }
+   /* ue-positioning-GPS-NavigationModel */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData");
+   }
+   /* ue-positioning-GPS-IonosphericModel */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x10u;
+      stat = dec_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData");
+   }
+   /* ue-positioning-GPS-UTC-Model */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x20u;
+      stat = dec_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData");
+   }
+   /* ue-positioning-GPS-Almanac */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x40u;
+      stat = dec_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData");
+   }
+   /* ue-positioning-GPS-AcquisitionAssistance */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x80u;
+      stat = dec_UE_Positioning_GPS_AcquisitionAssistance(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData");
+   }
+   /* ue-positioning-GPS-Real-timeIntegrity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x100u;
+      stat = dec_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x200u;
+      stat = dec_UE_Positioning_GPS_ReferenceCellInfo(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "UE-Positioning-GPS-AssistanceData");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_AssistanceData, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_Measurement(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-Measurement");
+   /* ue-positioning-ReportingQuantity */
+   stat = dec_UE_Positioning_ReportingQuantity(ctx, &pvalue->ue_positioning_ReportingQuantity, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement");
+   /* reportCriteria */
+   stat = dec_UE_Positioning_ReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement");
+   /* ue-positioning-OTDOA-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement");
+   }
+   /* ue-positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Measurement(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_Measurement, pvalue);
+}
+
+RT_MERGED_BODY int dec_TrafficVolumeReportCriteria(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeReportCriteria");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* trafficVolumeReportingCriteria */
+         pvalue->u.trafficVolumeReportingCriteria = (TrafficVolumeReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeReportingCriteria));
+         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteria");
+         asn1Init_UMTS_TrafficVolumeReportingCriteria(pvalue->u.trafficVolumeReportingCriteria);
+         stat = dec_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteria");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteria");
+         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteria");
+         break;
+      case 2: /* noReporting */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeReportCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeReportCriteria(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeReportCriteria, pvalue);
+}
+
+static int dec_TrafficVolumeMeasurement(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeMeasurement");
+   /* trafficVolumeMeasurementObjectList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList, cur);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurementObjectList", -1, "TrafficVolumeMeasurement");
+   }
+   /* trafficVolumeMeasQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasQuantity", -1, "TrafficVolumeMeasurement");
+   }
+   /* trafficVolumeReportingQuantity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeReportingQuantity", -1, "TrafficVolumeMeasurement");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "TrafficVolumeMeasurement");
+   }
+   /* reportCriteria */
+   stat = dec_TrafficVolumeReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "TrafficVolumeMeasurement");
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeMeasurement(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasurement* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TrafficVolumeMeasurement, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIR_TFCS(rtxContext* RT_RESTRICT ctx, SIR_TFCS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = dec_TFCS_IdentityPlain(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SIR-TFCS");
+   return 0;
+}
+
+int asn1PD_UMTS_SIR_TFCS(rtxContext* RT_RESTRICT ctx, SIR_TFCS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIR_TFCS, pvalue);
+}
+
+RT_MERGED_BODY int dec_SIR_TFCS_List(rtxContext* RT_RESTRICT ctx, SIR_TFCS_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SIR-TFCS-List");
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "SIR-TFCS-List");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SIR-TFCS-List");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = dec_SIR_TFCS(ctx, &pvalue->elem[i], cur);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, 0, "SIR-TFCS", (int32_t)i, "SIR-TFCS-List");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SIR_TFCS_List(rtxContext* RT_RESTRICT ctx, SIR_TFCS_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SIR_TFCS_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_QualityReportingQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, QualityReportingQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sir-TFCS-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SIR_TFCS_List(ctx, &pvalue->sir_TFCS_List, cur);
+      RT_CHECK(ctx, stat, 0, "sir-TFCS-List", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, QualityReportingQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_QualityReportingQuantity_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_QualityReportingQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, QualityReportingQuantity_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (QualityReportingQuantity_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(QualityReportingQuantity_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_QualityReportingQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_QualityReportingQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, QualityReportingQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_QualityReportingQuantity_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_QualityReportingQuantity(rtxContext* RT_RESTRICT ctx, QualityReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "QualityReportingQuantity");
+   /* dl-TransChBLER */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->dl_TransChBLER);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dl-TransChBLER", -1, "QualityReportingQuantity");
+   /* bler-dl-TransChIdList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_BLER_TransChIdList(ctx, &pvalue->bler_dl_TransChIdList, cur);
+      RT_CHECK(ctx, stat, 0, "bler-dl-TransChIdList", -1, "QualityReportingQuantity");
+   }
+   /* modeSpecificInfo */
+   stat = dec_QualityReportingQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "QualityReportingQuantity");
+   return 0;
+}
+
+int asn1PD_UMTS_QualityReportingQuantity(rtxContext* RT_RESTRICT ctx, QualityReportingQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_QualityReportingQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_QualityReportingCriteriaSingle(rtxContext* RT_RESTRICT ctx, QualityReportingCriteriaSingle* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "QualityReportingCriteriaSingle");
+   /* totalCRC */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->totalCRC, 1, 512);
+   RT_CHECK_AT(ctx, cur, stat, 0, "totalCRC", -1, "QualityReportingCriteriaSingle");
+   /* badCRC */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->badCRC, 1, 512);
+   RT_CHECK_AT(ctx, cur, stat, 0, "badCRC", -1, "QualityReportingCriteriaSingle");
+   /* pendingAfterTrigger */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->pendingAfterTrigger, 1, 512);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pendingAfterTrigger", -1, "QualityReportingCriteriaSingle");
+   return 0;
+}
+
+int asn1PD_UMTS_QualityReportingCriteriaSingle(rtxContext* RT_RESTRICT ctx, QualityReportingCriteriaSingle* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_QualityReportingCriteriaSingle, pvalue);
+}
+
+RT_MERGED_BODY int dec_QualityReportingCriteria(rtxContext* RT_RESTRICT ctx, QualityReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "QualityReportingCriteria");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      QualityReportingCriteriaSingle* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(QualityReportingCriteriaSingle));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "QualityReportingCriteriaSingle", (int32_t)i, "QualityReportingCriteria");
+      elem = (QualityReportingCriteriaSingle*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_QualityReportingCriteriaSingle(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "QualityReportingCriteriaSingle", (int32_t)i, "QualityReportingCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_QualityReportingCriteria(rtxContext* RT_RESTRICT ctx, QualityReportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_QualityReportingCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_QualityReportCriteria(rtxContext* RT_RESTRICT ctx, QualityReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "QualityReportCriteria");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* qualityReportingCriteria */
+         pvalue->u.qualityReportingCriteria = (QualityReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(QualityReportingCriteria));
+         if (pvalue->u.qualityReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "qualityReportingCriteria", -1, "QualityReportCriteria");
+         asn1Init_UMTS_QualityReportingCriteria(pvalue->u.qualityReportingCriteria);
+         stat = dec_QualityReportingCriteria(ctx, pvalue->u.qualityReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "qualityReportingCriteria", -1, "QualityReportCriteria");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "QualityReportCriteria");
+         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "QualityReportCriteria");
+         break;
+      case 2: /* noReporting */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "QualityReportCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_QualityReportCriteria(rtxContext* RT_RESTRICT ctx, QualityReportCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_QualityReportCriteria, pvalue);
+}
+
+static int dec_QualityMeasurement(rtxContext* RT_RESTRICT ctx, QualityMeasurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "QualityMeasurement");
+   /* qualityReportingQuantity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_QualityReportingQuantity(ctx, &pvalue->qualityReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "qualityReportingQuantity", -1, "QualityMeasurement");
+   }
+   /* reportCriteria */
+   stat = dec_QualityReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "QualityMeasurement");
+   return 0;
+}
+
+int asn1PD_UMTS_QualityMeasurement(rtxContext* RT_RESTRICT ctx, QualityMeasurement* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_QualityMeasurement, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-RX-TX-TimeDifference */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RX_TX_TimeDifference);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RX-TX-TimeDifference", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportingQuantity_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* appliedTA */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->appliedTA);
+   RT_CHECK_AT(ctx, cur, stat, 0, "appliedTA", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportingQuantity_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_InternalReportingQuantity_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_InternalReportingQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_InternalReportingQuantity_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_InternalReportingQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportingQuantity_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-TransmittedPower */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_TransmittedPower);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-TransmittedPower", -1, "UE-InternalReportingQuantity");
+   /* modeSpecificInfo */
+   stat = dec_UE_InternalReportingQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalReportingQuantity");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportingQuantity(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportingQuantity, pvalue);
+}
+
+RT_MERGED_BODY int dec_TransmittedPowerThreshold(rtxContext* RT_RESTRICT ctx, TransmittedPowerThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -50, 33);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TransmittedPowerThreshold");
+   return 0;
+}
+
+int asn1PD_UMTS_TransmittedPowerThreshold(rtxContext* RT_RESTRICT ctx, TransmittedPowerThreshold* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TransmittedPowerThreshold, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_6AB_Event(rtxContext* RT_RESTRICT ctx, UE_6AB_Event* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "UE-6AB-Event");
+   /* transmittedPowerThreshold */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->transmittedPowerThreshold, -50, 33);
+   RT_CHECK_AT(ctx, cur, stat, "TransmittedPowerThreshold", "transmittedPowerThreshold", -1, "UE-6AB-Event");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_6AB_Event(rtxContext* RT_RESTRICT ctx, UE_6AB_Event* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_6AB_Event, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_RX_TX_TimeDifferenceThreshold(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceThreshold* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 768, 1280);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceThreshold");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RX_TX_TimeDifferenceThreshold(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceThreshold* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_RX_TX_TimeDifferenceThreshold, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_6FG_Event(rtxContext* RT_RESTRICT ctx, UE_6FG_Event* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeToTrigger */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "UE-6FG-Event");
+   /* ue-RX-TX-TimeDifferenceThreshold */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ue_RX_TX_TimeDifferenceThreshold, 768, 1280);
+   RT_CHECK_AT(ctx, cur, stat, "UE-RX-TX-TimeDifferenceThreshold", "ue-RX-TX-TimeDifferenceThreshold", -1, "UE-6FG-Event");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_6FG_Event(rtxContext* RT_RESTRICT ctx, UE_6FG_Event* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_6FG_Event, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalEventParam(rtxContext* RT_RESTRICT ctx, UE_InternalEventParam* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-InternalEventParam");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* event6a */
+         pvalue->u.event6a = (UE_6AB_Event*)rtxMemHeapAllocZ(ctx, sizeof(UE_6AB_Event));
+         if (pvalue->u.event6a == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event6a", -1, "UE-InternalEventParam");
+         stat = dec_UE_6AB_Event(ctx, pvalue->u.event6a, cur);
+         RT_CHECK(ctx, stat, 0, "event6a", -1, "UE-InternalEventParam");
+         break;
+      case 1: /* event6b */
+         pvalue->u.event6b = (UE_6AB_Event*)rtxMemHeapAllocZ(ctx, sizeof(UE_6AB_Event));
+         if (pvalue->u.event6b == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event6b", -1, "UE-InternalEventParam");
+         stat = dec_UE_6AB_Event(ctx, pvalue->u.event6b, cur);
+         RT_CHECK(ctx, stat, 0, "event6b", -1, "UE-InternalEventParam");
+         break;
+      case 2: /* event6c */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.event6c, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "event6c", -1, "UE-InternalEventParam");
+         break;
+      case 3: /* event6d */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.event6d, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "event6d", -1, "UE-InternalEventParam");
+         break;
+      case 4: /* event6e */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.event6e, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, "TimeToTrigger", "event6e", -1, "UE-InternalEventParam");
+         break;
+      case 5: /* event6f */
+         pvalue->u.event6f = (UE_6FG_Event*)rtxMemHeapAllocZ(ctx, sizeof(UE_6FG_Event));
+         if (pvalue->u.event6f == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event6f", -1, "UE-InternalEventParam");
+         stat = dec_UE_6FG_Event(ctx, pvalue->u.event6f, cur);
+         RT_CHECK(ctx, stat, 0, "event6f", -1, "UE-InternalEventParam");
+         break;
+      case 6: /* event6g */
+         pvalue->u.event6g = (UE_6FG_Event*)rtxMemHeapAllocZ(ctx, sizeof(UE_6FG_Event));
+         if (pvalue->u.event6g == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "event6g", -1, "UE-InternalEventParam");
+         stat = dec_UE_6FG_Event(ctx, pvalue->u.event6g, cur);
+         RT_CHECK(ctx, stat, 0, "event6g", -1, "UE-InternalEventParam");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalEventParam");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalEventParam(rtxContext* RT_RESTRICT ctx, UE_InternalEventParam* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalEventParam, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalEventParamList(rtxContext* RT_RESTRICT ctx, UE_InternalEventParamList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-InternalEventParamList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_InternalEventParam* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_InternalEventParam));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-InternalEventParam", (int32_t)i, "UE-InternalEventParamList");
+      elem = (UE_InternalEventParam*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_InternalEventParam(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_InternalEventParam(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-InternalEventParam", (int32_t)i, "UE-InternalEventParamList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalEventParamList(rtxContext* RT_RESTRICT ctx, UE_InternalEventParamList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalEventParamList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalReportingCriteria(rtxContext* RT_RESTRICT ctx, UE_InternalReportingCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-InternalReportingCriteria");
+   /* ue-InternalEventParamList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_InternalEventParamList(ctx, &pvalue->ue_InternalEventParamList, cur);
+      RT_CHECK(ctx, stat, 0, "ue-InternalEventParamList", -1, "UE-InternalReportingCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportingCriteria(rtxContext* RT_RESTRICT ctx, UE_InternalReportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportingCriteria, pvalue);
+}
+
+static int dec_UE_InternalReportCriteria(rtxContext* RT_RESTRICT ctx, UE_InternalReportCriteria* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-InternalReportCriteria");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ue-InternalReportingCriteria */
+         pvalue->u.ue_InternalReportingCriteria = (UE_InternalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalReportingCriteria));
+         if (pvalue->u.ue_InternalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-InternalReportingCriteria", -1, "UE-InternalReportCriteria");
+         asn1Init_UMTS_UE_InternalReportingCriteria(pvalue->u.ue_InternalReportingCriteria);
+         stat = dec_UE_InternalReportingCriteria(ctx, pvalue->u.ue_InternalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "ue-InternalReportingCriteria", -1, "UE-InternalReportCriteria");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "UE-InternalReportCriteria");
+         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "UE-InternalReportCriteria");
+         break;
+      case 2: /* noReporting */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalReportCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportCriteria(rtxContext* RT_RESTRICT ctx, UE_InternalReportCriteria* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportCriteria, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalMeasurement(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurement* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-InternalMeasurement");
+   /* ue-InternalMeasQuantity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurement");
+   }
+   /* ue-InternalReportingQuantity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_InternalReportingQuantity(ctx, &pvalue->ue_InternalReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "ue-InternalReportingQuantity", -1, "UE-InternalMeasurement");
+   }
+   /* reportCriteria */
+   stat = dec_UE_InternalReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-InternalMeasurement");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasurement(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurement* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasurement, pvalue);
+}
+
+static int dec_MeasurementType(rtxContext* RT_RESTRICT ctx, MeasurementType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFrequencyMeasurement */
+         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement));
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType");
+         asn1Init_UMTS_IntraFrequencyMeasurement(pvalue->u.intraFrequencyMeasurement);
+         stat = dec_IntraFrequencyMeasurement(ctx, pvalue->u.intraFrequencyMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType");
+         break;
+      case 1: /* interFrequencyMeasurement */
+         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement));
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType");
+         asn1Init_UMTS_InterFrequencyMeasurement(pvalue->u.interFrequencyMeasurement);
+         stat = dec_InterFrequencyMeasurement(ctx, pvalue->u.interFrequencyMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType");
+         break;
+      case 2: /* interRATMeasurement */
+         pvalue->u.interRATMeasurement = (InterRATMeasurement*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement));
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType");
+         asn1Init_UMTS_InterRATMeasurement(pvalue->u.interRATMeasurement);
+         stat = dec_InterRATMeasurement(ctx, pvalue->u.interRATMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType");
+         break;
+      case 3: /* ue-positioning-Measurement */
+         pvalue->u.ue_positioning_Measurement = (UE_Positioning_Measurement*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement));
+         if (pvalue->u.ue_positioning_Measurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-positioning-Measurement", -1, "MeasurementType");
+         asn1Init_UMTS_UE_Positioning_Measurement(pvalue->u.ue_positioning_Measurement);
+         stat = dec_UE_Positioning_Measurement(ctx, pvalue->u.ue_positioning_Measurement, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-Measurement", -1, "MeasurementType");
+         break;
+      case 4: /* trafficVolumeMeasurement */
+         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType");
+         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
+         stat = dec_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType");
+         break;
+      case 5: /* qualityMeasurement */
+         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType");
+         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
+         stat = dec_QualityMeasurement(ctx, pvalue->u.qualityMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType");
+         break;
+      case 6: /* ue-InternalMeasurement */
+         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement));
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType");
+         asn1Init_UMTS_UE_InternalMeasurement(pvalue->u.ue_InternalMeasurement);
+         stat = dec_UE_InternalMeasurement(ctx, pvalue->u.ue_InternalMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementType(rtxContext* RT_RESTRICT ctx, MeasurementType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementType, pvalue);
 }
 

@@ -6,9018 +6,9498 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r6 */
-         pvalue->u.r6 = (HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
-         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
+/* The bodies of this unit. */
+RT_MERGED_BODY int dec_MeasurementCommand_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCommand(rtxContext* RT_RESTRICT ctx, MeasurementCommand* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_ReportingQuantity_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ReferenceCellPosition(rtxContext* RT_RESTRICT ctx, ReferenceCellPosition* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_IPDL_Parameters_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SFN_Offset_Validity(rtxContext* RT_RESTRICT ctx, SFN_Offset_Validity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellList_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_OTDOA_AssistanceData_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_Measurement_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_InternalMeasurement_r4(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasurementType_r4(rtxContext* RT_RESTRICT ctx, MeasurementType_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCommand_r4_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r4_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCommand_r4(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasurementType_r6(rtxContext* RT_RESTRICT ctx, MeasurementType_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCommand_r6_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r6_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCommand_r6(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_ReportingQuantity_r7_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r7_velocityRequested* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_ReportingQuantity_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ThresholdSFN_GPS_TOW_us(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GPS_TOW_us* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ThresholdSFN_GANSS_TOW(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GANSS_TOW* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_EventSpecificInfo_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventSpecificInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_EventParam_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParam_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_EventParamList_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParamList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_ReportCriteria_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportCriteria_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellList_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_OTDOA_AssistanceData_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GPS_ReferenceTime_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GPS_AcquisitionAssistance_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GPS_AssistanceData_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Tutran_Ganss_DriftRate(rtxContext* RT_RESTRICT ctx, Tutran_Ganss_DriftRate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_ReferenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ReferenceLocationGANSS(rtxContext* RT_RESTRICT ctx, ReferenceLocationGANSS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_IonosphericModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_IonosphericModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_Measurement_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasurementType_r7(rtxContext* RT_RESTRICT ctx, MeasurementType_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCommand_r7_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r7_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCommand_r7(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_ReportingQuantity_r8_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r8_velocityRequested* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_ReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AddIonoModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddIonoModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_EarthOrientPara(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_EarthOrientPara* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AssistanceData_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_Measurement_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasurementType_r8(rtxContext* RT_RESTRICT ctx, MeasurementType_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCommand_r8_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r8_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCommand_r8(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_DGPS_Corrections_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GPS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_Measurement_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MeasurementType_r9(rtxContext* RT_RESTRICT ctx, MeasurementType_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCommand_r9_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r9_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MeasurementCommand_r9(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Neighbour_TDD_r7(rtxContext* RT_RESTRICT ctx, Neighbour_TDD_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NeighbourList_TDD_r7(rtxContext* RT_RESTRICT ctx, NeighbourList_TDD_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewInterFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_NewIntraFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotWithISCP(rtxContext* RT_RESTRICT ctx, TimeslotWithISCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TimeslotListWithISCP(rtxContext* RT_RESTRICT ctx, TimeslotListWithISCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_CipherParameters(rtxContext* RT_RESTRICT ctx, UE_Positioning_CipherParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AssistanceData_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_GANSS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_Data(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Data* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_TimeModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_AcquisitionAssistance_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_ReferenceTime_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_AssistanceData_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_DGPS_Corrections_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_GPS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_IPDL_Parameters_TDD_r4_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_TDD_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_ReportingQuantity_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_OTDOA_NeighbourCellList_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_UEB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_OTDOA_AssistanceData_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_UEB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_Measurement_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_TDDList_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_Positioning_OTDOA_AssistanceData_r4ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r4ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_UEB_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_AssistanceData_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_UEB_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_MeasuredResultsTDD_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_FDD_Frequency(rtxContext* RT_RESTRICT ctx, UTRAN_FDD_Frequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_FDD_FrequencyList(rtxContext* RT_RESTRICT ctx, UTRAN_FDD_FrequencyList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_TDD_Frequency(rtxContext* RT_RESTRICT ctx, UTRAN_TDD_Frequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRAN_TDD_FrequencyList(rtxContext* RT_RESTRICT ctx, UTRAN_TDD_FrequencyList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRA_PriorityInfoList_utra_ServingCell(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList_utra_ServingCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRA_PriorityInfoList(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_UTRA_PriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BCCH_ModificationTime(rtxContext* RT_RESTRICT ctx, BCCH_ModificationTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_BCCH_ModificationInfo(rtxContext* RT_RESTRICT ctx, BCCH_ModificationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CDMA2000_Message_payload(rtxContext* RT_RESTRICT ctx, CDMA2000_Message_payload* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CDMA2000_Message(rtxContext* RT_RESTRICT ctx, CDMA2000_Message* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CDMA2000_MessageList(rtxContext* RT_RESTRICT ctx, CDMA2000_MessageList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FrequencyInfoCDMA2000(rtxContext* RT_RESTRICT ctx, FrequencyInfoCDMA2000* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CDMA2000_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, CDMA2000_UMTS_Frequency_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DataTransmFrequency_dataTransmFreqGranularity(rtxContext* RT_RESTRICT ctx, DataTransmFrequency_dataTransmFreqGranularity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DataTransmFrequency(rtxContext* RT_RESTRICT ctx, DataTransmFrequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DataVolumePerRB(rtxContext* RT_RESTRICT ctx, DataVolumePerRB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DataVolumePerRB_List(rtxContext* RT_RESTRICT ctx, DataVolumePerRB_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_DataVolumeHistory(rtxContext* RT_RESTRICT ctx, DataVolumeHistory* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ETWS_Information_warningType(rtxContext* RT_RESTRICT ctx, ETWS_Information_warningType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ETWS_Information_messageIdentifier(rtxContext* RT_RESTRICT ctx, ETWS_Information_messageIdentifier* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ETWS_Information_serialNumber(rtxContext* RT_RESTRICT ctx, ETWS_Information_serialNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ETWS_Information(rtxContext* RT_RESTRICT ctx, ETWS_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ETWS_WarningSecurityInfo(rtxContext* RT_RESTRICT ctx, ETWS_WarningSecurityInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_FDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, FDD_UMTS_Frequency_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GERAN_SystemInfoBlock(rtxContext* RT_RESTRICT ctx, GERAN_SystemInfoBlock* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GERAN_SystemInformation(rtxContext* RT_RESTRICT ctx, GERAN_SystemInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_BA_Range(rtxContext* RT_RESTRICT ctx, GSM_BA_Range* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_BA_Range_List(rtxContext* RT_RESTRICT ctx, GSM_BA_Range_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_Classmark2(rtxContext* RT_RESTRICT ctx, GSM_Classmark2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_Classmark3(rtxContext* RT_RESTRICT ctx, GSM_Classmark3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_MessageList_element(rtxContext* RT_RESTRICT ctx, GSM_MessageList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GSM_MessageList(rtxContext* RT_RESTRICT ctx, GSM_MessageList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GsmSecurityCapability(rtxContext* RT_RESTRICT ctx, GsmSecurityCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_HNBName(rtxContext* RT_RESTRICT ctx, HNBName* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_ChangeFailureCause(rtxContext* RT_RESTRICT ctx, InterRAT_ChangeFailureCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GERANIu_MessageList_element(rtxContext* RT_RESTRICT ctx, GERANIu_MessageList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GERANIu_MessageList(rtxContext* RT_RESTRICT ctx, GERANIu_MessageList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_GERANIu_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, GERANIu_RadioAccessCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability_cdma2000(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_cdma2000* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_InterRAT_UE_RadioAccessCapabilityList(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapabilityList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_UE_SecurityCapability_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapability_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_UE_SecurityCapability(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_UE_SecurityCapList(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_InterRAT_HO_FailureCause(rtxContext* RT_RESTRICT ctx, InterRAT_HO_FailureCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_TDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, TDD_UMTS_Frequency_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Rplmn_Information(rtxContext* RT_RESTRICT ctx, Rplmn_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_Rplmn_Information_r4(rtxContext* RT_RESTRICT ctx, Rplmn_Information_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType4_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType4_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType4_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType4_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v5b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType4_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v5c0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType4_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType4(rtxContext* RT_RESTRICT ctx, SysInfoType4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType5bis(rtxContext* RT_RESTRICT ctx, SysInfoType5bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v650ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v650ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType6_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType6(rtxContext* RT_RESTRICT ctx, SysInfoType6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType8_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType8(rtxContext* RT_RESTRICT ctx, SysInfoType8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType9_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType9(rtxContext* RT_RESTRICT ctx, SysInfoType9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType10_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType10_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType10(rtxContext* RT_RESTRICT ctx, SysInfoType10* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13(rtxContext* RT_RESTRICT ctx, SysInfoType13* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ANSI_41_RAND_Information(rtxContext* RT_RESTRICT ctx, ANSI_41_RAND_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_1_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_1_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_1(rtxContext* RT_RESTRICT ctx, SysInfoType13_1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ANSI_41_UserZoneID_Information(rtxContext* RT_RESTRICT ctx, ANSI_41_UserZoneID_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_2_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_2(rtxContext* RT_RESTRICT ctx, SysInfoType13_2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ANSI_41_PrivateNeighbourListInfo(rtxContext* RT_RESTRICT ctx, ANSI_41_PrivateNeighbourListInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_3_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_3(rtxContext* RT_RESTRICT ctx, SysInfoType13_3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ANSI_41_GlobalServiceRedirectInfo(rtxContext* RT_RESTRICT ctx, ANSI_41_GlobalServiceRedirectInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_4_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_4_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType13_4(rtxContext* RT_RESTRICT ctx, SysInfoType13_4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType14_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType14_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType14(rtxContext* RT_RESTRICT ctx, SysInfoType14* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15(rtxContext* RT_RESTRICT ctx, SysInfoType15* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15bis(rtxContext* RT_RESTRICT ctx, SysInfoType15bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_1_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_1_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_1(rtxContext* RT_RESTRICT ctx, SysInfoType15_1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_1bis_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_1bis_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_1bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_2(rtxContext* RT_RESTRICT ctx, SysInfoType15_2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_2bis_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2bis_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_2bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_2bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_2ter_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2ter_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_2ter(rtxContext* RT_RESTRICT ctx, SysInfoType15_2ter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_3(rtxContext* RT_RESTRICT ctx, SysInfoType15_3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_3bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_3bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_3bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_4_v3a0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_4_v4b0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v4b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_4_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_4(rtxContext* RT_RESTRICT ctx, SysInfoType15_4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_5_v3a0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_5_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_5(rtxContext* RT_RESTRICT ctx, SysInfoType15_5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_6_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_6_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_6(rtxContext* RT_RESTRICT ctx, SysInfoType15_6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_7_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_7(rtxContext* RT_RESTRICT ctx, SysInfoType15_7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_8_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType15_8(rtxContext* RT_RESTRICT ctx, SysInfoType15_8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType17_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType17_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType17_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType17_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType17(rtxContext* RT_RESTRICT ctx, SysInfoType17* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType19_v920ext(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType19_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_SysInfoType19(rtxContext* RT_RESTRICT ctx, SysInfoType19* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType20_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType20_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_SysInfoType20(rtxContext* RT_RESTRICT ctx, SysInfoType20* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_UE_HistoryInformation(rtxContext* RT_RESTRICT ctx, UE_HistoryInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_AccessProbabilityFactor(rtxContext* RT_RESTRICT ctx, MBMS_AccessProbabilityFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_CellGroupIdentity_r6(rtxContext* RT_RESTRICT ctx, MBMS_CellGroupIdentity_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_CommonCCTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonCCTrChIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_CommonPhyChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonPhyChIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_CommonRBIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_CommonRBInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBInformation_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_CommonRBInformationList_r6(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBInformationList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_CommonTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonTrChIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ConnectedModeCountingScope(rtxContext* RT_RESTRICT ctx, MBMS_ConnectedModeCountingScope* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_SCCPCHIdentity(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_SoftComb_TimingOffset(rtxContext* RT_RESTRICT ctx, MBMS_SoftComb_TimingOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ShortTransmissionID(rtxContext* RT_RESTRICT ctx, MBMS_ShortTransmissionID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_LogicalChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_LogicalChIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PTM_RBInformation_C(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_C* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PTM_RBInformation_CList(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_CList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TrCHInformation_Curr(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_Curr* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TrCHInformation_CurrList(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_CurrList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_CurrentCell_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_CurrentCell_SCCPCH_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_CurrentCell_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_CurrentCell_SCCPCHList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_JoinedInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_JoinedInformation_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_32(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_64(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_128(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_256(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_512(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_1024(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MBMS_L1CombiningSchedule(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
+/* Bodies held by other units. */
+RT_DECODE_EXTERN(MeasurementType)
+RT_DECODE_EXTERN(UE_Positioning_Accuracy)
+RT_DECODE_EXTERN(PrimaryCPICH_Info)
+RT_DECODE_EXTERN(CellAndChannelIdentity)
+RT_DECODE_EXTERN(EllipsoidPoint)
+RT_DECODE_EXTERN(EllipsoidPointAltitude)
+RT_DECODE_EXTERN(BurstModeParameters)
+RT_DECODE_EXTERN(FrequencyInfo)
+RT_DECODE_EXTERN(SFN_SFN_RelTimeDifference1)
+RT_DECODE_EXTERN(MeasurementValidity)
+RT_DECODE_EXTERN(UE_Positioning_ReportCriteria)
+RT_DECODE_EXTERN(UE_Positioning_GPS_AssistanceData)
+RT_DECODE_EXTERN(UE_InternalMeasQuantity)
+RT_DECODE_EXTERN(UE_InternalReportCriteria)
+RT_DECODE_EXTERN(IntraFrequencyMeasurement_r4)
+RT_DECODE_EXTERN(InterFrequencyMeasurement_r4)
+RT_DECODE_EXTERN(InterRATMeasurement_r4)
+RT_DECODE_EXTERN(TrafficVolumeMeasurement)
+RT_DECODE_EXTERN(QualityMeasurement)
+RT_DECODE_EXTERN(IntraFrequencyMeasurement_r6)
+RT_DECODE_EXTERN(InterFrequencyMeasurement_r6)
+RT_DECODE_EXTERN(InterRATMeasurement_r6)
+RT_DECODE_EXTERN(PeriodicalReportingCriteria)
+RT_DECODE_EXTERN(UTRAN_GPSReferenceTime)
+RT_DECODE_EXTERN(GPS_TOW_AssistList)
+RT_DECODE_EXTERN(AcquisitionSatInfoList)
+RT_DECODE_EXTERN(ReferenceLocation)
+RT_DECODE_EXTERN(UE_Positioning_GPS_DGPS_Corrections)
+RT_DECODE_EXTERN(UE_Positioning_GPS_NavigationModel)
+RT_DECODE_EXTERN(UE_Positioning_GPS_IonosphericModel)
+RT_DECODE_EXTERN(UE_Positioning_GPS_UTC_Model)
+RT_DECODE_EXTERN(UE_Positioning_GPS_Almanac)
+RT_DECODE_EXTERN(BadSatList)
+RT_DECODE_EXTERN(EllipsoidPointAltitudeEllipsoide)
+RT_DECODE_EXTERN(GANSS_Storm_Flag)
+RT_DECODE_EXTERN(GANSSGenericDataList)
+RT_DECODE_EXTERN(IntraFrequencyMeasurement_r7)
+RT_DECODE_EXTERN(InterFrequencyMeasurement_r7)
+RT_DECODE_EXTERN(GANSSGenericDataList_r8)
+RT_DECODE_EXTERN(InterFrequencyMeasurement_r8)
+RT_DECODE_EXTERN(InterRATMeasurement_r8)
+RT_DECODE_EXTERN(DGPS_CorrectionSatInfoList_r9)
+RT_DECODE_EXTERN(GANSSGenericDataList_r9)
+RT_DECODE_EXTERN(IntraFrequencyMeasurement_r9)
+RT_DECODE_EXTERN(InterFrequencyMeasurement_r9)
+RT_DECODE_EXTERN(InterRATMeasurement_r9)
+RT_DECODE_EXTERN(CSGProximityDetection)
+RT_DECODE_EXTERN(CellInfo_LCR_r8_ext)
+RT_DECODE_EXTERN(GANSSGenericDataList_v860ext)
+RT_DECODE_EXTERN(GANSSGenericDataList_v920ext)
+RT_DECODE_EXTERN(GANSSDecipheringKeys)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_TimeModel)
+RT_DECODE_EXTERN(DGPS_CorrectionSatInfoList_v920ext)
+RT_DECODE_EXTERN(UE_Positioning_IPDL_Parameters)
+RT_DECODE_EXTERN(FrequencyInfoFDD)
+RT_DECODE_EXTERN(ProtocolErrorInformation)
+RT_DECODE_EXTERN(FrequencyInfoTDD)
+RT_DECODE_EXTERN(Mapping_LCR_r4)
+RT_DECODE_EXTERN(CellSelectReselectInfo_v590ext)
+RT_DECODE_EXTERN(CellSelectReselectInfoPCHFACH_v5b0ext)
+RT_DECODE_EXTERN(CellSelectReselectInfoTreselectionScaling_v5c0ext)
+RT_DECODE_EXTERN(CellIdentity)
+RT_DECODE_EXTERN(CellSelectReselectInfoSIB_3_4)
+RT_DECODE_EXTERN(CellAccessRestriction)
+RT_DECODE_EXTERN(SysInfoType5)
+RT_DECODE_EXTERN(PUSCH_SysInfoList_SFN)
+RT_DECODE_EXTERN(PDSCH_SysInfoList_SFN)
+RT_DECODE_EXTERN(OpenLoopPowerControl_TDD)
+RT_DECODE_EXTERN(PUSCH_SysInfoList_SFN_LCR_r4)
+RT_DECODE_EXTERN(PDSCH_SysInfoList_SFN_LCR_r4)
+RT_DECODE_EXTERN(PrimaryCCPCH_Info_LCR_r4_ext)
+RT_DECODE_EXTERN(SCCPCH_SystemInformationList_LCR_r4_ext)
+RT_DECODE_EXTERN(OpenLoopPowerControl_IPDL_TDD_r4)
+RT_DECODE_EXTERN(PRACH_SystemInformationList_LCR_r4)
+RT_DECODE_EXTERN(PUSCH_SysInfoList_SFN_HCR_r5)
+RT_DECODE_EXTERN(PDSCH_SysInfoList_SFN_HCR_r5)
+RT_DECODE_EXTERN(AdditionalPRACH_TF_and_TFCS_CCCH_List)
+RT_DECODE_EXTERN(PUSCH_SysInfoList_SFN_VHCR)
+RT_DECODE_EXTERN(PDSCH_SysInfoList_VHCR_r7)
+RT_DECODE_EXTERN(PRACH_SystemInformationList_VHCR_r7)
+RT_DECODE_EXTERN(SCCPCH_SystemInformationList_HCR_VHCR_r7)
+RT_DECODE_EXTERN(PrimaryCCPCH_Info)
+RT_DECODE_EXTERN(PRACH_SystemInformationList)
+RT_DECODE_EXTERN(SCCPCH_SystemInformationList)
+RT_DECODE_EXTERN(CBS_DRX_Level1Information)
+RT_DECODE_EXTERN(CPCH_Parameters)
+RT_DECODE_EXTERN(CPCH_SetInfoList)
+RT_DECODE_EXTERN(CPCH_PersistenceLevelsList)
+RT_DECODE_EXTERN(DRAC_SysInfoList)
+RT_DECODE_EXTERN(UE_IdleTimersAndConstants_v3a0ext)
+RT_DECODE_EXTERN(CapabilityUpdateRequirement_r4_ext)
+RT_DECODE_EXTERN(CapabilityUpdateRequirement_v770ext)
+RT_DECODE_EXTERN(CN_DomainSysInfoList)
+RT_DECODE_EXTERN(UE_IdleTimersAndConstants)
+RT_DECODE_EXTERN(CapabilityUpdateRequirement)
+RT_DECODE_EXTERN(ANSI_41_NAS_Parameter)
+RT_DECODE_EXTERN(IndividualTS_InterferenceList)
+RT_DECODE_EXTERN(UE_Positioning_GPS_ReferenceTime)
+RT_DECODE_EXTERN(UE_Positioning_DGANSSCorrections_v920ext)
+RT_DECODE_EXTERN(UE_Positioning_DGANSSCorrections)
+RT_DECODE_EXTERN(EphemerisParameter)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_NavigationModel)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_AddNavigationModels)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_Almanac_v860ext)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_AddUTCModels)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_AuxiliaryInfo)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_Almanac)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_UTCModel)
+RT_DECODE_EXTERN(UE_Positioning_OTDOA_AssistanceData)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_ReferenceMeasurementInfo)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_Data_Bit_Assistance)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_RealTimeIntegrity)
+RT_DECODE_EXTERN(PUSCH_SysInfoList_LCR_r4)
+RT_DECODE_EXTERN(PDSCH_SysInfoList_LCR_r4)
+RT_DECODE_EXTERN(PUSCH_SysInfoList_HCR_r5)
+RT_DECODE_EXTERN(PDSCH_SysInfoList_HCR_r5)
+RT_DECODE_EXTERN(PUSCH_SysInfoList)
+RT_DECODE_EXTERN(PDSCH_SysInfoList)
+RT_DECODE_EXTERN(EUTRA_FrequencyAndPriorityInfoList_v920ext)
+RT_DECODE_EXTERN(GSM_PriorityInfoList)
+RT_DECODE_EXTERN(EUTRA_FrequencyAndPriorityInfoList)
+RT_DECODE_EXTERN(PDCP_Info_r4)
+RT_DECODE_EXTERN(RLC_Info_MTCH_r6)
+RT_DECODE_EXTERN(MBMS_MSCH_ConfigurationInfo_r6)
+RT_DECODE_EXTERN(P_TMSI_GSM_MAP)
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (HandoverFromUTRANCommand_GSM_r3*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "HandoverFromUTRANCommand-GSM");
-         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "HandoverFromUTRANCommand-GSM");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (HandoverFromUTRANCommand_GSM_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "HandoverFromUTRANCommand-GSM");
-         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "HandoverFromUTRANCommand-GSM");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "HandoverFromUTRANCommand-GSM");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* geranIu-Messages */
-   stat = asn1PD_UMTS_GERANIu_MessageList(ctx, &pvalue->geranIu_Messages);
-   RT_CHECK(ctx, stat, 0, "geranIu-Messages", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* single-GERANIu-Message */
-         pvalue->u.single_GERANIu_Message = (HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message));
-         if (pvalue->u.single_GERANIu_Message == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "single-GERANIu-Message", -1, 0);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message(ctx, pvalue->u.single_GERANIu_Message);
-         RT_CHECK(ctx, stat, 0, "single-GERANIu-Message", -1, 0);
-         break;
-      case 1: /* geranIu-MessageList */
-         pvalue->u.geranIu_MessageList = (HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList));
-         if (pvalue->u.geranIu_MessageList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "geranIu-MessageList", -1, 0);
-         asn1Init_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(pvalue->u.geranIu_MessageList);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(ctx, pvalue->u.geranIu_MessageList);
-         RT_CHECK(ctx, stat, 0, "geranIu-MessageList", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_r5_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MeasurementCommand_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
-   /* activationTime */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* measurementType */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
-   }
-   /* frequency-Band */
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_Band, 0, 1);
-   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-Band", -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
-   /* geranIu-Message */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message(ctx, &pvalue->geranIu_Message);
-   RT_CHECK(ctx, stat, 0, "geranIu-Message", -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANCommand-GERANIu-r5 */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs(ctx, &pvalue->handoverFromUTRANCommand_GERANIu_r5);
-   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GERANIu-r5", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      stat = dec_MeasurementType(ctx, &pvalue->measurementType, cur);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MeasurementCommand_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_modify* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCommand_modify, pvalue);
 }
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MeasurementCommand(rtxContext* RT_RESTRICT ctx, MeasurementCommand* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementCommand");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* r5 */
-         pvalue->u.r5 = (HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5));
-         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
-         asn1Init_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType));
+         if (pvalue->u.setup == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand");
+         asn1Init_UMTS_MeasurementType(pvalue->u.setup);
+         stat = dec_MeasurementType(ctx, pvalue->u.setup, cur);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand");
          break;
-      case 1: /* later-than-r5 */
-         pvalue->u.later_than_r5 = (HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5));
-         if (pvalue->u.later_than_r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r5", -1, 0);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5(ctx, pvalue->u.later_than_r5);
-         RT_CHECK(ctx, stat, 0, "later-than-r5", -1, 0);
+      case 1: /* modify */
+         pvalue->u.modify = (MeasurementCommand_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_modify));
+         if (pvalue->u.modify == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand");
+         asn1Init_UMTS_MeasurementCommand_modify(pvalue->u.modify);
+         stat = dec_MeasurementCommand_modify(ctx, pvalue->u.modify, cur);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand");
+         break;
+      case 2: /* release */
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MeasurementCommand(rtxContext* RT_RESTRICT ctx, MeasurementCommand* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-GERANIu");
-   /* handoverFromUTRANCommand-GERANIu */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu(ctx, &pvalue->handoverFromUTRANCommand_GERANIu);
-   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GERANIu", -1, "HandoverFromUTRANCommand-GERANIu");
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCommand, pvalue);
 }
 
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000_r3_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_UE_Positioning_ReportingQuantity_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
-   /* activationTime */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r4");
+   /* methodType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->methodType, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r4");
+   /* positioningMethod */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->positioningMethod, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r4");
+   /* horizontalAccuracy */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_Accuracy(ctx, &pvalue->horizontalAccuracy, cur);
+      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r4");
+   }
+   /* verticalAccuracy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_Accuracy(ctx, &pvalue->verticalAccuracy, cur);
+      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r4");
+   }
+   /* gps-TimingOfCellWanted */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->gps_TimingOfCellWanted);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r4");
+   /* additionalAssistanceDataReq */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->additionalAssistanceDataReq);
+   RT_CHECK_AT(ctx, cur, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r4");
+   /* environmentCharacterisation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->environmentCharacterisation, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_ReportingQuantity_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellAndChannelIdentity */
+   stat = dec_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo, pvalue);
+}
+
+static int dec_ReferenceCellPosition(rtxContext* RT_RESTRICT ctx, ReferenceCellPosition* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ReferenceCellPosition");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ellipsoidPoint */
+         pvalue->u.ellipsoidPoint = (EllipsoidPoint*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPoint));
+         if (pvalue->u.ellipsoidPoint == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ellipsoidPoint", -1, "ReferenceCellPosition");
+         stat = dec_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint, cur);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPoint", -1, "ReferenceCellPosition");
+         break;
+      case 1: /* ellipsoidPointWithAltitude */
+         pvalue->u.ellipsoidPointWithAltitude = (EllipsoidPointAltitude*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointAltitude));
+         if (pvalue->u.ellipsoidPointWithAltitude == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ellipsoidPointWithAltitude", -1, "ReferenceCellPosition");
+         stat = dec_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointWithAltitude, cur);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointWithAltitude", -1, "ReferenceCellPosition");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ReferenceCellPosition");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ReferenceCellPosition(rtxContext* RT_RESTRICT ctx, ReferenceCellPosition* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReferenceCellPosition, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellPosition */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
+      stat = dec_ReferenceCellPosition(ctx, &pvalue->cellPosition, cur);
+      RT_CHECK(ctx, stat, 0, "cellPosition", -1, 0);
    }
-   /* toHandoverRAB-Info */
+   /* roundTripTime */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->toHandoverRAB_Info);
-      RT_CHECK(ctx, stat, 0, "toHandoverRAB-Info", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->roundTripTime, 0, 32766);
+      RT_CHECK_AT(ctx, cur, stat, 0, "roundTripTime", -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ueBased */
+         pvalue->u.ueBased = (UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased));
+         if (pvalue->u.ueBased == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueBased", -1, 0);
+         asn1Init_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(pvalue->u.ueBased);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(ctx, pvalue->u.ueBased, cur);
+         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         break;
+      case 1: /* ueAssisted */
+         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted));
+         if (pvalue->u.ueAssisted == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueAssisted", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted, cur);
+         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ip-Spacing */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ip_Spacing, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "IP-Spacing", "ip-Spacing", -1, 0);
+   /* ip-Length */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ip_Length, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "IP-Length", "ip-Length", -1, 0);
+   /* ip-Offset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ip_Offset, 0, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ip-Offset", -1, 0);
+   /* seed */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->seed, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "seed", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ip-Spacing-TDD */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ip_Spacing_TDD, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "IP-Spacing-TDD", "ip-Spacing-TDD", -1, 0);
+   /* ip-slot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ip_slot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ip-slot", -1, 0);
+   /* ip-Start */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ip_Start, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ip-Start", -1, 0);
+   /* ip-PCCPCG */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->ip_PCCPCG);
+      RT_CHECK_AT(ctx, cur, stat, "IP-PCCPCH-r4", "ip-PCCPCG", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo, pvalue);
+}
+
+static int dec_UE_Positioning_IPDL_Parameters_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-r4");
+   /* modeSpecificInfo */
+   stat = dec_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-IPDL-Parameters-r4");
+   /* burstModeParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_BurstModeParameters(ctx, &pvalue->burstModeParameters, cur);
+      RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_IPDL_Parameters_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   /* sfn */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn, 0, 4095);
+      RT_CHECK_AT(ctx, cur, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   }
+   /* modeSpecificInfo */
+   stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   }
+   /* positioningMode */
+   stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(ctx, &pvalue->positioningMode, cur);
+   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   /* ue-positioning-IPDL-Paremeters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellAndChannelIdentity */
+   stat = dec_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SFN_Offset_Validity(rtxContext* RT_RESTRICT ctx, SFN_Offset_Validity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SFN-Offset-Validity");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SFN-Offset-Validity");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SFN_Offset_Validity(rtxContext* RT_RESTRICT ctx, SFN_Offset_Validity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SFN_Offset_Validity, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* relativeNorth */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt16At(ctx, cur, &pvalue->relativeNorth, -20000, 20000);
+      RT_CHECK_AT(ctx, cur, stat, 0, "relativeNorth", -1, 0);
+   }
+   /* relativeEast */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt16At(ctx, cur, &pvalue->relativeEast, -20000, 20000);
+      RT_CHECK_AT(ctx, cur, stat, 0, "relativeEast", -1, 0);
+   }
+   /* relativeAltitude */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsInt16At(ctx, cur, &pvalue->relativeAltitude, -4000, 4000);
+      RT_CHECK_AT(ctx, cur, stat, 0, "relativeAltitude", -1, 0);
+   }
+   /* fineSFN-SFN */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->fineSFN_SFN, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "FineSFN-SFN", "fineSFN-SFN", -1, 0);
+   }
+   /* roundTripTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->roundTripTime, 0, 32766);
+      RT_CHECK_AT(ctx, cur, stat, 0, "roundTripTime", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ueBased */
+         pvalue->u.ueBased = (UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased));
+         if (pvalue->u.ueBased == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueBased", -1, 0);
+         asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(pvalue->u.ueBased);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(ctx, pvalue->u.ueBased, cur);
+         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         break;
+      case 1: /* ueAssisted */
+         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted));
+         if (pvalue->u.ueAssisted == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueAssisted", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted, cur);
+         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode, pvalue);
+}
+
+static int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   /* modeSpecificInfo */
+   stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   }
+   /* ue-positioning-IPDL-Paremeters */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   }
+   /* sfn-SFN-RelTimeDifference */
+   stat = dec_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference, cur);
+   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   /* sfn-Offset-Validity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+         pvalue->sfn_Offset_Validity = ui;
+      }
+   }
+   /* sfn-SFN-Drift */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sfn_SFN_Drift, 0, 28);
+      RT_CHECK_AT(ctx, cur, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   }
+   /* searchWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->searchWindowSize, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   /* positioningMode */
+   stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(ctx, &pvalue->positioningMode, cur);
+   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellList_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_OTDOA_NeighbourCellInfo_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r4", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r4");
+      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r4(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r4", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellList_r4, pvalue);
+}
+
+static int dec_UE_Positioning_OTDOA_AssistanceData_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4");
+   /* ue-positioning-OTDOA-ReferenceCellInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r4(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo", -1, "UE-Positioning-OTDOA-AssistanceData-r4");
+   }
+   /* ue-positioning-OTDOA-NeighbourCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_OTDOA_NeighbourCellList_r4(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList", -1, "UE-Positioning-OTDOA-AssistanceData-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_AssistanceData_r4, pvalue);
+}
+
+static int dec_UE_Positioning_Measurement_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-Measurement-r4");
+   /* ue-positioning-ReportingQuantity */
+   stat = dec_UE_Positioning_ReportingQuantity_r4(ctx, &pvalue->ue_positioning_ReportingQuantity, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r4");
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r4");
+   }
+   /* reportCriteria */
+   stat = dec_UE_Positioning_ReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r4");
+   /* ue-positioning-OTDOA-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_OTDOA_AssistanceData_r4(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r4");
+   }
+   /* ue-positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Measurement_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_Measurement_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-RX-TX-TimeDifference */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_RX_TX_TimeDifference);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-RX-TX-TimeDifference", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* appliedTA */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->appliedTA);
+   RT_CHECK_AT(ctx, cur, stat, 0, "appliedTA", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* t-ADVinfo */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->t_ADVinfo);
+   RT_CHECK_AT(ctx, cur, stat, 0, "t-ADVinfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         stat = dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* tddOption */
+   stat = dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportingQuantity_r4_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_InternalReportingQuantity_r4(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-TransmittedPower */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->ue_TransmittedPower);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-TransmittedPower", -1, "UE-InternalReportingQuantity-r4");
+   /* modeSpecificInfo */
+   stat = dec_UE_InternalReportingQuantity_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalReportingQuantity-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalReportingQuantity_r4(rtxContext* RT_RESTRICT ctx, UE_InternalReportingQuantity_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalReportingQuantity_r4, pvalue);
+}
+
+static int dec_UE_InternalMeasurement_r4(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurement_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-InternalMeasurement-r4");
+   /* ue-InternalMeasQuantity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurement-r4");
+   }
+   /* ue-InternalReportingQuantity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_InternalReportingQuantity_r4(ctx, &pvalue->ue_InternalReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "ue-InternalReportingQuantity", -1, "UE-InternalMeasurement-r4");
+   }
+   /* reportCriteria */
+   stat = dec_UE_InternalReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-InternalMeasurement-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasurement_r4(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurement_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_InternalMeasurement_r4, pvalue);
+}
+
+static int dec_MeasurementType_r4(rtxContext* RT_RESTRICT ctx, MeasurementType_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementType-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFrequencyMeasurement */
+         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r4));
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r4");
+         asn1Init_UMTS_IntraFrequencyMeasurement_r4(pvalue->u.intraFrequencyMeasurement);
+         stat = dec_IntraFrequencyMeasurement_r4(ctx, pvalue->u.intraFrequencyMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r4");
+         break;
+      case 1: /* interFrequencyMeasurement */
+         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r4));
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r4");
+         asn1Init_UMTS_InterFrequencyMeasurement_r4(pvalue->u.interFrequencyMeasurement);
+         stat = dec_InterFrequencyMeasurement_r4(ctx, pvalue->u.interFrequencyMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r4");
+         break;
+      case 2: /* interRATMeasurement */
+         pvalue->u.interRATMeasurement = (InterRATMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r4));
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r4");
+         asn1Init_UMTS_InterRATMeasurement_r4(pvalue->u.interRATMeasurement);
+         stat = dec_InterRATMeasurement_r4(ctx, pvalue->u.interRATMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r4");
+         break;
+      case 3: /* up-Measurement */
+         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r4));
+         if (pvalue->u.up_Measurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r4");
+         asn1Init_UMTS_UE_Positioning_Measurement_r4(pvalue->u.up_Measurement);
+         stat = dec_UE_Positioning_Measurement_r4(ctx, pvalue->u.up_Measurement, cur);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r4");
+         break;
+      case 4: /* trafficVolumeMeasurement */
+         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r4");
+         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
+         stat = dec_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r4");
+         break;
+      case 5: /* qualityMeasurement */
+         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r4");
+         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
+         stat = dec_QualityMeasurement(ctx, pvalue->u.qualityMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r4");
+         break;
+      case 6: /* ue-InternalMeasurement */
+         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r4");
+         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
+         stat = dec_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r4");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementType_r4(rtxContext* RT_RESTRICT ctx, MeasurementType_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementType_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCommand_r4_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r4_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasurementType_r4(ctx, &pvalue->measurementType, cur);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r4_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r4_modify* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCommand_r4_modify, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCommand_r4(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementCommand-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r4*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r4));
+         if (pvalue->u.setup == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r4");
+         asn1Init_UMTS_MeasurementType_r4(pvalue->u.setup);
+         stat = dec_MeasurementType_r4(ctx, pvalue->u.setup, cur);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r4");
+         break;
+      case 1: /* modify */
+         pvalue->u.modify = (MeasurementCommand_r4_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r4_modify));
+         if (pvalue->u.modify == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r4");
+         asn1Init_UMTS_MeasurementCommand_r4_modify(pvalue->u.modify);
+         stat = dec_MeasurementCommand_r4_modify(ctx, pvalue->u.modify, cur);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r4");
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r4(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCommand_r4, pvalue);
+}
+
+static int dec_MeasurementType_r6(rtxContext* RT_RESTRICT ctx, MeasurementType_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementType-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFrequencyMeasurement */
+         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r6));
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r6");
+         asn1Init_UMTS_IntraFrequencyMeasurement_r6(pvalue->u.intraFrequencyMeasurement);
+         stat = dec_IntraFrequencyMeasurement_r6(ctx, pvalue->u.intraFrequencyMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r6");
+         break;
+      case 1: /* interFrequencyMeasurement */
+         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r6));
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r6");
+         asn1Init_UMTS_InterFrequencyMeasurement_r6(pvalue->u.interFrequencyMeasurement);
+         stat = dec_InterFrequencyMeasurement_r6(ctx, pvalue->u.interFrequencyMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r6");
+         break;
+      case 2: /* interRATMeasurement */
+         pvalue->u.interRATMeasurement = (InterRATMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r6));
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r6");
+         asn1Init_UMTS_InterRATMeasurement_r6(pvalue->u.interRATMeasurement);
+         stat = dec_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r6");
+         break;
+      case 3: /* up-Measurement */
+         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r4));
+         if (pvalue->u.up_Measurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r6");
+         asn1Init_UMTS_UE_Positioning_Measurement_r4(pvalue->u.up_Measurement);
+         stat = dec_UE_Positioning_Measurement_r4(ctx, pvalue->u.up_Measurement, cur);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r6");
+         break;
+      case 4: /* trafficVolumeMeasurement */
+         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r6");
+         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
+         stat = dec_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r6");
+         break;
+      case 5: /* qualityMeasurement */
+         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r6");
+         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
+         stat = dec_QualityMeasurement(ctx, pvalue->u.qualityMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r6");
+         break;
+      case 6: /* ue-InternalMeasurement */
+         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r6");
+         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
+         stat = dec_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r6");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementType_r6(rtxContext* RT_RESTRICT ctx, MeasurementType_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementType_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCommand_r6_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r6_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasurementType_r6(ctx, &pvalue->measurementType, cur);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r6_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r6_modify* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCommand_r6_modify, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCommand_r6(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementCommand-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r6*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r6));
+         if (pvalue->u.setup == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r6");
+         asn1Init_UMTS_MeasurementType_r6(pvalue->u.setup);
+         stat = dec_MeasurementType_r6(ctx, pvalue->u.setup, cur);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r6");
+         break;
+      case 1: /* modify */
+         pvalue->u.modify = (MeasurementCommand_r6_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r6_modify));
+         if (pvalue->u.modify == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r6");
+         asn1Init_UMTS_MeasurementCommand_r6_modify(pvalue->u.modify);
+         stat = dec_MeasurementCommand_r6_modify(ctx, pvalue->u.modify, cur);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r6");
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r6(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCommand_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_ReportingQuantity_r7_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r7_velocityRequested* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r7_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r7_velocityRequested* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_ReportingQuantity_r7_velocityRequested, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_ReportingQuantity_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 7, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r7");
+   /* methodType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->methodType, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r7");
+   /* positioningMethod */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->positioningMethod, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r7");
+   /* horizontalAccuracy */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_Accuracy(ctx, &pvalue->horizontalAccuracy, cur);
+      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   /* verticalAccuracy */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_Accuracy(ctx, &pvalue->verticalAccuracy, cur);
+      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   /* gps-TimingOfCellWanted */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->gps_TimingOfCellWanted);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r7");
+   /* additionalAssistanceDataReq */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->additionalAssistanceDataReq);
+   RT_CHECK_AT(ctx, cur, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r7");
+   /* environmentCharacterisation */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->environmentCharacterisation, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   /* velocityRequested */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r7");
+         pvalue->velocityRequested = ui;
+      }
+   }
+   /* gANSSPositioningMethods */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x10u;
+      RT_SET_SIZE(ctx, 16, 16);
+      stat = pd_BitString32At(ctx, cur, &pvalue->gANSSPositioningMethods, 16, 16);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSSPositioningMethods", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   /* gANSSTimingOfCellWanted */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x20u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->gANSSTimingOfCellWanted, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSSTimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   /* gANSSCarrierPhaseMeasurementRequested */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x40u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSSCarrierPhaseMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_ReportingQuantity_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_ThresholdSFN_GPS_TOW_us(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GPS_TOW_us* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ThresholdSFN-GPS-TOW-us");
+   return 0;
+}
+
+int asn1PD_UMTS_ThresholdSFN_GPS_TOW_us(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GPS_TOW_us* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ThresholdSFN_GPS_TOW_us, pvalue);
+}
+
+RT_MERGED_BODY int dec_ThresholdSFN_GANSS_TOW(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GANSS_TOW* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ThresholdSFN-GANSS-TOW");
+   return 0;
+}
+
+int asn1PD_UMTS_ThresholdSFN_GANSS_TOW(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GANSS_TOW* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ThresholdSFN_GANSS_TOW, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_EventSpecificInfo_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventSpecificInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-EventSpecificInfo-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e7a */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.e7a, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdPositionChange", "e7a", -1, "UE-Positioning-EventSpecificInfo-r7");
+         break;
+      case 1: /* e7b */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.e7b, 0, 15);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdSFN-SFN-Change", "e7b", -1, "UE-Positioning-EventSpecificInfo-r7");
+         break;
+      case 2: /* e7c */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.e7c, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdSFN-GPS-TOW-us", "e7c", -1, "UE-Positioning-EventSpecificInfo-r7");
+         break;
+      case 3: /* e7d */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.e7d, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "ThresholdSFN-GANSS-TOW", "e7d", -1, "UE-Positioning-EventSpecificInfo-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-EventSpecificInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_EventSpecificInfo_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventSpecificInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_EventSpecificInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_EventParam_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParam_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* reportingAmount */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "UE-Positioning-EventParam-r7");
+   /* reportFirstFix */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->reportFirstFix);
+   RT_CHECK_AT(ctx, cur, stat, 0, "reportFirstFix", -1, "UE-Positioning-EventParam-r7");
+   /* measurementInterval */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->measurementInterval, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-MeasurementInterval", "measurementInterval", -1, "UE-Positioning-EventParam-r7");
+   /* eventSpecificInfo */
+   stat = dec_UE_Positioning_EventSpecificInfo_r7(ctx, &pvalue->eventSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "eventSpecificInfo", -1, "UE-Positioning-EventParam-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_EventParam_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParam_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_EventParam_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_EventParamList_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParamList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-EventParamList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_EventParam_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_EventParam_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-Positioning-EventParam-r7", (int32_t)i, "UE-Positioning-EventParamList-r7");
+      elem = (UE_Positioning_EventParam_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_EventParam_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_Positioning_EventParam_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-EventParam-r7", (int32_t)i, "UE-Positioning-EventParamList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_EventParamList_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_EventParamList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_EventParamList_r7, pvalue);
+}
+
+static int dec_UE_Positioning_ReportCriteria_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportCriteria_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-ReportCriteria-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ue-positioning-ReportingCriteria */
+         pvalue->u.ue_positioning_ReportingCriteria = (UE_Positioning_EventParamList_r7*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_EventParamList_r7));
+         if (pvalue->u.ue_positioning_ReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
+         asn1Init_UMTS_UE_Positioning_EventParamList_r7(pvalue->u.ue_positioning_ReportingCriteria);
+         stat = dec_UE_Positioning_EventParamList_r7(ctx, pvalue->u.ue_positioning_ReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
+         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
+         stat = dec_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
+         break;
+      case 2: /* noReporting */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-ReportCriteria-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ReportCriteria_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportCriteria_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_ReportCriteria_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellAndChannelIdentity */
+   stat = dec_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellPosition */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_ReferenceCellPosition(ctx, &pvalue->cellPosition, cur);
+      RT_CHECK(ctx, stat, 0, "cellPosition", -1, 0);
+   }
+   /* roundTripTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->roundTripTime, 0, 32766);
+      RT_CHECK_AT(ctx, cur, stat, 0, "roundTripTime", -1, 0);
+   }
+   /* roundTripTimeExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt32At(ctx, cur, &pvalue->roundTripTimeExtension, 0, 70274);
+      RT_CHECK_AT(ctx, cur, stat, 0, "roundTripTimeExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ueBased */
+         pvalue->u.ueBased = (UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased));
+         if (pvalue->u.ueBased == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueBased", -1, 0);
+         asn1Init_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(pvalue->u.ueBased);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(ctx, pvalue->u.ueBased, cur);
+         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         break;
+      case 1: /* ueAssisted */
+         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted));
+         if (pvalue->u.ueAssisted == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueAssisted", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted, cur);
+         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   /* sfn */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn, 0, 4095);
+      RT_CHECK_AT(ctx, cur, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   }
+   /* modeSpecificInfo */
+   stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   }
+   /* positioningMode */
+   stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(ctx, &pvalue->positioningMode, cur);
+   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   /* ue-positioning-IPDL-Paremeters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellAndChannelIdentity */
+   stat = dec_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* relativeNorth */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt16At(ctx, cur, &pvalue->relativeNorth, -20000, 20000);
+      RT_CHECK_AT(ctx, cur, stat, 0, "relativeNorth", -1, 0);
+   }
+   /* relativeEast */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt16At(ctx, cur, &pvalue->relativeEast, -20000, 20000);
+      RT_CHECK_AT(ctx, cur, stat, 0, "relativeEast", -1, 0);
+   }
+   /* relativeAltitude */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsInt16At(ctx, cur, &pvalue->relativeAltitude, -4000, 4000);
+      RT_CHECK_AT(ctx, cur, stat, 0, "relativeAltitude", -1, 0);
+   }
+   /* fineSFN-SFN */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->fineSFN_SFN, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "FineSFN-SFN", "fineSFN-SFN", -1, 0);
+   }
+   /* roundTripTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->roundTripTime, 0, 32766);
+      RT_CHECK_AT(ctx, cur, stat, 0, "roundTripTime", -1, 0);
+   }
+   /* roundTripTimeExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt32At(ctx, cur, &pvalue->roundTripTimeExtension, 0, 70274);
+      RT_CHECK_AT(ctx, cur, stat, 0, "roundTripTimeExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ueBased */
+         pvalue->u.ueBased = (UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased));
+         if (pvalue->u.ueBased == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueBased", -1, 0);
+         asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(pvalue->u.ueBased);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(ctx, pvalue->u.ueBased, cur);
+         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         break;
+      case 1: /* ueAssisted */
+         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted));
+         if (pvalue->u.ueAssisted == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ueAssisted", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted, cur);
+         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode, pvalue);
+}
+
+static int dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   /* modeSpecificInfo */
+   stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   }
+   /* ue-positioning-IPDL-Paremeters */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   }
+   /* sfn-SFN-RelTimeDifference */
+   stat = dec_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference, cur);
+   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   /* sfn-Offset-Validity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+         pvalue->sfn_Offset_Validity = ui;
+      }
+   }
+   /* sfn-SFN-Drift */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sfn_SFN_Drift, 0, 28);
+      RT_CHECK_AT(ctx, cur, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   }
+   /* searchWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->searchWindowSize, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   /* positioningMode */
+   stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(ctx, &pvalue->positioningMode, cur);
+   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellList_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_OTDOA_NeighbourCellInfo_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r7", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r7");
+      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r7", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellList_r7, pvalue);
+}
+
+static int dec_UE_Positioning_OTDOA_AssistanceData_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r7");
+   /* ue-positioning-OTDOA-ReferenceCellInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_r7(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo", -1, "UE-Positioning-OTDOA-AssistanceData-r7");
+   }
+   /* ue-positioning-OTDOA-NeighbourCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_OTDOA_NeighbourCellList_r7(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList", -1, "UE-Positioning-OTDOA-AssistanceData-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_AssistanceData_r7, pvalue);
+}
+
+static int dec_UE_Positioning_GPS_ReferenceTime_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   /* gps-Week */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->gps_Week, 0, 1023);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gps-Week", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   /* gps-tow-1msec */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->gps_tow_1msec, 0, 604799999);
+   RT_CHECK_AT(ctx, cur, stat, "GPS-TOW-1msec", "gps-tow-1msec", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   /* utran-GPSReferenceTime */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   }
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   }
+   /* sfn-tow-Uncertainty */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sfn_tow_Uncertainty, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "SFN-TOW-Uncertainty", "sfn-tow-Uncertainty", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   }
+   /* utran-GPS-DriftRate */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->utran_GPS_DriftRate, 0, 14);
+      RT_CHECK_AT(ctx, cur, stat, "UTRAN-GPS-DriftRate", "utran-GPS-DriftRate", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   }
+   /* gps-TOW-AssistList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_GPS_TOW_AssistList(ctx, &pvalue->gps_TOW_AssistList, cur);
+      RT_CHECK(ctx, stat, 0, "gps-TOW-AssistList", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_ReferenceTime_r7, pvalue);
+}
+
+static int dec_UE_Positioning_GPS_AcquisitionAssistance_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   /* gps-ReferenceTime */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->gps_ReferenceTime, 0, 604799999);
+   RT_CHECK_AT(ctx, cur, stat, "GPS-TOW-1msec", "gps-ReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   /* utran-GPSReferenceTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   }
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   }
+   /* satelliteInformationList */
+   stat = dec_AcquisitionSatInfoList(ctx, &pvalue->satelliteInformationList, cur);
+   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_AcquisitionAssistance_r7, pvalue);
+}
+
+static int dec_UE_Positioning_GPS_AssistanceData_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 9, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r7");
+   /* ue-positioning-GPS-ReferenceTime */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-ReferenceLocation */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2u;
+      stat = dec_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-DGPS-Corrections */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-NavigationModel */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-IonosphericModel */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10u;
+      stat = dec_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-UTC-Model */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20u;
+      stat = dec_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-Almanac */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40u;
+      stat = dec_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-AcquisitionAssistance */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80u;
+      stat = dec_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-Real-timeIntegrity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100u;
+      stat = dec_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_AssistanceData_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primary-CPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primary-CPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellParameters */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParameters, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParameters", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timingOfCellFrames */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->timingOfCellFrames, 0, 3999999);
+   RT_CHECK_AT(ctx, cur, stat, 0, "timingOfCellFrames", -1, 0);
+   /* mode */
+   stat = dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(ctx, &pvalue->mode, cur);
+   RT_CHECK(ctx, stat, 0, "mode", -1, 0);
+   /* referenceSfn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->referenceSfn, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "referenceSfn", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_Tutran_Ganss_DriftRate(rtxContext* RT_RESTRICT ctx, Tutran_Ganss_DriftRate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Tutran-Ganss-DriftRate");
+   return 0;
+}
+
+int asn1PD_UMTS_Tutran_Ganss_DriftRate(rtxContext* RT_RESTRICT ctx, Tutran_Ganss_DriftRate* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Tutran_Ganss_DriftRate, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_ReferenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-ReferenceTime");
+   /* ganssDay */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->ganssDay, 0, 8191);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssDay", -1, "UE-Positioning-GANSS-ReferenceTime");
+   }
+   /* ganssTod */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->ganssTod, 0, 86399);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ganssTod", -1, "UE-Positioning-GANSS-ReferenceTime");
+   /* ganssTodUncertainty */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssTodUncertainty, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssTodUncertainty", -1, "UE-Positioning-GANSS-ReferenceTime");
+   }
+   /* ganssTimeId */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ganssTimeId, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "ganssTimeId", -1, "UE-Positioning-GANSS-ReferenceTime");
+   }
+   /* utran-ganssreferenceTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(ctx, &pvalue->utran_ganssreferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "utran-ganssreferenceTime", -1, "UE-Positioning-GANSS-ReferenceTime");
+   }
+   /* tutran-ganss-driftRate */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tutran_ganss_driftRate, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "Tutran-Ganss-DriftRate", "tutran-ganss-driftRate", -1, "UE-Positioning-GANSS-ReferenceTime");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_ReferenceTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_ReferenceTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_ReferenceLocationGANSS(rtxContext* RT_RESTRICT ctx, ReferenceLocationGANSS* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ellipsoidPointAltitudeEllipsoide */
+   stat = dec_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide, cur);
+   RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipsoide", -1, "ReferenceLocationGANSS");
+   return 0;
+}
+
+int asn1PD_UMTS_ReferenceLocationGANSS(rtxContext* RT_RESTRICT ctx, ReferenceLocationGANSS* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ReferenceLocationGANSS, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_IonosphericModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_IonosphericModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* alpha-zero-ionos */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pd_BitString32At(ctx, cur, &pvalue->alpha_zero_ionos, 12, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, "alpha-zero-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* alpha-one-ionos */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pd_BitString32At(ctx, cur, &pvalue->alpha_one_ionos, 12, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, "alpha-one-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* alpha-two-ionos */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pd_BitString32At(ctx, cur, &pvalue->alpha_two_ionos, 12, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, "alpha-two-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* gANSS-storm-flags */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_GANSS_Storm_Flag(ctx, &pvalue->gANSS_storm_flags, cur);
+      RT_CHECK(ctx, stat, 0, "gANSS-storm-flags", -1, "UE-Positioning-GANSS-IonosphericModel");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_IonosphericModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_IonosphericModel, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData");
+   /* ue-positioning-GANSS-ReferenceTime */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData");
+   }
+   /* uePositioningGanssReferencePosition */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData");
+   }
+   /* uePositioningGanssIonosphericModel */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData");
+   }
+   /* ganssGenericDataList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList, cur);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AssistanceData, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_Measurement_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-Measurement-r7");
+   /* ue-positioning-ReportingQuantity */
+   stat = dec_UE_Positioning_ReportingQuantity_r7(ctx, &pvalue->ue_positioning_ReportingQuantity, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r7");
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r7");
+   }
+   /* reportCriteria */
+   stat = dec_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r7");
+   /* ue-positioning-OTDOA-AssistanceData */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r7");
+   }
+   /* ue-positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r7");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Measurement_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_Measurement_r7, pvalue);
+}
+
+static int dec_MeasurementType_r7(rtxContext* RT_RESTRICT ctx, MeasurementType_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementType-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFrequencyMeasurement */
+         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r7));
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_IntraFrequencyMeasurement_r7(pvalue->u.intraFrequencyMeasurement);
+         stat = dec_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 1: /* interFrequencyMeasurement */
+         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r7*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r7));
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_InterFrequencyMeasurement_r7(pvalue->u.interFrequencyMeasurement);
+         stat = dec_InterFrequencyMeasurement_r7(ctx, pvalue->u.interFrequencyMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 2: /* interRATMeasurement */
+         pvalue->u.interRATMeasurement = (InterRATMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r6));
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_InterRATMeasurement_r6(pvalue->u.interRATMeasurement);
+         stat = dec_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 3: /* up-Measurement */
+         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r7*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r7));
+         if (pvalue->u.up_Measurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_UE_Positioning_Measurement_r7(pvalue->u.up_Measurement);
+         stat = dec_UE_Positioning_Measurement_r7(ctx, pvalue->u.up_Measurement, cur);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r7");
+         break;
+      case 4: /* trafficVolumeMeasurement */
+         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
+         stat = dec_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 5: /* qualityMeasurement */
+         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
+         stat = dec_QualityMeasurement(ctx, pvalue->u.qualityMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 6: /* ue-InternalMeasurement */
+         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
+         stat = dec_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r7");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementType_r7(rtxContext* RT_RESTRICT ctx, MeasurementType_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementType_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCommand_r7_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r7_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasurementType_r7(ctx, &pvalue->measurementType, cur);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r7_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r7_modify* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCommand_r7_modify, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCommand_r7(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementCommand-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r7*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r7));
+         if (pvalue->u.setup == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r7");
+         asn1Init_UMTS_MeasurementType_r7(pvalue->u.setup);
+         stat = dec_MeasurementType_r7(ctx, pvalue->u.setup, cur);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r7");
+         break;
+      case 1: /* modify */
+         pvalue->u.modify = (MeasurementCommand_r7_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r7_modify));
+         if (pvalue->u.modify == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r7");
+         asn1Init_UMTS_MeasurementCommand_r7_modify(pvalue->u.modify);
+         stat = dec_MeasurementCommand_r7_modify(ctx, pvalue->u.modify, cur);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r7");
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r7(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCommand_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_ReportingQuantity_r8_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r8_velocityRequested* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r8_velocityRequested* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_ReportingQuantity_r8_velocityRequested, pvalue);
+}
+
+static int dec_UE_Positioning_ReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 8, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r8");
+   /* methodType */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->methodType, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r8");
+   /* positioningMethod */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->positioningMethod, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r8");
+   /* horizontalAccuracy */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_Accuracy(ctx, &pvalue->horizontalAccuracy, cur);
+      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* verticalAccuracy */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_Accuracy(ctx, &pvalue->verticalAccuracy, cur);
+      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* gps-TimingOfCellWanted */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->gps_TimingOfCellWanted);
+   RT_CHECK_AT(ctx, cur, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r8");
+   /* additionalAssistanceDataReq */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->additionalAssistanceDataReq);
+   RT_CHECK_AT(ctx, cur, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r8");
+   /* environmentCharacterisation */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->environmentCharacterisation, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* velocityRequested */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+         pvalue->velocityRequested = ui;
+      }
+   }
+   /* gANSSPositioningMethods */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10u;
+      RT_SET_SIZE(ctx, 16, 16);
+      stat = pd_BitString32At(ctx, cur, &pvalue->gANSSPositioningMethods, 16, 16);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSSPositioningMethods", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* gANSSTimingOfCellWanted */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->gANSSTimingOfCellWanted, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSSTimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* gANSSCarrierPhaseMeasurementRequested */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSSCarrierPhaseMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* gANSSMultiFreqMeasurementRequested */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->gANSSMultiFreqMeasurementRequested, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "gANSSMultiFreqMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_ReportingQuantity_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AddIonoModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddIonoModel* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dataID */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_BitString32At(ctx, cur, &pvalue->dataID, 2, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dataID", -1, "UE-Positioning-GANSS-AddIonoModel");
+   /* alpha-beta-parameters */
+   stat = dec_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->alpha_beta_parameters, cur);
+   RT_CHECK(ctx, stat, 0, "alpha-beta-parameters", -1, "UE-Positioning-GANSS-AddIonoModel");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddIonoModel* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AddIonoModel, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_EarthOrientPara(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_EarthOrientPara* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* teop */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32At(ctx, cur, &pvalue->teop, 16, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "teop", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* pmX */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pd_BitString32At(ctx, cur, &pvalue->pmX, 21, 21);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pmX", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* pmXdot */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pd_BitString32At(ctx, cur, &pvalue->pmXdot, 15, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pmXdot", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* pmY */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pd_BitString32At(ctx, cur, &pvalue->pmY, 21, 21);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pmY", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* pmYdot */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pd_BitString32At(ctx, cur, &pvalue->pmYdot, 15, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "pmYdot", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* deltaUT1 */
+   RT_SET_SIZE(ctx, 31, 31);
+   stat = pd_BitString32At(ctx, cur, &pvalue->deltaUT1, 31, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "deltaUT1", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* deltaUT1dot */
+   RT_SET_SIZE(ctx, 19, 19);
+   stat = pd_BitString32At(ctx, cur, &pvalue->deltaUT1dot, 19, 19);
+   RT_CHECK_AT(ctx, cur, stat, 0, "deltaUT1dot", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_EarthOrientPara* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_EarthOrientPara, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AssistanceData_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   /* ue-positioning-GANSS-ReferenceTime */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   }
+   /* uePositioningGanssReferencePosition */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = dec_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   }
+   /* uePositioningGanssIonosphericModel */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   }
+   /* uePositioningGanssAddIonoModel */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   }
+   /* uePositioningGanssEarthOrientationPara */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = dec_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   }
+   /* ganssGenericDataList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = dec_GANSSGenericDataList_r8(ctx, &pvalue->ganssGenericDataList, cur);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AssistanceData_r8, pvalue);
+}
+
+static int dec_UE_Positioning_Measurement_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-Measurement-r8");
+   /* ue-positioning-ReportingQuantity */
+   stat = dec_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r8");
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r8");
+   }
+   /* reportCriteria */
+   stat = dec_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r8");
+   /* ue-positioning-OTDOA-AssistanceData */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r8");
+   }
+   /* ue-positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r8");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_GANSS_AssistanceData_r8(ctx, &pvalue->ue_positioning_GANSS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Measurement_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_Measurement_r8, pvalue);
+}
+
+static int dec_MeasurementType_r8(rtxContext* RT_RESTRICT ctx, MeasurementType_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementType-r8");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFrequencyMeasurement */
+         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r7));
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_IntraFrequencyMeasurement_r7(pvalue->u.intraFrequencyMeasurement);
+         stat = dec_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 1: /* interFrequencyMeasurement */
+         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r8*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r8));
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_InterFrequencyMeasurement_r8(pvalue->u.interFrequencyMeasurement);
+         stat = dec_InterFrequencyMeasurement_r8(ctx, pvalue->u.interFrequencyMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 2: /* interRATMeasurement */
+         pvalue->u.interRATMeasurement = (InterRATMeasurement_r8*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r8));
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_InterRATMeasurement_r8(pvalue->u.interRATMeasurement);
+         stat = dec_InterRATMeasurement_r8(ctx, pvalue->u.interRATMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 3: /* up-Measurement */
+         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r8*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r8));
+         if (pvalue->u.up_Measurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_UE_Positioning_Measurement_r8(pvalue->u.up_Measurement);
+         stat = dec_UE_Positioning_Measurement_r8(ctx, pvalue->u.up_Measurement, cur);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r8");
+         break;
+      case 4: /* trafficVolumeMeasurement */
+         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
+         stat = dec_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 5: /* qualityMeasurement */
+         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
+         stat = dec_QualityMeasurement(ctx, pvalue->u.qualityMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 6: /* ue-InternalMeasurement */
+         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
+         stat = dec_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r8");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementType_r8(rtxContext* RT_RESTRICT ctx, MeasurementType_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementType_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCommand_r8_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r8_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasurementType_r8(ctx, &pvalue->measurementType, cur);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r8_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r8_modify* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCommand_r8_modify, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCommand_r8(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementCommand-r8");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r8*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r8));
+         if (pvalue->u.setup == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r8");
+         asn1Init_UMTS_MeasurementType_r8(pvalue->u.setup);
+         stat = dec_MeasurementType_r8(ctx, pvalue->u.setup, cur);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r8");
+         break;
+      case 1: /* modify */
+         pvalue->u.modify = (MeasurementCommand_r8_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r8_modify));
+         if (pvalue->u.modify == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r8");
+         asn1Init_UMTS_MeasurementCommand_r8_modify(pvalue->u.modify);
+         stat = dec_MeasurementCommand_r8_modify(ctx, pvalue->u.modify, cur);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r8");
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r8(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCommand_r8, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_DGPS_Corrections_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* gps-TOW */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->gps_TOW, 0, 604799);
+   RT_CHECK_AT(ctx, cur, stat, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
+   /* statusHealth */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->statusHealth, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
+   /* dgps-CorrectionSatInfoList */
+   stat = dec_DGPS_CorrectionSatInfoList_r9(ctx, &pvalue->dgps_CorrectionSatInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_DGPS_Corrections_r9, pvalue);
+}
+
+static int dec_UE_Positioning_GPS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 9, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r9");
+   /* ue-positioning-GPS-ReferenceTime */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-ReferenceLocation */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2u;
+      stat = dec_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-DGPS-Corrections */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GPS_DGPS_Corrections_r9(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-NavigationModel */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-IonosphericModel */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10u;
+      stat = dec_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-UTC-Model */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20u;
+      stat = dec_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-Almanac */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40u;
+      stat = dec_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-AcquisitionAssistance */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80u;
+      stat = dec_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-Real-timeIntegrity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100u;
+      stat = dec_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_AssistanceData_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   /* ue-positioning-GANSS-ReferenceTime */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* uePositioningGanssReferencePosition */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = dec_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* uePositioningGanssIonosphericModel */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* uePositioningGanssAddIonoModel */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* uePositioningGanssEarthOrientationPara */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = dec_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* ganssGenericDataList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = dec_GANSSGenericDataList_r9(ctx, &pvalue->ganssGenericDataList, cur);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AssistanceData_r9, pvalue);
+}
+
+static int dec_UE_Positioning_Measurement_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-Measurement-r9");
+   /* ue-positioning-ReportingQuantity */
+   stat = dec_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r9");
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r9");
+   }
+   /* reportCriteria */
+   stat = dec_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r9");
+   /* ue-positioning-OTDOA-AssistanceData */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r9");
+   }
+   /* ue-positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GPS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GPS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r9");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_UE_Positioning_GANSS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GANSS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Measurement_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_Measurement_r9, pvalue);
+}
+
+static int dec_MeasurementType_r9(rtxContext* RT_RESTRICT ctx, MeasurementType_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementType-r9");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFrequencyMeasurement */
+         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r9*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r9));
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_IntraFrequencyMeasurement_r9(pvalue->u.intraFrequencyMeasurement);
+         stat = dec_IntraFrequencyMeasurement_r9(ctx, pvalue->u.intraFrequencyMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 1: /* interFrequencyMeasurement */
+         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r9*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r9));
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_InterFrequencyMeasurement_r9(pvalue->u.interFrequencyMeasurement);
+         stat = dec_InterFrequencyMeasurement_r9(ctx, pvalue->u.interFrequencyMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 2: /* interRATMeasurement */
+         pvalue->u.interRATMeasurement = (InterRATMeasurement_r9*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r9));
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_InterRATMeasurement_r9(pvalue->u.interRATMeasurement);
+         stat = dec_InterRATMeasurement_r9(ctx, pvalue->u.interRATMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 3: /* up-Measurement */
+         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r9*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r9));
+         if (pvalue->u.up_Measurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_UE_Positioning_Measurement_r9(pvalue->u.up_Measurement);
+         stat = dec_UE_Positioning_Measurement_r9(ctx, pvalue->u.up_Measurement, cur);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r9");
+         break;
+      case 4: /* trafficVolumeMeasurement */
+         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
+         stat = dec_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 5: /* qualityMeasurement */
+         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
+         stat = dec_QualityMeasurement(ctx, pvalue->u.qualityMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 6: /* ue-InternalMeasurement */
+         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
+         stat = dec_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement, cur);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 7: /* csgProximityDetection */
+         pvalue->u.csgProximityDetection = (CSGProximityDetection*)rtxMemHeapAlloc(ctx, sizeof(CSGProximityDetection));
+         if (pvalue->u.csgProximityDetection == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "csgProximityDetection", -1, "MeasurementType-r9");
+         asn1Init_UMTS_CSGProximityDetection(pvalue->u.csgProximityDetection);
+         stat = dec_CSGProximityDetection(ctx, pvalue->u.csgProximityDetection, cur);
+         RT_CHECK(ctx, stat, 0, "csgProximityDetection", -1, "MeasurementType-r9");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementType_r9(rtxContext* RT_RESTRICT ctx, MeasurementType_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementType_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCommand_r9_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r9_modify* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MeasurementType_r9(ctx, &pvalue->measurementType, cur);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r9_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r9_modify* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCommand_r9_modify, pvalue);
+}
+
+RT_MERGED_BODY int dec_MeasurementCommand_r9(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MeasurementCommand-r9");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r9*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r9));
+         if (pvalue->u.setup == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r9");
+         asn1Init_UMTS_MeasurementType_r9(pvalue->u.setup);
+         stat = dec_MeasurementType_r9(ctx, pvalue->u.setup, cur);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r9");
+         break;
+      case 1: /* modify */
+         pvalue->u.modify = (MeasurementCommand_r9_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r9_modify));
+         if (pvalue->u.modify == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r9");
+         asn1Init_UMTS_MeasurementCommand_r9_modify(pvalue->u.modify);
+         stat = dec_MeasurementCommand_r9_modify(ctx, pvalue->u.modify, cur);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r9");
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r9(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MeasurementCommand_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_Neighbour_TDD_r7(rtxContext* RT_RESTRICT ctx, Neighbour_TDD_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Neighbour-TDD-r7");
+   /* uarfcn */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->uarfcn, 0, 16383);
+      RT_CHECK_AT(ctx, cur, stat, "UARFCN", "uarfcn", -1, "Neighbour-TDD-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Neighbour_TDD_r7(rtxContext* RT_RESTRICT ctx, Neighbour_TDD_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Neighbour_TDD_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_NeighbourList_TDD_r7(rtxContext* RT_RESTRICT ctx, NeighbourList_TDD_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NeighbourList-TDD-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Neighbour_TDD_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Neighbour_TDD_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "Neighbour-TDD-r7", (int32_t)i, "NeighbourList-TDD-r7");
+      elem = (Neighbour_TDD_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_Neighbour_TDD_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_Neighbour_TDD_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "Neighbour-TDD-r7", (int32_t)i, "NeighbourList-TDD-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NeighbourList_TDD_r7(rtxContext* RT_RESTRICT ctx, NeighbourList_TDD_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NeighbourList_TDD_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCell-LCR-v8a0ext");
+   /* cellInfo-LCR-r8 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8, cur);
+      RT_CHECK(ctx, stat, 0, "cellInfo-LCR-r8", -1, "NewInterFreqCell-LCR-v8a0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCell_LCR_v8a0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewInterFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellList-LCR-v8a0ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCell_LCR_v8a0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_LCR_v8a0ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewInterFreqCell-LCR-v8a0ext", (int32_t)i, "NewInterFreqCellList-LCR-v8a0ext");
+      elem = (NewInterFreqCell_LCR_v8a0ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCell_LCR_v8a0ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewInterFreqCell_LCR_v8a0ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-LCR-v8a0ext", (int32_t)i, "NewInterFreqCellList-LCR-v8a0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewInterFreqCellList_LCR_v8a0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCell-LCR-v8a0ext");
+   /* cellInfo-LCR-r8 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8, cur);
+      RT_CHECK(ctx, stat, 0, "cellInfo-LCR-r8", -1, "NewIntraFreqCell-LCR-v8a0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCell_LCR_v8a0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_NewIntraFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellList-LCR-v8a0ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCell_LCR_v8a0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell_LCR_v8a0ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "NewIntraFreqCell-LCR-v8a0ext", (int32_t)i, "NewIntraFreqCellList-LCR-v8a0ext");
+      elem = (NewIntraFreqCell_LCR_v8a0ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCell_LCR_v8a0ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_NewIntraFreqCell_LCR_v8a0ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-LCR-v8a0ext", (int32_t)i, "NewIntraFreqCellList-LCR-v8a0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_NewIntraFreqCellList_LCR_v8a0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotWithISCP(rtxContext* RT_RESTRICT ctx, TimeslotWithISCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, "TimeslotWithISCP");
+   /* timeslotISCP */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslotISCP, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotISCP", "timeslotISCP", -1, "TimeslotWithISCP");
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotWithISCP(rtxContext* RT_RESTRICT ctx, TimeslotWithISCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotWithISCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_TimeslotListWithISCP(rtxContext* RT_RESTRICT ctx, TimeslotListWithISCP* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TimeslotListWithISCP");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TimeslotWithISCP* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotWithISCP));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "TimeslotWithISCP", (int32_t)i, "TimeslotListWithISCP");
+      elem = (TimeslotWithISCP*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_TimeslotWithISCP(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "TimeslotWithISCP", (int32_t)i, "TimeslotListWithISCP");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotListWithISCP(rtxContext* RT_RESTRICT ctx, TimeslotListWithISCP* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TimeslotListWithISCP, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_CipherParameters(rtxContext* RT_RESTRICT ctx, UE_Positioning_CipherParameters* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cipheringKeyFlag */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cipheringKeyFlag, 1, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cipheringKeyFlag", -1, "UE-Positioning-CipherParameters");
+   /* cipheringSerialNumber */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->cipheringSerialNumber, 0, 65535);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cipheringSerialNumber", -1, "UE-Positioning-CipherParameters");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_CipherParameters(rtxContext* RT_RESTRICT ctx, UE_Positioning_CipherParameters* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_CipherParameters, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_AssistanceData_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+   /* uePositioningGanssAddIonoModel */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+   }
+   /* uePositioningGanssEarthOrientationPara */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+   }
+   /* ganssGenericDataList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_GANSSGenericDataList_v860ext(ctx, &pvalue->ganssGenericDataList, cur);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AssistanceData_v860ext, pvalue);
+}
+
+static int dec_UE_Positioning_GANSS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v920ext");
+   /* ganssGenericDataList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_GANSSGenericDataList_v920ext(ctx, &pvalue->ganssGenericDataList, cur);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_AssistanceData_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_Data(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Data* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-Data");
+   /* ganssDataCipheringInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_CipherParameters(ctx, &pvalue->ganssDataCipheringInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ganssDataCipheringInfo", -1, "UE-Positioning-GANSS-Data");
+   }
+   /* ganssDecipheringKeys */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = dec_GANSSDecipheringKeys(ctx, &pvalue->ganssDecipheringKeys, cur);
+      RT_CHECK(ctx, stat, 0, "ganssDecipheringKeys", -1, "UE-Positioning-GANSS-Data");
+   }
+   /* uePositioningGanssReferenceTime */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->uePositioningGanssReferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferenceTime", -1, "UE-Positioning-GANSS-Data");
+   }
+   /* uePositioningGanssReferencePosition */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = dec_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-Data");
+   }
+   /* uePositioningGanssIonosphericModel */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = dec_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-Data");
+   }
+   /* ganssGenericDataList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = dec_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList, cur);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-Data");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_Data(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Data* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_Data, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GANSS_TimeModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModels* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-TimeModels");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_GANSS_TimeModel* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_GANSS_TimeModel));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "UE-Positioning-GANSS-TimeModels");
+      elem = (UE_Positioning_GANSS_TimeModel*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_GANSS_TimeModel(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_Positioning_GANSS_TimeModel(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "UE-Positioning-GANSS-TimeModels");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_TimeModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModels* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GANSS_TimeModels, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_AcquisitionAssistance_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_AcquisitionAssistance_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_ReferenceTime_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_ReferenceTime_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_AssistanceData_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v770ext");
+   /* ue-positioning-GPS-ReferenceTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_positioning_GPS_ReferenceTime, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-v770ext");
+   }
+   /* ue-positioning-GPS-AcquisitionAssistance */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GPS_AcquisitionAssistance_v770ext(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_AssistanceData_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_DGPS_Corrections_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dgps-CorrectionSatInfoList */
+   stat = dec_DGPS_CorrectionSatInfoList_v920ext(ctx, &pvalue->dgps_CorrectionSatInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_DGPS_Corrections_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_GPS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v920ext");
+   /* ue-positioning-GPS-DGPS-Corrections */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_GPS_AssistanceData_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_IPDL_Parameters_TDD_r4_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_TDD_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* ip-Spacing */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ip_Spacing, 0, 4);
+   RT_CHECK_AT(ctx, cur, stat, "IP-Spacing-TDD", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* ip-slot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ip_slot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ip-slot", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* ip-Start */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->ip_Start, 0, 4095);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ip-Start", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* ip-PCCPCG */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->ip_PCCPCG);
+      RT_CHECK_AT(ctx, cur, stat, "IP-PCCPCH-r4", "ip-PCCPCG", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   }
+   /* burstModeParameters */
+   stat = dec_BurstModeParameters(ctx, &pvalue->burstModeParameters, cur);
+   RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_TDD_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_IPDL_Parameters_TDD_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_ReportingQuantity_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* vertical-Accuracy */
+   stat = dec_UE_Positioning_Accuracy(ctx, &pvalue->vertical_Accuracy, cur);
+   RT_CHECK(ctx, stat, 0, "vertical-Accuracy", -1, "UE-Positioning-ReportingQuantity-v390ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ReportingQuantity_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_v390ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_ReportingQuantity_v390ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellAndChannelIdentity */
+   stat = dec_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   /* sfn */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->sfn, 0, 4095);
+      RT_CHECK_AT(ctx, cur, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   /* modeSpecificInfo */
+   stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   /* cellPosition */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_ReferenceCellPosition(ctx, &pvalue->cellPosition, cur);
+      RT_CHECK(ctx, stat, 0, "cellPosition", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   /* roundTripTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->roundTripTime, 0, 32766);
+      RT_CHECK_AT(ctx, cur, stat, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   /* ue-positioning-IPDL-Paremeters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = dec_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* cellAndChannelIdentity */
+   stat = dec_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 7, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* modeSpecificInfo */
+   stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x1u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* ue-positioning-IPDL-Paremeters */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* sfn-SFN-RelTimeDifference */
+   stat = dec_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference, cur);
+   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* sfn-SFN-Drift */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->sfn_SFN_Drift, 0, 28);
+      RT_CHECK_AT(ctx, cur, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* searchWindowSize */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->searchWindowSize, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* relativeNorth */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsInt16At(ctx, cur, &pvalue->relativeNorth, -20000, 20000);
+      RT_CHECK_AT(ctx, cur, stat, 0, "relativeNorth", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* relativeEast */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsInt16At(ctx, cur, &pvalue->relativeEast, -20000, 20000);
+      RT_CHECK_AT(ctx, cur, stat, 0, "relativeEast", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* relativeAltitude */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsInt16At(ctx, cur, &pvalue->relativeAltitude, -4000, 4000);
+      RT_CHECK_AT(ctx, cur, stat, 0, "relativeAltitude", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* fineSFN-SFN */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->fineSFN_SFN, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "FineSFN-SFN", "fineSFN-SFN", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* roundTripTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->roundTripTime, 0, 32766);
+      RT_CHECK_AT(ctx, cur, stat, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB, pvalue);
+}
+
+static int dec_UE_Positioning_OTDOA_NeighbourCellList_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_UEB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_OTDOA_NeighbourCellInfo_UEB* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
+      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_UEB* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellList_UEB, pvalue);
+}
+
+static int dec_UE_Positioning_OTDOA_AssistanceData_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_UEB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
+   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo-UEB", -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
+   }
+   /* ue-positioning-OTDOA-NeighbourCellList-UEB */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_OTDOA_NeighbourCellList_UEB(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList-UEB", -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_UEB* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_AssistanceData_UEB, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_v390ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-Measurement-v390ext");
+   /* ue-positioning-ReportingQuantity-v390ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_ReportingQuantity_v390ext(ctx, &pvalue->ue_positioning_ReportingQuantity_v390ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity-v390ext", -1, "UE-Positioning-Measurement-v390ext");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-v390ext");
+   }
+   /* ue-positioning-OTDOA-AssistanceData-UEB */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "UE-Positioning-Measurement-v390ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_v390ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_Measurement_v390ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_Measurement_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-Measurement-v920ext");
+   /* ue-positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-v920ext");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Measurement_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_Measurement_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_TDDList_r4_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_IPDL_Parameters_TDD_r4_ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_IPDL_Parameters_TDD_r4_ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-Positioning-IPDL-Parameters-TDD-r4-ext", (int32_t)i, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
+      elem = (UE_Positioning_IPDL_Parameters_TDD_r4_ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-IPDL-Parameters-TDD-r4-ext", (int32_t)i, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_TDDList_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_IPDL_Parameters_TDDList_r4_ext, pvalue);
+}
+
+static int dec_UE_Positioning_OTDOA_AssistanceData_r4ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r4ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
+   /* ue-Positioning-IPDL-Parameters-TDD-r4-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDD_r4_ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-IPDL-Parameters-TDD-r4-ext", -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
+   }
+   /* ue-Positioning-IPDL-Parameters-TDDList-r4-ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDDList_r4_ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-IPDL-Parameters-TDDList-r4-ext", -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r4ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_AssistanceData_r4ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
+   /* roundTripTimeExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt32At(ctx, cur, &pvalue->roundTripTimeExtension, 0, 70274);
+      RT_CHECK_AT(ctx, cur, stat, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
+   /* roundTripTimeExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt32At(ctx, cur, &pvalue->roundTripTimeExtension, 0, 70274);
+      RT_CHECK_AT(ctx, cur, stat, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_UEB_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
+      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_UEB_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_AssistanceData_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_UEB_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
+   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB_ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext", -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
+   }
+   /* ue-positioning-OTDOA-NeighbourCellList-UEB-ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB_ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList-UEB-ext", -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_UEB_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_AssistanceData_UEB_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_MeasuredResultsTDD_ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
+   /* neighbourList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_NeighbourList_TDD_r7(ctx, &pvalue->neighbourList, cur);
+      RT_CHECK(ctx, stat, 0, "neighbourList", -1, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_MeasuredResultsTDD_ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UE_Positioning_OTDOA_MeasuredResultsTDD_ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_FDD_Frequency(rtxContext* RT_RESTRICT ctx, UTRAN_FDD_Frequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTRAN-FDD-Frequency");
+   /* uarfcn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->uarfcn, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, "UARFCN", "uarfcn", -1, "UTRAN-FDD-Frequency");
+   /* priority */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->priority, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "priority", -1, "UTRAN-FDD-Frequency");
+   /* threshXhigh */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->threshXhigh, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "threshXhigh", -1, "UTRAN-FDD-Frequency");
+   /* threshXlow */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->threshXlow, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "threshXlow", -1, "UTRAN-FDD-Frequency");
+   /* qQualMinFDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->qQualMinFDD, -24, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, "qQualMinFDD", -1, "UTRAN-FDD-Frequency");
+   }
+   /* qRxLevMinFDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->qRxLevMinFDD, -60, -13);
+      RT_CHECK_AT(ctx, cur, stat, 0, "qRxLevMinFDD", -1, "UTRAN-FDD-Frequency");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_FDD_Frequency(rtxContext* RT_RESTRICT ctx, UTRAN_FDD_Frequency* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_FDD_Frequency, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_FDD_FrequencyList(rtxContext* RT_RESTRICT ctx, UTRAN_FDD_FrequencyList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTRAN-FDD-FrequencyList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UTRAN_FDD_Frequency* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UTRAN_FDD_Frequency));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UTRAN-FDD-Frequency", (int32_t)i, "UTRAN-FDD-FrequencyList");
+      elem = (UTRAN_FDD_Frequency*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UTRAN_FDD_Frequency(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UTRAN_FDD_Frequency(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UTRAN-FDD-Frequency", (int32_t)i, "UTRAN-FDD-FrequencyList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_FDD_FrequencyList(rtxContext* RT_RESTRICT ctx, UTRAN_FDD_FrequencyList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_FDD_FrequencyList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_TDD_Frequency(rtxContext* RT_RESTRICT ctx, UTRAN_TDD_Frequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTRAN-TDD-Frequency");
+   /* uarfcn */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->uarfcn, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, "UARFCN", "uarfcn", -1, "UTRAN-TDD-Frequency");
+   /* priority */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->priority, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "priority", -1, "UTRAN-TDD-Frequency");
+   /* threshXhigh */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->threshXhigh, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "threshXhigh", -1, "UTRAN-TDD-Frequency");
+   /* threshXlow */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->threshXlow, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "threshXlow", -1, "UTRAN-TDD-Frequency");
+   /* qRxLevMinTDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->qRxLevMinTDD, -60, -13);
+      RT_CHECK_AT(ctx, cur, stat, 0, "qRxLevMinTDD", -1, "UTRAN-TDD-Frequency");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_TDD_Frequency(rtxContext* RT_RESTRICT ctx, UTRAN_TDD_Frequency* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_TDD_Frequency, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRAN_TDD_FrequencyList(rtxContext* RT_RESTRICT ctx, UTRAN_TDD_FrequencyList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTRAN-TDD-FrequencyList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UTRAN_TDD_Frequency* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UTRAN_TDD_Frequency));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "UTRAN-TDD-Frequency", (int32_t)i, "UTRAN-TDD-FrequencyList");
+      elem = (UTRAN_TDD_Frequency*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UTRAN_TDD_Frequency(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_UTRAN_TDD_Frequency(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "UTRAN-TDD-Frequency", (int32_t)i, "UTRAN-TDD-FrequencyList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_TDD_FrequencyList(rtxContext* RT_RESTRICT ctx, UTRAN_TDD_FrequencyList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRAN_TDD_FrequencyList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRA_PriorityInfoList_utra_ServingCell(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList_utra_ServingCell* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* priority */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->priority, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "priority", -1, 0);
+   /* s-PrioritySearch1 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->s_PrioritySearch1, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "s-PrioritySearch1", -1, 0);
+   /* s-PrioritySearch2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->s_PrioritySearch2, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "s-PrioritySearch2", -1, 0);
+   }
+   /* threshServingLow */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->threshServingLow, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "threshServingLow", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UTRA_PriorityInfoList_utra_ServingCell(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList_utra_ServingCell* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRA_PriorityInfoList_utra_ServingCell, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRA_PriorityInfoList(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTRA-PriorityInfoList");
+   /* utra-ServingCell */
+   stat = dec_UTRA_PriorityInfoList_utra_ServingCell(ctx, &pvalue->utra_ServingCell, cur);
+   RT_CHECK(ctx, stat, 0, "utra-ServingCell", -1, "UTRA-PriorityInfoList");
+   /* utran-FDD-FrequencyList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UTRAN_FDD_FrequencyList(ctx, &pvalue->utran_FDD_FrequencyList, cur);
+      RT_CHECK(ctx, stat, 0, "utran-FDD-FrequencyList", -1, "UTRA-PriorityInfoList");
+   }
+   /* utran-TDD-FrequencyList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UTRAN_TDD_FrequencyList(ctx, &pvalue->utran_TDD_FrequencyList, cur);
+      RT_CHECK(ctx, stat, 0, "utran-TDD-FrequencyList", -1, "UTRA-PriorityInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRA_PriorityInfoList(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRA_PriorityInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_UTRA_PriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UTRA-PriorityInfoList-v920ext");
+   /* threshServingLow2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->threshServingLow2, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, 0, "threshServingLow2", -1, "UTRA-PriorityInfoList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRA_PriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_UTRA_PriorityInfoList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_BCCH_ModificationTime(rtxContext* RT_RESTRICT ctx, BCCH_ModificationTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 511);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BCCH-ModificationTime");
+   return 0;
+}
+
+int asn1PD_UMTS_BCCH_ModificationTime(rtxContext* RT_RESTRICT ctx, BCCH_ModificationTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_BCCH_ModificationTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_BCCH_ModificationInfo(rtxContext* RT_RESTRICT ctx, BCCH_ModificationInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "BCCH-ModificationInfo");
+   /* mib-ValueTag */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mib_ValueTag, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, "MIB-ValueTag", "mib-ValueTag", -1, "BCCH-ModificationInfo");
+   /* bcch-ModificationTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->bcch_ModificationTime, 0, 511);
+      RT_CHECK_AT(ctx, cur, stat, "BCCH-ModificationTime", "bcch-ModificationTime", -1, "BCCH-ModificationInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_BCCH_ModificationInfo(rtxContext* RT_RESTRICT ctx, BCCH_ModificationInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_BCCH_ModificationInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CDMA2000_Message_payload(rtxContext* RT_RESTRICT ctx, CDMA2000_Message_payload* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CDMA2000_Message_payload(rtxContext* RT_RESTRICT ctx, CDMA2000_Message_payload* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CDMA2000_Message_payload, pvalue);
+}
+
+RT_MERGED_BODY int dec_CDMA2000_Message(rtxContext* RT_RESTRICT ctx, CDMA2000_Message* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* msg-Type */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32At(ctx, cur, &pvalue->msg_Type, 8, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "msg-Type", -1, "CDMA2000-Message");
+   /* payload */
+   stat = dec_CDMA2000_Message_payload(ctx, &pvalue->payload, cur);
+   RT_CHECK(ctx, stat, 0, "payload", -1, "CDMA2000-Message");
+   return 0;
+}
+
+int asn1PD_UMTS_CDMA2000_Message(rtxContext* RT_RESTRICT ctx, CDMA2000_Message* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CDMA2000_Message, pvalue);
+}
+
+RT_MERGED_BODY int dec_CDMA2000_MessageList(rtxContext* RT_RESTRICT ctx, CDMA2000_MessageList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CDMA2000-MessageList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CDMA2000_Message* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CDMA2000_Message));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "CDMA2000-Message", (int32_t)i, "CDMA2000-MessageList");
+      elem = (CDMA2000_Message*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CDMA2000_Message(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_CDMA2000_Message(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "CDMA2000-Message", (int32_t)i, "CDMA2000-MessageList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CDMA2000_MessageList(rtxContext* RT_RESTRICT ctx, CDMA2000_MessageList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CDMA2000_MessageList, pvalue);
+}
+
+RT_MERGED_BODY int dec_FrequencyInfoCDMA2000(rtxContext* RT_RESTRICT ctx, FrequencyInfoCDMA2000* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* band-Class */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32At(ctx, cur, &pvalue->band_Class, 5, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, "band-Class", -1, "FrequencyInfoCDMA2000");
+   /* cdma-Freq */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pd_BitString32At(ctx, cur, &pvalue->cdma_Freq, 11, 11);
+   RT_CHECK_AT(ctx, cur, stat, 0, "cdma-Freq", -1, "FrequencyInfoCDMA2000");
+   return 0;
+}
+
+int asn1PD_UMTS_FrequencyInfoCDMA2000(rtxContext* RT_RESTRICT ctx, FrequencyInfoCDMA2000* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FrequencyInfoCDMA2000, pvalue);
+}
+
+RT_MERGED_BODY int dec_CDMA2000_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, CDMA2000_UMTS_Frequency_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CDMA2000-UMTS-Frequency-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      FrequencyInfoCDMA2000* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfoCDMA2000));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "FrequencyInfoCDMA2000", (int32_t)i, "CDMA2000-UMTS-Frequency-List");
+      elem = (FrequencyInfoCDMA2000*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_FrequencyInfoCDMA2000(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfoCDMA2000", (int32_t)i, "CDMA2000-UMTS-Frequency-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CDMA2000_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, CDMA2000_UMTS_Frequency_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CDMA2000_UMTS_Frequency_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_DataTransmFrequency_dataTransmFreqGranularity(rtxContext* RT_RESTRICT ctx, DataTransmFrequency_dataTransmFreqGranularity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DataTransmFrequency_dataTransmFreqGranularity(rtxContext* RT_RESTRICT ctx, DataTransmFrequency_dataTransmFreqGranularity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DataTransmFrequency_dataTransmFreqGranularity, pvalue);
+}
+
+RT_MERGED_BODY int dec_DataTransmFrequency(rtxContext* RT_RESTRICT ctx, DataTransmFrequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* dataTransmFreqGranularity */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dataTransmFreqGranularity, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dataTransmFreqGranularity", -1, "DataTransmFrequency");
+   /* numberOfDataTransmOcc */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->numberOfDataTransmOcc, 1, 610);
+   RT_CHECK_AT(ctx, cur, stat, 0, "numberOfDataTransmOcc", -1, "DataTransmFrequency");
+   return 0;
+}
+
+int asn1PD_UMTS_DataTransmFrequency(rtxContext* RT_RESTRICT ctx, DataTransmFrequency* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DataTransmFrequency, pvalue);
+}
+
+RT_MERGED_BODY int dec_DataVolumePerRB(rtxContext* RT_RESTRICT ctx, DataVolumePerRB* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "DataVolumePerRB");
+   /* dataVolume */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->dataVolume, 0, 4294967295LL);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dataVolume", -1, "DataVolumePerRB");
+   return 0;
+}
+
+int asn1PD_UMTS_DataVolumePerRB(rtxContext* RT_RESTRICT ctx, DataVolumePerRB* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DataVolumePerRB, pvalue);
+}
+
+RT_MERGED_BODY int dec_DataVolumePerRB_List(rtxContext* RT_RESTRICT ctx, DataVolumePerRB_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DataVolumePerRB-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DataVolumePerRB* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DataVolumePerRB));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "DataVolumePerRB", (int32_t)i, "DataVolumePerRB-List");
+      elem = (DataVolumePerRB*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_DataVolumePerRB(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "DataVolumePerRB", (int32_t)i, "DataVolumePerRB-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DataVolumePerRB_List(rtxContext* RT_RESTRICT ctx, DataVolumePerRB_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DataVolumePerRB_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_DataVolumeHistory(rtxContext* RT_RESTRICT ctx, DataVolumeHistory* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "DataVolumeHistory");
+   /* dataVolumeMontoringWindow */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->dataVolumeMontoringWindow, 1, 120);
+   RT_CHECK_AT(ctx, cur, stat, 0, "dataVolumeMontoringWindow", -1, "DataVolumeHistory");
+   /* dataTransmFrequency */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DataTransmFrequency(ctx, &pvalue->dataTransmFrequency, cur);
+      RT_CHECK(ctx, stat, 0, "dataTransmFrequency", -1, "DataVolumeHistory");
+   }
+   /* dataVolumePerRB */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DataVolumePerRB_List(ctx, &pvalue->dataVolumePerRB, cur);
+      RT_CHECK(ctx, stat, 0, "dataVolumePerRB", -1, "DataVolumeHistory");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DataVolumeHistory(rtxContext* RT_RESTRICT ctx, DataVolumeHistory* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_DataVolumeHistory, pvalue);
+}
+
+RT_MERGED_BODY int dec_ETWS_Information_warningType(rtxContext* RT_RESTRICT ctx, ETWS_Information_warningType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ETWS_Information_warningType(rtxContext* RT_RESTRICT ctx, ETWS_Information_warningType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ETWS_Information_warningType, pvalue);
+}
+
+RT_MERGED_BODY int dec_ETWS_Information_messageIdentifier(rtxContext* RT_RESTRICT ctx, ETWS_Information_messageIdentifier* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ETWS_Information_messageIdentifier(rtxContext* RT_RESTRICT ctx, ETWS_Information_messageIdentifier* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ETWS_Information_messageIdentifier, pvalue);
+}
+
+RT_MERGED_BODY int dec_ETWS_Information_serialNumber(rtxContext* RT_RESTRICT ctx, ETWS_Information_serialNumber* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ETWS_Information_serialNumber(rtxContext* RT_RESTRICT ctx, ETWS_Information_serialNumber* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ETWS_Information_serialNumber, pvalue);
+}
+
+RT_MERGED_BODY int dec_ETWS_Information(rtxContext* RT_RESTRICT ctx, ETWS_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* warningType */
+   stat = dec_ETWS_Information_warningType(ctx, &pvalue->warningType, cur);
+   RT_CHECK(ctx, stat, 0, "warningType", -1, "ETWS-Information");
+   /* messageIdentifier */
+   stat = dec_ETWS_Information_messageIdentifier(ctx, &pvalue->messageIdentifier, cur);
+   RT_CHECK(ctx, stat, 0, "messageIdentifier", -1, "ETWS-Information");
+   /* serialNumber */
+   stat = dec_ETWS_Information_serialNumber(ctx, &pvalue->serialNumber, cur);
+   RT_CHECK(ctx, stat, 0, "serialNumber", -1, "ETWS-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_ETWS_Information(rtxContext* RT_RESTRICT ctx, ETWS_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ETWS_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_ETWS_WarningSecurityInfo(rtxContext* RT_RESTRICT ctx, ETWS_WarningSecurityInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_DynOctetStringAt(ctx, cur, pvalue);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ETWS-WarningSecurityInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_ETWS_WarningSecurityInfo(rtxContext* RT_RESTRICT ctx, ETWS_WarningSecurityInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ETWS_WarningSecurityInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_FDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, FDD_UMTS_Frequency_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "FDD-UMTS-Frequency-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      FrequencyInfoFDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfoFDD));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "FrequencyInfoFDD", (int32_t)i, "FDD-UMTS-Frequency-List");
+      elem = (FrequencyInfoFDD*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_FrequencyInfoFDD(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_FrequencyInfoFDD(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfoFDD", (int32_t)i, "FDD-UMTS-Frequency-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_FDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, FDD_UMTS_Frequency_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_FDD_UMTS_Frequency_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_GERAN_SystemInfoBlock(rtxContext* RT_RESTRICT ctx, GERAN_SystemInfoBlock* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 23);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GERAN-SystemInfoBlock");
+   return 0;
+}
+
+int asn1PD_UMTS_GERAN_SystemInfoBlock(rtxContext* RT_RESTRICT ctx, GERAN_SystemInfoBlock* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GERAN_SystemInfoBlock, pvalue);
+}
+
+RT_MERGED_BODY int dec_GERAN_SystemInformation(rtxContext* RT_RESTRICT ctx, GERAN_SystemInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GERAN-SystemInformation");
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "GERAN-SystemInformation");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "GERAN-SystemInformation");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      asn1Init_UMTS_GERAN_SystemInfoBlock(&pvalue->elem[i]);
+      stat = dec_GERAN_SystemInfoBlock(ctx, &pvalue->elem[i], cur);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, 0, "GERAN-SystemInfoBlock", (int32_t)i, "GERAN-SystemInformation");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GERAN_SystemInformation(rtxContext* RT_RESTRICT ctx, GERAN_SystemInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GERAN_SystemInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_BA_Range(rtxContext* RT_RESTRICT ctx, GSM_BA_Range* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* gsmLowRangeUARFCN */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->gsmLowRangeUARFCN, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, "UARFCN", "gsmLowRangeUARFCN", -1, "GSM-BA-Range");
+   /* gsmUpRangeUARFCN */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->gsmUpRangeUARFCN, 0, 16383);
+   RT_CHECK_AT(ctx, cur, stat, "UARFCN", "gsmUpRangeUARFCN", -1, "GSM-BA-Range");
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_BA_Range(rtxContext* RT_RESTRICT ctx, GSM_BA_Range* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_BA_Range, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_BA_Range_List(rtxContext* RT_RESTRICT ctx, GSM_BA_Range_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GSM-BA-Range-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GSM_BA_Range* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_BA_Range));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "GSM-BA-Range", (int32_t)i, "GSM-BA-Range-List");
+      elem = (GSM_BA_Range*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_GSM_BA_Range(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "GSM-BA-Range", (int32_t)i, "GSM-BA-Range-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_BA_Range_List(rtxContext* RT_RESTRICT ctx, GSM_BA_Range_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_BA_Range_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_Classmark2(rtxContext* RT_RESTRICT ctx, GSM_Classmark2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GSM-Classmark2");
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_Classmark2(rtxContext* RT_RESTRICT ctx, GSM_Classmark2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_Classmark2, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_Classmark3(rtxContext* RT_RESTRICT ctx, GSM_Classmark3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GSM-Classmark3");
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_Classmark3(rtxContext* RT_RESTRICT ctx, GSM_Classmark3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_Classmark3, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_MessageList_element(rtxContext* RT_RESTRICT ctx, GSM_MessageList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_MessageList_element(rtxContext* RT_RESTRICT ctx, GSM_MessageList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_MessageList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_GSM_MessageList(rtxContext* RT_RESTRICT ctx, GSM_MessageList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GSM-MessageList");
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "GSM-MessageList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "GSM-MessageList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      asn1Init_UMTS_GSM_MessageList_element(&pvalue->elem[i]);
+      stat = dec_GSM_MessageList_element(ctx, &pvalue->elem[i], cur);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, 0, "element", (int32_t)i, "GSM-MessageList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_MessageList(rtxContext* RT_RESTRICT ctx, GSM_MessageList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GSM_MessageList, pvalue);
+}
+
+RT_MERGED_BODY int dec_GsmSecurityCapability(rtxContext* RT_RESTRICT ctx, GsmSecurityCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pd_BitString32At(ctx, cur, pvalue, 7, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GsmSecurityCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_GsmSecurityCapability(rtxContext* RT_RESTRICT ctx, GsmSecurityCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GsmSecurityCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_HNBName(rtxContext* RT_RESTRICT ctx, HNBName* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 48);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "HNBName");
+   return 0;
+}
+
+int asn1PD_UMTS_HNBName(rtxContext* RT_RESTRICT ctx, HNBName* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_HNBName, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_ChangeFailureCause(rtxContext* RT_RESTRICT ctx, InterRAT_ChangeFailureCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRAT-ChangeFailureCause");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* configurationUnacceptable */
+         break;
+      case 1: /* physicalChannelFailure */
+         break;
+      case 2: /* protocolError */
+         pvalue->u.protocolError = (ProtocolErrorInformation*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorInformation));
+         if (pvalue->u.protocolError == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "protocolError", -1, "InterRAT-ChangeFailureCause");
+         asn1Init_UMTS_ProtocolErrorInformation(pvalue->u.protocolError);
+         stat = dec_ProtocolErrorInformation(ctx, pvalue->u.protocolError, cur);
+         RT_CHECK(ctx, stat, 0, "protocolError", -1, "InterRAT-ChangeFailureCause");
+         break;
+      case 3: /* unspecified */
+         break;
+      case 4: /* spare4 */
+         break;
+      case 5: /* spare3 */
+         break;
+      case 6: /* spare2 */
+         break;
+      case 7: /* spare1 */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-ChangeFailureCause");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_ChangeFailureCause(rtxContext* RT_RESTRICT ctx, InterRAT_ChangeFailureCause* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_ChangeFailureCause, pvalue);
+}
+
+RT_MERGED_BODY int dec_GERANIu_MessageList_element(rtxContext* RT_RESTRICT ctx, GERANIu_MessageList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 32768);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GERANIu_MessageList_element(rtxContext* RT_RESTRICT ctx, GERANIu_MessageList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GERANIu_MessageList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_GERANIu_MessageList(rtxContext* RT_RESTRICT ctx, GERANIu_MessageList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 2, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GERANIu-MessageList");
+      pvalue->n = n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "GERANIu-MessageList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "GERANIu-MessageList");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      asn1Init_UMTS_GERANIu_MessageList_element(&pvalue->elem[i]);
+      stat = dec_GERANIu_MessageList_element(ctx, &pvalue->elem[i], cur);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, 0, "element", (int32_t)i, "GERANIu-MessageList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GERANIu_MessageList(rtxContext* RT_RESTRICT ctx, GERANIu_MessageList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GERANIu_MessageList, pvalue);
+}
+
+RT_MERGED_BODY int dec_GERANIu_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, GERANIu_RadioAccessCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 170);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "GERANIu-RadioAccessCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_GERANIu_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, GERANIu_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_GERANIu_RadioAccessCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* gsm-Classmark2 */
+   stat = dec_GSM_Classmark2(ctx, &pvalue->gsm_Classmark2, cur);
+   RT_CHECK(ctx, stat, 0, "gsm-Classmark2", -1, 0);
+   /* gsm-Classmark3 */
+   stat = dec_GSM_Classmark3(ctx, &pvalue->gsm_Classmark3, cur);
+   RT_CHECK(ctx, stat, 0, "gsm-Classmark3", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_gsm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_UE_RadioAccessCapability_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability_cdma2000(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_cdma2000* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
    /* cdma2000-MessageList */
-   stat = asn1PD_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
-   RT_CHECK(ctx, stat, 0, "cdma2000-MessageList", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANCommand-CDMA2000-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANCommand_CDMA2000_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-CDMA2000-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANCommand-CDMA2000-r3 */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_IEs(ctx, &pvalue->handoverFromUTRANCommand_CDMA2000_r3);
-   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-CDMA2000-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-CDMA2000");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (HandoverFromUTRANCommand_CDMA2000_r3*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_CDMA2000_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "HandoverFromUTRANCommand-CDMA2000");
-         asn1Init_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "HandoverFromUTRANCommand-CDMA2000");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (HandoverFromUTRANCommand_CDMA2000_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_CDMA2000_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "HandoverFromUTRANCommand-CDMA2000");
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "HandoverFromUTRANCommand-CDMA2000");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "HandoverFromUTRANCommand-CDMA2000");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_r8_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_EUTRA_r8_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
-   /* activationTime */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
-   }
-   /* toHandoverRAB-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationList(ctx, &pvalue->toHandoverRAB_Info);
-      RT_CHECK(ctx, stat, 0, "toHandoverRAB-Info", -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
-   }
-   /* eutra-Message */
-   stat = pd_DynOctetString(ctx, &pvalue->eutra_Message);
-   RT_CHECK(ctx, stat, 0, "eutra-Message", -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANCommand-EUTRA-r8 */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_r8_IEs(ctx, &pvalue->handoverFromUTRANCommand_EUTRA_r8);
-   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-EUTRA-r8", -1, 0);
-   /* handoverFromUTRANCommand-EUTRA-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANCommand_EUTRA_r8_add_ext);
-      RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-EUTRA-r8-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_EUTRA_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r8 */
-         pvalue->u.r8 = (HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
-         asn1Init_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_EUTRA* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-EUTRA");
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, "HandoverFromUTRANCommand-EUTRA");
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_interRATMessage_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* gsm-MessageList */
-   stat = asn1PD_UMTS_GSM_MessageList(ctx, &pvalue->gsm_MessageList);
-   RT_CHECK(ctx, stat, 0, "gsm-MessageList", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_interRATMessage_cdma2000* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* cdma2000-MessageList */
-   stat = asn1PD_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
+   stat = dec_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList, cur);
    RT_CHECK(ctx, stat, 0, "cdma2000-MessageList", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_interRATMessage* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_cdma2000* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_UE_RadioAccessCapability_cdma2000, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* gsm */
-         pvalue->u.gsm = (HandoverFromUTRANFailure_interRATMessage_gsm*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANFailure_interRATMessage_gsm));
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
-         asn1Init_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         pvalue->u.gsm = (InterRAT_UE_RadioAccessCapability_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_UE_RadioAccessCapability_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, "InterRAT-UE-RadioAccessCapability");
+         asn1Init_UMTS_InterRAT_UE_RadioAccessCapability_gsm(pvalue->u.gsm);
+         stat = dec_InterRAT_UE_RadioAccessCapability_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRAT-UE-RadioAccessCapability");
          break;
       case 1: /* cdma2000 */
-         pvalue->u.cdma2000 = (HandoverFromUTRANFailure_interRATMessage_cdma2000*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANFailure_interRATMessage_cdma2000));
-         if (pvalue->u.cdma2000 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cdma2000", -1, 0);
-         asn1Init_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(pvalue->u.cdma2000);
-         stat = asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(ctx, pvalue->u.cdma2000);
-         RT_CHECK(ctx, stat, 0, "cdma2000", -1, 0);
+         pvalue->u.cdma2000 = (InterRAT_UE_RadioAccessCapability_cdma2000*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_UE_RadioAccessCapability_cdma2000));
+         if (pvalue->u.cdma2000 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cdma2000", -1, "InterRAT-UE-RadioAccessCapability");
+         asn1Init_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(pvalue->u.cdma2000);
+         stat = dec_InterRAT_UE_RadioAccessCapability_cdma2000(ctx, pvalue->u.cdma2000, cur);
+         RT_CHECK(ctx, stat, 0, "cdma2000", -1, "InterRAT-UE-RadioAccessCapability");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-UE-RadioAccessCapability");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUtranFailure_v590ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUtranFailure_v590ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_UE_RadioAccessCapability, pvalue);
+}
+
+static int dec_InterRAT_UE_RadioAccessCapabilityList(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapabilityList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapabilityList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      InterRAT_UE_RadioAccessCapability* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRAT_UE_RadioAccessCapability));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "InterRAT-UE-RadioAccessCapability", (int32_t)i, "InterRAT-UE-RadioAccessCapabilityList");
+      elem = (InterRAT_UE_RadioAccessCapability*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_InterRAT_UE_RadioAccessCapability(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_InterRAT_UE_RadioAccessCapability(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "InterRAT-UE-RadioAccessCapability", (int32_t)i, "InterRAT-UE-RadioAccessCapabilityList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapabilityList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_UE_RadioAccessCapabilityList, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* geranIu-RadioAccessCapability */
+   stat = dec_GERANIu_RadioAccessCapability(ctx, &pvalue->geranIu_RadioAccessCapability, cur);
+   RT_CHECK(ctx, stat, 0, "geranIu-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v590ext");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_UE_RadioAccessCapability_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_UE_SecurityCapability_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapability_gsm* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* gsmSecurityCapability */
+   stat = dec_GsmSecurityCapability(ctx, &pvalue->gsmSecurityCapability, cur);
+   RT_CHECK(ctx, stat, 0, "gsmSecurityCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_SecurityCapability_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapability_gsm* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_UE_SecurityCapability_gsm, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_UE_SecurityCapability(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapability* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRAT-UE-SecurityCapability");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm */
+         pvalue->u.gsm = (InterRAT_UE_SecurityCapability_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_UE_SecurityCapability_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "gsm", -1, "InterRAT-UE-SecurityCapability");
+         asn1Init_UMTS_InterRAT_UE_SecurityCapability_gsm(pvalue->u.gsm);
+         stat = dec_InterRAT_UE_SecurityCapability_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRAT-UE-SecurityCapability");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-UE-SecurityCapability");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_SecurityCapability(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapability* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_UE_SecurityCapability, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_UE_SecurityCapList(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRAT-UE-SecurityCapList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      InterRAT_UE_SecurityCapability* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRAT_UE_SecurityCapability));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "InterRAT-UE-SecurityCapability", (int32_t)i, "InterRAT-UE-SecurityCapList");
+      elem = (InterRAT_UE_SecurityCapability*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_InterRAT_UE_SecurityCapability(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_InterRAT_UE_SecurityCapability(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "InterRAT-UE-SecurityCapability", (int32_t)i, "InterRAT-UE-SecurityCapList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_SecurityCapList(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_UE_SecurityCapList, pvalue);
+}
+
+RT_MERGED_BODY int dec_InterRAT_HO_FailureCause(rtxContext* RT_RESTRICT ctx, InterRAT_HO_FailureCause* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "InterRAT-HO-FailureCause");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* configurationUnacceptable */
+         break;
+      case 1: /* physicalChannelFailure */
+         break;
+      case 2: /* protocolError */
+         pvalue->u.protocolError = (ProtocolErrorInformation*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorInformation));
+         if (pvalue->u.protocolError == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "protocolError", -1, "InterRAT-HO-FailureCause");
+         asn1Init_UMTS_ProtocolErrorInformation(pvalue->u.protocolError);
+         stat = dec_ProtocolErrorInformation(ctx, pvalue->u.protocolError, cur);
+         RT_CHECK(ctx, stat, 0, "protocolError", -1, "InterRAT-HO-FailureCause");
+         break;
+      case 3: /* interRAT-ProtocolError */
+         break;
+      case 4: /* unspecified */
+         break;
+      case 5: /* spare11 */
+         break;
+      case 6: /* spare10 */
+         break;
+      case 7: /* spare9 */
+         break;
+      case 8: /* spare8 */
+         break;
+      case 9: /* spare7 */
+         break;
+      case 10: /* spare6 */
+         break;
+      case 11: /* spare5 */
+         break;
+      case 12: /* spare4 */
+         break;
+      case 13: /* spare3 */
+         break;
+      case 14: /* spare2 */
+         break;
+      case 15: /* spare1 */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-HO-FailureCause");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_HO_FailureCause(rtxContext* RT_RESTRICT ctx, InterRAT_HO_FailureCause* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_InterRAT_HO_FailureCause, pvalue);
+}
+
+RT_MERGED_BODY int dec_TDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, TDD_UMTS_Frequency_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "TDD-UMTS-Frequency-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      FrequencyInfoTDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfoTDD));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "FrequencyInfoTDD", (int32_t)i, "TDD-UMTS-Frequency-List");
+      elem = (FrequencyInfoTDD*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_FrequencyInfoTDD(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfoTDD", (int32_t)i, "TDD-UMTS-Frequency-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, TDD_UMTS_Frequency_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_TDD_UMTS_Frequency_List, pvalue);
+}
+
+RT_MERGED_BODY int dec_Rplmn_Information(rtxContext* RT_RESTRICT ctx, Rplmn_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUtranFailure-v590ext-IEs");
-   /* geranIu-MessageList */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Rplmn-Information");
+   /* gsm-BA-Range-List */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List, cur);
+      RT_CHECK(ctx, stat, 0, "gsm-BA-Range-List", -1, "Rplmn-Information");
+   }
+   /* fdd-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List, cur);
+      RT_CHECK(ctx, stat, 0, "fdd-UMTS-Frequency-List", -1, "Rplmn-Information");
+   }
+   /* tdd-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd_UMTS_Frequency_List, cur);
+      RT_CHECK(ctx, stat, 0, "tdd-UMTS-Frequency-List", -1, "Rplmn-Information");
+   }
+   /* cdma2000-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List, cur);
+      RT_CHECK(ctx, stat, 0, "cdma2000-UMTS-Frequency-List", -1, "Rplmn-Information");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Rplmn_Information(rtxContext* RT_RESTRICT ctx, Rplmn_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Rplmn_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_Rplmn_Information_r4(rtxContext* RT_RESTRICT ctx, Rplmn_Information_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "Rplmn-Information-r4");
+   /* gsm-BA-Range-List */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = dec_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List, cur);
+      RT_CHECK(ctx, stat, 0, "gsm-BA-Range-List", -1, "Rplmn-Information-r4");
+   }
+   /* fdd-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List, cur);
+      RT_CHECK(ctx, stat, 0, "fdd-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
+   }
+   /* tdd384-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd384_UMTS_Frequency_List, cur);
+      RT_CHECK(ctx, stat, 0, "tdd384-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
+   }
+   /* tdd128-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd128_UMTS_Frequency_List, cur);
+      RT_CHECK(ctx, stat, 0, "tdd128-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
+   }
+   /* cdma2000-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List, cur);
+      RT_CHECK(ctx, stat, 0, "cdma2000-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Rplmn_Information_r4(rtxContext* RT_RESTRICT ctx, Rplmn_Information_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_Rplmn_Information_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType4_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType4-v4b0ext-IEs");
+   /* mapping-LCR */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GERANIu_MessageList(ctx, &pvalue->geranIu_MessageList);
-      RT_CHECK(ctx, stat, 0, "geranIu-MessageList", -1, "HandoverFromUtranFailure-v590ext-IEs");
+      stat = dec_Mapping_LCR_r4(ctx, &pvalue->mapping_LCR, cur);
+      RT_CHECK(ctx, stat, 0, "mapping-LCR", -1, "SysInfoType4-v4b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUtranFailure_v860ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUtranFailure_v860ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType4_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType4_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType4_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType4_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUtranFailure-v860ext-IEs");
-   /* eutra-Message */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType4-v590ext");
+   /* cellSelectReselectInfo-v590ext */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynOctetString(ctx, &pvalue->eutra_Message);
-      RT_CHECK(ctx, stat, 0, "eutra-Message", -1, "HandoverFromUtranFailure-v860ext-IEs");
+      stat = dec_CellSelectReselectInfo_v590ext(ctx, &pvalue->cellSelectReselectInfo_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo-v590ext", -1, "SysInfoType4-v590ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType4_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType4_v590ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType4_v590ext, pvalue);
 }
 
-int asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType4_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v5b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANFailure-v860ext */
-   stat = asn1PD_UMTS_HandoverFromUtranFailure_v860ext_IEs(ctx, &pvalue->handoverFromUTRANFailure_v860ext);
-   RT_CHECK(ctx, stat, 0, "handoverFromUTRANFailure-v860ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType4-v5b0ext-IEs");
+   /* cellSelectReselectInfoPCHFACH-v5b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellSelectReselectInfoPCHFACH_v5b0ext(ctx, &pvalue->cellSelectReselectInfoPCHFACH_v5b0ext, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoPCHFACH-v5b0ext", -1, "SysInfoType4-v5b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType4_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v5b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType4_v5b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType4_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v5c0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType4-v5c0ext-IEs");
+   /* cellSelectReselectInfoTreselectionScaling-v5c0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellSelectReselectInfoTreselectionScaling_v5c0ext(ctx, &pvalue->cellSelectReselectInfoTreselectionScaling_v5c0ext, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoTreselectionScaling-v5c0ext", -1, "SysInfoType4-v5c0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType4_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v5c0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType4_v5c0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType4-v5c0ext */
+   stat = dec_SysInfoType4_v5c0ext_IEs(ctx, &pvalue->sysInfoType4_v5c0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType4-v5c0ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANFailure-v590ext */
-   stat = asn1PD_UMTS_HandoverFromUtranFailure_v590ext_IEs(ctx, &pvalue->handoverFromUTRANFailure_v590ext);
-   RT_CHECK(ctx, stat, 0, "handoverFromUTRANFailure-v590ext", -1, 0);
-   /* v860NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType4-v5b0ext */
+   stat = dec_SysInfoType4_v5b0ext_IEs(ctx, &pvalue->sysInfoType4_v5b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType4-v5b0ext", -1, 0);
+   /* v5c0NonCriticalExtension */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+      stat = dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(ctx, &pvalue->v5c0NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* handoverFromUTRANFailure-r3-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType4-v590ext */
+   stat = dec_SysInfoType4_v590ext(ctx, &pvalue->sysInfoType4_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType4-v590ext", -1, 0);
+   /* v5b0NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(ctx, &pvalue->v5b0NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType4_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType4-v4b0ext */
+   stat = dec_SysInfoType4_v4b0ext_IEs(ctx, &pvalue->sysInfoType4_v4b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType4-v4b0ext", -1, 0);
+   /* v590NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType4_v4b0NonCriticalExtensions, pvalue);
+}
+
+static int dec_SysInfoType4(rtxContext* RT_RESTRICT ctx, SysInfoType4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType4");
+   /* cellIdentity */
+   stat = dec_CellIdentity(ctx, &pvalue->cellIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "SysInfoType4");
+   /* cellSelectReselectInfo */
+   stat = dec_CellSelectReselectInfoSIB_3_4(ctx, &pvalue->cellSelectReselectInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo", -1, "SysInfoType4");
+   /* cellAccessRestriction */
+   stat = dec_CellAccessRestriction(ctx, &pvalue->cellAccessRestriction, cur);
+   RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType4");
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType4_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType4(rtxContext* RT_RESTRICT ctx, SysInfoType4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType4, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType5bis(rtxContext* RT_RESTRICT ctx, SysInfoType5bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = dec_SysInfoType5(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5bis");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5bis(rtxContext* RT_RESTRICT ctx, SysInfoType5bis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType5bis, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* aich-PowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->aich_PowerOffset, -22, 5);
+   RT_CHECK_AT(ctx, cur, stat, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->dummy, -10, 5);
+      RT_CHECK_AT(ctx, cur, stat, "CSICH-PowerOffset", "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANFailure_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "handoverFromUTRANFailure-r3-add-ext", -1, 0);
+      stat = dec_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
    }
-   /* v590NonCriticalExtensions */
+   /* pdsch-SysInfoList-SFN */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+      stat = dec_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* openLoopPowerControl-TDD */
+   stat = dec_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD, cur);
+   RT_CHECK(ctx, stat, 0, "openLoopPowerControl-TDD", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SysInfoType6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType6_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SysInfoType6_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = dec_SysInfoType6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (SysInfoType6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType6_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_SysInfoType6_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = dec_SysInfoType6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverFromUTRANFailure(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANFailure");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANFailure");
-   /* interRAT-HO-FailureCause */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* pCCPCH-LCR-Extensions */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions, cur);
+      RT_CHECK(ctx, stat, 0, "pCCPCH-LCR-Extensions", -1, 0);
+   }
+   /* sCCPCH-LCR-ExtensionsList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList, cur);
+      RT_CHECK(ctx, stat, 0, "sCCPCH-LCR-ExtensionsList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType6-v4b0ext-IEs");
+   /* openLoopPowerControl-IPDL-TDD */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD, cur);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, "SysInfoType6-v4b0ext-IEs");
+   }
+   /* prach-SystemInformationList-LCR-r4 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4, cur);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList-LCR-r4", -1, "SysInfoType6-v4b0ext-IEs");
+   }
+   /* tdd128SpecificInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType6-v4b0ext-IEs");
+   }
+   /* frequencyBandIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->frequencyBandIndicator, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType6-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType6-v590ext-IEs");
+   /* hcr-r5-SpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType6-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v590ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_v650ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v650ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* frequencyBandIndicator2 */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->frequencyBandIndicator2, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType6-v650ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v650ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v650ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v650ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType6-v690ext-IEs");
+   /* additionalPRACH-TF-and-TFCS-CCCH-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List, cur);
+      RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-List", -1, "SysInfoType6-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v690ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRAT_HO_FailureCause(ctx, &pvalue->interRAT_HO_FailureCause);
-      RT_CHECK(ctx, stat, 0, "interRAT-HO-FailureCause", -1, "HandoverFromUTRANFailure");
+      stat = dec_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
    }
-   /* interRATMessage */
+   /* pdsch-SysInfoList-SFN */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage(ctx, &pvalue->interRATMessage);
-      RT_CHECK(ctx, stat, 0, "interRATMessage", -1, "HandoverFromUTRANFailure");
+      stat = dec_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
    }
-   /* laterNonCriticalExtensions */
+   /* prach-SystemInformationList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "HandoverFromUTRANFailure");
+      stat = dec_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_predefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_predefinedConfigStatusList* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* absent */
-         break;
-      case 1: /* present */
-         pvalue->u.present = (PredefinedConfigStatusList*)rtxMemHeapAlloc(ctx, sizeof(PredefinedConfigStatusList));
-         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "present", -1, 0);
-         asn1Init_UMTS_PredefinedConfigStatusList(pvalue->u.present);
-         stat = asn1PD_UMTS_PredefinedConfigStatusList(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat, 0, "present", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v770ext_IEs_tdd768SpecificInfo, pvalue);
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_uE_SecurityInformation(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_uE_SecurityInformation* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* absent */
-         break;
-      case 1: /* present */
-         pvalue->u.present = (UE_SecurityInformation*)rtxMemHeapAlloc(ctx, sizeof(UE_SecurityInformation));
-         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "present", -1, 0);
-         asn1Init_UMTS_UE_SecurityInformation(pvalue->u.present);
-         stat = asn1PD_UMTS_UE_SecurityInformation(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat, 0, "present", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_ue_CapabilityContainer_present* RT_RESTRICT pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 0, 63);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_ue_CapabilityContainer(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_ue_CapabilityContainer* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* absent */
-         break;
-      case 1: /* present */
-         pvalue->u.present = (InterRATHandoverInfo_ue_CapabilityContainer_present*)rtxMemHeapAlloc(ctx, sizeof(InterRATHandoverInfo_ue_CapabilityContainer_present));
-         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "present", -1, 0);
-         asn1Init_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(pvalue->u.present);
-         stat = asn1PD_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat, 0, "present", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType6_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v390ext-IEs");
-   /* ue-RadioAccessCapability-v380ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v380ext(ctx, &pvalue->ue_RadioAccessCapability_v380ext);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v380ext", -1, "InterRATHandoverInfo-v390ext-IEs");
-   }
-   /* dl-PhysChCapabilityFDD-v380ext */
-   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v380ext(ctx, &pvalue->dl_PhysChCapabilityFDD_v380ext);
-   RT_CHECK(ctx, stat, 0, "dl-PhysChCapabilityFDD-v380ext", -1, "InterRATHandoverInfo-v390ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v3a0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v3a0ext-IEs");
-   /* ue-RadioAccessCapability-v3a0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v3a0ext(ctx, &pvalue->ue_RadioAccessCapability_v3a0ext);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3a0ext", -1, "InterRATHandoverInfo-v3a0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v3d0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v3d0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v3d0ext-IEs");
-   /* uESpecificBehaviourInformation1interRAT */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(ctx, &pvalue->uESpecificBehaviourInformation1interRAT);
-      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "InterRATHandoverInfo-v3d0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v690ext1_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v690ext1_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v690ext1-IEs");
-   /* ue-RadioAccessCapability-v650ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v650ext(ctx, &pvalue->ue_RadioAccessCapability_v650ext);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v650ext", -1, "InterRATHandoverInfo-v690ext1-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v7e0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v7e0ext-IEs");
-   /* ue-RadioAccessCapability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext(ctx, &pvalue->ue_RadioAccessCapability);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "InterRATHandoverInfo-v7e0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v7f0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v7f0ext-IEs");
-   /* ue-RadioAccessCapability */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType6-v770ext-IEs");
+   /* tdd768SpecificInfo */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext(ctx, &pvalue->ue_RadioAccessCapability);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "InterRATHandoverInfo-v7f0ext-IEs");
+      stat = dec_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "tdd768SpecificInfo", -1, "SysInfoType6-v770ext-IEs");
    }
-   /* ue-RadioAccessCapabilityComp2 */
+   /* sccpch-SystemInformationList */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v7f0ext-IEs");
+      stat = dec_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformationList", -1, "SysInfoType6-v770ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType6_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v7f0ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v7f0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v7f0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v770ext */
+   stat = dec_SysInfoType6_v770ext_IEs(ctx, &pvalue->sysInfoType6_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType6-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v7e0ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v7e0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v7e0ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v7e0ext", -1, 0);
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_r3_add_ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-r3-add-ext-IEs");
-   /* interRATHandoverInfo-v690ext1 */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v690ext1_IEs(ctx, &pvalue->interRATHandoverInfo_v690ext1);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v690ext1", -1, "InterRATHandoverInfo-r3-add-ext-IEs");
-   /* v7e0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, "InterRATHandoverInfo-r3-add-ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v3g0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v3g0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v3g0ext-IEs");
-   /* ue-RadioAccessCapability-v3g0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v3g0ext(ctx, &pvalue->ue_RadioAccessCapability_v3g0ext);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3g0ext", -1, "InterRATHandoverInfo-v3g0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* accessStratumReleaseIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->accessStratumReleaseIndicator, 0, 15);
-   RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "InterRATHandoverInfo-v4b0ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v4d0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v4d0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v4d0ext-IEs");
-   /* tdd128-RF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tdd128_RF_Capability, 0, 7);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "tdd128-RF-Capability", -1, "InterRATHandoverInfo-v4d0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v590ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v590ext-IEs");
-   /* predefinedConfigStatusListComp */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PredefinedConfigStatusListComp(ctx, &pvalue->predefinedConfigStatusListComp);
-      RT_CHECK(ctx, stat, 0, "predefinedConfigStatusListComp", -1, "InterRATHandoverInfo-v590ext-IEs");
-   }
-   /* ue-RadioAccessCapabilityComp */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp(ctx, &pvalue->ue_RadioAccessCapabilityComp);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp", -1, "InterRATHandoverInfo-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v690ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v690ext-IEs");
-   /* ue-SecurityInformation2 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_SecurityInformation2(ctx, &pvalue->ue_SecurityInformation2);
-      RT_CHECK(ctx, stat, 0, "ue-SecurityInformation2", -1, "InterRATHandoverInfo-v690ext-IEs");
-   }
-   /* ue-RadioAccessCapabilityComp */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp_ext(ctx, &pvalue->ue_RadioAccessCapabilityComp);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp", -1, "InterRATHandoverInfo-v690ext-IEs");
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v690ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v6b0ext-IEs");
-   /* supportForSIB11bis */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportForSIB11bis", -1, "InterRATHandoverInfo-v6b0ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportForSIB11bis", -1, "InterRATHandoverInfo-v6b0ext-IEs");
-         pvalue->supportForSIB11bis = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v6e0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v6e0ext-IEs");
-   /* supportForFDPCH */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "InterRATHandoverInfo-v6e0ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "InterRATHandoverInfo-v6e0ext-IEs");
-         pvalue->supportForFDPCH = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v770ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v770ext-IEs");
-   /* ue-RadioAccessCapabilityInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo", -1, "InterRATHandoverInfo-v770ext-IEs");
-   }
-   /* ue-RadioAccessCapabilityComp */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityComp);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp", -1, "InterRATHandoverInfo-v770ext-IEs");
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v790ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v790ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v790ext-IEs");
-   /* supportForEDPCCHPowerBoosting */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "supportForEDPCCHPowerBoosting", -1, "InterRATHandoverInfo-v790ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "supportForEDPCCHPowerBoosting", -1, "InterRATHandoverInfo-v790ext-IEs");
-         pvalue->supportForEDPCCHPowerBoosting = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v860ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v860ext-IEs");
-   /* ue-RadioAccessCapabilityInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo", -1, "InterRATHandoverInfo-v860ext-IEs");
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v860ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v880ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v880ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v880ext-IEs");
-   /* ue-RadioAccessCapabilityInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v880ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo", -1, "InterRATHandoverInfo-v880ext-IEs");
-   }
-   /* ue-RadioAccessCapabilityInfo-TDD128 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128(ctx, &pvalue->ue_RadioAccessCapabilityInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo-TDD128", -1, "InterRATHandoverInfo-v880ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v920ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v920ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v920ext-IEs");
-   /* ue-RadioAccessCapabilityInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v920ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo", -1, "InterRATHandoverInfo-v920ext-IEs");
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v920ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v920ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v920ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v920ext_IEs(ctx, &pvalue->interRATHandoverInfo_v920ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v880ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v880ext_IEs(ctx, &pvalue->interRATHandoverInfo_v880ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v880ext", -1, 0);
-   /* v920NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v860ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v860ext_IEs(ctx, &pvalue->interRATHandoverInfo_v860ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v860ext", -1, 0);
-   /* v880NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v880NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v790ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v790ext_IEs(ctx, &pvalue->interRATHandoverInfo_v790ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v790ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v770ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v770ext_IEs(ctx, &pvalue->interRATHandoverInfo_v770ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v770ext", -1, 0);
-   /* v790nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions(ctx, &pvalue->v790nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v790nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v6e0ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v6e0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v6e0ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v6e0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v690ext */
+   stat = dec_SysInfoType6_v690ext_IEs(ctx, &pvalue->sysInfoType6_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType6-v690ext", -1, 0);
    /* v770NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      stat = dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-NonCriticalExtension-v6b0-IEs");
-   /* interRATHandoverInfo-v6b0ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v6b0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v6b0ext", -1, "InterRATHandoverInfo-NonCriticalExtension-v6b0-IEs");
-   /* v6e0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v650ext */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6e0NonCriticalExtensions", -1, "InterRATHandoverInfo-NonCriticalExtension-v6b0-IEs");
+      stat = dec_SysInfoType6_v650ext_IEs(ctx, &pvalue->sysInfoType6_v650ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType6-v650ext", -1, 0);
+   }
+   /* v690nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(ctx, &pvalue->v690nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions, pvalue);
+}
+
+static int dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v690ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v690ext_IEs(ctx, &pvalue->interRATHandoverInfo_v690ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v690ext", -1, 0);
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v590ext */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+      stat = dec_SysInfoType6_v590ext_IEs(ctx, &pvalue->sysInfoType6_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType6-v590ext", -1, 0);
+   }
+   /* v650nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(ctx, &pvalue->v650nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v650nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v590ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v590ext_IEs(ctx, &pvalue->interRATHandoverInfo_v590ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType6_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v4d0ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v4d0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v4d0ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v4d0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v4b0ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType6_v4b0ext_IEs(ctx, &pvalue->sysInfoType6_v4b0ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType6-v4b0ext", -1, 0);
+   }
    /* v590NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6_v4b0NonCriticalExtensions, pvalue);
+}
+
+static int dec_SysInfoType6(rtxContext* RT_RESTRICT ctx, SysInfoType6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v4b0ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v4b0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v4b0ext", -1, 0);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType6");
+   /* pich-PowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->pich_PowerOffset, -10, 5);
+   RT_CHECK_AT(ctx, cur, stat, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType6");
+   /* modeSpecificInfo */
+   stat = dec_SysInfoType6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType6");
+   /* primaryCCPCH-Info */
+   if (present & ((uint32_t)1 << 4)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+      stat = dec_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "SysInfoType6");
+   }
+   /* prach-SystemInformationList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, "SysInfoType6");
+   }
+   /* sCCPCH-SystemInformationList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = dec_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "sCCPCH-SystemInformationList", -1, "SysInfoType6");
+   }
+   /* cbs-DRX-Level1Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = dec_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information, cur);
+      RT_CHECK(ctx, stat, 0, "cbs-DRX-Level1Information", -1, "SysInfoType6");
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = dec_SysInfoType6_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType6(rtxContext* RT_RESTRICT ctx, SysInfoType6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType6, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType8_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType8_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType8_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType8(rtxContext* RT_RESTRICT ctx, SysInfoType8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v3g0ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v3g0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3g0ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v3g0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType8");
+   /* dummy1 */
+   stat = dec_CPCH_Parameters(ctx, &pvalue->dummy1, cur);
+   RT_CHECK(ctx, stat, 0, "dummy1", -1, "SysInfoType8");
+   /* dummy2 */
+   stat = dec_CPCH_SetInfoList(ctx, &pvalue->dummy2, cur);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, "SysInfoType8");
+   /* dummy3 */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->dummy3, -10, 5);
+   RT_CHECK_AT(ctx, cur, stat, "CSICH-PowerOffset", "dummy3", -1, "SysInfoType8");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType8(rtxContext* RT_RESTRICT ctx, SysInfoType8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType8, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType9_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType9_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType9(rtxContext* RT_RESTRICT ctx, SysInfoType9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType9");
+   /* dummy */
+   stat = dec_CPCH_PersistenceLevelsList(ctx, &pvalue->dummy, cur);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType9");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType9(rtxContext* RT_RESTRICT ctx, SysInfoType9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType9, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType10_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType10_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType10_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType10_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType10_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType10(rtxContext* RT_RESTRICT ctx, SysInfoType10* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType10");
+   /* dummy */
+   stat = dec_DRAC_SysInfoList(ctx, &pvalue->dummy, cur);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType10");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType10_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType10");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType10(rtxContext* RT_RESTRICT ctx, SysInfoType10* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType10, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-IdleTimersAndConstants-v3a0ext */
+   stat = dec_UE_IdleTimersAndConstants_v3a0ext(ctx, &pvalue->ue_IdleTimersAndConstants_v3a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants-v3a0ext", -1, "SysInfoType13-v3a0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_v3a0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType13-v4b0ext-IEs");
+   /* capabilityUpdateRequirement-r4Ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CapabilityUpdateRequirement_r4_ext(ctx, &pvalue->capabilityUpdateRequirement_r4Ext, cur);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement-r4Ext", -1, "SysInfoType13-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType13-v770ext-IEs");
+   /* capabilityUpdateRequirement */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CapabilityUpdateRequirement_v770ext(ctx, &pvalue->capabilityUpdateRequirement, cur);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "SysInfoType13-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType13-v770ext */
+   stat = dec_SysInfoType13_v770ext_IEs(ctx, &pvalue->sysInfoType13_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType13-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType13-v4b0ext */
+   stat = dec_SysInfoType13_v4b0ext_IEs(ctx, &pvalue->sysInfoType13_v4b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType13-v4b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType13-v3a0ext */
+   stat = dec_SysInfoType13_v3a0ext_IEs(ctx, &pvalue->sysInfoType13_v3a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType13-v3a0ext", -1, 0);
    /* v4b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      stat = dec_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_v3a0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13(rtxContext* RT_RESTRICT ctx, SysInfoType13* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v3d0ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v3d0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3d0ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v3d0ext", -1, 0);
-   /* interRATHandoverInfo-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      {
-         rtxDynBitStr carrier;
-         rtxContext outer;
-         stat = pd_DynBitString(ctx, &carrier);
-         RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-r3-add-ext", -1, 0);
-         rtxCopyContext(&outer, ctx);
-         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
-         if (stat == 0) {
-            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
-            stat = asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs(ctx, &pvalue->interRATHandoverInfo_r3_add_ext);
-            RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-r3-add-ext", -1, 0);
-         }
-         rtxCopyContext(ctx, &outer);
-         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
-      }
-   }
-   /* v3g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(ctx, &pvalue->v3g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3g0NonCriticalExtensions", -1, 0);
-   }
-   return stat;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v3a0ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v3a0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v3a0ext", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* interRATHandoverInfo-v390ext */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v390ext_IEs(ctx, &pvalue->interRATHandoverInfo_v390ext);
-   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v390ext", -1, 0);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* absent */
-         break;
-      case 1: /* present */
-         pvalue->u.present = (InterRATHandoverInfo_v390NonCriticalExtensions_present*)rtxMemHeapAlloc(ctx, sizeof(InterRATHandoverInfo_v390NonCriticalExtensions_present));
-         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "present", -1, 0);
-         asn1Init_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(pvalue->u.present);
-         stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat, 0, "present", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* predefinedConfigStatusList */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_predefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
-   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "InterRATHandoverInfo");
-   /* uE-SecurityInformation */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_uE_SecurityInformation(ctx, &pvalue->uE_SecurityInformation);
-   RT_CHECK(ctx, stat, 0, "uE-SecurityInformation", -1, "InterRATHandoverInfo");
-   /* ue-CapabilityContainer */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_ue_CapabilityContainer(ctx, &pvalue->ue_CapabilityContainer);
-   RT_CHECK(ctx, stat, 0, "ue-CapabilityContainer", -1, "InterRATHandoverInfo");
-   /* v390NonCriticalExtensions */
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions(ctx, &pvalue->v390NonCriticalExtensions);
-   RT_CHECK(ctx, stat, 0, "v390NonCriticalExtensions", -1, "InterRATHandoverInfo");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r3_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "MeasurementControl-r3-IEs");
-   /* measurementIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r3-IEs");
-   /* measurementCommand */
-   stat = asn1PD_UMTS_MeasurementCommand(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r3-IEs");
-   /* measurementReportingMode */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType13");
+   /* cn-DomainSysInfoList */
+   stat = dec_CN_DomainSysInfoList(ctx, &pvalue->cn_DomainSysInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSysInfoList", -1, "SysInfoType13");
+   /* ue-IdleTimersAndConstants */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r3-IEs");
+      stat = dec_UE_IdleTimersAndConstants(ctx, &pvalue->ue_IdleTimersAndConstants, cur);
+      RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants", -1, "SysInfoType13");
    }
-   /* additionalMeasurementList */
+   /* capabilityUpdateRequirement */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r3-IEs");
+      stat = dec_CapabilityUpdateRequirement(ctx, &pvalue->capabilityUpdateRequirement, cur);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "SysInfoType13");
    }
-   /* dpch-CompressedModeStatusInfo */
+   /* v3a0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r3-IEs");
+      stat = dec_SysInfoType13_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType13");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_v390ext(rtxContext* RT_RESTRICT ctx, MeasurementControl_v390ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType13(rtxContext* RT_RESTRICT ctx, SysInfoType13* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13, pvalue);
+}
+
+RT_MERGED_BODY int dec_ANSI_41_RAND_Information(rtxContext* RT_RESTRICT ctx, ANSI_41_RAND_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = dec_ANSI_41_NAS_Parameter(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-RAND-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_ANSI_41_RAND_Information(rtxContext* RT_RESTRICT ctx, ANSI_41_RAND_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ANSI_41_RAND_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_1_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_1_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_1_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_1_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_1_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_1(rtxContext* RT_RESTRICT ctx, SysInfoType13_1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v390ext");
-   /* ue-Positioning-Measurement-v390ext */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType13-1");
+   /* ansi-41-RAND-Information */
+   stat = dec_ANSI_41_RAND_Information(ctx, &pvalue->ansi_41_RAND_Information, cur);
+   RT_CHECK(ctx, stat, 0, "ansi-41-RAND-Information", -1, "SysInfoType13-1");
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_Measurement_v390ext(ctx, &pvalue->ue_Positioning_Measurement_v390ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-Measurement-v390ext", -1, "MeasurementControl-v390ext");
+      stat = dec_SysInfoType13_1_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-1");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_v3a0ext(rtxContext* RT_RESTRICT ctx, MeasurementControl_v3a0ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType13_1(rtxContext* RT_RESTRICT ctx, SysInfoType13_1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_1, pvalue);
+}
+
+RT_MERGED_BODY int dec_ANSI_41_UserZoneID_Information(rtxContext* RT_RESTRICT ctx, ANSI_41_UserZoneID_Information* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = dec_ANSI_41_NAS_Parameter(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-UserZoneID-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_ANSI_41_UserZoneID_Information(rtxContext* RT_RESTRICT ctx, ANSI_41_UserZoneID_Information* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ANSI_41_UserZoneID_Information, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_2_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_2_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_2_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_2(rtxContext* RT_RESTRICT ctx, SysInfoType13_2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v3a0ext");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType13-2");
+   /* ansi-41-UserZoneID-Information */
+   stat = dec_ANSI_41_UserZoneID_Information(ctx, &pvalue->ansi_41_UserZoneID_Information, cur);
+   RT_CHECK(ctx, stat, 0, "ansi-41-UserZoneID-Information", -1, "SysInfoType13-2");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType13_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_2(rtxContext* RT_RESTRICT ctx, SysInfoType13_2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_2, pvalue);
+}
+
+RT_MERGED_BODY int dec_ANSI_41_PrivateNeighbourListInfo(rtxContext* RT_RESTRICT ctx, ANSI_41_PrivateNeighbourListInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = dec_ANSI_41_NAS_Parameter(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-PrivateNeighbourListInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_ANSI_41_PrivateNeighbourListInfo(rtxContext* RT_RESTRICT ctx, ANSI_41_PrivateNeighbourListInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ANSI_41_PrivateNeighbourListInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_3_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_3_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_3_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_3(rtxContext* RT_RESTRICT ctx, SysInfoType13_3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType13-3");
+   /* ansi-41-PrivateNeighbourListInfo */
+   stat = dec_ANSI_41_PrivateNeighbourListInfo(ctx, &pvalue->ansi_41_PrivateNeighbourListInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ansi-41-PrivateNeighbourListInfo", -1, "SysInfoType13-3");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType13_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-3");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_3(rtxContext* RT_RESTRICT ctx, SysInfoType13_3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_3, pvalue);
+}
+
+RT_MERGED_BODY int dec_ANSI_41_GlobalServiceRedirectInfo(rtxContext* RT_RESTRICT ctx, ANSI_41_GlobalServiceRedirectInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = dec_ANSI_41_NAS_Parameter(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-GlobalServiceRedirectInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_ANSI_41_GlobalServiceRedirectInfo(rtxContext* RT_RESTRICT ctx, ANSI_41_GlobalServiceRedirectInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ANSI_41_GlobalServiceRedirectInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_4_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_4_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_4_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_4_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_4_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType13_4(rtxContext* RT_RESTRICT ctx, SysInfoType13_4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType13-4");
+   /* ansi-41-GlobalServiceRedirectInfo */
+   stat = dec_ANSI_41_GlobalServiceRedirectInfo(ctx, &pvalue->ansi_41_GlobalServiceRedirectInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ansi-41-GlobalServiceRedirectInfo", -1, "SysInfoType13-4");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType13_4_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_4(rtxContext* RT_RESTRICT ctx, SysInfoType13_4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType13_4, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType14_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType14_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType14_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType14_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType14_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType14(rtxContext* RT_RESTRICT ctx, SysInfoType14* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType14");
+   /* individualTS-InterferenceList */
+   stat = dec_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, "SysInfoType14");
+   /* expirationTimeFactor */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->expirationTimeFactor, 1, 8);
+      RT_CHECK_AT(ctx, cur, stat, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType14");
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType14_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType14");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType14(rtxContext* RT_RESTRICT ctx, SysInfoType14* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType14, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-v4b0ext-IEs");
+   /* up-Ipdl-Parameters-TDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->up_Ipdl_Parameters_TDD, cur);
+      RT_CHECK(ctx, stat, 0, "up-Ipdl-Parameters-TDD", -1, "SysInfoType15-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-Positioning-GPS-ReferenceTime */
+   stat = dec_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_Positioning_GPS_ReferenceTime, cur);
+   RT_CHECK(ctx, stat, 0, "ue-Positioning-GPS-ReferenceTime", -1, "SysInfoType15-v770ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType15-v770ext */
+   stat = dec_SysInfoType15_v770ext_IEs(ctx, &pvalue->sysInfoType15_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType15-v4b0ext */
+   stat = dec_SysInfoType15_v4b0ext_IEs(ctx, &pvalue->sysInfoType15_v4b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-v4b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_v4b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15(rtxContext* RT_RESTRICT ctx, SysInfoType15* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15");
+   /* ue-positioning-GPS-CipherParameters */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GPS_CipherParameters, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-CipherParameters", -1, "SysInfoType15");
+   }
+   /* ue-positioning-GPS-ReferenceLocation */
+   stat = dec_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "SysInfoType15");
+   /* ue-positioning-GPS-ReferenceTime */
+   stat = dec_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "SysInfoType15");
+   /* ue-positioning-GPS-Real-timeIntegrity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "SysInfoType15");
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_SysInfoType15_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType15");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15(rtxContext* RT_RESTRICT ctx, SysInfoType15* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15bis-v860ext-IEs");
+   /* ue-Positioning-GANSS-AddIonoModel */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->ue_Positioning_GANSS_AddIonoModel, cur);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AddIonoModel", -1, "SysInfoType15bis-v860ext-IEs");
+   }
+   /* ue-Positioning-GANSS-EarthOrientationPara */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->ue_Positioning_GANSS_EarthOrientationPara, cur);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-EarthOrientationPara", -1, "SysInfoType15bis-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15bis_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType15bis-v860ext */
+   stat = dec_SysInfoType15bis_v860ext_IEs(ctx, &pvalue->sysInfoType15bis_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15bis-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15bis_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15bis(rtxContext* RT_RESTRICT ctx, SysInfoType15bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15bis");
+   /* ue-positioning-GANSS-ReferencePosition */
+   stat = dec_ReferenceLocationGANSS(ctx, &pvalue->ue_positioning_GANSS_ReferencePosition, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferencePosition", -1, "SysInfoType15bis");
+   /* ue-positioning-GANSS-ReferenceTime */
+   stat = dec_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "SysInfoType15bis");
+   /* ue-positioning-GANSS-IonosphericModel */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->ue_positioning_GANSS_IonosphericModel, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-IonosphericModel", -1, "SysInfoType15bis");
+   }
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType15bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, "SysInfoType15bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15bis(rtxContext* RT_RESTRICT ctx, SysInfoType15bis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15bis, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_1_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-positioning-GPS-DGPS-Corrections */
+   stat = dec_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "SysInfoType15-1-v920ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_1_v920ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_1_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType15-1-v920ext */
+   stat = dec_SysInfoType15_1_v920ext_IEs(ctx, &pvalue->sysInfoType15_1_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-1-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_1_v920NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_1(rtxContext* RT_RESTRICT ctx, SysInfoType15_1* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-1");
+   /* ue-positioning-GPS-DGPS-Corrections */
+   stat = dec_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "SysInfoType15-1");
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_1_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType15-1");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1(rtxContext* RT_RESTRICT ctx, SysInfoType15_1* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_1, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_1bis_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* ue-positioning-GANSS-DGANSS-Corrections */
+   stat = dec_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DGANSS-Corrections", -1, "SysInfoType15-1bis-v920ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1bis_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_1bis_v920ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_1bis_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType15-1bis-v920ext */
+   stat = dec_SysInfoType15_1bis_v920ext_IEs(ctx, &pvalue->sysInfoType15_1bis_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-1bis-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_1bis_v920NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_1bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-1bis");
+   /* ue-positioning-GANSS-DGANSS-Corrections */
+   stat = dec_UE_Positioning_DGANSSCorrections(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DGANSS-Corrections", -1, "SysInfoType15-1bis");
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_1bis_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType15-1bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_1bis, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_2_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_2(rtxContext* RT_RESTRICT ctx, SysInfoType15_2* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-2");
+   /* transmissionTOW */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->transmissionTOW, 0, 604799);
+   RT_CHECK_AT(ctx, cur, stat, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-2");
+   /* satID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->satID, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, "SatID", "satID", -1, "SysInfoType15-2");
+   /* ephemerisParameter */
+   stat = dec_EphemerisParameter(ctx, &pvalue->ephemerisParameter, cur);
+   RT_CHECK(ctx, stat, 0, "ephemerisParameter", -1, "SysInfoType15-2");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_2(rtxContext* RT_RESTRICT ctx, SysInfoType15_2* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_2, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_2bis_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2bis_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_2bis_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2bis_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_2bis_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_2bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_2bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-2bis");
+   /* ue-positioning-GANSS-navigationModel */
+   stat = dec_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->ue_positioning_GANSS_navigationModel, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-navigationModel", -1, "SysInfoType15-2bis");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_2bis_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_2bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_2bis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_2bis, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_2ter_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2ter_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_2ter_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2ter_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_2ter_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_2ter(rtxContext* RT_RESTRICT ctx, SysInfoType15_2ter* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-2ter");
+   /* ue-positioning-GANSS-AddNavigationModels */
+   stat = dec_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->ue_positioning_GANSS_AddNavigationModels, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AddNavigationModels", -1, "SysInfoType15-2ter");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_2ter_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2ter");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_2ter(rtxContext* RT_RESTRICT ctx, SysInfoType15_2ter* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_2ter, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_3_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_3(rtxContext* RT_RESTRICT ctx, SysInfoType15_3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-3");
+   /* transmissionTOW */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->transmissionTOW, 0, 604799);
+   RT_CHECK_AT(ctx, cur, stat, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-3");
+   /* ue-positioning-GPS-Almanac */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "SysInfoType15-3");
+   }
+   /* ue-positioning-GPS-IonosphericModel */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "SysInfoType15-3");
+   }
+   /* ue-positioning-GPS-UTC-Model */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "SysInfoType15-3");
+   }
+   /* satMask */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      RT_SET_SIZE(ctx, 1, 32);
+      stat = pd_BitString32At(ctx, cur, &pvalue->satMask, 1, 32);
+      RT_CHECK_AT(ctx, cur, stat, 0, "satMask", -1, "SysInfoType15-3");
+   }
+   /* lsbTOW */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32At(ctx, cur, &pvalue->lsbTOW, 8, 8);
+      RT_CHECK_AT(ctx, cur, stat, 0, "lsbTOW", -1, "SysInfoType15-3");
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = dec_SysInfoType15_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-3");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_3(rtxContext* RT_RESTRICT ctx, SysInfoType15_3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_3, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_3bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-3bis-v860ext-IEs");
+   /* ue-Positioning-GANSS-Almanac */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->ue_Positioning_GANSS_Almanac, cur);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-Almanac", -1, "SysInfoType15-3bis-v860ext-IEs");
+   }
+   /* ue-Positioning-GANSS-AddUTCModels */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->ue_Positioning_GANSS_AddUTCModels, cur);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AddUTCModels", -1, "SysInfoType15-3bis-v860ext-IEs");
+   }
+   /* ue-Positioning-GANSS-AuxiliaryInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->ue_Positioning_GANSS_AuxiliaryInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AuxiliaryInfo", -1, "SysInfoType15-3bis-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_3bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_3bis_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_3bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType15-3bis-v860ext */
+   stat = dec_SysInfoType15_3bis_v860ext_IEs(ctx, &pvalue->sysInfoType15_3bis_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-3bis-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_3bis_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_3bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-3bis");
+   /* ue-positioning-GANSS-Almanac */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GANSS_Almanac(ctx, &pvalue->ue_positioning_GANSS_Almanac, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-Almanac", -1, "SysInfoType15-3bis");
+   }
+   /* ue-positioning-GANSS-TimeModels */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GANSS_TimeModels(ctx, &pvalue->ue_positioning_GANSS_TimeModels, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-TimeModels", -1, "SysInfoType15-3bis");
+   }
+   /* ue-positioning-GANSS-UTC-Model */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->ue_positioning_GANSS_UTC_Model, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-UTC-Model", -1, "SysInfoType15-3bis");
+   }
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = dec_SysInfoType15_3bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, "SysInfoType15-3bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_3bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_3bis, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_4_v3a0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-4-v3a0ext");
    /* sfn-Offset-Validity */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "MeasurementControl-v3a0ext");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-4-v3a0ext");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "MeasurementControl-v3a0ext");
+         RT_CHECK_AT(ctx, cur, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-4-v3a0ext");
          pvalue->sfn_Offset_Validity = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_v590ext_IEs_measurementCommand_v590ext(rtxContext* RT_RESTRICT ctx, MeasurementControl_v590ext_IEs_measurementCommand_v590ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType15_4_v3a0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0ext* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* intra-frequency */
-         pvalue->u.intra_frequency = (Intra_FreqEventCriteriaList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(Intra_FreqEventCriteriaList_v590ext));
-         if (pvalue->u.intra_frequency == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intra-frequency", -1, 0);
-         asn1Init_UMTS_Intra_FreqEventCriteriaList_v590ext(pvalue->u.intra_frequency);
-         stat = asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, pvalue->u.intra_frequency);
-         RT_CHECK(ctx, stat, 0, "intra-frequency", -1, 0);
-         break;
-      case 1: /* inter-frequency */
-         pvalue->u.inter_frequency = (Inter_FreqEventCriteriaList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(Inter_FreqEventCriteriaList_v590ext));
-         if (pvalue->u.inter_frequency == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "inter-frequency", -1, 0);
-         asn1Init_UMTS_Inter_FreqEventCriteriaList_v590ext(pvalue->u.inter_frequency);
-         stat = asn1PD_UMTS_Inter_FreqEventCriteriaList_v590ext(ctx, pvalue->u.inter_frequency);
-         RT_CHECK(ctx, stat, 0, "inter-frequency", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_4_v3a0ext, pvalue);
 }
 
-int asn1PD_UMTS_MeasurementControl_v590ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_v590ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType15_4_v4b0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v4b0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v590ext-IEs");
-   /* measurementCommand-v590ext */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_v590ext_IEs_measurementCommand_v590ext(ctx, &pvalue->measurementCommand_v590ext);
-      RT_CHECK(ctx, stat, 0, "measurementCommand-v590ext", -1, "MeasurementControl-v590ext-IEs");
-   }
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "MeasurementControl-v590ext-IEs");
-   }
-   /* intraFreqEvent-1d-r5 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
-      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "MeasurementControl-v590ext-IEs");
-   }
-   /* rrc-TransactionIdentifier-MSP-v590ext */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier_MSP_v590ext, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier-MSP-v590ext", -1, "MeasurementControl-v590ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_v5b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v5b0ext-IEs");
-   /* interRATCellInfoIndication */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-4-v4b0ext");
+   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication, 0, 3);
-      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "MeasurementControl-v5b0ext-IEs");
+      stat = dec_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-r4ext", -1, "SysInfoType15-4-v4b0ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType15_4_v4b0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v4b0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_4_v4b0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-v5b0ext */
-   stat = asn1PD_UMTS_MeasurementControl_v5b0ext_IEs(ctx, &pvalue->measurementControl_v5b0ext);
-   RT_CHECK(ctx, stat, 0, "measurementControl-v5b0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType15-4-v4b0ext */
+   stat = dec_SysInfoType15_4_v4b0ext(ctx, &pvalue->sysInfoType15_4_v4b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-4-v4b0ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-v590ext */
-   stat = asn1PD_UMTS_MeasurementControl_v590ext_IEs(ctx, &pvalue->measurementControl_v590ext);
-   RT_CHECK(ctx, stat, 0, "measurementControl-v590ext", -1, 0);
-   /* v5b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_SysInfoType15_4_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "measurementControl-r3-add-ext", -1, 0);
-   }
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType15-4-v3a0ext */
+   stat = dec_SysInfoType15_4_v3a0ext(ctx, &pvalue->sysInfoType15_4_v3a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-4-v3a0ext", -1, 0);
    /* v4b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_4_v3a0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_4(rtxContext* RT_RESTRICT ctx, SysInfoType15_4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-v3a0ext */
-   stat = asn1PD_UMTS_MeasurementControl_v3a0ext(ctx, &pvalue->measurementControl_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "measurementControl-v3a0ext", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-4");
+   /* ue-positioning-OTDOA-CipherParameters */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+      stat = dec_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_OTDOA_CipherParameters, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-CipherParameters", -1, "SysInfoType15-4");
+   }
+   /* ue-positioning-OTDOA-AssistanceData */
+   stat = dec_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "SysInfoType15-4");
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType15_4_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType15-4");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType15_4(rtxContext* RT_RESTRICT ctx, SysInfoType15_4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_4, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_5_v3a0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-v390ext */
-   stat = asn1PD_UMTS_MeasurementControl_v390ext(ctx, &pvalue->measurementControl_v390ext);
-   RT_CHECK(ctx, stat, 0, "measurementControl-v390ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-5-v3a0ext");
+   /* sfn-Offset-Validity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-5-v3a0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-5-v3a0ext");
+         pvalue->sfn_Offset_Validity = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_5_v3a0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_5_v3a0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-5-v770ext-IEs");
+   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-UEB-ext", -1, "SysInfoType15-5-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_5_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType15-5-v770ext */
+   stat = dec_SysInfoType15_5_v770ext_IEs(ctx, &pvalue->sysInfoType15_5_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-5-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_5_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType15-5-v3a0ext */
+   stat = dec_SysInfoType15_5_v3a0ext(ctx, &pvalue->sysInfoType15_5_v3a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-5-v3a0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_5_v3a0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_5(rtxContext* RT_RESTRICT ctx, SysInfoType15_5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-5");
+   /* ue-positioning-OTDOA-AssistanceData-UEB */
+   stat = dec_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "SysInfoType15-5");
    /* v3a0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+      stat = dec_SysInfoType15_5_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType15-5");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_r3(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType15_5(rtxContext* RT_RESTRICT ctx, SysInfoType15_5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_5, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_6_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_6_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_6_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_6_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_6_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_6(rtxContext* RT_RESTRICT ctx, SysInfoType15_6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-r3 */
-   stat = asn1PD_UMTS_MeasurementControl_r3_IEs(ctx, &pvalue->measurementControl_r3);
-   RT_CHECK(ctx, stat, 0, "measurementControl-r3", -1, 0);
-   /* v390nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions(ctx, &pvalue->v390nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v390nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r4_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_r4_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r4-IEs");
-   /* measurementIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r4-IEs");
-   /* measurementCommand */
-   stat = asn1PD_UMTS_MeasurementCommand_r4(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r4-IEs");
-   /* measurementReportingMode */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r4-IEs");
-   }
-   /* additionalMeasurementList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r4-IEs");
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r4-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-v5b0ext */
-   stat = asn1PD_UMTS_MeasurementControl_v5b0ext_IEs(ctx, &pvalue->measurementControl_v5b0ext);
-   RT_CHECK(ctx, stat, 0, "measurementControl-v5b0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-6");
+   /* ue-positioning-GANSS-TOD */
+   stat = pd_ConsUInt32At(ctx, cur, &pvalue->ue_positioning_GANSS_TOD, 0, 86399);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-positioning-GANSS-TOD", -1, "SysInfoType15-6");
+   /* ue-positioning-GANSS-ReferenceMeasurementInformation */
+   stat = dec_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->ue_positioning_GANSS_ReferenceMeasurementInformation, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceMeasurementInformation", -1, "SysInfoType15-6");
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_SysInfoType15_6_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_6(rtxContext* RT_RESTRICT ctx, SysInfoType15_6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_6, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_7_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_7_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_7_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_7(rtxContext* RT_RESTRICT ctx, SysInfoType15_7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-7");
+   /* ue-positioning-GANSS-DataBitAssistance */
+   stat = dec_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->ue_positioning_GANSS_DataBitAssistance, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DataBitAssistance", -1, "SysInfoType15-7");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType15_7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_7(rtxContext* RT_RESTRICT ctx, SysInfoType15_7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_7, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_8_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_8_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_8_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType15_8(rtxContext* RT_RESTRICT ctx, SysInfoType15_8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType15-8");
+   /* ue-positioning-GANSS-DataCipheringInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GANSS_DataCipheringInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DataCipheringInfo", -1, "SysInfoType15-8");
+   }
+   /* ue-positioning-GANSS-realTimeIntegrity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->ue_positioning_GANSS_realTimeIntegrity, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-realTimeIntegrity", -1, "SysInfoType15-8");
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_SysInfoType15_8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_8(rtxContext* RT_RESTRICT ctx, SysInfoType15_8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType15_8, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PUSCH_SysInfoList_LCR_r4(ctx, &pvalue->pusch_SysInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, 0);
+   }
+   /* pdsch-SysInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_SysInfoList_LCR_r4(ctx, &pvalue->pdsch_SysInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType17_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType17-v4b0ext-IEs");
+   /* tdd128SpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType17-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType17_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PUSCH_SysInfoList_HCR_r5(ctx, &pvalue->pusch_SysInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, 0);
+   }
+   /* pdsch-SysInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_SysInfoList_HCR_r5(ctx, &pvalue->pdsch_SysInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType17_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType17-v590ext-IEs");
+   /* hcr-r5-SpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType17-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType17_v590ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType17_v770ext_IEs_tdd768SpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType17_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType17-v770ext-IEs");
+   /* tdd768SpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "tdd768SpecificInfo", -1, "SysInfoType17-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType17_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType17-v770ext */
+   stat = dec_SysInfoType17_v770ext_IEs(ctx, &pvalue->sysInfoType17_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType17-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-v590ext */
-   stat = asn1PD_UMTS_MeasurementControl_v590ext_IEs(ctx, &pvalue->measurementControl_v590ext);
-   RT_CHECK(ctx, stat, 0, "measurementControl-v590ext", -1, 0);
-   /* v5b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType17-v590ext */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+      stat = dec_SysInfoType17_v590ext_IEs(ctx, &pvalue->sysInfoType17_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType17-v590ext", -1, 0);
+   }
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType17_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r4_add_ext);
-      RT_CHECK(ctx, stat, 0, "measurementControl-r4-add-ext", -1, 0);
-   }
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType17-v4b0ext */
+   stat = dec_SysInfoType17_v4b0ext_IEs(ctx, &pvalue->sysInfoType17_v4b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType17-v4b0ext", -1, 0);
    /* v590NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      pvalue->m |= 0x1u;
+      stat = dec_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-r4 */
-   stat = asn1PD_UMTS_MeasurementControl_r4_IEs(ctx, &pvalue->measurementControl_r4);
-   RT_CHECK(ctx, stat, 0, "measurementControl-r4", -1, 0);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType17_v4b0NonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_MeasurementControl_r6_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_r6_IEs* RT_RESTRICT pvalue)
+static int dec_SysInfoType17(rtxContext* RT_RESTRICT ctx, SysInfoType17* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r6-IEs");
-   /* measurementIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r6-IEs");
-   /* measurementCommand */
-   stat = asn1PD_UMTS_MeasurementCommand_r6(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r6-IEs");
-   /* measurementReportingMode */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType17");
+   /* pusch-SysInfoList */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r6-IEs");
+      stat = dec_PUSCH_SysInfoList(ctx, &pvalue->pusch_SysInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, "SysInfoType17");
    }
-   /* additionalMeasurementList */
+   /* pdsch-SysInfoList */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r6-IEs");
+      stat = dec_PDSCH_SysInfoList(ctx, &pvalue->pdsch_SysInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, "SysInfoType17");
    }
-   /* dpch-CompressedModeStatusInfo */
+   /* v4b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r6-IEs");
+      stat = dec_SysInfoType17_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType17");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_v6a0ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_v6a0ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType17(rtxContext* RT_RESTRICT ctx, SysInfoType17* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType17, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType19_v920ext(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* utra-PriorityInfoList-v920ext */
+   stat = dec_UTRA_PriorityInfoList_v920ext(ctx, &pvalue->utra_PriorityInfoList_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "utra-PriorityInfoList-v920ext", -1, "SysInfoType19-v920ext");
+   /* eutra-FrequencyAndPriorityInfoList-v920ext */
+   stat = dec_EUTRA_FrequencyAndPriorityInfoList_v920ext(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "eutra-FrequencyAndPriorityInfoList-v920ext", -1, "SysInfoType19-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType19_v920ext(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType19_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType19_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v6a0ext-IEs");
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "MeasurementControl-v6a0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-v6a0ext */
-   stat = asn1PD_UMTS_MeasurementControl_v6a0ext_IEs(ctx, &pvalue->measurementControl_v6a0ext);
-   RT_CHECK(ctx, stat, 0, "measurementControl-v6a0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType19-v920ext */
+   stat = dec_SysInfoType19_v920ext(ctx, &pvalue->sysInfoType19_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType19-v920ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920NonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-r6 */
-   stat = asn1PD_UMTS_MeasurementControl_r6_IEs(ctx, &pvalue->measurementControl_r6);
-   RT_CHECK(ctx, stat, 0, "measurementControl-r6", -1, 0);
-   /* v6a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions(ctx, &pvalue->v6a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType19_v920NonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_MeasurementControl_r7_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_r7_IEs* RT_RESTRICT pvalue)
+static int dec_SysInfoType19(rtxContext* RT_RESTRICT ctx, SysInfoType19* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r7-IEs");
-   /* measurementIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r7-IEs");
-   /* measurementCommand */
-   stat = asn1PD_UMTS_MeasurementCommand_r7(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r7-IEs");
-   /* measurementReportingMode */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType19");
+   /* utra-PriorityInfoList */
+   stat = dec_UTRA_PriorityInfoList(ctx, &pvalue->utra_PriorityInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "utra-PriorityInfoList", -1, "SysInfoType19");
+   /* gsm-PriorityInfoList */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r7-IEs");
+      stat = dec_GSM_PriorityInfoList(ctx, &pvalue->gsm_PriorityInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "gsm-PriorityInfoList", -1, "SysInfoType19");
    }
-   /* additionalMeasurementList */
+   /* eutra-FrequencyAndPriorityInfoList */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r7-IEs");
+      stat = dec_EUTRA_FrequencyAndPriorityInfoList(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "eutra-FrequencyAndPriorityInfoList", -1, "SysInfoType19");
    }
-   /* dpch-CompressedModeStatusInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r7-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_v7b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v7b0ext-IEs");
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "MeasurementControl-v7b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-v7b0ext */
-   stat = asn1PD_UMTS_MeasurementControl_v7b0ext_IEs(ctx, &pvalue->measurementControl_v7b0ext);
-   RT_CHECK(ctx, stat, 0, "measurementControl-v7b0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-r7 */
-   stat = asn1PD_UMTS_MeasurementControl_r7_IEs(ctx, &pvalue->measurementControl_r7);
-   RT_CHECK(ctx, stat, 0, "measurementControl-r7", -1, 0);
-   /* measurementControl-r7-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r7_add_ext);
-      RT_CHECK(ctx, stat, 0, "measurementControl-r7-add-ext", -1, 0);
-   }
-   /* v7b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r8_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_r8_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r8-IEs");
-   /* measurementIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r8-IEs");
-   /* measurementCommand */
-   stat = asn1PD_UMTS_MeasurementCommand_r8(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r8-IEs");
-   /* measurementReportingMode */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r8-IEs");
-   }
-   /* additionalMeasurementList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r8-IEs");
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r8-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_v8a0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v8a0ext-IEs");
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellList_LCR_v8a0ext(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "MeasurementControl-v8a0ext-IEs");
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_LCR_v8a0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "MeasurementControl-v8a0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-v8a0ext */
-   stat = asn1PD_UMTS_MeasurementControl_v8a0ext_IEs(ctx, &pvalue->measurementControl_v8a0ext);
-   RT_CHECK(ctx, stat, 0, "measurementControl-v8a0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-r8 */
-   stat = asn1PD_UMTS_MeasurementControl_r8_IEs(ctx, &pvalue->measurementControl_r8);
-   RT_CHECK(ctx, stat, 0, "measurementControl-r8", -1, 0);
-   /* measurementControl-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r8_add_ext);
-      RT_CHECK(ctx, stat, 0, "measurementControl-r8-add-ext", -1, 0);
-   }
-   /* v8a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r9_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_r9_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r9-IEs");
-   /* measurementIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r9-IEs");
-   /* measurementCommand */
-   stat = asn1PD_UMTS_MeasurementCommand_r9(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r9-IEs");
-   /* measurementReportingMode */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r9-IEs");
-   }
-   /* additionalMeasurementList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r9-IEs");
-   }
-   /* cellDCHMeasOccasionInfo-TDD128 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "MeasurementControl-r9-IEs");
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r9-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControl-r9 */
-   stat = asn1PD_UMTS_MeasurementControl_r9_IEs(ctx, &pvalue->measurementControl_r9);
-   RT_CHECK(ctx, stat, 0, "measurementControl-r9", -1, 0);
-   /* measurementControl-r9-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r9_add_ext);
-      RT_CHECK(ctx, stat, 0, "measurementControl-r9-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r9 */
-         pvalue->u.r9 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r8 */
-         pvalue->u.r8 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r7 */
-         pvalue->u.r7 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r6 */
-         pvalue->u.r6 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier-MSP */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier_MSP, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier-MSP", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r4 */
-         pvalue->u.r4 = (MeasurementControl_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
-         break;
-      case 1: /* later-than-r4 */
-         pvalue->u.later_than_r4 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4));
-         if (pvalue->u.later_than_r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r4", -1, 0);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(pvalue->u.later_than_r4);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(ctx, pvalue->u.later_than_r4);
-         RT_CHECK(ctx, stat, 0, "later-than-r4", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl(rtxContext* RT_RESTRICT ctx, MeasurementControl* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (MeasurementControl_r3*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "MeasurementControl");
-         asn1Init_UMTS_MeasurementControl_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_MeasurementControl_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "MeasurementControl");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (MeasurementControl_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "MeasurementControl");
-         asn1Init_UMTS_MeasurementControl_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "MeasurementControl");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementControl");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlFailure_v590ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControlFailure_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier-MSP-v590ext */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier_MSP_v590ext, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier-MSP-v590ext", -1, "MeasurementControlFailure-v590ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControlFailure-v590ext */
-   stat = asn1PD_UMTS_MeasurementControlFailure_v590ext_IEs(ctx, &pvalue->measurementControlFailure_v590ext);
-   RT_CHECK(ctx, stat, 0, "measurementControlFailure-v590ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControlFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementControlFailure-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementControlFailure_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "measurementControlFailure-r3-add-ext", -1, 0);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlFailure(rtxContext* RT_RESTRICT ctx, MeasurementControlFailure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControlFailure");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "MeasurementControlFailure");
-   /* failureCause */
-   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat, 0, "failureCause", -1, "MeasurementControlFailure");
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "MeasurementControlFailure");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390ext(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v390ext");
-   /* measuredResults-v390ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResults_v390ext(ctx, &pvalue->measuredResults_v390ext);
-      RT_CHECK(ctx, stat, 0, "measuredResults-v390ext", -1, "MeasurementReport-v390ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v4b0ext-IEs");
-   /* interFreqEventResults-LCR */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqEventResults_LCR_r4_ext(ctx, &pvalue->interFreqEventResults_LCR);
-      RT_CHECK(ctx, stat, 0, "interFreqEventResults-LCR", -1, "MeasurementReport-v4b0ext-IEs");
-   }
-   /* additionalMeasuredResults-LCR */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResultsList_LCR_r4_ext(ctx, &pvalue->additionalMeasuredResults_LCR);
-      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults-LCR", -1, "MeasurementReport-v4b0ext-IEs");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "MeasurementReport-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v590ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v590ext-IEs");
-   /* measuredResults-v590ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResults_v590ext(ctx, &pvalue->measuredResults_v590ext);
-      RT_CHECK(ctx, stat, 0, "measuredResults-v590ext", -1, "MeasurementReport-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v5b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v5b0ext-IEs");
-   /* interRATCellInfoIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication, 0, 3);
-      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "MeasurementReport-v5b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v690ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v690ext-IEs");
-   /* measuredResultsOnRACHinterFreq */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
-      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "MeasurementReport-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v770ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v770ext-IEs");
-   /* measuredResults */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResults_v770ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat, 0, "measuredResults", -1, "MeasurementReport-v770ext-IEs");
-   }
-   /* additionalMeasuredResults */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResultsList_v770xet(ctx, &pvalue->additionalMeasuredResults);
-      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults", -1, "MeasurementReport-v770ext-IEs");
-   }
-   /* eventResults */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_EventResults_v770ext(ctx, &pvalue->eventResults);
-      RT_CHECK(ctx, stat, 0, "eventResults", -1, "MeasurementReport-v770ext-IEs");
-   }
-   /* ue-Positioning-OTDOA-MeasuredResults */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(ctx, &pvalue->ue_Positioning_OTDOA_MeasuredResults);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-MeasuredResults", -1, "MeasurementReport-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v860ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v860ext-IEs");
-   /* activationTime */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "MeasurementReport-v860ext-IEs");
-   }
-   /* measuredResults */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResults_v860ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat, 0, "measuredResults", -1, "MeasurementReport-v860ext-IEs");
-   }
-   /* additionalMeasuredResults */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasuredResultsList_v860ext(ctx, &pvalue->additionalMeasuredResults);
-      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults", -1, "MeasurementReport-v860ext-IEs");
-   }
-   /* eventResults */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_EventResults_v860ext(ctx, &pvalue->eventResults);
-      RT_CHECK(ctx, stat, 0, "eventResults", -1, "MeasurementReport-v860ext-IEs");
-   }
-   /* eutra-MeasuredResults */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_EUTRA_MeasuredResults(ctx, &pvalue->eutra_MeasuredResults);
-      RT_CHECK(ctx, stat, 0, "eutra-MeasuredResults", -1, "MeasurementReport-v860ext-IEs");
-   }
-   /* eutra-EventResults */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_EUTRA_EventResults(ctx, &pvalue->eutra_EventResults);
-      RT_CHECK(ctx, stat, 0, "eutra-EventResults", -1, "MeasurementReport-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v920ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v920ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v920ext-IEs");
-   /* cSGProximityIndication */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CSGProximityIndication(ctx, &pvalue->cSGProximityIndication);
-      RT_CHECK(ctx, stat, 0, "cSGProximityIndication", -1, "MeasurementReport-v920ext-IEs");
-   }
-   /* measuredResults */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResults_v920ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat, 0, "measuredResults", -1, "MeasurementReport-v920ext-IEs");
-   }
-   /* measuredResultsOnSecUlFreq */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasuredResultsOnSecUlFreq(ctx, &pvalue->measuredResultsOnSecUlFreq);
-      RT_CHECK(ctx, stat, 0, "measuredResultsOnSecUlFreq", -1, "MeasurementReport-v920ext-IEs");
-   }
-   /* additionalMeasuredResults */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_MeasuredResultsList_v920ext(ctx, &pvalue->additionalMeasuredResults);
-      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults", -1, "MeasurementReport-v920ext-IEs");
-   }
-   /* additionalMeasuredResultsOnSecUlFreq */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_MeasuredResultsListOnSecUlFreq(ctx, &pvalue->additionalMeasuredResultsOnSecUlFreq);
-      RT_CHECK(ctx, stat, 0, "additionalMeasuredResultsOnSecUlFreq", -1, "MeasurementReport-v920ext-IEs");
-   }
-   /* eventResultsOnSecUlFreq */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_EventResultsOnSecUlFreq(ctx, &pvalue->eventResultsOnSecUlFreq);
-      RT_CHECK(ctx, stat, 0, "eventResultsOnSecUlFreq", -1, "MeasurementReport-v920ext-IEs");
-   }
-   /* eutra-MeasuredResults */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_EUTRA_MeasuredResults_v920ext(ctx, &pvalue->eutra_MeasuredResults);
-      RT_CHECK(ctx, stat, 0, "eutra-MeasuredResults", -1, "MeasurementReport-v920ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementReport-v920ext */
-   stat = asn1PD_UMTS_MeasurementReport_v920ext_IEs(ctx, &pvalue->measurementReport_v920ext);
-   RT_CHECK(ctx, stat, 0, "measurementReport-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementReport-v860ext */
-   stat = asn1PD_UMTS_MeasurementReport_v860ext_IEs(ctx, &pvalue->measurementReport_v860ext);
-   RT_CHECK(ctx, stat, 0, "measurementReport-v860ext", -1, 0);
    /* v920NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementReport-v770ext */
-   stat = asn1PD_UMTS_MeasurementReport_v770ext_IEs(ctx, &pvalue->measurementReport_v770ext);
-   RT_CHECK(ctx, stat, 0, "measurementReport-v770ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementReport-v690ext */
-   stat = asn1PD_UMTS_MeasurementReport_v690ext_IEs(ctx, &pvalue->measurementReport_v690ext);
-   RT_CHECK(ctx, stat, 0, "measurementReport-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementReport-v5b0ext */
-   stat = asn1PD_UMTS_MeasurementReport_v5b0ext_IEs(ctx, &pvalue->measurementReport_v5b0ext);
-   RT_CHECK(ctx, stat, 0, "measurementReport-v5b0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementReport-v590ext */
-   stat = asn1PD_UMTS_MeasurementReport_v590ext_IEs(ctx, &pvalue->measurementReport_v590ext);
-   RT_CHECK(ctx, stat, 0, "measurementReport-v590ext", -1, 0);
-   /* v5b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementReport-v4b0ext */
-   stat = asn1PD_UMTS_MeasurementReport_v4b0ext_IEs(ctx, &pvalue->measurementReport_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "measurementReport-v4b0ext", -1, 0);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementReport-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementReport_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "measurementReport-r3-add-ext", -1, 0);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementReport-v390ext */
-   stat = asn1PD_UMTS_MeasurementReport_v390ext(ctx, &pvalue->measurementReport_v390ext);
-   RT_CHECK(ctx, stat, 0, "measurementReport-v390ext", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport(rtxContext* RT_RESTRICT ctx, MeasurementReport* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport");
-   /* measurementIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementReport");
-   /* measuredResults */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResults(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat, 0, "measuredResults", -1, "MeasurementReport");
-   }
-   /* measuredResultsOnRACH */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
-      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "MeasurementReport");
-   }
-   /* additionalMeasuredResults */
-   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasuredResultsList(ctx, &pvalue->additionalMeasuredResults);
-      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults", -1, "MeasurementReport");
-   }
-   /* eventResults */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_EventResults(ctx, &pvalue->eventResults);
-      RT_CHECK(ctx, stat, 0, "eventResults", -1, "MeasurementReport");
-   }
-   /* v390nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions(ctx, &pvalue->v390nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v390nonCriticalExtensions", -1, "MeasurementReport");
+      stat = dec_SysInfoType19_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType19");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PagingType1_v590ext_IEs(rtxContext* RT_RESTRICT ctx, PagingType1_v590ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType19(rtxContext* RT_RESTRICT ctx, SysInfoType19* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType19, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType20_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType20_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType20_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType20_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType20_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_SysInfoType20(rtxContext* RT_RESTRICT ctx, SysInfoType20* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingType1-v590ext-IEs");
-   /* pagingRecord2List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingRecord2List_r5(ctx, &pvalue->pagingRecord2List);
-      RT_CHECK(ctx, stat, 0, "pagingRecord2List", -1, "PagingType1-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PagingType1_v860ext_IEs(rtxContext* RT_RESTRICT ctx, PagingType1_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingType1-v860ext-IEs");
-   /* etws-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ETWS_Information(ctx, &pvalue->etws_Information);
-      RT_CHECK(ctx, stat, 0, "etws-Information", -1, "PagingType1-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pagingType1-v860ext */
-   stat = asn1PD_UMTS_PagingType1_v860ext_IEs(ctx, &pvalue->pagingType1_v860ext);
-   RT_CHECK(ctx, stat, 0, "pagingType1-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pagingType1-v590ext */
-   stat = asn1PD_UMTS_PagingType1_v590ext_IEs(ctx, &pvalue->pagingType1_v590ext);
-   RT_CHECK(ctx, stat, 0, "pagingType1-v590ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PagingType1_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PagingType1_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pagingType1-r3-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "SysInfoType20");
+   /* hNBName */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->pagingType1_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "pagingType1-r3-add-ext", -1, 0);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PagingType1(rtxContext* RT_RESTRICT ctx, PagingType1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingType1");
-   /* pagingRecordList */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingRecordList(ctx, &pvalue->pagingRecordList);
-      RT_CHECK(ctx, stat, 0, "pagingRecordList", -1, "PagingType1");
-   }
-   /* bcch-ModificationInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_BCCH_ModificationInfo(ctx, &pvalue->bcch_ModificationInfo);
-      RT_CHECK(ctx, stat, 0, "bcch-ModificationInfo", -1, "PagingType1");
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PagingType1_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PagingType1");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PagingType2_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PagingType2_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PagingType2_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PagingType2_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pagingType2-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->pagingType2_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "pagingType2-r3-add-ext", -1, 0);
+      stat = dec_HNBName(ctx, &pvalue->hNBName, cur);
+      RT_CHECK(ctx, stat, 0, "hNBName", -1, "SysInfoType20");
    }
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PagingType2_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      stat = dec_SysInfoType20_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType20");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PagingType2(rtxContext* RT_RESTRICT ctx, PagingType2* RT_RESTRICT pvalue)
+int asn1PD_UMTS_SysInfoType20(rtxContext* RT_RESTRICT ctx, SysInfoType20* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_SysInfoType20, pvalue);
+}
+
+static int dec_UE_HistoryInformation(rtxContext* RT_RESTRICT ctx, UE_HistoryInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingType2");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PagingType2");
-   /* pagingCause */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, "PagingType2");
-   /* cn-DomainIdentity */
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "PagingType2");
-   /* pagingRecordTypeID */
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingRecordTypeID, 0, 3);
-   RT_CHECK(ctx, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, "PagingType2");
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingType2_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PagingType2");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x400u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r3-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v3a0ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v3a0ext");
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-v3a0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v4b0ext-IEs");
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "PhysicalChannelReconfiguration-v4b0ext-IEs");
-   }
-   /* cell-id-PerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "PhysicalChannelReconfiguration-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v590ext-IEs");
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "PhysicalChannelReconfiguration-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-   /* delayRestrictionFlag */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-         pvalue->delayRestrictionFlag = ui;
-      }
-   }
-   /* primary-plmn-Identity */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-   }
-   /* harq-Preamble-Mode */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-   }
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-         pvalue->beaconPLEst = ui;
-      }
-   }
-   /* postVerificationPeriod */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-         pvalue->postVerificationPeriod = ui;
-      }
-   }
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-   }
-   /* timingMaintainedSynchInd */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x40u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-         pvalue->timingMaintainedSynchInd = ui;
-      }
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x80u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v770ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "UE-HistoryInformation");
+   /* ue-InactivityPeriod */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->ue_InactivityPeriod, 1, 120);
+   RT_CHECK_AT(ctx, cur, stat, 0, "ue-InactivityPeriod", -1, "UE-HistoryInformation");
    /* ueMobilityStateIndicator */
-   if (present & ((uint32_t)1 << 0)) {
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-v770ext-IEs");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "UE-HistoryInformation");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-v770ext-IEs");
+         RT_CHECK_AT(ctx, cur, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "UE-HistoryInformation");
          pvalue->ueMobilityStateIndicator = ui;
       }
    }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v770ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v690ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v590ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v590ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v4b0ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v4b0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v4b0ext", -1, 0);
-   /* v590NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-r3-add-ext */
+   /* ul-dataVolumeHistory */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r3-add-ext", -1, 0);
-   }
-   /* v4b0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions(ctx, &pvalue->v4b0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtenstions", -1, 0);
+      stat = dec_DataVolumeHistory(ctx, &pvalue->ul_dataVolumeHistory, cur);
+      RT_CHECK(ctx, stat, 0, "ul-dataVolumeHistory", -1, "UE-HistoryInformation");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v3a0ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v3a0ext(ctx, &pvalue->physicalChannelReconfiguration_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v3a0ext", -1, 0);
-   /* laterNonCriticalExtensions */
+   /* dl-dataVolumeHistory */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-r3 */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs(ctx, &pvalue->physicalChannelReconfiguration_r3);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r3", -1, 0);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r4_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r4-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 12)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x40u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x800u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID_r4(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r4-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r4-IEs");
+      stat = dec_DataVolumeHistory(ctx, &pvalue->dl_dataVolumeHistory, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dataVolumeHistory", -1, "UE-HistoryInformation");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_UE_HistoryInformation(rtxContext* RT_RESTRICT ctx, UE_HistoryInformation* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_UE_HistoryInformation, pvalue);
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v770ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v690ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v590ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v590ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r4_add_ext);
-      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r4-add-ext", -1, 0);
-   }
-   /* v590NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-r4 */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs(ctx, &pvalue->physicalChannelReconfiguration_r4);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r4", -1, 0);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MBMS_AccessProbabilityFactor(rtxContext* RT_RESTRICT ctx, MBMS_AccessProbabilityFactor* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-AccessProbabilityFactor");
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r5_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_AccessProbabilityFactor(rtxContext* RT_RESTRICT ctx, MBMS_AccessProbabilityFactor* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 17);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r5-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x80u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID_r5(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r5-IEs");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MBMS_AccessProbabilityFactor, pvalue);
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v770ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v690ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-r5 */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs(ctx, &pvalue->physicalChannelReconfiguration_r5);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r5", -1, 0);
-   /* physicalChannelReconfiguration-r5-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r5_add_ext);
-      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r5-add-ext", -1, 0);
-   }
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r6_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r6_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 22);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r6-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r6-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r6-IEs");
-         pvalue->delayRestrictionFlag = ui;
-      }
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x400u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x8000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r6-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x200000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v6b0ext-IEs");
-   /* dl-InformationPerRL-List-v6b0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "PhysicalChannelReconfiguration-v6b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v770ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v6b0ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v6b0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v6b0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-r6 */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r6_IEs(ctx, &pvalue->physicalChannelReconfiguration_r6);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r6", -1, 0);
-   /* physicalChannelReconfiguration-r6-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r6_add_ext);
-      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r6-add-ext", -1, 0);
-   }
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MBMS_CellGroupIdentity_r6(rtxContext* RT_RESTRICT ctx, MBMS_CellGroupIdentity_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pd_BitString32At(ctx, cur, pvalue, 12, 12);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-CellGroupIdentity-r6");
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r7_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r7_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_CellGroupIdentity_r6(rtxContext* RT_RESTRICT ctx, MBMS_CellGroupIdentity_r6* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 30);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r7-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 29)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 28)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 27)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint32_t)1 << 26)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r7-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r7-IEs");
-         pvalue->delayRestrictionFlag = ui;
-      }
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 25)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 24)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x400u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r7-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r7-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* responseToChangeOfUE-Capability */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x8000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r7-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r7-IEs");
-         pvalue->responseToChangeOfUE_Capability = ui;
-      }
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x800000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r7-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20000000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MBMS_CellGroupIdentity_r6, pvalue);
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v780ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v780ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v780ext-IEs");
-   /* harqInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "PhysicalChannelReconfiguration-v780ext-IEs");
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "PhysicalChannelReconfiguration-v780ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "PhysicalChannelReconfiguration-v780ext-IEs");
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v7d0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v7d0ext-IEs");
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-v7d0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v7f0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v7f0ext-IEs");
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-v7f0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v7g0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v7g0ext-IEs");
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-v7g0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v7g0ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7g0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v7f0ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7f0ext", -1, 0);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v7d0ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7d0ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7d0ext", -1, 0);
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v780ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v780ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v780ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v780ext", -1, 0);
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-r7 */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r7_IEs(ctx, &pvalue->physicalChannelReconfiguration_r7);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r7", -1, 0);
-   /* physicalChannelReconfiguration-r7-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r7_add_ext);
-      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r7-add-ext", -1, 0);
-   }
-   /* v780NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MBMS_CommonCCTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonCCTrChIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-CommonCCTrChIdentity");
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r8_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r8_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_CommonCCTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonCCTrChIdentity* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint64_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 2);
-      RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r8-IEs");
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r8-IEs");
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 33)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 32)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 31)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint64_t)1 << 30)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r8-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r8-IEs");
-         pvalue->delayRestrictionFlag = ui;
-      }
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 29)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 28)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 27)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 26)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 25)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 24)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint64_t)1 << 23)) {
-      pvalue->m |= 0x400u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r8-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r8-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 22)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 21)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 20)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 19)) {
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* responseToChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 18)) {
-      pvalue->m |= 0x8000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r8-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r8-IEs");
-         pvalue->responseToChangeOfUE_Capability = ui;
-      }
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 17)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* harqInfo */
-   if (present & ((uint64_t)1 << 16)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 14)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 12)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 11)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 10)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 9)) {
-      pvalue->m |= 0x1000000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 8)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 6)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 5)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 4)) {
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 3)) {
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 2)) {
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 1)) {
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "PhysicalChannelReconfiguration-r8-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 0)) {
-      pvalue->m |= 0x200000000ull;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MBMS_CommonCCTrChIdentity, pvalue);
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v890ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v890ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v890ext-IEs");
-   /* dl-SecondaryCellInfoFDD-v890ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "PhysicalChannelReconfiguration-v890ext-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-v890ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v8a0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v8a0ext-IEs");
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-v8a0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v8a0ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v8a0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v8a0ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v8a0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v7g0ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7g0ext", -1, 0);
-   /* v8a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v890ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v890ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v890ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v890ext", -1, 0);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v7f0ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7f0ext", -1, 0);
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-v7d0ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7d0ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7d0ext", -1, 0);
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-r8 */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r8_IEs(ctx, &pvalue->physicalChannelReconfiguration_r8);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r8", -1, 0);
-   /* physicalChannelReconfiguration-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r8_add_ext);
-      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r8-add-ext", -1, 0);
-   }
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MBMS_CommonPhyChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonPhyChIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-CommonPhyChIdentity");
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r9_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r9_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_CommonPhyChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonPhyChIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_CommonPhyChIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_CommonRBIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-CommonRBIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CommonRBIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_CommonRBIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_CommonRBInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBInformation_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint64_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 4);
-      RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r9-IEs");
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r9-IEs");
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 35)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 34)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 33)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint64_t)1 << 32)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r9-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r9-IEs");
-         pvalue->delayRestrictionFlag = ui;
-      }
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 31)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 30)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 29)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 28)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 27)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 26)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint64_t)1 << 25)) {
-      pvalue->m |= 0x400u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r9-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r9-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 24)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 23)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 22)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 21)) {
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* responseToChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 20)) {
-      pvalue->m |= 0x8000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r9-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r9-IEs");
-         pvalue->responseToChangeOfUE_Capability = ui;
-      }
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 19)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* harqInfo */
-   if (present & ((uint64_t)1 << 18)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 17)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 16)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 14)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 12)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 11)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 10)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 9)) {
-      pvalue->m |= 0x4000000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 8)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* ul-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 6)) {
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 5)) {
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 4)) {
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 3)) {
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 2)) {
-      pvalue->m |= 0x200000000ull;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "PhysicalChannelReconfiguration-r9-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 1)) {
-      pvalue->m |= 0x400000000ull;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   /* cellDCHMeasOccasionInfo-TDD128 */
-   if (present & ((uint64_t)1 << 0)) {
-      pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   /* commonRBIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->commonRBIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonRBIdentity", "commonRBIdentity", -1, "MBMS-CommonRBInformation-r6");
+   /* pdcp-Info */
+   stat = dec_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "MBMS-CommonRBInformation-r6");
+   /* rlc-Info */
+   stat = dec_RLC_Info_MTCH_r6(ctx, &pvalue->rlc_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-CommonRBInformation-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CommonRBInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBInformation_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_CommonRBInformation_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_CommonRBInformationList_r6(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBInformationList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-CommonRBInformationList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_CommonRBInformation_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_CommonRBInformation_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-CommonRBInformation-r6", (int32_t)i, "MBMS-CommonRBInformationList-r6");
+      elem = (MBMS_CommonRBInformation_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_CommonRBInformation_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_CommonRBInformation_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-CommonRBInformation-r6", (int32_t)i, "MBMS-CommonRBInformationList-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_CommonRBInformationList_r6(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBInformationList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_CommonRBInformationList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_CommonTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonTrChIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-CommonTrChIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CommonTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonTrChIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_CommonTrChIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ConnectedModeCountingScope(rtxContext* RT_RESTRICT ctx, MBMS_ConnectedModeCountingScope* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
+   /* countingForUraPCH */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->countingForUraPCH);
+   RT_CHECK_AT(ctx, cur, stat, 0, "countingForUraPCH", -1, "MBMS-ConnectedModeCountingScope");
+   /* countingForCellPCH */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->countingForCellPCH);
+   RT_CHECK_AT(ctx, cur, stat, 0, "countingForCellPCH", -1, "MBMS-ConnectedModeCountingScope");
+   /* countingForCellFACH */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->countingForCellFACH);
+   RT_CHECK_AT(ctx, cur, stat, 0, "countingForCellFACH", -1, "MBMS-ConnectedModeCountingScope");
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_ConnectedModeCountingScope(rtxContext* RT_RESTRICT ctx, MBMS_ConnectedModeCountingScope* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ConnectedModeCountingScope, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_SCCPCHIdentity(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-SCCPCHIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SCCPCHIdentity(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_SCCPCHIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_SoftComb_TimingOffset(rtxContext* RT_RESTRICT ctx, MBMS_SoftComb_TimingOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-SoftComb-TimingOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SoftComb_TimingOffset(rtxContext* RT_RESTRICT ctx, MBMS_SoftComb_TimingOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_SoftComb_TimingOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ShortTransmissionID(rtxContext* RT_RESTRICT ctx, MBMS_ShortTransmissionID* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-ShortTransmissionID");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ShortTransmissionID(rtxContext* RT_RESTRICT ctx, MBMS_ShortTransmissionID* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ShortTransmissionID, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_LogicalChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_LogicalChIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-LogicalChIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_LogicalChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_LogicalChIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_LogicalChIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PTM_RBInformation_C(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_C* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rbInformation */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rbInformation, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonRBIdentity", "rbInformation", -1, "MBMS-PTM-RBInformation-C");
+   /* shortTransmissionID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->shortTransmissionID, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-C");
+   /* logicalChIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->logicalChIdentity, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-C");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PTM_RBInformation_C(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_C* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PTM_RBInformation_C, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PTM_RBInformation_CList(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_CList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-PTM-RBInformation-CList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_PTM_RBInformation_C* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PTM_RBInformation_C));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-PTM-RBInformation-C", (int32_t)i, "MBMS-PTM-RBInformation-CList");
+      elem = (MBMS_PTM_RBInformation_C*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_PTM_RBInformation_C(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-PTM-RBInformation-C", (int32_t)i, "MBMS-PTM-RBInformation-CList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PTM_RBInformation_CList(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_CList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PTM_RBInformation_CList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_TrCHInformation_Curr(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_Curr* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfiguration-r9 */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r9_IEs(ctx, &pvalue->physicalChannelReconfiguration_r9);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r9", -1, 0);
-   /* physicalChannelReconfiguration-r9-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-TrCHInformation-Curr");
+   /* transpCh-Info */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transpCh_Info, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Curr");
+   /* rbInformation */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r9_add_ext);
-      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r9-add-ext", -1, 0);
+      stat = dec_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation, cur);
+      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-Curr");
    }
-   /* nonCriticalExtensions */
+   /* msch-ConfigurationInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      stat = dec_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-Curr");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_TrCHInformation_Curr(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_Curr* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TrCHInformation_Curr, pvalue);
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r9 */
-         pvalue->u.r9 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MBMS_TrCHInformation_CurrList(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_CurrList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r8 */
-         pvalue->u.r8 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-TrCHInformation-CurrList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_TrCHInformation_Curr* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TrCHInformation_Curr));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-TrCHInformation-Curr", (int32_t)i, "MBMS-TrCHInformation-CurrList");
+      elem = (MBMS_TrCHInformation_Curr*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_TrCHInformation_Curr(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_TrCHInformation_Curr(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-Curr", (int32_t)i, "MBMS-TrCHInformation-CurrList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_TrCHInformation_CurrList(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_CurrList* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r7 */
-         pvalue->u.r7 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TrCHInformation_CurrList, pvalue);
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r6 */
-         pvalue->u.r6 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r5 */
-         pvalue->u.r5 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5));
-         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r4 */
-         pvalue->u.r4 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (PhysicalChannelReconfiguration_r3*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "PhysicalChannelReconfiguration");
-         asn1Init_UMTS_PhysicalChannelReconfiguration_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "PhysicalChannelReconfiguration");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (PhysicalChannelReconfiguration_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "PhysicalChannelReconfiguration");
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "PhysicalChannelReconfiguration");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PhysicalChannelReconfiguration");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete_v770ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MBMS_CurrentCell_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_CurrentCell_SCCPCH_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
-   /* ext-UL-TimingAdvance */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
-   }
-   /* deferredMeasurementControlReading */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
-         pvalue->deferredMeasurementControlReading = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfigurationComplete-v770ext */
-   stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs(ctx, &pvalue->physicalChannelReconfigurationComplete_v770ext);
-   RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationComplete-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfigurationComplete-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfigurationComplete_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationComplete-r3-add-ext", -1, 0);
-   }
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationComplete(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfigurationComplete");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalChannelReconfigurationComplete");
-   /* ul-IntegProtActivationInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
-      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "PhysicalChannelReconfigurationComplete");
-   }
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "PhysicalChannelReconfigurationComplete");
-   }
-   /* count-C-ActivationTime */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "PhysicalChannelReconfigurationComplete");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "PhysicalChannelReconfigurationComplete");
-   }
-   /* ul-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "PhysicalChannelReconfigurationComplete");
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PhysicalChannelReconfigurationComplete");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalChannelReconfigurationFailure-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfigurationFailure_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationFailure-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationFailure(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationFailure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfigurationFailure");
-   /* rrc-TransactionIdentifier */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-      RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalChannelReconfigurationFailure");
-   }
-   /* failureCause */
-   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat, 0, "failureCause", -1, "PhysicalChannelReconfigurationFailure");
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PhysicalChannelReconfigurationFailure");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_IEs_confirmRequest(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r3_IEs_confirmRequest* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_IEs(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation-r3-IEs");
-   /* dsch-RNTI */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->dsch_RNTI);
-      RT_CHECK(ctx, stat, 0, "dsch-RNTI", -1, "PhysicalSharedChannelAllocation-r3-IEs");
-   }
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalSharedChannelAllocation-r3-IEs");
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "PhysicalSharedChannelAllocation-r3-IEs");
-   }
-   /* pusch-CapacityAllocationInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo(ctx, &pvalue->pusch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat, 0, "pusch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-r3-IEs");
-   }
-   /* pdsch-CapacityAllocationInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo(ctx, &pvalue->pdsch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat, 0, "pdsch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-r3-IEs");
-   }
-   /* confirmRequest */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->confirmRequest, 0, 1);
-      RT_CHECK(ctx, stat, 0, "confirmRequest", -1, "PhysicalSharedChannelAllocation-r3-IEs");
-   }
-   /* trafficVolumeReportRequest */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->trafficVolumeReportRequest, 0, 255);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeReportRequest", -1, "PhysicalSharedChannelAllocation-r3-IEs");
-   }
-   /* iscpTimeslotList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_TimeslotList(ctx, &pvalue->iscpTimeslotList);
-      RT_CHECK(ctx, stat, 0, "iscpTimeslotList", -1, "PhysicalSharedChannelAllocation-r3-IEs");
-   }
-   /* requestPCCPCHRSCP */
-   stat = rtxDecBitInline(ctx, &pvalue->requestPCCPCHRSCP);
-   RT_CHECK(ctx, stat, 0, "requestPCCPCHRSCP", -1, "PhysicalSharedChannelAllocation-r3-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalSharedChannelAllocation-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalSharedChannelAllocation_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalSharedChannelAllocation-r3 */
-   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_IEs(ctx, &pvalue->physicalSharedChannelAllocation_r3);
-   RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r4_IEs_confirmRequest(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r4_IEs_confirmRequest* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r4_IEs(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r4_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation-r4-IEs");
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "PhysicalSharedChannelAllocation-r4-IEs");
-   }
-   /* pusch-CapacityAllocationInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4(ctx, &pvalue->pusch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat, 0, "pusch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-r4-IEs");
-   }
-   /* pdsch-CapacityAllocationInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4(ctx, &pvalue->pdsch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat, 0, "pdsch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-r4-IEs");
-   }
-   /* confirmRequest */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->confirmRequest, 0, 1);
-      RT_CHECK(ctx, stat, 0, "confirmRequest", -1, "PhysicalSharedChannelAllocation-r4-IEs");
-   }
-   /* trafficVolumeReportRequest */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->trafficVolumeReportRequest, 0, 255);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeReportRequest", -1, "PhysicalSharedChannelAllocation-r4-IEs");
-   }
-   /* iscpTimeslotList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_TimeslotList_r4(ctx, &pvalue->iscpTimeslotList);
-      RT_CHECK(ctx, stat, 0, "iscpTimeslotList", -1, "PhysicalSharedChannelAllocation-r4-IEs");
-   }
-   /* requestPCCPCHRSCP */
-   stat = rtxDecBitInline(ctx, &pvalue->requestPCCPCHRSCP);
-   RT_CHECK(ctx, stat, 0, "requestPCCPCHRSCP", -1, "PhysicalSharedChannelAllocation-r4-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_v690ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation-v690ext-IEs");
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "PhysicalSharedChannelAllocation-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "PhysicalSharedChannelAllocation-v690ext-IEs");
-         pvalue->beaconPLEst = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
-   /* ul-TimingAdvance */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-CurrentCell-SCCPCH-r6");
+   /* sccpchIdentity */
    if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r7(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->sccpchIdentity, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-CurrentCell-SCCPCH-r6");
    }
-   /* pusch-CapacityAllocationInfo */
+   /* secondaryCCPCH-Info */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->secondaryCCPCH_Info, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   /* softComb-TimingOffset */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7(ctx, &pvalue->pusch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat, 0, "pusch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->softComb_TimingOffset, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, "MBMS-CurrentCell-SCCPCH-r6");
    }
-   /* pdsch-CapacityAllocationInfo */
+   /* transpCh-InfoCommonForAllTrCh */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7(ctx, &pvalue->pdsch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat, 0, "pdsch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
+      RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   }
+   /* transpCHInformation */
+   stat = dec_MBMS_TrCHInformation_CurrList(ctx, &pvalue->transpCHInformation, cur);
+   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CurrentCell_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_CurrentCell_SCCPCH_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_CurrentCell_SCCPCH_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_CurrentCell_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_CurrentCell_SCCPCHList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-CurrentCell-SCCPCHList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_CurrentCell_SCCPCH_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_CurrentCell_SCCPCH_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-CurrentCell-SCCPCH-r6", (int32_t)i, "MBMS-CurrentCell-SCCPCHList-r6");
+      elem = (MBMS_CurrentCell_SCCPCH_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_CurrentCell_SCCPCH_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_CurrentCell_SCCPCH_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-CurrentCell-SCCPCH-r6", (int32_t)i, "MBMS-CurrentCell-SCCPCHList-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_CurrentCell_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_CurrentCell_SCCPCHList_r6* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MBMS_CurrentCell_SCCPCHList_r6, pvalue);
 }
 
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalSharedChannelAllocation-v770ext */
-   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_v770ext_IEs(ctx, &pvalue->physicalSharedChannelAllocation_v770ext);
-   RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalSharedChannelAllocation-v690ext */
-   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_v690ext_IEs(ctx, &pvalue->physicalSharedChannelAllocation_v690ext);
-   RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_MBMS_JoinedInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_JoinedInformation_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalSharedChannelAllocation-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalSharedChannelAllocation_r4_add_ext);
-      RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-r4-add-ext", -1, 0);
-   }
-   /* v690NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-JoinedInformation-r6");
+   /* p-TMSI */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+      pvalue->m |= 0x1u;
+      stat = dec_P_TMSI_GSM_MAP(ctx, &pvalue->p_TMSI, cur);
+      RT_CHECK(ctx, stat, 0, "p-TMSI", -1, "MBMS-JoinedInformation-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_JoinedInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_JoinedInformation_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_JoinedInformation_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* periodStart */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->periodStart, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->periodDuration, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_32(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* physicalSharedChannelAllocation-r4 */
-   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r4_IEs(ctx, &pvalue->physicalSharedChannelAllocation_r4);
-   RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-r4", -1, 0);
-   /* v4d0NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-32");
+   /* cycleOffset */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cycleOffset, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-32");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = dec_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList, cur);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-32");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_32(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_32, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* periodStart */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->periodStart, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->periodDuration, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_64(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-64");
+   /* cycleOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cycleOffset, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-64");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = dec_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList, cur);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-64");
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_64(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_64, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* periodStart */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->periodStart, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->periodDuration, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_128(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-128");
+   /* cycleOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cycleOffset, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-128");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = dec_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList, cur);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-128");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_128(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_128, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* periodStart */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->periodStart, 0, 63);
+   RT_CHECK_AT(ctx, cur, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->periodDuration, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_256(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-256");
+   /* cycleOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cycleOffset, 0, 63);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-256");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = dec_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList, cur);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-256");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_256(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_256, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* periodStart */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->periodStart, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->periodDuration, 1, 128);
+   RT_CHECK_AT(ctx, cur, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_512(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-512");
+   /* cycleOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cycleOffset, 0, 127);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-512");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = dec_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList, cur);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-512");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_512(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_512, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* periodStart */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->periodStart, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->periodDuration, 1, 256);
+   RT_CHECK_AT(ctx, cur, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningSchedule_1024(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-1024");
+   /* cycleOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->cycleOffset, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-1024");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = dec_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList, cur);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-1024");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_1024(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule_1024, pvalue);
+}
+
+static int dec_MBMS_L1CombiningSchedule(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-L1CombiningSchedule");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* r4 */
-         pvalue->u.r4 = (PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
-         asn1Init_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+      case 0: /* cycleLength-32 */
+         pvalue->u.cycleLength_32 = (MBMS_L1CombiningSchedule_32*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_32));
+         if (pvalue->u.cycleLength_32 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cycleLength-32", -1, "MBMS-L1CombiningSchedule");
+         asn1Init_UMTS_MBMS_L1CombiningSchedule_32(pvalue->u.cycleLength_32);
+         stat = dec_MBMS_L1CombiningSchedule_32(ctx, pvalue->u.cycleLength_32, cur);
+         RT_CHECK(ctx, stat, 0, "cycleLength-32", -1, "MBMS-L1CombiningSchedule");
          break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+      case 1: /* cycleLength-64 */
+         pvalue->u.cycleLength_64 = (MBMS_L1CombiningSchedule_64*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_64));
+         if (pvalue->u.cycleLength_64 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cycleLength-64", -1, "MBMS-L1CombiningSchedule");
+         asn1Init_UMTS_MBMS_L1CombiningSchedule_64(pvalue->u.cycleLength_64);
+         stat = dec_MBMS_L1CombiningSchedule_64(ctx, pvalue->u.cycleLength_64, cur);
+         RT_CHECK(ctx, stat, 0, "cycleLength-64", -1, "MBMS-L1CombiningSchedule");
          break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dsch-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->dsch_RNTI);
-      RT_CHECK(ctx, stat, 0, "dsch-RNTI", -1, 0);
-   }
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (PhysicalSharedChannelAllocation_r3*)rtxMemHeapAlloc(ctx, sizeof(PhysicalSharedChannelAllocation_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "PhysicalSharedChannelAllocation");
-         asn1Init_UMTS_PhysicalSharedChannelAllocation_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "PhysicalSharedChannelAllocation");
+      case 2: /* cycleLength-128 */
+         pvalue->u.cycleLength_128 = (MBMS_L1CombiningSchedule_128*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_128));
+         if (pvalue->u.cycleLength_128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cycleLength-128", -1, "MBMS-L1CombiningSchedule");
+         asn1Init_UMTS_MBMS_L1CombiningSchedule_128(pvalue->u.cycleLength_128);
+         stat = dec_MBMS_L1CombiningSchedule_128(ctx, pvalue->u.cycleLength_128, cur);
+         RT_CHECK(ctx, stat, 0, "cycleLength-128", -1, "MBMS-L1CombiningSchedule");
          break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (PhysicalSharedChannelAllocation_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(PhysicalSharedChannelAllocation_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "PhysicalSharedChannelAllocation");
-         asn1Init_UMTS_PhysicalSharedChannelAllocation_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "PhysicalSharedChannelAllocation");
+      case 3: /* cycleLength-256 */
+         pvalue->u.cycleLength_256 = (MBMS_L1CombiningSchedule_256*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_256));
+         if (pvalue->u.cycleLength_256 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cycleLength-256", -1, "MBMS-L1CombiningSchedule");
+         asn1Init_UMTS_MBMS_L1CombiningSchedule_256(pvalue->u.cycleLength_256);
+         stat = dec_MBMS_L1CombiningSchedule_256(ctx, pvalue->u.cycleLength_256, cur);
+         RT_CHECK(ctx, stat, 0, "cycleLength-256", -1, "MBMS-L1CombiningSchedule");
+         break;
+      case 4: /* cycleLength-512 */
+         pvalue->u.cycleLength_512 = (MBMS_L1CombiningSchedule_512*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_512));
+         if (pvalue->u.cycleLength_512 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cycleLength-512", -1, "MBMS-L1CombiningSchedule");
+         asn1Init_UMTS_MBMS_L1CombiningSchedule_512(pvalue->u.cycleLength_512);
+         stat = dec_MBMS_L1CombiningSchedule_512(ctx, pvalue->u.cycleLength_512, cur);
+         RT_CHECK(ctx, stat, 0, "cycleLength-512", -1, "MBMS-L1CombiningSchedule");
+         break;
+      case 5: /* cycleLength-1024 */
+         pvalue->u.cycleLength_1024 = (MBMS_L1CombiningSchedule_1024*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_1024));
+         if (pvalue->u.cycleLength_1024 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "cycleLength-1024", -1, "MBMS-L1CombiningSchedule");
+         asn1Init_UMTS_MBMS_L1CombiningSchedule_1024(pvalue->u.cycleLength_1024);
+         stat = dec_MBMS_L1CombiningSchedule_1024(ctx, pvalue->u.cycleLength_1024, cur);
+         RT_CHECK(ctx, stat, 0, "cycleLength-1024", -1, "MBMS-L1CombiningSchedule");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PhysicalSharedChannelAllocation");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MBMS-L1CombiningSchedule");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PUSCHCapacityRequest_allocationConfirmation(rtxContext* RT_RESTRICT ctx, PUSCHCapacityRequest_allocationConfirmation* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_L1CombiningSchedule(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* pdschConfirmation */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.pdschConfirmation, 1, 64);
-         RT_CHECK(ctx, stat, "PDSCH-Identity", "pdschConfirmation", -1, 0);
-         break;
-      case 1: /* puschConfirmation */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.puschConfirmation, 1, 64);
-         RT_CHECK(ctx, stat, "PUSCH-Identity", "puschConfirmation", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCHCapacityRequest_v590ext(rtxContext* RT_RESTRICT ctx, PUSCHCapacityRequest_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCHCapacityRequest-v590ext");
-   /* primaryCCPCH-RSCP-delta */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCCPCH_RSCP_delta, -5, -1);
-      RT_CHECK(ctx, stat, "DeltaRSCP", "primaryCCPCH-RSCP-delta", -1, "PUSCHCapacityRequest-v590ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* puschCapacityRequest-v590ext */
-   stat = asn1PD_UMTS_PUSCHCapacityRequest_v590ext(ctx, &pvalue->puschCapacityRequest_v590ext);
-   RT_CHECK(ctx, stat, 0, "puschCapacityRequest-v590ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PUSCHCapacityRequest_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* puschCapacityRequest-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->puschCapacityRequest_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "puschCapacityRequest-r3-add-ext", -1, 0);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCHCapacityRequest(rtxContext* RT_RESTRICT ctx, PUSCHCapacityRequest* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCHCapacityRequest");
-   /* dsch-RNTI */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->dsch_RNTI);
-      RT_CHECK(ctx, stat, 0, "dsch-RNTI", -1, "PUSCHCapacityRequest");
-   }
-   /* trafficVolume */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TrafficVolumeMeasuredResultsList(ctx, &pvalue->trafficVolume);
-      RT_CHECK(ctx, stat, 0, "trafficVolume", -1, "PUSCHCapacityRequest");
-   }
-   /* timeslotListWithISCP */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TimeslotListWithISCP(ctx, &pvalue->timeslotListWithISCP);
-      RT_CHECK(ctx, stat, 0, "timeslotListWithISCP", -1, "PUSCHCapacityRequest");
-   }
-   /* primaryCCPCH-RSCP */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, "PUSCHCapacityRequest");
-   }
-   /* allocationConfirmation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_PUSCHCapacityRequest_allocationConfirmation(ctx, &pvalue->allocationConfirmation);
-      RT_CHECK(ctx, stat, 0, "allocationConfirmation", -1, "PUSCHCapacityRequest");
-   }
-   /* protocolErrorIndicator */
-   stat = asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo(ctx, &pvalue->protocolErrorIndicator);
-   RT_CHECK(ctx, stat, 0, "protocolErrorIndicator", -1, "PUSCHCapacityRequest");
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PUSCHCapacityRequest");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_IEs_dummy_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_IEs_dummy* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerReconfiguration_r3_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r3_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r3_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 21);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReconfiguration-r3-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r3-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* rb-InformationReconfigList */
-   stat = asn1PD_UMTS_RB_InformationReconfigList(ctx, &pvalue->rb_InformationReconfigList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerReconfiguration-r3-IEs");
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfo2List(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x40000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerReconfiguration-r3-IEs");
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r3-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r3-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v3a0ext(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v3a0ext");
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-v3a0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v4b0ext-IEs");
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "RadioBearerReconfiguration-v4b0ext-IEs");
-   }
-   /* cell-id-PerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "RadioBearerReconfiguration-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v590ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v590ext-IEs");
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "RadioBearerReconfiguration-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v5d0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v5d0ext-IEs");
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerReconfiguration-v5d0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v690ext-IEs");
-   /* delayRestrictionFlag */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-v690ext-IEs");
-         pvalue->delayRestrictionFlag = ui;
-      }
-   }
-   /* primary-plmn-Identity */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "RadioBearerReconfiguration-v690ext-IEs");
-   }
-   /* harq-Preamble-Mode */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "RadioBearerReconfiguration-v690ext-IEs");
-   }
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerReconfiguration-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerReconfiguration-v690ext-IEs");
-         pvalue->beaconPLEst = ui;
-      }
-   }
-   /* postVerificationPeriod */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerReconfiguration-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerReconfiguration-v690ext-IEs");
-         pvalue->postVerificationPeriod = ui;
-      }
-   }
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "RadioBearerReconfiguration-v690ext-IEs");
-   }
-   /* timingMaintainedSynchInd */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x40u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerReconfiguration-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerReconfiguration-v690ext-IEs");
-         pvalue->timingMaintainedSynchInd = ui;
-      }
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x80u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-v690ext-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v770ext-IEs");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-v770ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-v770ext-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v770ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v690ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v690ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v5d0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v590ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v590ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v590ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v590ext", -1, 0);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v4b0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v4b0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v4b0ext", -1, 0);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r3-add-ext", -1, 0);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v3a0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v3a0ext(ctx, &pvalue->radioBearerReconfiguration_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v3a0ext", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-r3 */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs(ctx, &pvalue->radioBearerReconfiguration_r3);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r3", -1, 0);
-   /* v3aoNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions(ctx, &pvalue->v3aoNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3aoNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r4_IEs_dummy* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerReconfiguration_r4_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r4_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r4_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r4_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r4-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r4-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x40u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r4(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x100000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerReconfiguration-r4-IEs");
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r4-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v770ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v690ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v690ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v5d0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v590ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v590ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v590ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v590ext", -1, 0);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r4_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r4-add-ext", -1, 0);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-r4 */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs(ctx, &pvalue->radioBearerReconfiguration_r4);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r4", -1, 0);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_complete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r5(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
-   }
-   /* rb-PDCPContextRelocationList */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 13);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r5", "defaultConfigIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* predefinedConfigIdentity */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
-         break;
-      case 1: /* defaultConfig */
-         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* preConfigMode */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (RadioBearerReconfiguration_r5_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* preconfiguration */
-         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r5-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r5-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x80u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r5-IEs");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x800u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerReconfiguration-r5-IEs");
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r5-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v770ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v690ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v690ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v5d0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-r5 */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs(ctx, &pvalue->radioBearerReconfiguration_r5);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r5", -1, 0);
-   /* radioBearerReconfiguration-r5-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r5_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r5-add-ext", -1, 0);
-   }
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r6_IEs_specificationMode_complete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
-   }
-   /* rb-PDCPContextRelocationList */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* predefinedConfigIdentity */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
-         break;
-      case 1: /* defaultConfig */
-         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* preConfigMode */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r6_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (RadioBearerReconfiguration_r6_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r6_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* preconfiguration */
-         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r6_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 21);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r6-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r6-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r6-IEs");
-         pvalue->delayRestrictionFlag = ui;
-      }
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r6-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x400u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r6-IEs");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x4000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r6-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x100000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r6-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r6-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v6b0ext-IEs");
-   /* dl-InformationPerRL-List-v6b0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "RadioBearerReconfiguration-v6b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rab-InformationMBMSPtpList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationMBMSPtpList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v6f0ext_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v6f0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* specificationMode */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-v6f0ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v770ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRconfiguration-v6f0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs(ctx, &pvalue->radioBearerRconfiguration_v6f0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRconfiguration-v6f0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v6b0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v6b0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v6b0ext", -1, 0);
-   /* v6f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions(ctx, &pvalue->v6f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6f0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-r6 */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs(ctx, &pvalue->radioBearerReconfiguration_r6);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r6", -1, 0);
-   /* radioBearerReconfiguration-r6-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r6_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r6-add-ext", -1, 0);
-   }
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_specificationMode_complete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
-   }
-   /* rab-InformationMBMSPtpList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationMBMSPtpList", -1, 0);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
-   }
-   /* rb-PDCPContextRelocationList */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* predefinedConfigIdentity */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
-         break;
-      case 1: /* defaultConfig */
-         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* preConfigMode */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (RadioBearerReconfiguration_r7_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r7_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* preconfiguration */
-         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 29);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r7-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 28)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 27)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 26)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint32_t)1 << 25)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r7-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r7-IEs");
-         pvalue->delayRestrictionFlag = ui;
-      }
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 24)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r7-IEs");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x400u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r7-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r7-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* responseToChangeOfUE-Capability */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x8000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r7-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r7-IEs");
-         pvalue->responseToChangeOfUE_Capability = ui;
-      }
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r7-IEs");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x400000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r7-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x10000000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r7-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r7-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v780ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v780ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v780ext-IEs");
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerReconfiguration-v780ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerReconfiguration-v780ext-IEs");
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v790ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v790ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v790ext-IEs");
-   /* radioBearerReconfiguration-r7-add-ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r7_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r7-add-ext", -1, "RadioBearerReconfiguration-v790ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v7d0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v7d0ext-IEs");
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-v7d0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v7f0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v7f0ext-IEs");
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-v7f0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v7g0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v7g0ext-IEs");
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-v7g0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v7g0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7g0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7g0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v7f0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7f0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7f0ext", -1, 0);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningSchedule, pvalue);
 }
 

@@ -6,6955 +6,8584 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+/* The bodies of this unit. */
+RT_MERGED_BODY int dec_MBMS_L1CombiningTransmTimeDiff(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningTransmTimeDiff* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L23Configuration_sameAsCurrent(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration_sameAsCurrent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PTM_RBInformation_N(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_N* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PTM_RBInformation_NList(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_NList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TrCHInformation_Neighb(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_Neighb* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TrCHInformation_NeighbList(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_NeighbList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_L23Configuration_different(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration_different* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MBMS_L23Configuration(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHPowerOffset(rtxContext* RT_RESTRICT ctx, MBMS_MICHPowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NI_CountPerFrame(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_r6_mode_fdd(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHNotificationIndLength(rtxContext* RT_RESTRICT ctx, MBMS_MICHNotificationIndLength* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_r6_mode_tdd384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_r6_mode_tdd128(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MBMS_MICHConfigurationInfo_r6_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v770ext_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NI_CountPerFrame_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame_IMB384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext_mode_imb384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v890ext_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext_mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v890ext(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ServiceIdentity_r6_serviceIdentity(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_serviceIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ServiceIdentity_r6_plmn_Identity_other(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_plmn_Identity_other* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ServiceIdentity_r6_plmn_Identity(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_plmn_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_MBMS_ServiceIdentity_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TransmissionIdentity(rtxContext* RT_RESTRICT ctx, MBMS_TransmissionIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_RequiredUEAction_Mod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_Mod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PFLIndex(rtxContext* RT_RESTRICT ctx, MBMS_PFLIndex* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PFLInfo(rtxContext* RT_RESTRICT ctx, MBMS_PFLInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ModifedService_r6_mbms_PreferredFrequency(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6_mbms_PreferredFrequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ModifedService_r6_dummy(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6_dummy* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ModifedService_r6(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ModifedServiceList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ModifedServiceList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFN_ClusterFrequency_r7(rtxContext* RT_RESTRICT ctx, MBSFN_ClusterFrequency_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ModifiedService_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedService_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PTM_RBReleaseCause_LCR_r7(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBReleaseCause_LCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ModifiedService_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedService_LCR_v7c0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ModifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedServiceList_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ModifiedServiceList_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedServiceList_LCR_v7c0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_SCCPCHPwrOffsetDiff(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHPwrOffsetDiff* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6_layer1Combining* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCH_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCHList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCHList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCHList_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(rtxContext* RT_RESTRICT ctx, MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NetworkStandardTimeInformation_LCR_v890ext(rtxContext* RT_RESTRICT ctx, MBMS_NetworkStandardTimeInformation_LCR_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_NumberOfNeighbourCells_r6(rtxContext* RT_RESTRICT ctx, MBMS_NumberOfNeighbourCells_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PhyChInformation_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_IMB384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PhyChInformationList_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_IMB384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PhyChInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PhyChInformation_r7(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PhyChInformationList_r6(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PhyChInformationList_r7(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PL_ServiceRestrictInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_PL_ServiceRestrictInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_Qoffset(rtxContext* RT_RESTRICT ctx, MBMS_Qoffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PreferredFrequencyInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PreferredFrequencyList_r6(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_PTMActivationTime_r6(rtxContext* RT_RESTRICT ctx, MBMS_PTMActivationTime_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_RequiredUEAction_UMod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_UMod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_SelectedServicesListFull(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesListFull* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_SelectedServiceInfo_status(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServiceInfo_status* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_SelectedServiceInfo(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServiceInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_SelectedServicesListShort(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesListShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_SelectedServicesShort(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ServiceAccessInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceAccessInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ServiceAccessInfoList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceAccessInfoList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ServiceTransmInfo(rtxContext* RT_RESTRICT ctx, MBMS_ServiceTransmInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ServiceTransmInfoList(rtxContext* RT_RESTRICT ctx, MBMS_ServiceTransmInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ServiceSchedulingInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceSchedulingInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_ServiceSchedulingInfoList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceSchedulingInfoList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TrCHInformation_SIB5(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_SIB5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TrCHInformation_SIB5List(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_SIB5List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_SIBType5_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_SIBType5_SCCPCH_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_SIBType5_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_SIBType5_SCCPCHList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TimersAndCounters_r6(rtxContext* RT_RESTRICT ctx, MBMS_TimersAndCounters_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TranspChInfoForCCTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForCCTrCh_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TranspChInfoForEachCCTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForEachCCTrCh_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TranspChInfoForTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForTrCh_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_TranspChInfoForEachTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForEachTrCh_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_UnmodifiedService_r6(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedService_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_UnmodifiedServiceList_r6(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedServiceList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_UnmodifiedService_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedService_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBMS_UnmodifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedServiceList_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand(rtxContext* RT_RESTRICT ctx, MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFNservicesNotNotified_r7(rtxContext* RT_RESTRICT ctx, MBSFNservicesNotNotified_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFNInterFrequencyNeighbour_r7(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFNInterFrequencyNeighbour_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_v860ext_imb_Indication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFNInterFrequencyNeighbour_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFN_InterFrequencyNeighbourList_r7(rtxContext* RT_RESTRICT ctx, MBSFN_InterFrequencyNeighbourList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFN_InterFrequencyNeighbourList_v860ext(rtxContext* RT_RESTRICT ctx, MBSFN_InterFrequencyNeighbourList_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFN_TDDTimeSlotInfo(rtxContext* RT_RESTRICT ctx, MBSFN_TDDTimeSlotInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFN_TDDInformation(rtxContext* RT_RESTRICT ctx, MBSFN_TDDInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFN_TDDTimeSlotInfo_LCR(rtxContext* RT_RESTRICT ctx, MBSFN_TDDTimeSlotInfo_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFN_TDDInformation_LCR(rtxContext* RT_RESTRICT ctx, MBSFN_TDDInformation_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFN_TDM_Info(rtxContext* RT_RESTRICT ctx, MBSFN_TDM_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_MBSFN_TDM_Info_List(rtxContext* RT_RESTRICT ctx, MBSFN_TDM_Info_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ActiveSetUpdate_r3_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_v590ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_r3(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ActiveSetUpdate_r6_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r6_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ActiveSetUpdate_r7_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r7_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_v780ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v780ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v7f0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v7g0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ActiveSetUpdate_r8_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r8_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_v890ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v890ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ActiveSetUpdate_r9_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r9_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_ActiveSetUpdate(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdateComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdateComplete(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdateFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_ActiveSetUpdateFailure(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_v3a0ext(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_v770ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_v860ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_v920ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v920ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_later_than_r3_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_AssistanceDataDelivery_later_than_r3(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_later_than_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_AssistanceDataDelivery(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_r3_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_v590ext_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellChangeOrderFromUTRAN_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_later_than_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_later_than_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure_r3_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_dummy_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure_dummy(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_dummy* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v7e0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v7g0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v590ext(rtxContext* RT_RESTRICT ctx, CellUpdate_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v690ext_IEs_trafficVolumeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_trafficVolumeIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v690ext_IEs_reconfigurationStatusIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_reconfigurationStatusIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v770ext_IEs_csCallType(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_csCallType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v770ext_IEs_hspdschReception_CellFach(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_hspdschReception_CellFach* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v770ext_IEs_capabilityChangeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_capabilityChangeIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v770ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfCommonEDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfMACiis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfSPSOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_v860ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellUpdate(rtxContext* RT_RESTRICT ctx, CellUpdate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellUpdateConfirm_r3_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v3a0ext(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v590ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v5d0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v690ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellUpdateConfirm_r3(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellUpdateConfirm_r4_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellUpdateConfirm_r5_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellUpdateConfirm_r6_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r6_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellUpdateConfirm_r7_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7d0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7f0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7g0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellUpdateConfirm_r7_add_ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v780ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v780ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v860ext_IEs_rab_InformationSetup* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v860ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellUpdateConfirm_r8_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r8_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellUpdateConfirm_v890ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v890ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v8a0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+static int dec_CellUpdateConfirm_r9_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r9_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur);
+
+/* Bodies held by other units. */
+RT_DECODE_EXTERN(MBMS_MSCH_ConfigurationInfo_r6)
+RT_DECODE_EXTERN(MidambleShiftAndBurstType)
+RT_DECODE_EXTERN(RepPerLengthOffset_MICH)
+RT_DECODE_EXTERN(MidambleShiftAndBurstType_LCR_r4)
+RT_DECODE_EXTERN(MidambleShiftAndBurstType_r7)
+RT_DECODE_EXTERN(MidambleShiftAndBurstType_VHCR)
+RT_DECODE_EXTERN(PLMN_Identity)
+RT_DECODE_EXTERN(MBMS_SessionIdentity)
+RT_DECODE_EXTERN(FrequencyInfo)
+RT_DECODE_EXTERN(MBMS_L1CombiningSchedule)
+RT_DECODE_EXTERN(SecondaryCCPCHInfoDiff_MBMS)
+RT_DECODE_EXTERN(SecondaryCCPCHFrameType2Info)
+RT_DECODE_EXTERN(SecondaryCCPCHInfo_MBMS_r6)
+RT_DECODE_EXTERN(SecondaryCCPCHInfo_MBMS_r7)
+RT_DECODE_EXTERN(MBMS_ConnectedModeCountingScope)
+RT_DECODE_EXTERN(MBMS_PTM_RBInformation_CList)
+RT_DECODE_EXTERN(TFCS)
+RT_DECODE_EXTERN(TransportFormatSet)
+RT_DECODE_EXTERN(IntegrityProtectionModeInfo)
+RT_DECODE_EXTERN(CipheringModeInfo)
+RT_DECODE_EXTERN(U_RNTI)
+RT_DECODE_EXTERN(CN_InformationInfo)
+RT_DECODE_EXTERN(DL_CounterSynchronisationInfo)
+RT_DECODE_EXTERN(RL_AdditionInformationList)
+RT_DECODE_EXTERN(RL_RemovalInformationList)
+RT_DECODE_EXTERN(SSDT_Information)
+RT_DECODE_EXTERN(CellIdentity_PerRL_List)
+RT_DECODE_EXTERN(DL_TPC_PowerOffsetPerRL_List)
+RT_DECODE_EXTERN(H_RNTI)
+RT_DECODE_EXTERN(E_RNTI)
+RT_DECODE_EXTERN(CN_InformationInfo_r6)
+RT_DECODE_EXTERN(RL_AdditionInformationList_r6)
+RT_DECODE_EXTERN(Serving_HSDSCH_CellInformation)
+RT_DECODE_EXTERN(E_DCH_ReconfigurationInfo)
+RT_DECODE_EXTERN(RL_AdditionInformation_list_v6b0ext)
+RT_DECODE_EXTERN(DTX_DRX_TimingInfo_r7)
+RT_DECODE_EXTERN(DTX_DRX_Info_r7)
+RT_DECODE_EXTERN(HS_SCCH_LessInfo_r7)
+RT_DECODE_EXTERN(MIMO_Parameters_r7)
+RT_DECODE_EXTERN(RL_AdditionInformationList_r7)
+RT_DECODE_EXTERN(Serving_HSDSCH_CellInformation_r7)
+RT_DECODE_EXTERN(E_DCH_ReconfigurationInfo_r7)
+RT_DECODE_EXTERN(UL_16QAM_Config)
+RT_DECODE_EXTERN(E_DCH_RL_InfoSameServingCell)
+RT_DECODE_EXTERN(E_TFC_Boost_Info_r7)
+RT_DECODE_EXTERN(MIMO_Parameters_v7f0ext)
+RT_DECODE_EXTERN(MIMO_Parameters_v7g0ext)
+RT_DECODE_EXTERN(MIMO_Parameters_r8)
+RT_DECODE_EXTERN(RL_AdditionInformationList_r8)
+RT_DECODE_EXTERN(ServingCellChangeParameters)
+RT_DECODE_EXTERN(Serving_HSDSCH_CellInformation_r8)
+RT_DECODE_EXTERN(DL_SecondaryCellInfoFDD)
+RT_DECODE_EXTERN(DL_SecondaryCellInfoFDD_v890ext)
+RT_DECODE_EXTERN(RL_AdditionInformationList_v890ext)
+RT_DECODE_EXTERN(MIMO_Parameters_r9)
+RT_DECODE_EXTERN(UL_SecondaryCellInfoFDD)
+RT_DECODE_EXTERN(E_DCH_ReconfigurationInfo_SecULFrequency)
+RT_DECODE_EXTERN(RL_AdditionInformationList_r9)
+RT_DECODE_EXTERN(RL_AdditionInformationList_SecULFreq)
+RT_DECODE_EXTERN(RL_RemovalInformationList_SecULFreq)
+RT_DECODE_EXTERN(Serving_HSDSCH_CellInformation_r9)
+RT_DECODE_EXTERN(DL_SecondaryCellInfoFDD_r9)
+RT_DECODE_EXTERN(IntegrityProtActivationInfo)
+RT_DECODE_EXTERN(RB_ActivationTimeInfoList)
+RT_DECODE_EXTERN(UL_CounterSynchronisationInfo)
+RT_DECODE_EXTERN(FailureCauseWithProtErr)
+RT_DECODE_EXTERN(UE_Positioning_GPS_AssistanceData)
+RT_DECODE_EXTERN(UE_Positioning_OTDOA_AssistanceData_UEB)
+RT_DECODE_EXTERN(UE_Positioning_OTDOA_AssistanceData_r4ext)
+RT_DECODE_EXTERN(UE_Positioning_OTDOA_AssistanceData_UEB_ext)
+RT_DECODE_EXTERN(UE_Positioning_GPS_AssistanceData_v770ext)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_AssistanceData)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_AssistanceData_v860ext)
+RT_DECODE_EXTERN(UE_Positioning_GPS_AssistanceData_v920ext)
+RT_DECODE_EXTERN(UE_Positioning_GANSS_AssistanceData_v920ext)
+RT_DECODE_EXTERN(RAB_InformationList)
+RT_DECODE_EXTERN(InterRAT_TargetCellDescription)
+RT_DECODE_EXTERN(GERAN_SystemInformation)
+RT_DECODE_EXTERN(InterRAT_ChangeFailureCause)
+RT_DECODE_EXTERN(MeasuredResultsOnRACH_v7g0ext)
+RT_DECODE_EXTERN(MeasuredResultsOnRACHinterFreq)
+RT_DECODE_EXTERN(STARTList)
+RT_DECODE_EXTERN(FailureCauseWithProtErrTrId)
+RT_DECODE_EXTERN(Rb_timer_indicator)
+RT_DECODE_EXTERN(MeasuredResultsOnRACH)
+RT_DECODE_EXTERN(DRAC_StaticInformationList)
+RT_DECODE_EXTERN(DL_PDSCH_Information)
+RT_DECODE_EXTERN(C_RNTI)
+RT_DECODE_EXTERN(URA_Identity)
+RT_DECODE_EXTERN(RB_InformationReleaseList)
+RT_DECODE_EXTERN(RB_InformationReconfigList)
+RT_DECODE_EXTERN(RB_InformationAffectedList)
+RT_DECODE_EXTERN(UL_CommonTransChInfo)
+RT_DECODE_EXTERN(UL_DeletedTransChInfoList)
+RT_DECODE_EXTERN(UL_AddReconfTransChInfoList)
+RT_DECODE_EXTERN(DL_CommonTransChInfo)
+RT_DECODE_EXTERN(DL_DeletedTransChInfoList)
+RT_DECODE_EXTERN(DL_AddReconfTransChInfoList)
+RT_DECODE_EXTERN(UL_ChannelRequirement)
+RT_DECODE_EXTERN(DL_CommonInformation)
+RT_DECODE_EXTERN(DL_InformationPerRL_List)
+RT_DECODE_EXTERN(DSCH_RNTI)
+RT_DECODE_EXTERN(RB_InformationReconfigList_r4)
+RT_DECODE_EXTERN(UL_CommonTransChInfo_r4)
+RT_DECODE_EXTERN(DL_CommonTransChInfo_r4)
+RT_DECODE_EXTERN(DL_AddReconfTransChInfoList_r4)
+RT_DECODE_EXTERN(UL_ChannelRequirement_r4)
+RT_DECODE_EXTERN(DL_CommonInformation_r4)
+RT_DECODE_EXTERN(DL_InformationPerRL_List_r4)
+RT_DECODE_EXTERN(RB_InformationReconfigList_r5)
+RT_DECODE_EXTERN(RB_InformationAffectedList_r5)
+RT_DECODE_EXTERN(DL_CounterSynchronisationInfo_r5)
+RT_DECODE_EXTERN(DL_DeletedTransChInfoList_r5)
+RT_DECODE_EXTERN(DL_AddReconfTransChInfoList_r5)
+RT_DECODE_EXTERN(UL_ChannelRequirement_r5)
+RT_DECODE_EXTERN(DL_HSPDSCH_Information)
+RT_DECODE_EXTERN(DL_CommonInformation_r5)
+RT_DECODE_EXTERN(DL_InformationPerRL_List_r5)
+RT_DECODE_EXTERN(RB_InformationReconfigList_r6)
+RT_DECODE_EXTERN(RB_InformationAffectedList_r6)
+RT_DECODE_EXTERN(UL_DeletedTransChInfoList_r6)
+RT_DECODE_EXTERN(UL_AddReconfTransChInfoList_r6)
+RT_DECODE_EXTERN(UL_DPCH_Info_r6)
+RT_DECODE_EXTERN(UL_EDCH_Information_r6)
+RT_DECODE_EXTERN(DL_HSPDSCH_Information_r6)
+RT_DECODE_EXTERN(DL_CommonInformation_r6)
+RT_DECODE_EXTERN(DL_InformationPerRL_List_r6)
+RT_DECODE_EXTERN(DL_InformationPerRL_List_v6b0ext)
+RT_DECODE_EXTERN(IntegrityProtectionModeInfo_r7)
+RT_DECODE_EXTERN(CipheringModeInfo_r7)
+RT_DECODE_EXTERN(UTRAN_DRX_CycleLengthCoefficient_r7)
+RT_DECODE_EXTERN(RB_InformationReconfigList_r7)
+RT_DECODE_EXTERN(RB_InformationAffectedList_r7)
+RT_DECODE_EXTERN(UL_AddReconfTransChInfoList_r7)
+RT_DECODE_EXTERN(DL_DeletedTransChInfoList_r7)
+RT_DECODE_EXTERN(DL_AddReconfTransChInfoList_r7)
+RT_DECODE_EXTERN(Multi_frequencyInfo_LCR_r7)
+RT_DECODE_EXTERN(UL_DPCH_Info_r7)
+RT_DECODE_EXTERN(UL_EDCH_Information_r7)
+RT_DECODE_EXTERN(DL_HSPDSCH_Information_r7)
+RT_DECODE_EXTERN(DL_CommonInformation_r7)
+RT_DECODE_EXTERN(DL_InformationPerRL_List_r7)
+RT_DECODE_EXTERN(UL_EDCH_Information_ext)
+RT_DECODE_EXTERN(RAB_InformationSetup_r7)
+RT_DECODE_EXTERN(RAB_InformationSetup_v820ext)
+RT_DECODE_EXTERN(DefaultConfigForCellFACH)
+RT_DECODE_EXTERN(RAB_InformationSetup_r8)
+RT_DECODE_EXTERN(RB_InformationReconfigList_r8)
+RT_DECODE_EXTERN(RB_InformationAffectedList_r8)
+RT_DECODE_EXTERN(UL_AddReconfTransChInfoList_r8)
+RT_DECODE_EXTERN(UL_EDCH_Information_r8)
+RT_DECODE_EXTERN(DL_HSPDSCH_Information_r8)
+RT_DECODE_EXTERN(DL_CommonInformation_r8)
+RT_DECODE_EXTERN(DL_InformationPerRL_List_r8)
+RT_DECODE_EXTERN(ControlChannelDRXInfo_TDD128_r8)
+RT_DECODE_EXTERN(SPS_Information_TDD128_r8)
+RT_DECODE_EXTERN(DL_HSPDSCH_Information_r8_ext)
+RT_DECODE_EXTERN(DL_HSPDSCH_Information_r8_ext2)
+RT_DECODE_EXTERN(DL_AddReconfTransChInfoList_r9)
+RT_DECODE_EXTERN(UL_EDCH_Information_r9)
+RT_DECODE_EXTERN(DL_HSPDSCH_Information_r9)
+RT_DECODE_EXTERN(CellDCHMeasOccasionInfo_TDD128_r9)
+
+RT_MERGED_BODY int dec_MBMS_L1CombiningTransmTimeDiff(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningTransmTimeDiff* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-L1CombiningTransmTimeDiff");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningTransmTimeDiff(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningTransmTimeDiff* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L1CombiningTransmTimeDiff, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L23Configuration_sameAsCurrent(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration_sameAsCurrent* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v7d0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7d0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7d0ext", -1, 0);
-   /* v7f0NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* currentCell-SCCPCH */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->currentCell_SCCPCH, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-SCCPCHIdentity", "currentCell-SCCPCH", -1, 0);
+   /* msch-ConfigurationInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+      stat = dec_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_L23Configuration_sameAsCurrent(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration_sameAsCurrent* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L23Configuration_sameAsCurrent, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PTM_RBInformation_N(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_N* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* shortTransmissionID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->shortTransmissionID, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-N");
+   /* logicalChIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->logicalChIdentity, 1, 15);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-N");
+   /* layer1-CombiningStatus */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->layer1_CombiningStatus);
+   RT_CHECK_AT(ctx, cur, stat, 0, "layer1-CombiningStatus", -1, "MBMS-PTM-RBInformation-N");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PTM_RBInformation_N(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_N* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PTM_RBInformation_N, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PTM_RBInformation_NList(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_NList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-PTM-RBInformation-NList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_PTM_RBInformation_N* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PTM_RBInformation_N));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-PTM-RBInformation-N", (int32_t)i, "MBMS-PTM-RBInformation-NList");
+      elem = (MBMS_PTM_RBInformation_N*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_PTM_RBInformation_N(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-PTM-RBInformation-N", (int32_t)i, "MBMS-PTM-RBInformation-NList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PTM_RBInformation_NList(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_NList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PTM_RBInformation_NList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_TrCHInformation_Neighb(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_Neighb* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v790ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v790ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v790ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v790ext", -1, 0);
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-TrCHInformation-Neighb");
+   /* transpCh-Info */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transpCh_Info, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Neighb");
+   /* transpCh-CombiningStatus */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->transpCh_CombiningStatus);
+   RT_CHECK_AT(ctx, cur, stat, 0, "transpCh-CombiningStatus", -1, "MBMS-TrCHInformation-Neighb");
+   /* rbInformation */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+      stat = dec_MBMS_PTM_RBInformation_NList(ctx, &pvalue->rbInformation, cur);
+      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-Neighb");
+   }
+   /* msch-ConfigurationInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-Neighb");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_TrCHInformation_Neighb(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_Neighb* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TrCHInformation_Neighb, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_TrCHInformation_NeighbList(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_NeighbList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-TrCHInformation-NeighbList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_TrCHInformation_Neighb* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TrCHInformation_Neighb));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-TrCHInformation-Neighb", (int32_t)i, "MBMS-TrCHInformation-NeighbList");
+      elem = (MBMS_TrCHInformation_Neighb*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_TrCHInformation_Neighb(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_TrCHInformation_Neighb(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-Neighb", (int32_t)i, "MBMS-TrCHInformation-NeighbList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TrCHInformation_NeighbList(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_NeighbList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TrCHInformation_NeighbList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_L23Configuration_different(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration_different* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v780ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v780ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v780ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v780ext", -1, 0);
-   /* v790NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* transpCh-InfoCommonForAllTrCh */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions(ctx, &pvalue->v790NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v790NonCriticalExtensions", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
+      RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, 0);
+   }
+   /* transpCHInformation */
+   stat = dec_MBMS_TrCHInformation_NeighbList(ctx, &pvalue->transpCHInformation, cur);
+   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L23Configuration_different(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration_different* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L23Configuration_different, pvalue);
+}
+
+static int dec_MBMS_L23Configuration(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-L23Configuration");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsCurrent */
+         pvalue->u.sameAsCurrent = (MBMS_L23Configuration_sameAsCurrent*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L23Configuration_sameAsCurrent));
+         if (pvalue->u.sameAsCurrent == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sameAsCurrent", -1, "MBMS-L23Configuration");
+         asn1Init_UMTS_MBMS_L23Configuration_sameAsCurrent(pvalue->u.sameAsCurrent);
+         stat = dec_MBMS_L23Configuration_sameAsCurrent(ctx, pvalue->u.sameAsCurrent, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsCurrent", -1, "MBMS-L23Configuration");
+         break;
+      case 1: /* different */
+         pvalue->u.different = (MBMS_L23Configuration_different*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L23Configuration_different));
+         if (pvalue->u.different == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "different", -1, "MBMS-L23Configuration");
+         asn1Init_UMTS_MBMS_L23Configuration_different(pvalue->u.different);
+         stat = dec_MBMS_L23Configuration_different(ctx, pvalue->u.different, cur);
+         RT_CHECK(ctx, stat, 0, "different", -1, "MBMS-L23Configuration");
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MBMS-L23Configuration");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_L23Configuration(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_L23Configuration, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHPowerOffset(rtxContext* RT_RESTRICT ctx, MBMS_MICHPowerOffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsInt8At(ctx, cur, pvalue, -10, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-MICHPowerOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHPowerOffset(rtxContext* RT_RESTRICT ctx, MBMS_MICHPowerOffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHPowerOffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NI_CountPerFrame(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-NI-CountPerFrame");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NI_CountPerFrame(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NI_CountPerFrame, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_r6_mode_fdd(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* channelisationCode256 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->channelisationCode256, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
+   /* ni-CountPerFrame */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ni_CountPerFrame, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-NI-CountPerFrame", "ni-CountPerFrame", -1, 0);
+   /* sttd-Indicator */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->sttd_Indicator);
+   RT_CHECK_AT(ctx, cur, stat, 0, "sttd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_r6_mode_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHNotificationIndLength(rtxContext* RT_RESTRICT ctx, MBMS_MICHNotificationIndLength* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-MICHNotificationIndLength");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHNotificationIndLength(rtxContext* RT_RESTRICT ctx, MBMS_MICHNotificationIndLength* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHNotificationIndLength, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_r6_mode_tdd384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-r7 */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs(ctx, &pvalue->radioBearerReconfiguration_r7);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r7", -1, 0);
-   /* v780NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 14);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   /* channelisationCode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK_AT(ctx, cur, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, 0);
+   /* repetitionPeriodLengthOffset */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+      stat = dec_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
+   }
+   /* mbmsNotificationIndLength */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mbmsNotificationIndLength, 0, 2);
+      RT_CHECK_AT(ctx, cur, stat, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
+   }
+   else {
+      pvalue->mbmsNotificationIndLength = 0;
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_r6_mode_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 1, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      pvalue->n = n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "channelisationCodeList");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_r6_mode_tdd128(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* timeslot */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeslot, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   /* channelisationCodeList */
+   stat = dec_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(ctx, &pvalue->channelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, 0);
+   /* repetitionPeriodLengthOffset */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
+   }
+   /* mbmsNotificationIndLength */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mbmsNotificationIndLength, 0, 2);
+      RT_CHECK_AT(ctx, cur, stat, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
+   }
+   else {
+      pvalue->mbmsNotificationIndLength = 0;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_r6_mode_tdd128, pvalue);
+}
+
+static int dec_MBMS_MICHConfigurationInfo_r6_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (MBMS_MICHConfigurationInfo_r6_mode_fdd*)rtxMemHeapAllocZ(ctx, sizeof(MBMS_MICHConfigurationInfo_r6_mode_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = dec_MBMS_MICHConfigurationInfo_r6_mode_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd384 */
+         pvalue->u.tdd384 = (MBMS_MICHConfigurationInfo_r6_mode_tdd384*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_r6_mode_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(pvalue->u.tdd384);
+         stat = dec_MBMS_MICHConfigurationInfo_r6_mode_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (MBMS_MICHConfigurationInfo_r6_mode_tdd128*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_r6_mode_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(pvalue->u.tdd128);
+         stat = dec_MBMS_MICHConfigurationInfo_r6_mode_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_r6_mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* michPowerOffset */
+   stat = pd_ConsInt8At(ctx, cur, &pvalue->michPowerOffset, -10, 5);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-MICHPowerOffset", "michPowerOffset", -1, "MBMS-MICHConfigurationInfo-r6");
+   /* mode */
+   stat = dec_MBMS_MICHConfigurationInfo_r6_mode(ctx, &pvalue->mode, cur);
+   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd768* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* midambleShiftAndBurstType */
+   stat = dec_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd768* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd128* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* mbsfnSpecialTimeSlot */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mbsfnSpecialTimeSlot, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd128* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v770ext_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (MBMS_MICHConfigurationInfo_v770ext_mode_tdd384*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_v770ext_mode_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(pvalue->u.tdd384);
+         stat = dec_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (MBMS_MICHConfigurationInfo_v770ext_mode_tdd768*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_v770ext_mode_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(pvalue->u.tdd768);
+         stat = dec_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (MBMS_MICHConfigurationInfo_v770ext_mode_tdd128*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_v770ext_mode_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(pvalue->u.tdd128);
+         stat = dec_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_v770ext_mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mode */
+   stat = dec_MBMS_MICHConfigurationInfo_v770ext_mode(ctx, &pvalue->mode, cur);
+   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NI_CountPerFrame_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame_IMB384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-NI-CountPerFrame-IMB384");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NI_CountPerFrame_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame_IMB384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NI_CountPerFrame_IMB384, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext_mode_imb384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* channelisationCode256 */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->channelisationCode256, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
+   /* ni-CountPerFrame */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->ni_CountPerFrame, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-NI-CountPerFrame-IMB384", "ni-CountPerFrame", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext_mode_imb384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_v890ext_mode_imb384, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v890ext_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext_mode* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* imb384 */
+         pvalue->u.imb384 = (MBMS_MICHConfigurationInfo_v890ext_mode_imb384*)rtxMemHeapAllocZ(ctx, sizeof(MBMS_MICHConfigurationInfo_v890ext_mode_imb384));
+         if (pvalue->u.imb384 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "imb384", -1, 0);
+         stat = dec_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(ctx, pvalue->u.imb384, cur);
+         RT_CHECK(ctx, stat, 0, "imb384", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext_mode* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_v890ext_mode, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_MICHConfigurationInfo_v890ext(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mode */
+   stat = dec_MBMS_MICHConfigurationInfo_v890ext_mode(ctx, &pvalue->mode, cur);
+   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-v890ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_MICHConfigurationInfo_v890ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ServiceIdentity_r6_serviceIdentity(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_serviceIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_OctetStringAt(ctx, cur, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_serviceIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ServiceIdentity_r6_serviceIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ServiceIdentity_r6_plmn_Identity_other(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_plmn_Identity_other* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsMIB-MultiPLMN-Id */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.sameAsMIB_MultiPLMN_Id, 1, 5);
+         RT_CHECK_AT(ctx, cur, stat, 0, "sameAsMIB-MultiPLMN-Id", -1, 0);
+         break;
+      case 1: /* explicitPLMN-Id */
+         pvalue->u.explicitPLMN_Id = (PLMN_Identity*)rtxMemHeapAlloc(ctx, sizeof(PLMN_Identity));
+         if (pvalue->u.explicitPLMN_Id == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "explicitPLMN-Id", -1, 0);
+         asn1Init_UMTS_PLMN_Identity(pvalue->u.explicitPLMN_Id);
+         stat = dec_PLMN_Identity(ctx, pvalue->u.explicitPLMN_Id, cur);
+         RT_CHECK(ctx, stat, 0, "explicitPLMN-Id", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_plmn_Identity_other* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ServiceIdentity_r6_plmn_Identity_other, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ServiceIdentity_r6_plmn_Identity(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_plmn_Identity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsMIB-PLMN-Id */
+         break;
+      case 1: /* other */
+         pvalue->u.other = (MBMS_ServiceIdentity_r6_plmn_Identity_other*)rtxMemHeapAlloc(ctx, sizeof(MBMS_ServiceIdentity_r6_plmn_Identity_other));
+         if (pvalue->u.other == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "other", -1, 0);
+         asn1Init_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(pvalue->u.other);
+         stat = dec_MBMS_ServiceIdentity_r6_plmn_Identity_other(ctx, pvalue->u.other, cur);
+         RT_CHECK(ctx, stat, 0, "other", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_plmn_Identity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ServiceIdentity_r6_plmn_Identity, pvalue);
+}
+
+static int dec_MBMS_ServiceIdentity_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* serviceIdentity */
+   stat = dec_MBMS_ServiceIdentity_r6_serviceIdentity(ctx, &pvalue->serviceIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "serviceIdentity", -1, "MBMS-ServiceIdentity-r6");
+   /* plmn-Identity */
+   stat = dec_MBMS_ServiceIdentity_r6_plmn_Identity(ctx, &pvalue->plmn_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "MBMS-ServiceIdentity-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceIdentity_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ServiceIdentity_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_TransmissionIdentity(rtxContext* RT_RESTRICT ctx, MBMS_TransmissionIdentity* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-TransmissionIdentity");
+   /* mbms-ServiceIdentity */
+   stat = dec_MBMS_ServiceIdentity_r6(ctx, &pvalue->mbms_ServiceIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "MBMS-TransmissionIdentity");
+   /* mbms-SessionIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "MBMS-TransmissionIdentity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TransmissionIdentity(rtxContext* RT_RESTRICT ctx, MBMS_TransmissionIdentity* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TransmissionIdentity, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_RequiredUEAction_Mod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_Mod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-RequiredUEAction-Mod");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_RequiredUEAction_Mod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_Mod* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_RequiredUEAction_Mod, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PFLIndex(rtxContext* RT_RESTRICT ctx, MBMS_PFLIndex* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 4);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-PFLIndex");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PFLIndex(rtxContext* RT_RESTRICT ctx, MBMS_PFLIndex* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PFLIndex, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PFLInfo(rtxContext* RT_RESTRICT ctx, MBMS_PFLInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = dec_FrequencyInfo(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PFLInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PFLInfo(rtxContext* RT_RESTRICT ctx, MBMS_PFLInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PFLInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ModifedService_r6_mbms_PreferredFrequency(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6_mbms_PreferredFrequency* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mcch */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.mcch, 1, 4);
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PFLIndex", "mcch", -1, 0);
+         break;
+      case 1: /* dcch */
+         pvalue->u.dcch = (MBMS_PFLInfo*)rtxMemHeapAlloc(ctx, sizeof(MBMS_PFLInfo));
+         if (pvalue->u.dcch == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dcch", -1, 0);
+         asn1Init_UMTS_MBMS_PFLInfo(pvalue->u.dcch);
+         stat = dec_MBMS_PFLInfo(ctx, pvalue->u.dcch, cur);
+         RT_CHECK(ctx, stat, 0, "dcch", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6_mbms_PreferredFrequency* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ModifedService_r6_mbms_PreferredFrequency, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ModifedService_r6_dummy(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6_dummy* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    {
       uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_ModifedService_r6_dummy(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6_dummy* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ModifedService_r6_dummy, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ModifedService_r6(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
-   }
-   /* rab-InformationMBMSPtpList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationMBMSPtpList", -1, 0);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
-   }
-   /* rb-PDCPContextRelocationList */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* predefinedConfigIdentity */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
-         break;
-      case 1: /* defaultConfig */
-         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* preConfigMode */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (RadioBearerReconfiguration_r8_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r8_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* preconfiguration */
-         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint64_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 1);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r8-IEs");
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r8-IEs");
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 32)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 31)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 30)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint64_t)1 << 29)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r8-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r8-IEs");
-         pvalue->delayRestrictionFlag = ui;
-      }
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 28)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 27)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 26)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 25)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 24)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 23)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r8-IEs");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint64_t)1 << 22)) {
-      pvalue->m |= 0x400u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r8-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r8-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 21)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 20)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 19)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 18)) {
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* responseToChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 17)) {
-      pvalue->m |= 0x8000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r8-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r8-IEs");
-         pvalue->responseToChangeOfUE_Capability = ui;
-      }
-   }
-   /* defaultConfigForCellFACH */
-   if (present & ((uint64_t)1 << 16)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r8-IEs");
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 14)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 12)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 11)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 10)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 9)) {
-      pvalue->m |= 0x800000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 8)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 6)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 5)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 4)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 3)) {
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 2)) {
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 1)) {
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerReconfiguration-r8-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 0)) {
-      pvalue->m |= 0x100000000ull;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r8-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r8-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v890ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v890ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v890ext-IEs");
-   /* dl-SecondaryCellInfoFDD-v890ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-ModifedService-r6");
+   /* mbms-TransmissionIdentity */
+   stat = dec_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-ModifedService-r6");
+   /* mbms-RequiredUEAction */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mbms_RequiredUEAction, 0, 5);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-RequiredUEAction-Mod", "mbms-RequiredUEAction", -1, "MBMS-ModifedService-r6");
+   /* mbms-PreferredFrequency */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "RadioBearerReconfiguration-v890ext-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-v890ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v8a0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v8a0ext-IEs");
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-v8a0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v8a0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v8a0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v8a0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v8a0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v7g0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7g0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7g0ext", -1, 0);
-   /* v8a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v890ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v890ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v890ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v890ext", -1, 0);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v7f0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7f0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7f0ext", -1, 0);
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-v7d0ext */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7d0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7d0ext", -1, 0);
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-r8 */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs(ctx, &pvalue->radioBearerReconfiguration_r8);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r8", -1, 0);
-   /* radioBearerReconfiguration-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r8_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r8-add-ext", -1, 0);
-   }
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_specificationMode_complete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
-   }
-   /* rab-InformationMBMSPtpList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationMBMSPtpList", -1, 0);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
-   }
-   /* rb-PDCPContextRelocationList */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* predefinedConfigIdentity */
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
-         break;
-      case 1: /* defaultConfig */
-         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* preConfigMode */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (RadioBearerReconfiguration_r9_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r9_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* preconfiguration */
-         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint64_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 3);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r9-IEs");
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r9-IEs");
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 34)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 33)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 32)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint64_t)1 << 31)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r9-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r9-IEs");
-         pvalue->delayRestrictionFlag = ui;
-      }
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 30)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 29)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 28)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 27)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 26)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 25)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r9-IEs");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint64_t)1 << 24)) {
-      pvalue->m |= 0x400u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r9-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r9-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 23)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 22)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 21)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 20)) {
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* responseToChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 19)) {
-      pvalue->m |= 0x8000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r9-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r9-IEs");
-         pvalue->responseToChangeOfUE_Capability = ui;
-      }
-   }
-   /* defaultConfigForCellFACH */
-   if (present & ((uint64_t)1 << 18)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r9-IEs");
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 17)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 16)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 14)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 12)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 11)) {
-      pvalue->m |= 0x800000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 10)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 9)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* ul-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 8)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 6)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 5)) {
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 4)) {
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 3)) {
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 2)) {
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 1)) {
-      pvalue->m |= 0x200000000ull;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r9-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r9-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   /* cellDCHMeasOccasionInfo-TDD128 */
-   if (present & ((uint64_t)1 << 0)) {
-      pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "RadioBearerReconfiguration-r9-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfiguration-r9 */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs(ctx, &pvalue->radioBearerReconfiguration_r9);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r9", -1, 0);
-   /* radioBearerReconfiguration-r9-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r9_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r9-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r9 */
-         pvalue->u.r9 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r8 */
-         pvalue->u.r8 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r7 */
-         pvalue->u.r7 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r6 */
-         pvalue->u.r6 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r5 */
-         pvalue->u.r5 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5));
-         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r4 */
-         pvalue->u.r4 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (RadioBearerReconfiguration_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RadioBearerReconfiguration");
-         asn1Init_UMTS_RadioBearerReconfiguration_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "RadioBearerReconfiguration");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (RadioBearerReconfiguration_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "RadioBearerReconfiguration");
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RadioBearerReconfiguration");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RadioBearerReconfiguration");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
-   /* ext-UL-TimingAdvance */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
-   }
-   /* deferredMeasurementControlReading */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
-         pvalue->deferredMeasurementControlReading = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfigurationComplete-v770ext */
-   stat = asn1PD_UMTS_RadioBearerReconfigurationComplete_v770ext_IEs(ctx, &pvalue->radioBearerReconfigurationComplete_v770ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationComplete-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfigurationComplete-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfigurationComplete_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationComplete-r3-add-ext", -1, 0);
-   }
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationComplete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfigurationComplete");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReconfigurationComplete");
-   /* ul-IntegProtActivationInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
-      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "RadioBearerReconfigurationComplete");
-   }
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "RadioBearerReconfigurationComplete");
-   }
-   /* count-C-ActivationTime */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "RadioBearerReconfigurationComplete");
+      stat = dec_MBMS_ModifedService_r6_mbms_PreferredFrequency(ctx, &pvalue->mbms_PreferredFrequency, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-PreferredFrequency", -1, "MBMS-ModifedService-r6");
    }
    /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "dummy", -1, "MBMS-ModifedService-r6");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "dummy", -1, "MBMS-ModifedService-r6");
+         pvalue->dummy = ui;
+      }
+   }
+   /* continueMCCHReading */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->continueMCCHReading);
+   RT_CHECK_AT(ctx, cur, stat, 0, "continueMCCHReading", -1, "MBMS-ModifedService-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ModifedService_r6(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ModifedService_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ModifedServiceList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ModifedServiceList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-ModifedServiceList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_ModifedService_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ModifedService_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-ModifedService-r6", (int32_t)i, "MBMS-ModifedServiceList-r6");
+      elem = (MBMS_ModifedService_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_ModifedService_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_ModifedService_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-ModifedService-r6", (int32_t)i, "MBMS-ModifedServiceList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ModifedServiceList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ModifedServiceList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ModifedServiceList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFN_ClusterFrequency_r7(rtxContext* RT_RESTRICT ctx, MBSFN_ClusterFrequency_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFN-ClusterFrequency-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_ClusterFrequency_r7(rtxContext* RT_RESTRICT ctx, MBSFN_ClusterFrequency_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFN_ClusterFrequency_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ModifiedService_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedService_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-ModifiedService-v770ext");
+   /* mbsfnClusterFrequency */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->mbsfnClusterFrequency, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-ModifiedService-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ModifiedService_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedService_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ModifiedService_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PTM_RBReleaseCause_LCR_r7(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBReleaseCause_LCR_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-PTM-RBReleaseCause-LCR-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PTM_RBReleaseCause_LCR_r7(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBReleaseCause_LCR_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PTM_RBReleaseCause_LCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ModifiedService_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedService_LCR_v7c0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-ModifiedService-LCR-v7c0ext");
+   /* rbReleaseCause */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rbReleaseCause, 0, 7);
+      RT_CHECK_AT(ctx, cur, stat, "MBMS-PTM-RBReleaseCause-LCR-r7", "rbReleaseCause", -1, "MBMS-ModifiedService-LCR-v7c0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ModifiedService_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedService_LCR_v7c0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ModifiedService_LCR_v7c0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ModifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedServiceList_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-ModifiedServiceList-v770ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_ModifiedService_v770ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ModifiedService_v770ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-ModifiedService-v770ext", (int32_t)i, "MBMS-ModifiedServiceList-v770ext");
+      elem = (MBMS_ModifiedService_v770ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_ModifiedService_v770ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_ModifiedService_v770ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-ModifiedService-v770ext", (int32_t)i, "MBMS-ModifiedServiceList-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ModifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedServiceList_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ModifiedServiceList_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ModifiedServiceList_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedServiceList_LCR_v7c0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-ModifiedServiceList-LCR-v7c0ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_ModifiedService_LCR_v7c0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ModifiedService_LCR_v7c0ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-ModifiedService-LCR-v7c0ext", (int32_t)i, "MBMS-ModifiedServiceList-LCR-v7c0ext");
+      elem = (MBMS_ModifiedService_LCR_v7c0ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_ModifiedService_LCR_v7c0ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_ModifiedService_LCR_v7c0ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-ModifiedService-LCR-v7c0ext", (int32_t)i, "MBMS-ModifiedServiceList-LCR-v7c0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ModifiedServiceList_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedServiceList_LCR_v7c0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ModifiedServiceList_LCR_v7c0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_SCCPCHPwrOffsetDiff(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHPwrOffsetDiff* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-SCCPCHPwrOffsetDiff");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SCCPCHPwrOffsetDiff(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHPwrOffsetDiff* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_SCCPCHPwrOffsetDiff, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* softComb-TimingOffset */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->softComb_TimingOffset, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
+   /* mbms-L1CombiningTransmTimeDiff */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
+   /* mbms-L1CombiningSchedule */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-L1CombiningSchedule", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6_layer1Combining* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd*)rtxMemHeapAlloc(ctx, sizeof(MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(pvalue->u.fdd);
+         stat = dec_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6_layer1Combining* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   /* secondaryCCPCH-Info */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->secondaryCCPCH_Info, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   /* secondaryCCPCHPwrOffsetDiff */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   }
+   /* layer1Combining */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(ctx, &pvalue->layer1Combining, cur);
+      RT_CHECK(ctx, stat, 0, "layer1Combining", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   }
+   /* mbms-L23Configuration */
+   stat = dec_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration, cur);
+   RT_CHECK(ctx, stat, 0, "mbms-L23Configuration", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NeighbouringCellSCCPCH_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* softComb-TimingOffset */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->softComb_TimingOffset, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
+   /* mbms-L1CombiningTransmTimeDiff */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
+   /* mbms-L1CombiningSchedule */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-L1CombiningSchedule", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd*)rtxMemHeapAlloc(ctx, sizeof(MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(pvalue->u.fdd);
+         stat = dec_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCH_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   /* secondaryCCPCH-Info */
    if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerReconfigurationComplete");
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->secondaryCCPCH_Info, 1, 32);
+      RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
    }
-   /* ul-CounterSynchronisationInfo */
+   /* secondaryCCPCH-InfoDiff */
+   stat = dec_SecondaryCCPCHInfoDiff_MBMS(ctx, &pvalue->secondaryCCPCH_InfoDiff, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-InfoDiff", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   /* secondaryCCPCHPwrOffsetDiff */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "RadioBearerReconfigurationComplete");
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
    }
-   /* laterNonCriticalExtensions */
+   /* layer1Combining */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerReconfigurationComplete");
+      pvalue->m |= 0x4u;
+      stat = dec_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(ctx, &pvalue->layer1Combining, cur);
+      RT_CHECK(ctx, stat, 0, "layer1Combining", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   }
+   /* mbms-L23Configuration */
+   stat = dec_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration, cur);
+   RT_CHECK(ctx, stat, 0, "mbms-L23Configuration", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NeighbouringCellSCCPCH_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCHList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_NeighbouringCellSCCPCH_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_NeighbouringCellSCCPCH_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-NeighbouringCellSCCPCH-r6", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-r6");
+      elem = (MBMS_NeighbouringCellSCCPCH_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_NeighbouringCellSCCPCH_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-NeighbouringCellSCCPCH-r6", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCHList_r6* RT_RESTRICT pvalue)
 {
-   int stat = 0;
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NeighbouringCellSCCPCHList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NeighbouringCellSCCPCHList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCHList_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-v770ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_NeighbouringCellSCCPCH_v770ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_NeighbouringCellSCCPCH_v770ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-NeighbouringCellSCCPCH-v770ext", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-v770ext");
+      elem = (MBMS_NeighbouringCellSCCPCH_v770ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_NeighbouringCellSCCPCH_v770ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-NeighbouringCellSCCPCH-v770ext", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-v770ext");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCHList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCHList_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NeighbouringCellSCCPCHList_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(rtxContext* RT_RESTRICT ctx, MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 40, 40);
+   stat = pd_BitStringAt(ctx, cur, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(rtxContext* RT_RESTRICT ctx, MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NetworkStandardTimeInformation_LCR_v890ext(rtxContext* RT_RESTRICT ctx, MBMS_NetworkStandardTimeInformation_LCR_v890ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReconfigurationFailure-r3-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
+   /* networkStandardTime */
+   stat = dec_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(ctx, &pvalue->networkStandardTime, cur);
+   RT_CHECK(ctx, stat, 0, "networkStandardTime", -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
+   /* correlativeSFN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16At(ctx, cur, &pvalue->correlativeSFN, 0, 4095);
+      RT_CHECK_AT(ctx, cur, stat, 0, "correlativeSFN", -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext(rtxContext* RT_RESTRICT ctx, MBMS_NetworkStandardTimeInformation_LCR_v890ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NetworkStandardTimeInformation_LCR_v890ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_NumberOfNeighbourCells_r6(rtxContext* RT_RESTRICT ctx, MBMS_NumberOfNeighbourCells_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt8At(ctx, cur, pvalue, 0, 32);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-NumberOfNeighbourCells-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NumberOfNeighbourCells_r6(rtxContext* RT_RESTRICT ctx, MBMS_NumberOfNeighbourCells_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_NumberOfNeighbourCells_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PhyChInformation_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_IMB384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mbms-CommonPhyChIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mbms_CommonPhyChIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-IMB384");
+   /* secondaryCCPCHInfo-MBMS */
+   stat = dec_SecondaryCCPCHFrameType2Info(ctx, &pvalue->secondaryCCPCHInfo_MBMS, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-IMB384");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PhyChInformation_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_IMB384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PhyChInformation_IMB384, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PhyChInformationList_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_IMB384* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-PhyChInformationList-IMB384");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_PhyChInformation_IMB384* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PhyChInformation_IMB384));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-PhyChInformation-IMB384", (int32_t)i, "MBMS-PhyChInformationList-IMB384");
+      elem = (MBMS_PhyChInformation_IMB384*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_PhyChInformation_IMB384(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_PhyChInformation_IMB384(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-IMB384", (int32_t)i, "MBMS-PhyChInformationList-IMB384");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PhyChInformationList_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_IMB384* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PhyChInformationList_IMB384, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PhyChInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mbms-CommonPhyChIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mbms_CommonPhyChIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r6");
+   /* secondaryCCPCHInfo-MBMS */
+   stat = dec_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PhyChInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PhyChInformation_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PhyChInformation_r7(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mbms-CommonPhyChIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->mbms_CommonPhyChIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r7");
+   /* secondaryCCPCHInfo-MBMS */
+   stat = dec_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PhyChInformation_r7(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PhyChInformation_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PhyChInformationList_r6(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-PhyChInformationList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_PhyChInformation_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PhyChInformation_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-PhyChInformation-r6", (int32_t)i, "MBMS-PhyChInformationList-r6");
+      elem = (MBMS_PhyChInformation_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_PhyChInformation_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_PhyChInformation_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-r6", (int32_t)i, "MBMS-PhyChInformationList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PhyChInformationList_r6(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PhyChInformationList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PhyChInformationList_r7(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-PhyChInformationList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_PhyChInformation_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PhyChInformation_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-PhyChInformation-r7", (int32_t)i, "MBMS-PhyChInformationList-r7");
+      elem = (MBMS_PhyChInformation_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_PhyChInformation_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_PhyChInformation_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-r7", (int32_t)i, "MBMS-PhyChInformationList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PhyChInformationList_r7(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PhyChInformationList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PL_ServiceRestrictInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_PL_ServiceRestrictInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-PL-ServiceRestrictInfo-r6");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-PL-ServiceRestrictInfo-r6");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PL_ServiceRestrictInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_PL_ServiceRestrictInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PL_ServiceRestrictInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_Qoffset(rtxContext* RT_RESTRICT ctx, MBMS_Qoffset* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-Qoffset");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_Qoffset(rtxContext* RT_RESTRICT ctx, MBMS_Qoffset* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_Qoffset, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mbms-Qoffset */
+         stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->u.mbms_Qoffset, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-Qoffset", "mbms-Qoffset", -1, 0);
+         break;
+      case 1: /* mbms-HCSoffset */
+         stat = pd_ConsUInt8At(ctx, cur, &pvalue->u.mbms_HCSoffset, 0, 7);
+         RT_CHECK_AT(ctx, cur, stat, 0, "mbms-HCSoffset", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PreferredFrequencyInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-PreferredFrequencyInfo-r6");
+   /* mbmsPreferredFrequency */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfigurationFailure_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationFailure-r3-add-ext", -1, 0);
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->mbmsPreferredFrequency, 1, 4);
+      RT_CHECK_AT(ctx, cur, stat, 0, "mbmsPreferredFrequency", -1, "MBMS-PreferredFrequencyInfo-r6");
    }
-   /* nonCriticalExtensions */
+   /* layerConvergenceInformation */
+   stat = dec_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(ctx, &pvalue->layerConvergenceInformation, cur);
+   RT_CHECK(ctx, stat, 0, "layerConvergenceInformation", -1, "MBMS-PreferredFrequencyInfo-r6");
+   /* mbms-PL-ServiceRestrictInfo */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "MBMS-PreferredFrequencyInfo-r6");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "MBMS-PreferredFrequencyInfo-r6");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfigurationFailure(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationFailure* RT_RESTRICT pvalue)
+int asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PreferredFrequencyInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PreferredFrequencyList_r6(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-PreferredFrequencyList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_PreferredFrequencyInfo_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PreferredFrequencyInfo_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-PreferredFrequencyInfo-r6", (int32_t)i, "MBMS-PreferredFrequencyList-r6");
+      elem = (MBMS_PreferredFrequencyInfo_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_PreferredFrequencyInfo_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_PreferredFrequencyInfo_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-PreferredFrequencyInfo-r6", (int32_t)i, "MBMS-PreferredFrequencyList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PreferredFrequencyList_r6(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PreferredFrequencyList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_PTMActivationTime_r6(rtxContext* RT_RESTRICT ctx, MBMS_PTMActivationTime_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUInt16At(ctx, cur, pvalue, 0, 2047);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-PTMActivationTime-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PTMActivationTime_r6(rtxContext* RT_RESTRICT ctx, MBMS_PTMActivationTime_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_PTMActivationTime_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_RequiredUEAction_UMod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_UMod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-RequiredUEAction-UMod");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_RequiredUEAction_UMod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_UMod* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_RequiredUEAction_UMod, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_SelectedServicesListFull(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesListFull* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-SelectedServicesListFull");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_ServiceIdentity_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceIdentity_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-ServiceIdentity-r6", (int32_t)i, "MBMS-SelectedServicesListFull");
+      elem = (MBMS_ServiceIdentity_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_ServiceIdentity_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_ServiceIdentity_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-ServiceIdentity-r6", (int32_t)i, "MBMS-SelectedServicesListFull");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SelectedServicesListFull(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesListFull* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_SelectedServicesListFull, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_SelectedServiceInfo_status(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServiceInfo_status* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* none */
+         break;
+      case 1: /* some */
+         pvalue->u.some = (MBMS_SelectedServicesListFull*)rtxMemHeapAlloc(ctx, sizeof(MBMS_SelectedServicesListFull));
+         if (pvalue->u.some == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "some", -1, 0);
+         asn1Init_UMTS_MBMS_SelectedServicesListFull(pvalue->u.some);
+         stat = dec_MBMS_SelectedServicesListFull(ctx, pvalue->u.some, cur);
+         RT_CHECK(ctx, stat, 0, "some", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SelectedServiceInfo_status(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServiceInfo_status* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_SelectedServiceInfo_status, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_SelectedServiceInfo(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServiceInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* status */
+   stat = dec_MBMS_SelectedServiceInfo_status(ctx, &pvalue->status, cur);
+   RT_CHECK(ctx, stat, 0, "status", -1, "MBMS-SelectedServiceInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SelectedServiceInfo(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServiceInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_SelectedServiceInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_SelectedServicesListShort(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesListShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t i, n;
+   {
+      uint32_t raw;
+      stat = rtxDecBitsAt(ctx, cur, 3, &raw);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-SelectedServicesListShort");
+      pvalue->n = n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "MBMS-SelectedServicesListShort");
+         rtxErrAddUIntParm(ctx, n);
+         RT_FAIL_AT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-SelectedServicesListShort");
+      }
+   }
+   for (i = 0; i < n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->elem[i], 1, 64);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL_AT(ctx, cur, stat, "MBMS-ShortTransmissionID", "MBMS-ShortTransmissionID", (int32_t)i, "MBMS-SelectedServicesListShort");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SelectedServicesListShort(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesListShort* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_SelectedServicesListShort, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_SelectedServicesShort(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesShort* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mbms-SelectedServicesList */
+   stat = dec_MBMS_SelectedServicesListShort(ctx, &pvalue->mbms_SelectedServicesList, cur);
+   RT_CHECK(ctx, stat, 0, "mbms-SelectedServicesList", -1, "MBMS-SelectedServicesShort");
+   /* modificationPeriodIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->modificationPeriodIdentity, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, "modificationPeriodIdentity", -1, "MBMS-SelectedServicesShort");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SelectedServicesShort(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesShort* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_SelectedServicesShort, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ServiceAccessInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceAccessInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfigurationFailure");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-ServiceAccessInfo-r6");
+   /* shortTransmissionID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->shortTransmissionID, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-ServiceAccessInfo-r6");
+   /* accessprobabilityFactor-Idle */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->accessprobabilityFactor_Idle, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Idle", -1, "MBMS-ServiceAccessInfo-r6");
+   /* accessprobabilityFactor-Connected */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->accessprobabilityFactor_Connected, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Connected", -1, "MBMS-ServiceAccessInfo-r6");
+   }
+   /* mbms-ConnectedModeCountingScope */
+   stat = dec_MBMS_ConnectedModeCountingScope(ctx, &pvalue->mbms_ConnectedModeCountingScope, cur);
+   RT_CHECK(ctx, stat, 0, "mbms-ConnectedModeCountingScope", -1, "MBMS-ServiceAccessInfo-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceAccessInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceAccessInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ServiceAccessInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ServiceAccessInfoList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceAccessInfoList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-ServiceAccessInfoList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_ServiceAccessInfo_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceAccessInfo_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-ServiceAccessInfo-r6", (int32_t)i, "MBMS-ServiceAccessInfoList-r6");
+      elem = (MBMS_ServiceAccessInfo_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_ServiceAccessInfo_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_ServiceAccessInfo_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-ServiceAccessInfo-r6", (int32_t)i, "MBMS-ServiceAccessInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceAccessInfoList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceAccessInfoList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ServiceAccessInfoList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ServiceTransmInfo(rtxContext* RT_RESTRICT ctx, MBMS_ServiceTransmInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* start */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->start, 0, 255);
+   RT_CHECK_AT(ctx, cur, stat, 0, "start", -1, "MBMS-ServiceTransmInfo");
+   /* duration */
+   stat = pd_ConsUInt16At(ctx, cur, &pvalue->duration, 1, 256);
+   RT_CHECK_AT(ctx, cur, stat, 0, "duration", -1, "MBMS-ServiceTransmInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceTransmInfo(rtxContext* RT_RESTRICT ctx, MBMS_ServiceTransmInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ServiceTransmInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ServiceTransmInfoList(rtxContext* RT_RESTRICT ctx, MBMS_ServiceTransmInfoList* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-ServiceTransmInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_ServiceTransmInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceTransmInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-ServiceTransmInfo", (int32_t)i, "MBMS-ServiceTransmInfoList");
+      elem = (MBMS_ServiceTransmInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_ServiceTransmInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-ServiceTransmInfo", (int32_t)i, "MBMS-ServiceTransmInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceTransmInfoList(rtxContext* RT_RESTRICT ctx, MBMS_ServiceTransmInfoList* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ServiceTransmInfoList, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ServiceSchedulingInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceSchedulingInfo_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-ServiceSchedulingInfo-r6");
+   /* mbms-TransmissionIdentity */
+   stat = dec_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-ServiceSchedulingInfo-r6");
+   /* mbms-ServiceTransmInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MBMS_ServiceTransmInfoList(ctx, &pvalue->mbms_ServiceTransmInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-ServiceTransmInfoList", -1, "MBMS-ServiceSchedulingInfo-r6");
+   }
+   /* nextSchedulingperiod */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->nextSchedulingperiod, 0, 31);
+   RT_CHECK_AT(ctx, cur, stat, 0, "nextSchedulingperiod", -1, "MBMS-ServiceSchedulingInfo-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceSchedulingInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceSchedulingInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ServiceSchedulingInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_ServiceSchedulingInfoList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceSchedulingInfoList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-ServiceSchedulingInfoList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_ServiceSchedulingInfo_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceSchedulingInfo_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-ServiceSchedulingInfo-r6", (int32_t)i, "MBMS-ServiceSchedulingInfoList-r6");
+      elem = (MBMS_ServiceSchedulingInfo_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_ServiceSchedulingInfo_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_ServiceSchedulingInfo_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-ServiceSchedulingInfo-r6", (int32_t)i, "MBMS-ServiceSchedulingInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceSchedulingInfoList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceSchedulingInfoList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_ServiceSchedulingInfoList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_TrCHInformation_SIB5(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_SIB5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-TrCHInformation-SIB5");
+   /* transpCh-Identity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->transpCh_Identity, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "transpCh-Identity", -1, "MBMS-TrCHInformation-SIB5");
+   /* rbInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation, cur);
+      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-SIB5");
+   }
+   /* msch-ConfigurationInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-SIB5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TrCHInformation_SIB5(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_SIB5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TrCHInformation_SIB5, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_TrCHInformation_SIB5List(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_SIB5List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-TrCHInformation-SIB5List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_TrCHInformation_SIB5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TrCHInformation_SIB5));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-TrCHInformation-SIB5", (int32_t)i, "MBMS-TrCHInformation-SIB5List");
+      elem = (MBMS_TrCHInformation_SIB5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_TrCHInformation_SIB5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_TrCHInformation_SIB5(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-SIB5", (int32_t)i, "MBMS-TrCHInformation-SIB5List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TrCHInformation_SIB5List(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_SIB5List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TrCHInformation_SIB5List, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_SIBType5_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_SIBType5_SCCPCH_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* sccpchIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->sccpchIdentity, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-SIBType5-SCCPCH-r6");
+   /* transpCHInformation */
+   stat = dec_MBMS_TrCHInformation_SIB5List(ctx, &pvalue->transpCHInformation, cur);
+   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, "MBMS-SIBType5-SCCPCH-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SIBType5_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_SIBType5_SCCPCH_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_SIBType5_SCCPCH_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_SIBType5_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_SIBType5_SCCPCHList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-SIBType5-SCCPCHList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_SIBType5_SCCPCH_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_SIBType5_SCCPCH_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-SIBType5-SCCPCH-r6", (int32_t)i, "MBMS-SIBType5-SCCPCHList-r6");
+      elem = (MBMS_SIBType5_SCCPCH_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_SIBType5_SCCPCH_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_SIBType5_SCCPCH_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-SIBType5-SCCPCH-r6", (int32_t)i, "MBMS-SIBType5-SCCPCHList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SIBType5_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_SIBType5_SCCPCHList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_SIBType5_SCCPCHList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_TimersAndCounters_r6(rtxContext* RT_RESTRICT ctx, MBMS_TimersAndCounters_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-TimersAndCounters-r6");
+   /* t-318 */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->t_318, 0, 14);
+      RT_CHECK_AT(ctx, cur, stat, "T-318", "t-318", -1, "MBMS-TimersAndCounters-r6");
+   }
+   else {
+      pvalue->t_318 = 3;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TimersAndCounters_r6(rtxContext* RT_RESTRICT ctx, MBMS_TimersAndCounters_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TimersAndCounters_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_TranspChInfoForCCTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForCCTrCh_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* commonCCTrChIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->commonCCTrChIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonCCTrChIdentity", "commonCCTrChIdentity", -1, "MBMS-TranspChInfoForCCTrCh-r6");
+   /* transportFormatCombinationSet */
+   stat = dec_TFCS(ctx, &pvalue->transportFormatCombinationSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "MBMS-TranspChInfoForCCTrCh-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TranspChInfoForCCTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForCCTrCh_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TranspChInfoForCCTrCh_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_TranspChInfoForEachCCTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForEachCCTrCh_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-TranspChInfoForEachCCTrCh-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_TranspChInfoForCCTrCh_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TranspChInfoForCCTrCh_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-TranspChInfoForCCTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachCCTrCh-r6");
+      elem = (MBMS_TranspChInfoForCCTrCh_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_TranspChInfoForCCTrCh_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_TranspChInfoForCCTrCh_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-TranspChInfoForCCTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachCCTrCh-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TranspChInfoForEachCCTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForEachCCTrCh_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TranspChInfoForEachCCTrCh_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_TranspChInfoForTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForTrCh_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* commonTrChIdentity */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->commonTrChIdentity, 1, 32);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-CommonTrChIdentity", "commonTrChIdentity", -1, "MBMS-TranspChInfoForTrCh-r6");
+   /* transportFormatSet */
+   stat = dec_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "MBMS-TranspChInfoForTrCh-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TranspChInfoForTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForTrCh_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TranspChInfoForTrCh_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_TranspChInfoForEachTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForEachTrCh_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-TranspChInfoForEachTrCh-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_TranspChInfoForTrCh_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TranspChInfoForTrCh_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-TranspChInfoForTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachTrCh-r6");
+      elem = (MBMS_TranspChInfoForTrCh_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_TranspChInfoForTrCh_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_TranspChInfoForTrCh_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-TranspChInfoForTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachTrCh-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TranspChInfoForEachTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForEachTrCh_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_TranspChInfoForEachTrCh_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_UnmodifiedService_r6(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedService_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-UnmodifiedService-r6");
+   /* mbms-TransmissionIdentity */
+   stat = dec_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-UnmodifiedService-r6");
+   /* mbms-RequiredUEAction */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->mbms_RequiredUEAction, 0, 2);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-RequiredUEAction-UMod", "mbms-RequiredUEAction", -1, "MBMS-UnmodifiedService-r6");
+   /* mbms-PreferredFrequency */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->mbms_PreferredFrequency, 1, 4);
+      RT_CHECK_AT(ctx, cur, stat, "MBMS-PFLIndex", "mbms-PreferredFrequency", -1, "MBMS-UnmodifiedService-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_UnmodifiedService_r6(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedService_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_UnmodifiedService_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_UnmodifiedServiceList_r6(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedServiceList_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-UnmodifiedServiceList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_UnmodifiedService_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_UnmodifiedService_r6));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-UnmodifiedService-r6", (int32_t)i, "MBMS-UnmodifiedServiceList-r6");
+      elem = (MBMS_UnmodifiedService_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_UnmodifiedService_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_UnmodifiedService_r6(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-UnmodifiedService-r6", (int32_t)i, "MBMS-UnmodifiedServiceList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_UnmodifiedServiceList_r6(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedServiceList_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_UnmodifiedServiceList_r6, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_UnmodifiedService_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedService_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-UnmodifiedService-v770ext");
+   /* mbsfnClusterFrequency */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->mbsfnClusterFrequency, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-UnmodifiedService-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_UnmodifiedService_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedService_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_UnmodifiedService_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBMS_UnmodifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedServiceList_v770ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBMS-UnmodifiedServiceList-v770ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_UnmodifiedService_v770ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_UnmodifiedService_v770ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBMS-UnmodifiedService-v770ext", (int32_t)i, "MBMS-UnmodifiedServiceList-v770ext");
+      elem = (MBMS_UnmodifiedService_v770ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_UnmodifiedService_v770ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBMS_UnmodifiedService_v770ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBMS-UnmodifiedService-v770ext", (int32_t)i, "MBMS-UnmodifiedServiceList-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_UnmodifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedServiceList_v770ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBMS_UnmodifiedServiceList_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand(rtxContext* RT_RESTRICT ctx, MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand(rtxContext* RT_RESTRICT ctx, MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFNservicesNotNotified_r7(rtxContext* RT_RESTRICT ctx, MBSFNservicesNotNotified_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFNservicesNotNotified-r7");
+   /* notificationOfAllMBSFNServicesInTheBand */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "notificationOfAllMBSFNServicesInTheBand", -1, "MBSFNservicesNotNotified-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "notificationOfAllMBSFNServicesInTheBand", -1, "MBSFNservicesNotNotified-r7");
+         pvalue->notificationOfAllMBSFNServicesInTheBand = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNservicesNotNotified_r7(rtxContext* RT_RESTRICT ctx, MBSFNservicesNotNotified_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFNservicesNotNotified_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mbsfnServicesNotified */
+         break;
+      case 1: /* mbsfnServicesNotNotified */
+         pvalue->u.mbsfnServicesNotNotified = (MBSFNservicesNotNotified_r7*)rtxMemHeapAlloc(ctx, sizeof(MBSFNservicesNotNotified_r7));
+         if (pvalue->u.mbsfnServicesNotNotified == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "mbsfnServicesNotNotified", -1, 0);
+         asn1Init_UMTS_MBSFNservicesNotNotified_r7(pvalue->u.mbsfnServicesNotNotified);
+         stat = dec_MBSFNservicesNotNotified_r7(ctx, pvalue->u.mbsfnServicesNotNotified, cur);
+         RT_CHECK(ctx, stat, 0, "mbsfnServicesNotNotified", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFNInterFrequencyNeighbour_r7(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* mbsfnFrequency */
+   stat = dec_FrequencyInfo(ctx, &pvalue->mbsfnFrequency, cur);
+   RT_CHECK(ctx, stat, 0, "mbsfnFrequency", -1, "MBSFNInterFrequencyNeighbour-r7");
+   /* mbsfnServicesNotification */
+   stat = dec_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(ctx, &pvalue->mbsfnServicesNotification, cur);
+   RT_CHECK(ctx, stat, 0, "mbsfnServicesNotification", -1, "MBSFNInterFrequencyNeighbour-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFNInterFrequencyNeighbour_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFNInterFrequencyNeighbour_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_v860ext_imb_Indication* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_v860ext_imb_Indication* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFNInterFrequencyNeighbour_v860ext_imb_Indication, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFNInterFrequencyNeighbour_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFNInterFrequencyNeighbour-v860ext");
+   /* imb-Indication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "imb-Indication", -1, "MBSFNInterFrequencyNeighbour-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "imb-Indication", -1, "MBSFNInterFrequencyNeighbour-v860ext");
+         pvalue->imb_Indication = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFNInterFrequencyNeighbour_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFN_InterFrequencyNeighbourList_r7(rtxContext* RT_RESTRICT ctx, MBSFN_InterFrequencyNeighbourList_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFNInterFrequencyNeighbour_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNInterFrequencyNeighbour_r7));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBSFNInterFrequencyNeighbour-r7", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-r7");
+      elem = (MBSFNInterFrequencyNeighbour_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBSFNInterFrequencyNeighbour_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBSFNInterFrequencyNeighbour_r7(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBSFNInterFrequencyNeighbour-r7", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_InterFrequencyNeighbourList_r7(rtxContext* RT_RESTRICT ctx, MBSFN_InterFrequencyNeighbourList_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFN_InterFrequencyNeighbourList_r7, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFN_InterFrequencyNeighbourList_v860ext(rtxContext* RT_RESTRICT ctx, MBSFN_InterFrequencyNeighbourList_v860ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-v860ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFNInterFrequencyNeighbour_v860ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNInterFrequencyNeighbour_v860ext));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBSFNInterFrequencyNeighbour-v860ext", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-v860ext");
+      elem = (MBSFNInterFrequencyNeighbour_v860ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBSFNInterFrequencyNeighbour_v860ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBSFNInterFrequencyNeighbour_v860ext(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBSFNInterFrequencyNeighbour-v860ext", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_InterFrequencyNeighbourList_v860ext(rtxContext* RT_RESTRICT ctx, MBSFN_InterFrequencyNeighbourList_v860ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFN_InterFrequencyNeighbourList_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFN_TDDTimeSlotInfo(rtxContext* RT_RESTRICT ctx, MBSFN_TDDTimeSlotInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* timeSlotNumber */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->timeSlotNumber, 0, 6);
+   RT_CHECK_AT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeSlotNumber", -1, "MBSFN-TDDTimeSlotInfo");
+   /* cellParametersID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->cellParametersID, 0, 127);
+   RT_CHECK_AT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "MBSFN-TDDTimeSlotInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_TDDTimeSlotInfo(rtxContext* RT_RESTRICT ctx, MBSFN_TDDTimeSlotInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFN_TDDTimeSlotInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFN_TDDInformation(rtxContext* RT_RESTRICT ctx, MBSFN_TDDInformation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFN-TDDInformation");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFN_TDDTimeSlotInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFN_TDDTimeSlotInfo));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBSFN-TDDTimeSlotInfo", (int32_t)i, "MBSFN-TDDInformation");
+      elem = (MBSFN_TDDTimeSlotInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBSFN_TDDTimeSlotInfo(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBSFN-TDDTimeSlotInfo", (int32_t)i, "MBSFN-TDDInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_TDDInformation(rtxContext* RT_RESTRICT ctx, MBSFN_TDDInformation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFN_TDDInformation, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFN_TDDTimeSlotInfo_LCR(rtxContext* RT_RESTRICT ctx, MBSFN_TDDTimeSlotInfo_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* frequencyIndex */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->frequencyIndex, 1, 16);
+   RT_CHECK_AT(ctx, cur, stat, 0, "frequencyIndex", -1, "MBSFN-TDDTimeSlotInfo-LCR");
+   /* timeSlotList */
+   stat = dec_MBSFN_TDDInformation(ctx, &pvalue->timeSlotList, cur);
+   RT_CHECK(ctx, stat, 0, "timeSlotList", -1, "MBSFN-TDDTimeSlotInfo-LCR");
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_TDDTimeSlotInfo_LCR(rtxContext* RT_RESTRICT ctx, MBSFN_TDDTimeSlotInfo_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFN_TDDTimeSlotInfo_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFN_TDDInformation_LCR(rtxContext* RT_RESTRICT ctx, MBSFN_TDDInformation_LCR* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFN-TDDInformation-LCR");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFN_TDDTimeSlotInfo_LCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFN_TDDTimeSlotInfo_LCR));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBSFN-TDDTimeSlotInfo-LCR", (int32_t)i, "MBSFN-TDDInformation-LCR");
+      elem = (MBSFN_TDDTimeSlotInfo_LCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBSFN_TDDTimeSlotInfo_LCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBSFN_TDDTimeSlotInfo_LCR(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBSFN-TDDTimeSlotInfo-LCR", (int32_t)i, "MBSFN-TDDInformation-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_TDDInformation_LCR(rtxContext* RT_RESTRICT ctx, MBSFN_TDDInformation_LCR* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFN_TDDInformation_LCR, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFN_TDM_Info(rtxContext* RT_RESTRICT ctx, MBSFN_TDM_Info* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* shortTransmissionID */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->shortTransmissionID, 1, 64);
+   RT_CHECK_AT(ctx, cur, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBSFN-TDM-Info");
+   /* tDMPeriod */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tDMPeriod, 2, 9);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tDMPeriod", -1, "MBSFN-TDM-Info");
+   /* tDMOffset */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tDMOffset, 0, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tDMOffset", -1, "MBSFN-TDM-Info");
+   /* tDMLength */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->tDMLength, 1, 8);
+   RT_CHECK_AT(ctx, cur, stat, 0, "tDMLength", -1, "MBSFN-TDM-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_TDM_Info(rtxContext* RT_RESTRICT ctx, MBSFN_TDM_Info* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFN_TDM_Info, pvalue);
+}
+
+RT_MERGED_BODY int dec_MBSFN_TDM_Info_List(rtxContext* RT_RESTRICT ctx, MBSFN_TDM_Info_List* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_LengthAt(ctx, cur, &count);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "MBSFN-TDM-Info-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFN_TDM_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFN_TDM_Info));
+      if (node == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "MBSFN-TDM-Info", (int32_t)i, "MBSFN-TDM-Info-List");
+      elem = (MBSFN_TDM_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = dec_MBSFN_TDM_Info(ctx, elem, cur);
+      RT_CHECK(ctx, stat, 0, "MBSFN-TDM-Info", (int32_t)i, "MBSFN-TDM-Info-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_TDM_Info_List(rtxContext* RT_RESTRICT ctx, MBSFN_TDM_Info_List* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_MBSFN_TDM_Info_List, pvalue);
+}
+
+static int dec_ActiveSetUpdate_r3_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 11, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-r3-IEs");
    /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReconfigurationFailure");
-   /* failureCause */
-   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat, 0, "failureCause", -1, "RadioBearerReconfigurationFailure");
-   /* potentiallySuccesfulBearerList */
-   if (present & ((uint32_t)1 << 1)) {
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdate-r3-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 10)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RB_IdentityList(ctx, &pvalue->potentiallySuccesfulBearerList);
-      RT_CHECK(ctx, stat, 0, "potentiallySuccesfulBearerList", -1, "RadioBearerReconfigurationFailure");
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerReconfigurationFailure");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_IEs_dummy_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+      stat = dec_IntegrityProtectionModeInfo(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "ActiveSetUpdate-r3-IEs");
    }
    /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
+   if (present & ((uint32_t)1 << 9)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_IEs_dummy* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerRelease_r3_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r3_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_r3_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerRelease-r3-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r3-IEs");
+      stat = dec_CipheringModeInfo(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, "ActiveSetUpdate-r3-IEs");
    }
    /* activationTime */
-   if (present & ((uint32_t)1 << 21)) {
+   if (present & ((uint32_t)1 << 8)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r3-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r3-IEs");
    }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
+   /* newU-RNTI */
+   if (present & ((uint32_t)1 << 7)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r3-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r3-IEs");
+      stat = dec_U_RNTI(ctx, &pvalue->newU_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r3-IEs");
    }
    /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* signallingConnectionRelIndication */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x80u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
-      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* rb-InformationReleaseList */
-   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r3-IEs");
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
    if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r3-IEs");
+      pvalue->m |= 0x10u;
+      stat = dec_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r3-IEs");
    }
-   /* dl-AddReconfTransChInfoList */
+   /* dummy3 */
    if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfo2List(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r3-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r3-IEs");
+      pvalue->m |= 0x20u;
+      stat = dec_DL_CounterSynchronisationInfo(ctx, &pvalue->dummy3, cur);
+      RT_CHECK(ctx, stat, 0, "dummy3", -1, "ActiveSetUpdate-r3-IEs");
    }
    /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* rl-AdditionInformationList */
    if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x100000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r3-IEs");
+      pvalue->m |= 0x80u;
+      stat = dec_RL_AdditionInformationList(ctx, &pvalue->rl_AdditionInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r3-IEs");
    }
-   /* ul-ChannelRequirement */
+   /* rl-RemovalInformationList */
    if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerRelease-r3-IEs");
+      pvalue->m |= 0x100u;
+      stat = dec_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r3-IEs");
    }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerRelease-r3-IEs");
-   /* dl-CommonInformation */
+   /* tx-DiversityMode */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r3-IEs");
+      pvalue->m |= 0x200u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r3-IEs");
    }
-   /* dl-InformationPerRL-List */
+   /* dummy4 */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r3-IEs");
+      pvalue->m |= 0x400u;
+      stat = dec_SSDT_Information(ctx, &pvalue->dummy4, cur);
+      RT_CHECK(ctx, stat, 0, "dummy4", -1, "ActiveSetUpdate-r3-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_v3a0ext(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v3a0ext* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_r3_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_r3_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v3a0ext");
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-v3a0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v4b0ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-v4b0ext-IEs");
    /* dummy */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "RadioBearerRelease-v4b0ext-IEs");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dummy, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "SSDT-UL", "dummy", -1, "ActiveSetUpdate-v4b0ext-IEs");
    }
    /* cell-id-PerRL-List */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "RadioBearerRelease-v4b0ext-IEs");
+      stat = dec_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "ActiveSetUpdate-v4b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_v590ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v590ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_v590ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v590ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-v590ext-IEs");
+   /* dpc-Mode */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dpc_Mode, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-v590ext-IEs");
    /* dl-TPC-PowerOffsetPerRL-List */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "RadioBearerRelease-v590ext-IEs");
+      stat = dec_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "ActiveSetUpdate-v590ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_v590ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v590ext_IEs* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_v590ext_IEs, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerRelease_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v690ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_ActiveSetUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v690ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-v690ext-IEs");
    /* primary-plmn-Identity */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "RadioBearerRelease-v690ext-IEs");
-   }
-   /* harq-Preamble-Mode */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "RadioBearerRelease-v690ext-IEs");
-   }
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerRelease-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerRelease-v690ext-IEs");
-         pvalue->beaconPLEst = ui;
-      }
-   }
-   /* postVerificationPeriod */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerRelease-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerRelease-v690ext-IEs");
-         pvalue->postVerificationPeriod = ui;
-      }
-   }
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "RadioBearerRelease-v690ext-IEs");
-   }
-   /* timingMaintainedSynchInd */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerRelease-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerRelease-v690ext-IEs");
-         pvalue->timingMaintainedSynchInd = ui;
-      }
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x40u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-v690ext-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   /* mbms-RB-ListReleasedToChangeTransferMode */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
-      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-v690ext-IEs");
+      pvalue->m |= 0x1u;
+      stat = dec_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "ActiveSetUpdate-v690ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v770ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_v690ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v770ext-IEs");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-v770ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-v770ext-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v770ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v770ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v690ext */
+   stat = dec_ActiveSetUpdate_v690ext_IEs(ctx, &pvalue->activeSetUpdate_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v690ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v690ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v690ext_IEs(ctx, &pvalue->radioBearerRelease_v690ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v590ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v590ext_IEs(ctx, &pvalue->radioBearerRelease_v590ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v590ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v590ext */
+   stat = dec_ActiveSetUpdate_v590ext_IEs(ctx, &pvalue->activeSetUpdate_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v590ext", -1, 0);
    /* v690NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v4b0ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v4b0ext_IEs(ctx, &pvalue->radioBearerRelease_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v4b0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v4b0ext */
+   stat = dec_ActiveSetUpdate_v4b0ext_IEs(ctx, &pvalue->activeSetUpdate_v4b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v4b0ext", -1, 0);
    /* v590NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-r3-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r3-add-ext", -1, 0);
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->activeSetUpdate_r3_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "activeSetUpdate-r3-add-ext", -1, 0);
    }
    /* v4b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_r3_laterNonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_r3(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v3a0ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v3a0ext(ctx, &pvalue->radioBearerRelease_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v3a0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r3 */
+   stat = dec_ActiveSetUpdate_r3_IEs(ctx, &pvalue->activeSetUpdate_r3, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r3", -1, 0);
    /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_r3(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_r3(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_r3, pvalue);
+}
+
+static int dec_ActiveSetUpdate_r6_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r6_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-r3 */
-   stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs(ctx, &pvalue->radioBearerRelease_r3);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r3", -1, 0);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r4_IEs_dummy* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerRelease_r4_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r4_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_r4_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r4_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r4_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 25);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r4-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 24)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r4-IEs");
-   }
+   stat = rtxDecBitsAt(ctx, cur, 13, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-r6-IEs");
    /* activationTime */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r4-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x40u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* signallingConnectionRelIndication */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x100u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
-      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* rb-InformationReleaseList */
-   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r4-IEs");
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
    if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r4-IEs");
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r6-IEs");
    }
-   /* ul-CommonTransChInfo */
+   /* newU-RNTI */
    if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r4-IEs");
+      pvalue->m |= 0x2u;
+      stat = dec_U_RNTI(ctx, &pvalue->newU_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r6-IEs");
    }
-   /* ul-deletedTransChInfoList */
+   /* newH-RNTI */
    if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x200000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerRelease-r4-IEs");
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r4-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r4-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v770ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v690ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v690ext_IEs(ctx, &pvalue->radioBearerRelease_v690ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v590ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v590ext_IEs(ctx, &pvalue->radioBearerRelease_v590ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r4_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r4-add-ext", -1, 0);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-r4 */
-   stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs(ctx, &pvalue->radioBearerRelease_r4);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r4", -1, 0);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r5_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r5_IEs_dummy_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r5_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r5_IEs_dummy* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerRelease_r5_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r5_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_r5_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r5_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r5_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 27);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r5-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 26)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 25)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 24)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r5-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x80u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* signallingConnectionRelIndication */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x200u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
-      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* rb-InformationReleaseList */
-   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r5-IEs");
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x400000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerRelease-r5-IEs");
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r5-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r5-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v770ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v690ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v690ext_IEs(ctx, &pvalue->radioBearerRelease_v690ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-r5 */
-   stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs(ctx, &pvalue->radioBearerRelease_r5);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r5", -1, 0);
-   /* radioBearerRelease-r5-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r5_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r5-add-ext", -1, 0);
-   }
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r6_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r6_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r6-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 31)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 30)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 29)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 28)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 27)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 26)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 25)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r6-IEs");
+      stat = dec_H_RNTI(ctx, &pvalue->newH_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r6-IEs");
    }
    /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 24)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerRelease-r6-IEs");
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x8u;
+      stat = dec_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r6-IEs");
    }
    /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r6-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x200u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r6-IEs");
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x10u;
+      stat = dec_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r6-IEs");
    }
    /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* signallingConnectionRelIndication */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x800u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
-      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* rb-InformationReleaseList */
-   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r6-IEs");
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r6-IEs");
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x20u;
+      stat = dec_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r6-IEs");
    }
    /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x1000000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r6-IEs");
-   }
-   /* ul-DPCH-Info */
    if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerRelease-r6-IEs");
+      pvalue->m |= 0x40u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r6-IEs");
    }
-   /* ul-EDCH-Information */
+   /* rl-AdditionInformationList */
    if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-r6-IEs");
+      pvalue->m |= 0x80u;
+      stat = dec_RL_AdditionInformationList_r6(ctx, &pvalue->rl_AdditionInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r6-IEs");
    }
-   /* dl-HSPDSCH-Information */
+   /* rl-RemovalInformationList */
    if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r6-IEs");
+      pvalue->m |= 0x100u;
+      stat = dec_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r6-IEs");
    }
-   /* dl-CommonInformation */
+   /* tx-DiversityMode */
    if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r6-IEs");
+      pvalue->m |= 0x200u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r6-IEs");
    }
-   /* dl-InformationPerRL-List */
+   /* dpc-Mode */
    if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r6-IEs");
+      pvalue->m |= 0x400u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dpc_Mode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r6-IEs");
    }
-   /* mbms-PL-ServiceRestrictInfo */
+   /* serving-HSDSCH-CellInformation */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x40000000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r6-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r6-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
+      pvalue->m |= 0x800u;
+      stat = dec_Serving_HSDSCH_CellInformation(ctx, &pvalue->serving_HSDSCH_CellInformation, cur);
+      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r6-IEs");
    }
-   /* mbms-RB-ListReleasedToChangeTransferMode */
+   /* e-dch-ReconfigurationInfo */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
-      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-r6-IEs");
+      pvalue->m |= 0x1000u;
+      stat = dec_E_DCH_ReconfigurationInfo(ctx, &pvalue->e_dch_ReconfigurationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r6-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v6b0ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_r6_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r6_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_r6_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v6b0ext-IEs");
-   /* dl-InformationPerRL-List-v6b0ext */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-v6b0ext-IEs");
+   /* rl-AdditionInformation-list-v6b0ext */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "RadioBearerRelease-v6b0ext-IEs");
+      stat = dec_RL_AdditionInformation_list_v6b0ext(ctx, &pvalue->rl_AdditionInformation_list_v6b0ext, cur);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformation-list-v6b0ext", -1, "ActiveSetUpdate-v6b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_v6b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v770ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v770ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v6b0ext */
+   stat = dec_ActiveSetUpdate_v6b0ext_IEs(ctx, &pvalue->activeSetUpdate_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v6b0ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v6b0ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v6b0ext_IEs(ctx, &pvalue->radioBearerRelease_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v6b0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-r6 */
-   stat = asn1PD_UMTS_RadioBearerRelease_r6_IEs(ctx, &pvalue->radioBearerRelease_r6);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r6", -1, 0);
-   /* radioBearerRelease-r6-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r6 */
+   stat = dec_ActiveSetUpdate_r6_IEs(ctx, &pvalue->activeSetUpdate_r6, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r6", -1, 0);
+   /* activeSetUpdate-r6-add-ext */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r6_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r6-add-ext", -1, 0);
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->activeSetUpdate_r6_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "activeSetUpdate-r6-add-ext", -1, 0);
    }
    /* v6b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_r7_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r7_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint64_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 7);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r7-IEs");
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r7-IEs");
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 38)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 37)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 36)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 35)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 34)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 33)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 32)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 31)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 30)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r7-IEs");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint64_t)1 << 29)) {
-      pvalue->m |= 0x200u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r7-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r7-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 28)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 27)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* signallingConnectionRelIndication */
-   if (present & ((uint64_t)1 << 26)) {
-      pvalue->m |= 0x1000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
-      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 25)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 24)) {
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint64_t)1 << 23)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* rb-InformationReleaseList */
-   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r7-IEs");
-   /* rb-InformationReconfigList */
-   if (present & ((uint64_t)1 << 22)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint64_t)1 << 21)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 20)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 19)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint64_t)1 << 18)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 17)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 16)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint64_t)1 << 15)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 14)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 12)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 11)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 10)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 9)) {
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 8)) {
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 7)) {
-      pvalue->m |= 0x80000000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 6)) {
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 5)) {
-      pvalue->m |= 0x200000000ull;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 4)) {
-      pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 3)) {
-      pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 2)) {
-      pvalue->m |= 0x1000000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r7-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 1)) {
-      pvalue->m |= 0x2000000000ull;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r7-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r7-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   /* mbms-RB-ListReleasedToChangeTransferMode */
-   if (present & ((uint64_t)1 << 0)) {
-      pvalue->m |= 0x4000000000ull;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
-      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-r7-IEs");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_r6, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerRelease_v780ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v780ext_IEs* RT_RESTRICT pvalue)
+static int dec_ActiveSetUpdate_r7_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r7_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v780ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 21, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-r7-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* newU-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x2u;
+      stat = dec_U_RNTI(ctx, &pvalue->newU_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* newH-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x4u;
+      stat = dec_H_RNTI(ctx, &pvalue->newH_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x8u;
+      stat = dec_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x10u;
+      stat = dec_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x20u;
+      stat = dec_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x40u;
+      stat = dec_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x80u;
+      stat = dec_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x100u;
+      stat = dec_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x200u;
+      stat = dec_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x800u;
+      stat = dec_RL_AdditionInformationList_r7(ctx, &pvalue->rl_AdditionInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* rl-RemovalInformationList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1000u;
+      stat = dec_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2000u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* dpc-Mode */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4000u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dpc_Mode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* serving-HSDSCH-CellInformation */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8000u;
+      stat = dec_Serving_HSDSCH_CellInformation_r7(ctx, &pvalue->serving_HSDSCH_CellInformation, cur);
+      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* e-dch-ReconfigurationInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10000u;
+      stat = dec_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* ul-16QAM-Config */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20000u;
+      stat = dec_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config, cur);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* e-dch-ReconfInfoSameCell */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40000u;
+      stat = dec_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* e-TFC-Boost-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80000u;
+      stat = dec_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100000u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK_AT(ctx, cur, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r7_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r7_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_r7_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_v780ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v780ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-v780ext-IEs");
    /* hs-DSCH-TBSizeTable */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerRelease-v780ext-IEs");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "ActiveSetUpdate-v780ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerRelease-v780ext-IEs");
+         RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "ActiveSetUpdate-v780ext-IEs");
          pvalue->hs_DSCH_TBSizeTable = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v7d0ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_v780ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v780ext_IEs* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v7d0ext-IEs");
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-v7d0ext-IEs");
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_v780ext_IEs, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerRelease_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v7f0ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_ActiveSetUpdate_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v7f0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v7f0ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-v7f0ext-IEs");
    /* mimoParameters */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-v7f0ext-IEs");
+      stat = dec_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v7f0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v7g0ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_v7f0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v7g0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v7g0ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-v7g0ext-IEs");
    /* mimoParameters */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-v7g0ext-IEs");
+      stat = dec_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v7g0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_v7g0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v7g0ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v7g0ext_IEs(ctx, &pvalue->radioBearerRelease_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7g0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUdpate-v7g0ext */
+   stat = dec_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUdpate_v7g0ext, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUdpate-v7g0ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v7f0ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v7f0ext_IEs(ctx, &pvalue->radioBearerRelease_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7f0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUdpate-v7f0ext */
+   stat = dec_ActiveSetUpdate_v7f0ext_IEs(ctx, &pvalue->activeSetUdpate_v7f0ext, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUdpate-v7f0ext", -1, 0);
    /* v7g0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v7d0ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v7d0ext_IEs(ctx, &pvalue->radioBearerRelease_v7d0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7d0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v780ext */
+   stat = dec_ActiveSetUpdate_v780ext_IEs(ctx, &pvalue->activeSetUpdate_v780ext, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v780ext", -1, 0);
    /* v7f0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v780ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v780ext_IEs(ctx, &pvalue->radioBearerRelease_v780ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v780ext", -1, 0);
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-r7 */
-   stat = asn1PD_UMTS_RadioBearerRelease_r7_IEs(ctx, &pvalue->radioBearerRelease_r7);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r7", -1, 0);
-   /* radioBearerRelease-r7-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r7 */
+   stat = dec_ActiveSetUpdate_r7_IEs(ctx, &pvalue->activeSetUpdate_r7, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r7", -1, 0);
+   /* activeSetUpdate-r7-add-ext */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r7_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r7-add-ext", -1, 0);
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->activeSetUpdate_r7_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "activeSetUpdate-r7-add-ext", -1, 0);
    }
    /* v780NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_r8_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r8_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7, pvalue);
+}
+
+static int dec_ActiveSetUpdate_r8_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r8_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint64_t present;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 10);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r8-IEs");
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r8-IEs");
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 41)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 40)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r8-IEs");
-   }
+   stat = rtxDecBitsAt(ctx, cur, 23, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-r8-IEs");
    /* activationTime */
-   if (present & ((uint64_t)1 << 39)) {
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* newU-RNTI */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x2u;
+      stat = dec_U_RNTI(ctx, &pvalue->newU_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* newH-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 38)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 37)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 36)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 35)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r8-IEs");
+      stat = dec_H_RNTI(ctx, &pvalue->newH_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r8-IEs");
    }
    /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 34)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x8u;
+      stat = dec_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r8-IEs");
    }
    /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 33)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r8-IEs");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint64_t)1 << 32)) {
-      pvalue->m |= 0x200u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r8-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r8-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 31)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r8-IEs");
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x10u;
+      stat = dec_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r8-IEs");
    }
    /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 30)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* signallingConnectionRelIndication */
-   if (present & ((uint64_t)1 << 29)) {
-      pvalue->m |= 0x1000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
-      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 28)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 27)) {
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint64_t)1 << 26)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* rb-InformationReleaseList */
-   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r8-IEs");
-   /* rb-InformationReconfigList */
-   if (present & ((uint64_t)1 << 25)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint64_t)1 << 24)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 23)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 22)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint64_t)1 << 21)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 20)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 19)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint64_t)1 << 18)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 17)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 16)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerRelease-r8-IEs");
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x20u;
+      stat = dec_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r8-IEs");
    }
    /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 14)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerRelease-r8-IEs");
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x40u;
+      stat = dec_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r8-IEs");
    }
    /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 13)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerRelease-r8-IEs");
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x80u;
+      stat = dec_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r8-IEs");
    }
    /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 12)) {
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerRelease-r8-IEs");
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x100u;
+      stat = dec_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r8-IEs");
    }
    /* mimoParameters */
-   if (present & ((uint64_t)1 << 11)) {
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-r8-IEs");
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x200u;
+      stat = dec_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r8-IEs");
    }
    /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 10)) {
-      pvalue->m |= 0x80000000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r8-IEs");
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r8-IEs");
    }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 9)) {
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerRelease-r8-IEs");
+   /* rl-AdditionInformationList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x800u;
+      stat = dec_RL_AdditionInformationList_r8(ctx, &pvalue->rl_AdditionInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r8-IEs");
    }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 8)) {
-      pvalue->m |= 0x200000000ull;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-r8-IEs");
+   /* servingCellChangeParameters */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x1000u;
+      stat = dec_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters, cur);
+      RT_CHECK(ctx, stat, 0, "servingCellChangeParameters", -1, "ActiveSetUpdate-r8-IEs");
    }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r8-IEs");
+   /* rl-RemovalInformationList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x2000u;
+      stat = dec_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r8-IEs");
    }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 6)) {
-      pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r8-IEs");
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x4000u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r8-IEs");
    }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 5)) {
-      pvalue->m |= 0x1000000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r8-IEs");
+   /* dpc-Mode */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x8000u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dpc_Mode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* serving-HSDSCH-CellInformation */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x10000u;
+      stat = dec_Serving_HSDSCH_CellInformation_r8(ctx, &pvalue->serving_HSDSCH_CellInformation, cur);
+      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* e-dch-ReconfigurationInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x20000u;
+      stat = dec_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* ul-16QAM-Config */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x40000u;
+      stat = dec_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config, cur);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* e-dch-ReconfInfoSameCell */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x80000u;
+      stat = dec_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* e-TFC-Boost-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x100000u;
+      stat = dec_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x200000u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK_AT(ctx, cur, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r8-IEs");
    }
    /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 4)) {
-      pvalue->m |= 0x2000000000ull;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 3)) {
-      pvalue->m |= 0x4000000000ull;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 2)) {
-      pvalue->m |= 0x8000000000ull;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerRelease-r8-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 1)) {
-      pvalue->m |= 0x10000000000ull;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r8-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r8-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   /* mbms-RB-ListReleasedToChangeTransferMode */
-   if (present & ((uint64_t)1 << 0)) {
-      pvalue->m |= 0x20000000000ull;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
-      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-r8-IEs");
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x400000u;
+      stat = dec_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r8-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_v890ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v890ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_r8_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r8_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_r8_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_v890ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v890ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v890ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-v890ext-IEs");
    /* dl-SecondaryCellInfoFDD-v890ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext, cur);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "ActiveSetUpdate-v890ext-IEs");
+   }
+   /* mimoParameters */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "RadioBearerRelease-v890ext-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-v890ext-IEs");
+      stat = dec_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v890ext-IEs");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v8a0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v8a0ext-IEs");
-   /* dl-HSPDSCH-Information */
+   /* rl-AdditionInformationList */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-v8a0ext-IEs");
+      pvalue->m |= 0x4u;
+      stat = dec_RL_AdditionInformationList_v890ext(ctx, &pvalue->rl_AdditionInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-v890ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_v890ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_v890ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v8a0ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v8a0ext_IEs(ctx, &pvalue->radioBearerRelease_v8a0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v8a0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v7g0ext */
+   stat = dec_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUpdate_v7g0ext, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v7g0ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v7g0ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v7g0ext_IEs(ctx, &pvalue->radioBearerRelease_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7g0ext", -1, 0);
-   /* v8a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v890ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v890ext_IEs(ctx, &pvalue->radioBearerRelease_v890ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v890ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v890ext */
+   stat = dec_ActiveSetUpdate_v890ext_IEs(ctx, &pvalue->activeSetUpdate_v890ext, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v890ext", -1, 0);
    /* v7g0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v7f0ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v7f0ext_IEs(ctx, &pvalue->radioBearerRelease_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7f0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r8 */
+   stat = dec_ActiveSetUpdate_r8_IEs(ctx, &pvalue->activeSetUpdate_r8, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r8", -1, 0);
+   /* activeSetUpdate-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->activeSetUpdate_r8_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "activeSetUpdate-r8-add-ext", -1, 0);
+   }
    /* v890NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      pvalue->m |= 0x2u;
+      stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8, pvalue);
+}
+
+static int dec_ActiveSetUpdate_r9_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r9_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-v7d0ext */
-   stat = asn1PD_UMTS_RadioBearerRelease_v7d0ext_IEs(ctx, &pvalue->radioBearerRelease_v7d0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7d0ext", -1, 0);
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-r8 */
-   stat = asn1PD_UMTS_RadioBearerRelease_r8_IEs(ctx, &pvalue->radioBearerRelease_r8);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r8", -1, 0);
-   /* radioBearerRelease-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r8_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r8-add-ext", -1, 0);
-   }
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r9_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r9_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint64_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 11);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r9-IEs");
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r9-IEs");
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 42)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 41)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r9-IEs");
-   }
+   stat = rtxDecBitsAt(ctx, cur, 27, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate-r9-IEs");
    /* activationTime */
-   if (present & ((uint64_t)1 << 40)) {
+   if (present & ((uint32_t)1 << 26)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* newU-RNTI */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x2u;
+      stat = dec_U_RNTI(ctx, &pvalue->newU_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* newH-RNTI */
+   if (present & ((uint32_t)1 << 24)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 39)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 38)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 37)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 36)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r9-IEs");
+      stat = dec_H_RNTI(ctx, &pvalue->newH_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r9-IEs");
    }
    /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 35)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x8u;
+      stat = dec_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r9-IEs");
    }
    /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 34)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r9-IEs");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint64_t)1 << 33)) {
-      pvalue->m |= 0x200u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r9-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r9-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 32)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r9-IEs");
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x10u;
+      stat = dec_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r9-IEs");
    }
    /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 31)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* signallingConnectionRelIndication */
-   if (present & ((uint64_t)1 << 30)) {
-      pvalue->m |= 0x1000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
-      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 29)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 28)) {
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint64_t)1 << 27)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* rb-InformationReleaseList */
-   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r9-IEs");
-   /* rb-InformationReconfigList */
-   if (present & ((uint64_t)1 << 26)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint64_t)1 << 25)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 24)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 23)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint64_t)1 << 22)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 21)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 20)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint64_t)1 << 19)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 18)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 17)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 16)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerRelease-r9-IEs");
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x20u;
+      stat = dec_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r9-IEs");
    }
    /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerRelease-r9-IEs");
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x40u;
+      stat = dec_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r9-IEs");
    }
    /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 14)) {
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerRelease-r9-IEs");
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x80u;
+      stat = dec_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r9-IEs");
    }
    /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerRelease-r9-IEs");
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x100u;
+      stat = dec_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r9-IEs");
    }
    /* mimoParameters */
-   if (present & ((uint64_t)1 << 12)) {
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-r9-IEs");
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x200u;
+      stat = dec_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r9-IEs");
    }
    /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 11)) {
-      pvalue->m |= 0x80000000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 10)) {
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 9)) {
-      pvalue->m |= 0x200000000ull;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-r9-IEs");
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r9-IEs");
    }
    /* ul-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 8)) {
-      pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "RadioBearerRelease-r9-IEs");
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x800u;
+      stat = dec_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r9-IEs");
    }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r9-IEs");
+   /* e-dch-ReconfigurationInfo-SecULFrequency */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x1000u;
+      stat = dec_E_DCH_ReconfigurationInfo_SecULFrequency(ctx, &pvalue->e_dch_ReconfigurationInfo_SecULFrequency, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo-SecULFrequency", -1, "ActiveSetUpdate-r9-IEs");
    }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 6)) {
-      pvalue->m |= 0x1000000000ull;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r9-IEs");
+   /* rl-AdditionInformationList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x2000u;
+      stat = dec_RL_AdditionInformationList_r9(ctx, &pvalue->rl_AdditionInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r9-IEs");
    }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 5)) {
-      pvalue->m |= 0x2000000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r9-IEs");
+   /* rl-AdditionInformationList-SecULFreq */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x4000u;
+      stat = dec_RL_AdditionInformationList_SecULFreq(ctx, &pvalue->rl_AdditionInformationList_SecULFreq, cur);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList-SecULFreq", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* servingCellChangeParameters */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x8000u;
+      stat = dec_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters, cur);
+      RT_CHECK(ctx, stat, 0, "servingCellChangeParameters", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* rl-RemovalInformationList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x10000u;
+      stat = dec_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* rl-RemovalInformationList-SecULFreq */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x20000u;
+      stat = dec_RL_RemovalInformationList_SecULFreq(ctx, &pvalue->rl_RemovalInformationList_SecULFreq, cur);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList-SecULFreq", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x40000u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* dpc-Mode */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x80000u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dpc_Mode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* serving-HSDSCH-CellInformation */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x100000u;
+      stat = dec_Serving_HSDSCH_CellInformation_r9(ctx, &pvalue->serving_HSDSCH_CellInformation, cur);
+      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-dch-ReconfigurationInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x200000u;
+      stat = dec_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* ul-16QAM-Config */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x400000u;
+      stat = dec_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config, cur);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-dch-ReconfInfoSameCell */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x800000u;
+      stat = dec_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-TFC-Boost-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1000000u;
+      stat = dec_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2000000u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK_AT(ctx, cur, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r9-IEs");
    }
    /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 4)) {
-      pvalue->m |= 0x4000000000ull;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 3)) {
-      pvalue->m |= 0x8000000000ull;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 2)) {
-      pvalue->m |= 0x10000000000ull;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerRelease-r9-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 1)) {
-      pvalue->m |= 0x20000000000ull;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r9-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r9-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   /* mbms-RB-ListReleasedToChangeTransferMode */
-   if (present & ((uint64_t)1 << 0)) {
-      pvalue->m |= 0x40000000000ull;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
-      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-r9-IEs");
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4000000u;
+      stat = dec_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r9-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_r9_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r9_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_r9_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerRelease-r9 */
-   stat = asn1PD_UMTS_RadioBearerRelease_r9_IEs(ctx, &pvalue->radioBearerRelease_r9);
-   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r9", -1, 0);
-   /* radioBearerRelease-r9-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r9 */
+   stat = dec_ActiveSetUpdate_r9_IEs(ctx, &pvalue->activeSetUpdate_r9, cur);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r9", -1, 0);
+   /* activeSetUpdate-r9-add-ext */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r9_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r9-add-ext", -1, 0);
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->activeSetUpdate_r9_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "activeSetUpdate-r9-add-ext", -1, 0);
    }
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* r9 */
-         pvalue->u.r9 = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         pvalue->u.r9 = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9, cur);
          RT_CHECK(ctx, stat, 0, "r9", -1, 0);
          break;
       case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions, cur);
          RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* r8 */
-         pvalue->u.r8 = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         pvalue->u.r8 = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8, cur);
          RT_CHECK(ctx, stat, 0, "r8", -1, 0);
          break;
       case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions, cur);
          RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions, pvalue);
+}
+
+static int dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* r7 */
-         pvalue->u.r7 = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         pvalue->u.r7 = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7, cur);
          RT_CHECK(ctx, stat, 0, "r7", -1, 0);
          break;
       case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions, cur);
          RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* r6 */
-         pvalue->u.r6 = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         pvalue->u.r6 = (ActiveSetUpdate_later_than_r3_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(pvalue->u.r6);
+         stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(ctx, pvalue->u.r6, cur);
          RT_CHECK(ctx, stat, 0, "r6", -1, 0);
          break;
       case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions, cur);
          RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r5 */
-         pvalue->u.r5 = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5));
-         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3_criticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r4 */
-         pvalue->u.r4 = (RadioBearerRelease_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_ActiveSetUpdate_later_than_r3(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
    /* criticalExtensions */
-   stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   stat = dec_ActiveSetUpdate_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions, cur);
    RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerRelease(rtxContext* RT_RESTRICT ctx, RadioBearerRelease* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate_later_than_r3, pvalue);
+}
+
+static int dec_ActiveSetUpdate(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease");
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdate");
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* r3 */
-         pvalue->u.r3 = (RadioBearerRelease_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RadioBearerRelease");
-         asn1Init_UMTS_RadioBearerRelease_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_RadioBearerRelease_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "RadioBearerRelease");
+         pvalue->u.r3 = (ActiveSetUpdate_r3*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "r3", -1, "ActiveSetUpdate");
+         asn1Init_UMTS_ActiveSetUpdate_r3(pvalue->u.r3);
+         stat = dec_ActiveSetUpdate_r3(ctx, pvalue->u.r3, cur);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "ActiveSetUpdate");
          break;
       case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (RadioBearerRelease_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "RadioBearerRelease");
-         asn1Init_UMTS_RadioBearerRelease_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RadioBearerRelease");
+         pvalue->u.later_than_r3 = (ActiveSetUpdate_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "later-than-r3", -1, "ActiveSetUpdate");
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3(pvalue->u.later_than_r3);
+         stat = dec_ActiveSetUpdate_later_than_r3(ctx, pvalue->u.later_than_r3, cur);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "ActiveSetUpdate");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RadioBearerRelease");
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ActiveSetUpdate");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReleaseComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete_v770ext_IEs_deferredMeasurementControlReading* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdate(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate* RT_RESTRICT pvalue)
 {
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdate, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReleaseComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete_v770ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdateComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReleaseComplete-v770ext-IEs");
-   /* ext-UL-TimingAdvance */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdateComplete-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "RadioBearerReleaseComplete-v770ext-IEs");
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->activeSetUpdateComplete_r3_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "activeSetUpdateComplete-r3-add-ext", -1, 0);
    }
-   /* deferredMeasurementControlReading */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerReleaseComplete-v770ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerReleaseComplete-v770ext-IEs");
-         pvalue->deferredMeasurementControlReading = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReleaseComplete-v770ext */
-   stat = asn1PD_UMTS_RadioBearerReleaseComplete_v770ext_IEs(ctx, &pvalue->radioBearerReleaseComplete_v770ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerReleaseComplete-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      pvalue->m |= 0x2u;
+      stat = dec_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReleaseComplete-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReleaseComplete_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerReleaseComplete-r3-add-ext", -1, 0);
-   }
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdateComplete_laterNonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerReleaseComplete(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_ActiveSetUpdateComplete(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReleaseComplete");
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdateComplete");
    /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReleaseComplete");
-   /* ul-IntegProtActivationInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
-      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "RadioBearerReleaseComplete");
-   }
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "RadioBearerReleaseComplete");
-   }
-   /* count-C-ActivationTime */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "RadioBearerReleaseComplete");
-   }
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateComplete");
    /* dummy */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerReleaseComplete");
-   }
-   /* ul-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "RadioBearerReleaseComplete");
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerReleaseComplete");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReleaseFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReleaseFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerReleaseFailure-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReleaseFailure_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerReleaseFailure-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReleaseFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReleaseFailure(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseFailure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReleaseFailure");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReleaseFailure");
-   /* failureCause */
-   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat, 0, "failureCause", -1, "RadioBearerReleaseFailure");
-   /* potentiallySuccesfulBearerList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RB_IdentityList(ctx, &pvalue->potentiallySuccesfulBearerList);
-      RT_CHECK(ctx, stat, 0, "potentiallySuccesfulBearerList", -1, "RadioBearerReleaseFailure");
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReleaseFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerReleaseFailure");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r3_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_IEs_dummy_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+      stat = dec_IntegrityProtActivationInfo(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "ActiveSetUpdateComplete");
    }
    /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r3_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_IEs_dummy* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerSetup_r3_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r3_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_r3_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerSetup_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r3_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerSetup-r3-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r3-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* srb-InformationSetupList */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r3_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x100000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* ul-ChannelRequirement */
    if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PD_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerSetup-r3-IEs");
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r3-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r3-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_v3a0ext(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v3a0ext");
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-v3a0ext");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v4b0ext-IEs");
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "RadioBearerSetup-v4b0ext-IEs");
-   }
-   /* cell-id-PerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "RadioBearerSetup-v4b0ext-IEs");
+      stat = dec_RB_ActivationTimeInfoList(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, "ActiveSetUpdateComplete");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_v590ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v590ext-IEs");
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "RadioBearerSetup-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v5d0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v5d0ext-IEs");
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerSetup-v5d0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v690ext-IEs");
-   /* primary-plmn-Identity */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "RadioBearerSetup-v690ext-IEs");
-   }
-   /* harq-Preamble-Mode */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "RadioBearerSetup-v690ext-IEs");
-   }
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 5)) {
+   /* dummy3 */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerSetup-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerSetup-v690ext-IEs");
-         pvalue->beaconPLEst = ui;
-      }
+      stat = dec_UL_CounterSynchronisationInfo(ctx, &pvalue->dummy3, cur);
+      RT_CHECK(ctx, stat, 0, "dummy3", -1, "ActiveSetUpdateComplete");
    }
-   /* postVerificationPeriod */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerSetup-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerSetup-v690ext-IEs");
-         pvalue->postVerificationPeriod = ui;
-      }
-   }
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x10u;
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "RadioBearerSetup-v690ext-IEs");
-   }
-   /* timingMaintainedSynchInd */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerSetup-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerSetup-v690ext-IEs");
-         pvalue->timingMaintainedSynchInd = ui;
-      }
-   }
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r6_ext(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-v690ext-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
+   /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x80u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-v690ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-v690ext-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
+      pvalue->m |= 0x8u;
+      stat = dec_ActiveSetUpdateComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "ActiveSetUpdateComplete");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdateComplete(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdateComplete, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdateFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v690ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v690ext_IEs(ctx, &pvalue->radioBearerSetup_v690ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v690ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* activeSetUpdateFailure-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->activeSetUpdateFailure_r3_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "activeSetUpdateFailure-r3-add-ext", -1, 0);
+   }
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      pvalue->m |= 0x2u;
+      stat = dec_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdateFailure_laterNonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_ActiveSetUpdateFailure(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v5d0ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v5d0ext_IEs(ctx, &pvalue->radioBearerSetup_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "ActiveSetUpdateFailure");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateFailure");
+   /* failureCause */
+   stat = dec_FailureCauseWithProtErr(ctx, &pvalue->failureCause, cur);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "ActiveSetUpdateFailure");
+   /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+      stat = dec_ActiveSetUpdateFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "ActiveSetUpdateFailure");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_ActiveSetUpdateFailure(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v590ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v590ext_IEs(ctx, &pvalue->radioBearerSetup_v590ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v590ext", -1, 0);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_ActiveSetUpdateFailure, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v4b0ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v4b0ext_IEs(ctx, &pvalue->radioBearerSetup_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v4b0ext", -1, 0);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-r3-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AssistanceDataDelivery-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "AssistanceDataDelivery-r3-IEs");
+   /* ue-positioning-GPS-AssistanceData */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetup_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r3-add-ext", -1, 0);
+      stat = dec_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "AssistanceDataDelivery-r3-IEs");
+   }
+   /* ue-positioning-OTDOA-AssistanceData-UEB */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "AssistanceDataDelivery-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_r3_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_r3_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_v3a0ext(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AssistanceDataDelivery-v3a0ext");
+   /* sfn-Offset-Validity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "AssistanceDataDelivery-v3a0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "AssistanceDataDelivery-v3a0ext");
+         pvalue->sfn_Offset_Validity = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_v3a0ext(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v3a0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_v3a0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AssistanceDataDelivery-v4b0ext-IEs");
+   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-r4ext", -1, "AssistanceDataDelivery-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_v770ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AssistanceDataDelivery-v770ext-IEs");
+   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-UEB-ext", -1, "AssistanceDataDelivery-v770ext-IEs");
+   }
+   /* ue-Positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GPS_AssistanceData_v770ext(ctx, &pvalue->ue_Positioning_GPS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GPS-AssistanceData", -1, "AssistanceDataDelivery-v770ext-IEs");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "AssistanceDataDelivery-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_v770ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_v860ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AssistanceDataDelivery-v860ext-IEs");
+   /* ue-positioning-GANSS-AssistanceData-v860ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GANSS_AssistanceData_v860ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v860ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData-v860ext", -1, "AssistanceDataDelivery-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_v860ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_v920ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v920ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AssistanceDataDelivery-v920ext-IEs");
+   /* ue-positioning-GPS-AssistanceData-v920ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData_v920ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData-v920ext", -1, "AssistanceDataDelivery-v920ext-IEs");
+   }
+   /* ue-positioning-GANSS-AssistanceData-v920ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v920ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData-v920ext", -1, "AssistanceDataDelivery-v920ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_v920ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_v920ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v920ext */
+   stat = dec_AssistanceDataDelivery_v920ext_IEs(ctx, &pvalue->assistanceDataDelivery_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension, pvalue);
+}
+
+static int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v860ext */
+   stat = dec_AssistanceDataDelivery_v860ext_IEs(ctx, &pvalue->assistanceDataDelivery_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v860ext", -1, 0);
+   /* v920NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(ctx, &pvalue->v920NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v770ext */
+   stat = dec_AssistanceDataDelivery_v770ext_IEs(ctx, &pvalue->assistanceDataDelivery_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v770ext", -1, 0);
+   /* v860NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(ctx, &pvalue->v860NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v4b0ext */
+   stat = dec_AssistanceDataDelivery_v4b0ext_IEs(ctx, &pvalue->assistanceDataDelivery_v4b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v4b0ext", -1, 0);
+   /* v770NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->assistanceDataDelivery_r3_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "assistanceDataDelivery-r3-add-ext", -1, 0);
    }
    /* v4b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      stat = dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v3a0ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v3a0ext(ctx, &pvalue->radioBearerSetup_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v3a0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v3a0ext */
+   stat = dec_AssistanceDataDelivery_v3a0ext(ctx, &pvalue->assistanceDataDelivery_v3a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v3a0ext", -1, 0);
    /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      stat = dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r3(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_r3(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-r3 */
-   stat = asn1PD_UMTS_RadioBearerSetup_r3_IEs(ctx, &pvalue->radioBearerSetup_r3);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r3", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-r3 */
+   stat = dec_AssistanceDataDelivery_r3_IEs(ctx, &pvalue->assistanceDataDelivery_r3, cur);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-r3", -1, 0);
    /* v3a0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      stat = dec_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_r3(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_r3, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_later_than_r3_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r4_IEs_dummy* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_later_than_r3_criticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_AssistanceDataDelivery_later_than_r3(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_later_than_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = dec_AssistanceDataDelivery_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions, cur);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_later_than_r3(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_later_than_r3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery_later_than_r3, pvalue);
+}
+
+static int dec_AssistanceDataDelivery(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "AssistanceDataDelivery");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerSetup_r4_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r4_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_r4_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerSetup_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+      case 0: /* r3 */
+         pvalue->u.r3 = (AssistanceDataDelivery_r3*)rtxMemHeapAlloc(ctx, sizeof(AssistanceDataDelivery_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "r3", -1, "AssistanceDataDelivery");
+         asn1Init_UMTS_AssistanceDataDelivery_r3(pvalue->u.r3);
+         stat = dec_AssistanceDataDelivery_r3(ctx, pvalue->u.r3, cur);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "AssistanceDataDelivery");
          break;
-      case 1: /* tdd */
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (AssistanceDataDelivery_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(AssistanceDataDelivery_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "later-than-r3", -1, "AssistanceDataDelivery");
+         stat = dec_AssistanceDataDelivery_later_than_r3(ctx, pvalue->u.later_than_r3, cur);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "AssistanceDataDelivery");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "AssistanceDataDelivery");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_AssistanceDataDelivery, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_r3_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRAN-r3-IEs");
    /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r4_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r4_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 25);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r4-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 24)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r4-IEs");
+      stat = dec_IntegrityProtectionModeInfo(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRAN-r3-IEs");
    }
    /* activationTime */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r4-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x40u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* srb-InformationSetupList */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r4(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r4_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x200000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerSetup-r4-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PD_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerSetup-r4-IEs");
-   /* dl-CommonInformation */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r4-IEs");
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "CellChangeOrderFromUTRAN-r3-IEs");
    }
-   /* dl-InformationPerRL-List */
+   /* rab-InformationList */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r4-IEs");
+      pvalue->m |= 0x4u;
+      stat = dec_RAB_InformationList(ctx, &pvalue->rab_InformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   }
+   /* interRAT-TargetCellDescription */
+   stat = dec_InterRAT_TargetCellDescription(ctx, &pvalue->interRAT_TargetCellDescription, cur);
+   RT_CHECK(ctx, stat, 0, "interRAT-TargetCellDescription", -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRAN_r3_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sI */
+         pvalue->u.sI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
+         if (pvalue->u.sI == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "sI", -1, 0);
+         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.sI);
+         stat = dec_GERAN_SystemInformation(ctx, pvalue->u.sI, cur);
+         RT_CHECK(ctx, stat, 0, "sI", -1, 0);
+         break;
+      case 1: /* pSI */
+         pvalue->u.pSI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
+         if (pvalue->u.pSI == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "pSI", -1, 0);
+         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.pSI);
+         stat = dec_GERAN_SystemInformation(ctx, pvalue->u.pSI, cur);
+         RT_CHECK(ctx, stat, 0, "pSI", -1, 0);
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_v590ext_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v690ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v690ext_IEs(ctx, &pvalue->radioBearerSetup_v690ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v690ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellChangeOrderFromUTRAN-v590ext-IEs");
+   /* geran-SystemInfoType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType, cur);
+      RT_CHECK(ctx, stat, 0, "geran-SystemInfoType", -1, "CellChangeOrderFromUTRAN-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRAN_v590ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRAN-v590ext */
+   stat = dec_CellChangeOrderFromUTRAN_v590ext_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-v590ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v5d0ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v5d0ext_IEs(ctx, &pvalue->radioBearerSetup_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v590ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v590ext_IEs(ctx, &pvalue->radioBearerSetup_v590ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v590ext", -1, 0);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-r4-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRAN-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetup_r4_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r4-add-ext", -1, 0);
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->cellChangeOrderFromUTRAN_r3_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cellChangeOrderFromUTRAN-r3-add-ext", -1, 0);
    }
    /* v590NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      stat = dec_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions, pvalue);
+}
+
+static int dec_CellChangeOrderFromUTRAN_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-r4 */
-   stat = asn1PD_UMTS_RadioBearerSetup_r4_IEs(ctx, &pvalue->radioBearerSetup_r4);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r4", -1, 0);
-   /* v4d0NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRAN-IEs */
+   stat = dec_CellChangeOrderFromUTRAN_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_IEs, cur);
+   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-IEs", -1, 0);
+   /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+      stat = dec_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r5_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r5_IEs_dummy_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRAN_r3, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r5_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r5_IEs_dummy* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN_later_than_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_later_than_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = dec_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions, cur);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_later_than_r3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRAN_later_than_r3, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRAN(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellChangeOrderFromUTRAN");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerSetup_r5_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r5_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_r5_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerSetup_r5_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+      case 0: /* r3 */
+         pvalue->u.r3 = (CellChangeOrderFromUTRAN_r3*)rtxMemHeapAlloc(ctx, sizeof(CellChangeOrderFromUTRAN_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "r3", -1, "CellChangeOrderFromUTRAN");
+         asn1Init_UMTS_CellChangeOrderFromUTRAN_r3(pvalue->u.r3);
+         stat = dec_CellChangeOrderFromUTRAN_r3(ctx, pvalue->u.r3, cur);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "CellChangeOrderFromUTRAN");
          break;
-      case 1: /* tdd */
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (CellChangeOrderFromUTRAN_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(CellChangeOrderFromUTRAN_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "later-than-r3", -1, "CellChangeOrderFromUTRAN");
+         stat = dec_CellChangeOrderFromUTRAN_later_than_r3(ctx, pvalue->u.later_than_r3, cur);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CellChangeOrderFromUTRAN");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CellChangeOrderFromUTRAN");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRAN(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRAN, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure_r3_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
    /* dummy */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+      stat = dec_IntegrityProtectionModeInfo(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
    }
+   /* interRAT-ChangeFailureCause */
+   stat = dec_InterRAT_ChangeFailureCause(ctx, &pvalue->interRAT_ChangeFailureCause, cur);
+   RT_CHECK(ctx, stat, 0, "interRAT-ChangeFailureCause", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_IEs* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* fdd */
-         pvalue->u.fdd = (RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 1: /* tdd */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRANFailure_r3_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r5_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r5_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 27);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r5-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 26)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 25)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 24)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r5-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x80u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* srb-InformationSetupList */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_SRB_InformationSetupList_r5(ctx, &pvalue->srb_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r5(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r5_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x400000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PD_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerSetup-r5-IEs");
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r5-IEs");
-   }
-   /* dl-CommonInformation */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRANFailure-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r5-IEs");
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->cellChangeOrderFromUTRANFailure_r3_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cellChangeOrderFromUTRANFailure-r3-add-ext", -1, 0);
    }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r5-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v690ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v690ext_IEs(ctx, &pvalue->radioBearerSetup_v690ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v690ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      pvalue->m |= 0x2u;
+      stat = dec_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v5d0ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v5d0ext_IEs(ctx, &pvalue->radioBearerSetup_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRANFailure-r3 */
+   stat = dec_CellChangeOrderFromUTRANFailure_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRANFailure_r3, cur);
+   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRANFailure-r3", -1, 0);
+   /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+      stat = dec_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRANFailure_r3, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_dummy_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-r5 */
-   stat = asn1PD_UMTS_RadioBearerSetup_r5_IEs(ctx, &pvalue->radioBearerSetup_r5);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r5", -1, 0);
-   /* radioBearerSetup-r5-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetup_r5_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r5-add-ext", -1, 0);
-   }
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r6_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r6_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_dummy_criticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure_dummy(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_dummy* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* srb-InformationSetupList */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SRB_InformationSetupList_r6(ctx, &pvalue->srb_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
-   }
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r6(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, 0);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x40u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   }
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = dec_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(ctx, &pvalue->criticalExtensions, cur);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r6_IEs_specificationMode_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r6_IEs_specificationMode_dummy* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_dummy* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rab-Info */
-   stat = asn1PD_UMTS_RAB_Info_r6(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
-   /* defaultConfigMode */
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
-   /* defaultConfigIdentity */
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
-   /* rb-InformationChangedList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RB_InformationChangedList_r6(ctx, &pvalue->rb_InformationChangedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationChangedList", -1, 0);
-   }
-   /* powerOffsetInfoShort */
-   stat = asn1PD_UMTS_PowerOffsetInfoShort(ctx, &pvalue->powerOffsetInfoShort);
-   RT_CHECK(ctx, stat, 0, "powerOffsetInfoShort", -1, 0);
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRANFailure_dummy, pvalue);
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r6_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r6_IEs_specificationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int dec_CellChangeOrderFromUTRANFailure(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellChangeOrderFromUTRANFailure");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (RadioBearerSetup_r6_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r6_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_r6_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerSetup_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+      case 0: /* r3 */
+         pvalue->u.r3 = (CellChangeOrderFromUTRANFailure_r3*)rtxMemHeapAlloc(ctx, sizeof(CellChangeOrderFromUTRANFailure_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "r3", -1, "CellChangeOrderFromUTRANFailure");
+         asn1Init_UMTS_CellChangeOrderFromUTRANFailure_r3(pvalue->u.r3);
+         stat = dec_CellChangeOrderFromUTRANFailure_r3(ctx, pvalue->u.r3, cur);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "CellChangeOrderFromUTRANFailure");
          break;
       case 1: /* dummy */
-         pvalue->u.dummy = (RadioBearerSetup_r6_IEs_specificationMode_dummy*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r6_IEs_specificationMode_dummy));
-         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dummy", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_r6_IEs_specificationMode_dummy(pvalue->u.dummy);
-         stat = asn1PD_UMTS_RadioBearerSetup_r6_IEs_specificationMode_dummy(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+         pvalue->u.dummy = (CellChangeOrderFromUTRANFailure_dummy*)rtxMemHeapAllocZ(ctx, sizeof(CellChangeOrderFromUTRANFailure_dummy));
+         if (pvalue->u.dummy == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure");
+         stat = dec_CellChangeOrderFromUTRANFailure_dummy(ctx, pvalue->u.dummy, cur);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure");
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CellChangeOrderFromUTRANFailure");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r6_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r6_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellChangeOrderFromUTRANFailure, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v7e0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r6-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r6-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x200u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_RadioBearerSetup_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerSetup-r6-IEs");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x2000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r6-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdate-v7e0ext-IEs");
+   /* supportForTwoDRXSchemesInPCH */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x80000u;
+      pvalue->m |= 0x1u;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r6-IEs");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "CellUpdate-v7e0ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r6-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "CellUpdate-v7e0ext-IEs");
+         pvalue->supportForTwoDRXSchemesInPCH = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v6b0ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdate_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v7e0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v7e0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v7g0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v6b0ext-IEs");
-   /* dl-InformationPerRL-List-v6b0ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "RadioBearerSetup-v6b0ext-IEs");
-   }
-   /* rab-InformationSetupListExt */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdate-v7g0ext-IEs");
+   /* measuredResultsOnRACH-v7g0ext */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_v6b0ext(ctx, &pvalue->rab_InformationSetupListExt);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupListExt", -1, "RadioBearerSetup-v6b0ext-IEs");
+      pvalue->m |= 0x1u;
+      stat = dec_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext, cur);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH-v7g0ext", -1, "CellUpdate-v7g0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v7g0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v6b0ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v6b0ext_IEs(ctx, &pvalue->radioBearerSetup_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v6b0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdate-v7g0ext */
+   stat = dec_CellUpdate_v7g0ext_IEs(ctx, &pvalue->cellUpdate_v7g0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v7g0ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-r6 */
-   stat = asn1PD_UMTS_RadioBearerSetup_r6_IEs(ctx, &pvalue->radioBearerSetup_r6);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r6", -1, 0);
-   /* radioBearerSetup-r6-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdate-r3-add-ext-IEs");
+   /* cellUpdate-v7e0ext */
+   stat = dec_CellUpdate_v7e0ext_IEs(ctx, &pvalue->cellUpdate_v7e0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v7e0ext", -1, "CellUpdate-r3-add-ext-IEs");
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetup_r6_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r6-add-ext", -1, 0);
+      stat = dec_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, "CellUpdate-r3-add-ext-IEs");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_r3_add_ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v590ext(rtxContext* RT_RESTRICT ctx, CellUpdate_v590ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdate-v590ext");
+   /* establishmentCause */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->establishmentCause, 0, 31);
+      RT_CHECK_AT(ctx, cur, stat, "EstablishmentCause", "establishmentCause", -1, "CellUpdate-v590ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v590ext(rtxContext* RT_RESTRICT ctx, CellUpdate_v590ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v690ext_IEs_trafficVolumeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_trafficVolumeIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v690ext_IEs_trafficVolumeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_trafficVolumeIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v690ext_IEs_trafficVolumeIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v690ext_IEs_reconfigurationStatusIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_reconfigurationStatusIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v690ext_IEs_reconfigurationStatusIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_reconfigurationStatusIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v690ext_IEs_reconfigurationStatusIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdate-v690ext-IEs");
+   /* cellUpdateCause-ext */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cellUpdateCause_ext, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, "CellUpdateCause-ext", "cellUpdateCause-ext", -1, "CellUpdate-v690ext-IEs");
+   }
+   /* trafficVolumeIndicator */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "trafficVolumeIndicator", -1, "CellUpdate-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "trafficVolumeIndicator", -1, "CellUpdate-v690ext-IEs");
+         pvalue->trafficVolumeIndicator = ui;
+      }
+   }
+   /* measuredResultsOnRACHinterFreq */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = dec_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq, cur);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "CellUpdate-v690ext-IEs");
+   }
+   /* reconfigurationStatusIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "reconfigurationStatusIndicator", -1, "CellUpdate-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "reconfigurationStatusIndicator", -1, "CellUpdate-v690ext-IEs");
+         pvalue->reconfigurationStatusIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v690ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdate-v6b0ext-IEs");
+   /* mbmsSelectedServices */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MBMS_SelectedServicesShort(ctx, &pvalue->mbmsSelectedServices, cur);
+      RT_CHECK(ctx, stat, 0, "mbmsSelectedServices", -1, "CellUpdate-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v6b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v770ext_IEs_csCallType(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_csCallType* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   stat = pd_ConsUnsignedAt(ctx, cur, pvalue, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v770ext_IEs_csCallType(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_csCallType* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v770ext_IEs_csCallType, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v770ext_IEs_hspdschReception_CellFach(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_hspdschReception_CellFach* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v770ext_IEs_hspdschReception_CellFach(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_hspdschReception_CellFach* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v770ext_IEs_hspdschReception_CellFach, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v770ext_IEs_capabilityChangeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_capabilityChangeIndicator* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v770ext_IEs_capabilityChangeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_capabilityChangeIndicator* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v770ext_IEs_capabilityChangeIndicator, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v770ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 4, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdate-v770ext-IEs");
+   /* csCallType */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->csCallType, 0, 3);
+      RT_CHECK_AT(ctx, cur, stat, 0, "csCallType", -1, "CellUpdate-v770ext-IEs");
+   }
+   /* hspdschReception-CellFach */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "hspdschReception-CellFach", -1, "CellUpdate-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "hspdschReception-CellFach", -1, "CellUpdate-v770ext-IEs");
+         pvalue->hspdschReception_CellFach = ui;
+      }
+   }
+   /* ueMobilityStateIndicator */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "CellUpdate-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "CellUpdate-v770ext-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* capabilityChangeIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "capabilityChangeIndicator", -1, "CellUpdate-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "capabilityChangeIndicator", -1, "CellUpdate-v770ext-IEs");
+         pvalue->capabilityChangeIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v770ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfCommonEDCH* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfCommonEDCH* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v860ext_IEs_supportOfCommonEDCH, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfMACiis* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfMACiis* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v860ext_IEs_supportOfMACiis, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfSPSOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfSPSOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v860ext_IEs_supportOfSPSOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_v860ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 5, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdate-v860ext-IEs");
+   /* supportOfCommonEDCH */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfCommonEDCH", -1, "CellUpdate-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfCommonEDCH", -1, "CellUpdate-v860ext-IEs");
+         pvalue->supportOfCommonEDCH = ui;
+      }
+   }
+   /* supportOfHS-DSCHDRXOperation */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfHS-DSCHDRXOperation", -1, "CellUpdate-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfHS-DSCHDRXOperation", -1, "CellUpdate-v860ext-IEs");
+         pvalue->supportOfHS_DSCHDRXOperation = ui;
+      }
+   }
+   /* supportOfMACiis */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfMACiis", -1, "CellUpdate-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfMACiis", -1, "CellUpdate-v860ext-IEs");
+         pvalue->supportOfMACiis = ui;
+      }
+   }
+   /* supportOfSPSOperation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfSPSOperation", -1, "CellUpdate-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfSPSOperation", -1, "CellUpdate-v860ext-IEs");
+         pvalue->supportOfSPSOperation = ui;
+      }
+   }
+   /* supportOfControlChannelDRXOperation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfControlChannelDRXOperation", -1, "CellUpdate-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "supportOfControlChannelDRXOperation", -1, "CellUpdate-v860ext-IEs");
+         pvalue->supportOfControlChannelDRXOperation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v860ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdate-v860ext */
+   stat = dec_CellUpdate_v860ext_IEs(ctx, &pvalue->cellUpdate_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdate-v770ext */
+   stat = dec_CellUpdate_v770ext_IEs(ctx, &pvalue->cellUpdate_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdate-v6b0ext */
+   stat = dec_CellUpdate_v6b0ext_IEs(ctx, &pvalue->cellUpdate_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdate-v690ext */
+   stat = dec_CellUpdate_v690ext_IEs(ctx, &pvalue->cellUpdate_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v690ext", -1, 0);
    /* v6b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r7_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* srb-InformationSetupList */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SRB_InformationSetupList_r7(ctx, &pvalue->srb_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
-   }
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r7(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, 0);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x40u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r7_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_IEs_specificationMode* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* complete */
-         pvalue->u.complete = (RadioBearerSetup_r7_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r7_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_r7_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerSetup_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
-         break;
-      case 1: /* dummy */
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r7_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 26);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r7-IEs");
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 25)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 24)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 23)) {
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 18)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 17)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r7-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 16)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 15)) {
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint32_t)1 << 14)) {
-      pvalue->m |= 0x800u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 13)) {
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* specificationMode */
-   stat = asn1PD_UMTS_RadioBearerSetup_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerSetup-r7-IEs");
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint32_t)1 << 9)) {
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 7)) {
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x80000u;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r7-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2000000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r7-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r7-IEs");
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v7d0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v7d0ext-IEs");
-   /* ul-EDCH-Information */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdate-v590ext */
+   stat = dec_CellUpdate_v590ext(ctx, &pvalue->cellUpdate_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-v7d0ext-IEs");
+      stat = dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v7f0ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdate_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v7f0ext-IEs");
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-v7f0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v7g0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v7g0ext-IEs");
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-v7g0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v7g0ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v7g0ext_IEs(ctx, &pvalue->radioBearerSetup_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7g0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v7f0ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v7f0ext_IEs(ctx, &pvalue->radioBearerSetup_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7f0ext", -1, 0);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_add_ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r7-add-ext-IEs");
-   /* radioBearerSetup-v7d0ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_v7d0ext_IEs(ctx, &pvalue->radioBearerSetup_v7d0ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7d0ext", -1, "RadioBearerSetup-r7-add-ext-IEs");
-   }
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, "RadioBearerSetup-r7-add-ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_v780ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v780ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v780ext-IEs");
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerSetup-v780ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerSetup-v780ext-IEs");
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_v820ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v820ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v820ext-IEs");
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_v820ext(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-v820ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v820ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v820ext_IEs(ctx, &pvalue->radioBearerSetup_v820ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v820ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v780ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v780ext_IEs(ctx, &pvalue->radioBearerSetup_v780ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v780ext", -1, 0);
-   /* v820NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v820NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-r7 */
-   stat = asn1PD_UMTS_RadioBearerSetup_r7_IEs(ctx, &pvalue->radioBearerSetup_r7);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r7", -1, 0);
-   /* radioBearerSetup-r7-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdate-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
       {
          rtxDynBitStr carrier;
          rtxContext outer;
-         stat = pd_DynBitString(ctx, &carrier);
-         RT_CHECK(ctx, stat, 0, "radioBearerSetup-r7-add-ext", -1, 0);
+         stat = pd_DynBitStringAt(ctx, cur, &carrier);
+         RT_CHECK_AT(ctx, cur, stat, 0, "cellUpdate-r3-add-ext", -1, 0);
+         rtxCurSync(ctx, cur);
          rtxCopyContext(&outer, ctx);
          stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
          if (stat == 0) {
             /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
-            stat = asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs(ctx, &pvalue->radioBearerSetup_r7_add_ext);
-            RT_CHECK(ctx, stat, 0, "radioBearerSetup-r7-add-ext", -1, 0);
+            stat = asn1PD_UMTS_CellUpdate_r3_add_ext_IEs(ctx, &pvalue->cellUpdate_r3_add_ext);
+            RT_CHECK(ctx, stat, 0, "cellUpdate-r3-add-ext", -1, 0);
          }
          rtxCopyContext(ctx, &outer);
+         rtxCurStart(cur, rtxBitPos(ctx));
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate_laterNonCriticalExtensions, pvalue);
+}
+
+static int dec_CellUpdate(rtxContext* RT_RESTRICT ctx, CellUpdate* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 3, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdate");
+   /* u-RNTI */
+   stat = dec_U_RNTI(ctx, &pvalue->u_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "CellUpdate");
+   /* startList */
+   stat = dec_STARTList(ctx, &pvalue->startList, cur);
+   RT_CHECK(ctx, stat, 0, "startList", -1, "CellUpdate");
+   /* am-RLC-ErrorIndicationRb2-3or4 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->am_RLC_ErrorIndicationRb2_3or4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "am-RLC-ErrorIndicationRb2-3or4", -1, "CellUpdate");
+   /* am-RLC-ErrorIndicationRb5orAbove */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->am_RLC_ErrorIndicationRb5orAbove);
+   RT_CHECK_AT(ctx, cur, stat, 0, "am-RLC-ErrorIndicationRb5orAbove", -1, "CellUpdate");
+   /* cellUpdateCause */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->cellUpdateCause, 0, 7);
+   RT_CHECK_AT(ctx, cur, stat, "CellUpdateCause", "cellUpdateCause", -1, "CellUpdate");
+   /* failureCause */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = dec_FailureCauseWithProtErrTrId(ctx, &pvalue->failureCause, cur);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "CellUpdate");
+   }
+   /* rb-timer-indicator */
+   stat = dec_Rb_timer_indicator(ctx, &pvalue->rb_timer_indicator, cur);
+   RT_CHECK(ctx, stat, 0, "rb-timer-indicator", -1, "CellUpdate");
+   /* measuredResultsOnRACH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = dec_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH, cur);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "CellUpdate");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = dec_CellUpdate_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "CellUpdate");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate(rtxContext* RT_RESTRICT ctx, CellUpdate* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdate, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dummy, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "CPCH-SetID", "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DRAC_StaticInformationList(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_PDSCH_Information(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo, pvalue);
+}
+
+static int dec_CellUpdateConfirm_r3_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 23, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8At(ctx, cur, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellUpdateConfirm-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x8u;
+      stat = dec_U_RNTI(ctx, &pvalue->new_U_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x10u;
+      stat = dec_C_RNTI(ctx, &pvalue->new_C_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK_AT(ctx, cur, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r3-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r3-IEs");
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x40u;
+      stat = dec_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x80u;
+      stat = dec_URA_Identity(ctx, &pvalue->ura_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x100u;
+      stat = dec_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x200u;
+      stat = dec_RB_InformationReconfigList(ctx, &pvalue->rb_InformationReconfigList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x400u;
+      stat = dec_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x800u;
+      stat = dec_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x1000u;
+      stat = dec_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x2000u;
+      stat = dec_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x4000u;
+      stat = dec_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* modeSpecificTransChInfo */
+   stat = dec_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x8000u;
+      stat = dec_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x10000u;
+      stat = dec_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x20000u;
+      stat = dec_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x40000u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x80000u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x100000u;
+      stat = dec_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement, cur);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = dec_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r3-IEs");
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x200000u;
+      stat = dec_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x400000u;
+      stat = dec_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v3a0ext(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v3a0ext* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v3a0ext");
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v3a0ext(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v3a0ext* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v3a0ext, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v4b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v4b0ext-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->dummy, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "SSDT-UL", "dummy", -1, "CellUpdateConfirm-v4b0ext-IEs");
+   }
+   /* cell-id-PerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "CellUpdateConfirm-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v590ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v590ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "CellUpdateConfirm-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v590ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v5d0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v5d0ext-IEs");
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-v5d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v5d0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v5d0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v690ext_IEs_postVerificationPeriod, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v690ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v690ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 6, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v690ext-IEs");
+   /* primary-plmn-Identity */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = dec_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "CellUpdateConfirm-v690ext-IEs");
+   }
+   /* harq-Preamble-Mode */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "CellUpdateConfirm-v690ext-IEs");
+   }
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "BEACON-PL-Est", "beaconPLEst", -1, "CellUpdateConfirm-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "BEACON-PL-Est", "beaconPLEst", -1, "CellUpdateConfirm-v690ext-IEs");
+         pvalue->beaconPLEst = ui;
+      }
+   }
+   /* postVerificationPeriod */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, 0, "postVerificationPeriod", -1, "CellUpdateConfirm-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, 0, "postVerificationPeriod", -1, "CellUpdateConfirm-v690ext-IEs");
+         pvalue->postVerificationPeriod = ui;
+      }
+   }
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK_AT(ctx, cur, stat, "DHS-Sync", "dhs-sync", -1, "CellUpdateConfirm-v690ext-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-v690ext-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v690ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = dec_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = dec_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v590ext */
+   stat = dec_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions, cur);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v4b0ext */
+   stat = dec_CellUpdateConfirm_v4b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v4b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v4b0ext", -1, 0);
+   /* v590NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions, cur);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->cellUpdateConfirm_r3_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cellUpdateConfirm-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v3a0ext */
+   stat = dec_CellUpdateConfirm_v3a0ext(ctx, &pvalue->cellUpdateConfirm_v3a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions, pvalue);
+}
+
+static int dec_CellUpdateConfirm_r3(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r3 */
+   stat = dec_CellUpdateConfirm_r3_IEs(ctx, &pvalue->cellUpdateConfirm_r3, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r3, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dummy, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "CPCH-SetID", "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DRAC_StaticInformationList(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_PDSCH_Information(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo, pvalue);
+}
+
+static int dec_CellUpdateConfirm_r4_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 24, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-r4-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x8u;
+      stat = dec_U_RNTI(ctx, &pvalue->new_U_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x10u;
+      stat = dec_C_RNTI(ctx, &pvalue->new_C_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x20u;
+      stat = dec_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK_AT(ctx, cur, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r4-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r4-IEs");
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x80u;
+      stat = dec_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x100u;
+      stat = dec_URA_Identity(ctx, &pvalue->ura_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x200u;
+      stat = dec_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x400u;
+      stat = dec_RB_InformationReconfigList_r4(ctx, &pvalue->rb_InformationReconfigList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x800u;
+      stat = dec_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x1000u;
+      stat = dec_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x2000u;
+      stat = dec_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x4000u;
+      stat = dec_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x8000u;
+      stat = dec_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* modeSpecificTransChInfo */
+   stat = dec_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x10000u;
+      stat = dec_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x20000u;
+      stat = dec_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x40000u;
+      stat = dec_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x80000u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x100000u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x200000u;
+      stat = dec_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement, cur);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = dec_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r4-IEs");
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x400000u;
+      stat = dec_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x800000u;
+      stat = dec_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r4_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r4_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = dec_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = dec_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v590ext */
+   stat = dec_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions, cur);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->cellUpdateConfirm_r4_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cellUpdateConfirm-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions, cur);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r4 */
+   stat = dec_CellUpdateConfirm_r4_IEs(ctx, &pvalue->cellUpdateConfirm_r4, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_r4, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->dummy, 1, 16);
+      RT_CHECK_AT(ctx, cur, stat, "CPCH-SetID", "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_DRAC_StaticInformationList(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_PDSCH_Information(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = dec_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo, pvalue);
+}
+
+static int dec_CellUpdateConfirm_r5_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 26, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x8u;
+      stat = dec_U_RNTI(ctx, &pvalue->new_U_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x10u;
+      stat = dec_C_RNTI(ctx, &pvalue->new_C_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x20u;
+      stat = dec_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x40u;
+      stat = dec_H_RNTI(ctx, &pvalue->new_H_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x80u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK_AT(ctx, cur, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r5-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r5-IEs");
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x100u;
+      stat = dec_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x200u;
+      stat = dec_URA_Identity(ctx, &pvalue->ura_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x400u;
+      stat = dec_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x800u;
+      stat = dec_RB_InformationReconfigList_r5(ctx, &pvalue->rb_InformationReconfigList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x1000u;
+      stat = dec_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x2000u;
+      stat = dec_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x4000u;
+      stat = dec_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x8000u;
+      stat = dec_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x10000u;
+      stat = dec_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* modeSpecificTransChInfo */
+   stat = dec_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x20000u;
+      stat = dec_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x40000u;
+      stat = dec_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x80000u;
+      stat = dec_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x100000u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x200000u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x400000u;
+      stat = dec_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement, cur);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = dec_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r5-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x800000u;
+      stat = dec_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1000000u;
+      stat = dec_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2000000u;
+      stat = dec_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r5_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r5_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = dec_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = dec_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r5 */
+   stat = dec_CellUpdateConfirm_r5_IEs(ctx, &pvalue->cellUpdateConfirm_r5, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r5", -1, 0);
+   /* cellUpdateConfirm-r5-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->cellUpdateConfirm_r5_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cellUpdateConfirm-r5-add-ext", -1, 0);
+   }
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions, cur);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5, pvalue);
+}
+
+static int dec_CellUpdateConfirm_r6_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r6_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 31, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-r6-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 30)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 29)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 28)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 27)) {
+      pvalue->m |= 0x8u;
+      stat = dec_U_RNTI(ctx, &pvalue->new_U_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 26)) {
+      pvalue->m |= 0x10u;
+      stat = dec_C_RNTI(ctx, &pvalue->new_C_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x20u;
+      stat = dec_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x40u;
+      stat = dec_H_RNTI(ctx, &pvalue->new_H_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x80u;
+      stat = dec_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x100u;
+      stat = dec_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x200u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK_AT(ctx, cur, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r6-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r6-IEs");
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x400u;
+      stat = dec_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x800u;
+      stat = dec_URA_Identity(ctx, &pvalue->ura_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x1000u;
+      stat = dec_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x2000u;
+      stat = dec_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x4000u;
+      stat = dec_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x8000u;
+      stat = dec_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x10000u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x20000u;
+      stat = dec_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x40000u;
+      stat = dec_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x80000u;
+      stat = dec_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x100000u;
+      stat = dec_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x200000u;
+      stat = dec_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x400000u;
+      stat = dec_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x800000u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x1000000u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x2000000u;
+      stat = dec_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x4000000u;
+      stat = dec_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x8000000u;
+      stat = dec_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x10000000u;
+      stat = dec_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x20000000u;
+      stat = dec_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x40000000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r6-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r6-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r6_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r6_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r6_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v6b0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext, cur);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "CellUpdateConfirm-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v6b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v6b0ext */
+   stat = dec_CellUpdateConfirm_v6b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v6b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r6 */
+   stat = dec_CellUpdateConfirm_r6_IEs(ctx, &pvalue->cellUpdateConfirm_r6, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6", -1, 0);
+   /* cellUpdateConfirm-r6-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->cellUpdateConfirm_r6_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cellUpdateConfirm-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6, pvalue);
+}
+
+static int dec_CellUpdateConfirm_r7_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsAt(ctx, cur, 6, &hi);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-r7-IEs");
+      stat = rtxDecBitsAt(ctx, cur, 32, &lo);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-r7-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 37)) {
+      pvalue->m |= 0x1u;
+      stat = dec_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x8u;
+      stat = dec_U_RNTI(ctx, &pvalue->new_U_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x10u;
+      stat = dec_C_RNTI(ctx, &pvalue->new_C_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x20u;
+      stat = dec_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x40u;
+      stat = dec_H_RNTI(ctx, &pvalue->new_H_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x80u;
+      stat = dec_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x100u;
+      stat = dec_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r7-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x200u;
+      stat = dec_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff, cur);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* waitTime */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->waitTime, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r7-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r7-IEs");
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x800u;
+      stat = dec_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x1000u;
+      stat = dec_URA_Identity(ctx, &pvalue->ura_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x2000u;
+      stat = rtxDecBitAt(ctx, cur, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK_AT(ctx, cur, stat, 0, "supportForChangeOfUE-Capability", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x4000u;
+      stat = dec_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x8000u;
+      stat = dec_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x10000u;
+      stat = dec_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x20000u;
+      stat = dec_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x40000u;
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x80000u;
+      stat = dec_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x100000u;
+      stat = dec_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x200000u;
+      stat = dec_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x400000u;
+      stat = dec_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x800000u;
+      stat = dec_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x1000000u;
+      stat = dec_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x2000000u;
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x4000000u;
+      stat = dec_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x8000000u;
+      stat = dec_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x10000000u;
+      stat = dec_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x20000000u;
+      stat = dec_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x40000000u;
+      stat = dec_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x80000000u;
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x100000000ull;
+      stat = dec_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x200000000ull;
+      stat = dec_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x400000000ull;
+      stat = dec_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x800000000ull;
+      stat = dec_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x1000000000ull;
+      stat = dec_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x2000000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r7-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r7_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r7_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7d0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v7d0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7f0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v7f0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v7f0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7g0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v7g0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v7g0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7g0ext */
+   stat = dec_CellUpdateConfirm_v7g0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7g0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7f0ext */
+   stat = dec_CellUpdateConfirm_v7f0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7f0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions, pvalue);
+}
+
+static int dec_CellUpdateConfirm_r7_add_ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-r7-add-ext-IEs");
+   /* cellUpdateConfirm-v7d0ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext, cur);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7d0ext", -1, "CellUpdateConfirm-r7-add-ext-IEs");
+   }
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = dec_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, "CellUpdateConfirm-r7-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r7_add_ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v780ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v780ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "CellUpdateConfirm-v780ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK_AT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "CellUpdateConfirm-v780ext-IEs");
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v780ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v780ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v860ext_IEs_rab_InformationSetup* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   /* rab-InformationSetup-r7 */
+   stat = dec_RAB_InformationSetup_r7(ctx, &pvalue->rab_InformationSetup_r7, cur);
+   RT_CHECK(ctx, stat, 0, "rab-InformationSetup-r7", -1, 0);
+   /* rab-InformationSetup-v820ext */
+   stat = dec_RAB_InformationSetup_v820ext(ctx, &pvalue->rab_InformationSetup_v820ext, cur);
+   RT_CHECK(ctx, stat, 0, "rab-InformationSetup-v820ext", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v860ext_IEs_rab_InformationSetup* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v860ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v860ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v860ext-IEs");
+   /* rab-InformationSetup */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(ctx, &pvalue->rab_InformationSetup, cur);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetup", -1, "CellUpdateConfirm-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v860ext */
+   stat = dec_CellUpdateConfirm_v860ext_IEs(ctx, &pvalue->cellUpdateConfirm_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v780ext */
+   stat = dec_CellUpdateConfirm_v780ext_IEs(ctx, &pvalue->cellUpdateConfirm_v780ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v780ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r7 */
+   stat = dec_CellUpdateConfirm_r7_IEs(ctx, &pvalue->cellUpdateConfirm_r7, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7", -1, 0);
+   /* cellUpdateConfirm-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitStringAt(ctx, cur, &carrier);
+         RT_CHECK_AT(ctx, cur, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
+         rtxCurSync(ctx, cur);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs(ctx, &pvalue->cellUpdateConfirm_r7_add_ext);
+            RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxCurStart(cur, rtxBitPos(ctx));
          rtxMemHeapFreePtr(ctx, (void*)carrier.data);
       }
    }
    /* v780NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
    }
    return stat;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r8_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r8_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7, pvalue);
+}
+
+static int dec_CellUpdateConfirm_r8_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r8_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint64_t present;
@@ -6962,455 +8591,511 @@ int asn1PD_UMTS_RadioBearerSetup_r8_IEs(rtxContext* RT_RESTRICT ctx, RadioBearer
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    {
       uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 11);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r8-IEs");
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r8-IEs");
+      stat = rtxDecBitsAt(ctx, cur, 11, &hi);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-r8-IEs");
+      stat = rtxDecBitsAt(ctx, cur, 32, &lo);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-r8-IEs");
       present = ((uint64_t)hi << 32) | lo;
    }
    /* integrityProtectionModeInfo */
    if (present & ((uint64_t)1 << 42)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* cipheringModeInfo */
    if (present & ((uint64_t)1 << 41)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r8-IEs");
-   }
-   /* sr-vcc-Info */
-   if (present & ((uint64_t)1 << 40)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info);
-      RT_CHECK(ctx, stat, 0, "sr-vcc-Info", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* activationTime */
-   if (present & ((uint64_t)1 << 39)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r8-IEs");
+   if (present & ((uint64_t)1 << 40)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 38)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   if (present & ((uint64_t)1 << 39)) {
+      pvalue->m |= 0x8u;
+      stat = dec_U_RNTI(ctx, &pvalue->new_U_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 37)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   if (present & ((uint64_t)1 << 38)) {
+      pvalue->m |= 0x10u;
+      stat = dec_C_RNTI(ctx, &pvalue->new_C_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 36)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   if (present & ((uint64_t)1 << 37)) {
+      pvalue->m |= 0x20u;
+      stat = dec_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 35)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x40u;
+      stat = dec_H_RNTI(ctx, &pvalue->new_H_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 34)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x80u;
+      stat = dec_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 33)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x100u;
+      stat = dec_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r8-IEs");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r8-IEs");
    /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x200u;
+      stat = dec_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff, cur);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* waitTime */
    if (present & ((uint64_t)1 << 32)) {
       pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r8-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->waitTime, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r8-IEs");
    }
-   /* ura-Identity */
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r8-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r8-IEs");
+   /* cn-InformationInfo */
    if (present & ((uint64_t)1 << 31)) {
       pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r8-IEs");
    }
-   /* supportForChangeOfUE-Capability */
+   /* ura-Identity */
    if (present & ((uint64_t)1 << 30)) {
       pvalue->m |= 0x1000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_URA_Identity(ctx, &pvalue->ura_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r8-IEs");
    }
-   /* cn-InformationInfo */
+   /* supportForChangeOfUE-Capability */
    if (present & ((uint64_t)1 << 29)) {
       pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r8-IEs");
+      stat = rtxDecBitAt(ctx, cur, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK_AT(ctx, cur, stat, 0, "supportForChangeOfUE-Capability", -1, "CellUpdateConfirm-r8-IEs");
    }
-   /* srb-InformationSetupList */
+   /* defaultConfigForCellFACH */
    if (present & ((uint64_t)1 << 28)) {
       pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH, cur);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "CellUpdateConfirm-r8-IEs");
    }
-   /* rab-InformationSetupList */
+   /* rab-InformationSetup */
    if (present & ((uint64_t)1 << 27)) {
       pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_RAB_InformationSetup_r8(ctx, &pvalue->rab_InformationSetup, cur);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetup", -1, "CellUpdateConfirm-r8-IEs");
    }
-   /* rab-InformationReconfigList */
+   /* rb-InformationReleaseList */
    if (present & ((uint64_t)1 << 26)) {
       pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* rb-InformationReconfigList */
    if (present & ((uint64_t)1 << 25)) {
       pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* rb-InformationAffectedList */
    if (present & ((uint64_t)1 << 24)) {
       pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* dl-CounterSynchronisationInfo */
    if (present & ((uint64_t)1 << 23)) {
       pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* pdcp-ROHC-TargetMode */
    if (present & ((uint64_t)1 << 22)) {
       pvalue->m |= 0x100000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerSetup-r8-IEs");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* ul-CommonTransChInfo */
    if (present & ((uint64_t)1 << 21)) {
       pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* ul-deletedTransChInfoList */
    if (present & ((uint64_t)1 << 20)) {
       pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* ul-AddReconfTransChInfoList */
    if (present & ((uint64_t)1 << 19)) {
       pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* dl-CommonTransChInfo */
    if (present & ((uint64_t)1 << 18)) {
       pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* dl-DeletedTransChInfoList */
    if (present & ((uint64_t)1 << 17)) {
       pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* dl-AddReconfTransChInfoList */
    if (present & ((uint64_t)1 << 16)) {
       pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* frequencyInfo */
    if (present & ((uint64_t)1 << 15)) {
       pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* multi-frequencyInfo */
    if (present & ((uint64_t)1 << 14)) {
       pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* dtx-drx-TimingInfo */
    if (present & ((uint64_t)1 << 13)) {
       pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* dtx-drx-Info */
    if (present & ((uint64_t)1 << 12)) {
       pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* hs-scch-LessInfo */
    if (present & ((uint64_t)1 << 11)) {
       pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* mimoParameters */
    if (present & ((uint64_t)1 << 10)) {
       pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* maxAllowedUL-TX-Power */
    if (present & ((uint64_t)1 << 9)) {
       pvalue->m |= 0x200000000ull;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r8-IEs");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* ul-DPCH-Info */
    if (present & ((uint64_t)1 << 8)) {
       pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* ul-EDCH-Information */
    if (present & ((uint64_t)1 << 7)) {
       pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* dl-HSPDSCH-Information */
    if (present & ((uint64_t)1 << 6)) {
       pvalue->m |= 0x1000000000ull;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* dl-CommonInformation */
    if (present & ((uint64_t)1 << 5)) {
       pvalue->m |= 0x2000000000ull;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* dl-InformationPerRL-List */
    if (present & ((uint64_t)1 << 4)) {
       pvalue->m |= 0x4000000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* dl-SecondaryCellInfoFDD */
    if (present & ((uint64_t)1 << 3)) {
       pvalue->m |= 0x8000000000ull;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* controlChannelDRXInfo-TDD128 */
    if (present & ((uint64_t)1 << 2)) {
       pvalue->m |= 0x10000000000ull;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128, cur);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* sps-Information-TDD128 */
    if (present & ((uint64_t)1 << 1)) {
       pvalue->m |= 0x20000000000ull;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerSetup-r8-IEs");
+      stat = dec_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128, cur);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "CellUpdateConfirm-r8-IEs");
    }
    /* mbms-PL-ServiceRestrictInfo */
    if (present & ((uint64_t)1 << 0)) {
       pvalue->m |= 0x40000000000ull;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r8-IEs");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r8-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r8-IEs");
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r8-IEs");
          pvalue->mbms_PL_ServiceRestrictInfo = ui;
       }
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_v890ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v890ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_r8_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r8_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r8_IEs, pvalue);
+}
+
+static int dec_CellUpdateConfirm_v890ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v890ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v890ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v890ext-IEs");
    /* dl-SecondaryCellInfoFDD-v890ext */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "RadioBearerSetup-v890ext-IEs");
+      stat = dec_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext, cur);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "CellUpdateConfirm-v890ext-IEs");
    }
    /* dl-HSPDSCH-Information */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-v890ext-IEs");
+      stat = dec_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-v890ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v8a0ext_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_v890ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v890ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v8a0ext_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v8a0ext-IEs");
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-v8a0ext-IEs");
    /* dl-HSPDSCH-Information */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-v8a0ext-IEs");
+      stat = dec_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-v8a0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_v8a0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v8a0ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v8a0ext_IEs(ctx, &pvalue->radioBearerSetup_v8a0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v8a0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v8a0ext */
+   stat = dec_CellUpdateConfirm_v8a0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v8a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v8a0ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v7g0ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v7g0ext_IEs(ctx, &pvalue->radioBearerSetup_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7g0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7g0ext */
+   stat = dec_CellUpdateConfirm_v7g0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7g0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7g0ext", -1, 0);
    /* v8a0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v890ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v890ext_IEs(ctx, &pvalue->radioBearerSetup_v890ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v890ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v890ext */
+   stat = dec_CellUpdateConfirm_v890ext_IEs(ctx, &pvalue->cellUpdateConfirm_v890ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v890ext", -1, 0);
    /* v7g0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v7f0ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v7f0ext_IEs(ctx, &pvalue->radioBearerSetup_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7f0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7f0ext */
+   stat = dec_CellUpdateConfirm_v7f0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7f0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7f0ext", -1, 0);
    /* v890NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-v7d0ext */
-   stat = asn1PD_UMTS_RadioBearerSetup_v7d0ext_IEs(ctx, &pvalue->radioBearerSetup_v7d0ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7d0ext", -1, 0);
+   stat = rtxDecBitsAt(ctx, cur, 1, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7d0ext */
+   stat = dec_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7d0ext", -1, 0);
    /* v7f0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions, pvalue);
+}
+
+static int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-r8 */
-   stat = asn1PD_UMTS_RadioBearerSetup_r8_IEs(ctx, &pvalue->radioBearerSetup_r8);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r8", -1, 0);
-   /* radioBearerSetup-r8-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r8 */
+   stat = dec_CellUpdateConfirm_r8_IEs(ctx, &pvalue->cellUpdateConfirm_r8, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8", -1, 0);
+   /* cellUpdateConfirm-r8-add-ext */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetup_r8_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r8-add-ext", -1, 0);
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->cellUpdateConfirm_r8_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cellUpdateConfirm-r8-add-ext", -1, 0);
    }
    /* v7d0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_r9_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r9_IEs* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8, pvalue);
+}
+
+static int dec_CellUpdateConfirm_r9_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r9_IEs* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint64_t present;
@@ -7418,1598 +9103,387 @@ int asn1PD_UMTS_RadioBearerSetup_r9_IEs(rtxContext* RT_RESTRICT ctx, RadioBearer
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    {
       uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 13);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r9-IEs");
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r9-IEs");
+      stat = rtxDecBitsAt(ctx, cur, 13, &hi);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-r9-IEs");
+      stat = rtxDecBitsAt(ctx, cur, 32, &lo);
+      RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, "CellUpdateConfirm-r9-IEs");
       present = ((uint64_t)hi << 32) | lo;
    }
    /* integrityProtectionModeInfo */
    if (present & ((uint64_t)1 << 44)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* cipheringModeInfo */
    if (present & ((uint64_t)1 << 43)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r9-IEs");
-   }
-   /* sr-vcc-Info */
-   if (present & ((uint64_t)1 << 42)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info);
-      RT_CHECK(ctx, stat, 0, "sr-vcc-Info", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* activationTime */
-   if (present & ((uint64_t)1 << 41)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r9-IEs");
+   if (present & ((uint64_t)1 << 42)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->activationTime, 0, 255);
+      RT_CHECK_AT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 40)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   if (present & ((uint64_t)1 << 41)) {
+      pvalue->m |= 0x8u;
+      stat = dec_U_RNTI(ctx, &pvalue->new_U_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 39)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   if (present & ((uint64_t)1 << 40)) {
+      pvalue->m |= 0x10u;
+      stat = dec_C_RNTI(ctx, &pvalue->new_C_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 38)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   if (present & ((uint64_t)1 << 39)) {
+      pvalue->m |= 0x20u;
+      stat = dec_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 37)) {
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   if (present & ((uint64_t)1 << 38)) {
+      pvalue->m |= 0x40u;
+      stat = dec_H_RNTI(ctx, &pvalue->new_H_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 36)) {
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   if (present & ((uint64_t)1 << 37)) {
+      pvalue->m |= 0x80u;
+      stat = dec_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 35)) {
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x100u;
+      stat = dec_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* rrc-StateIndicator */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r9-IEs");
+   stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK_AT(ctx, cur, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r9-IEs");
    /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x200u;
+      stat = dec_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff, cur);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* waitTime */
    if (present & ((uint64_t)1 << 34)) {
       pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r9-IEs");
+      stat = pd_ConsUInt8At(ctx, cur, &pvalue->waitTime, 0, 15);
+      RT_CHECK_AT(ctx, cur, stat, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r9-IEs");
    }
-   /* ura-Identity */
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r9-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitAt(ctx, cur, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK_AT(ctx, cur, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r9-IEs");
+   /* cn-InformationInfo */
    if (present & ((uint64_t)1 << 33)) {
       pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r9-IEs");
    }
-   /* supportForChangeOfUE-Capability */
+   /* ura-Identity */
    if (present & ((uint64_t)1 << 32)) {
       pvalue->m |= 0x1000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_URA_Identity(ctx, &pvalue->ura_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r9-IEs");
    }
-   /* cn-InformationInfo */
+   /* supportForChangeOfUE-Capability */
    if (present & ((uint64_t)1 << 31)) {
       pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r9-IEs");
+      stat = rtxDecBitAt(ctx, cur, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK_AT(ctx, cur, stat, 0, "supportForChangeOfUE-Capability", -1, "CellUpdateConfirm-r9-IEs");
    }
-   /* srb-InformationSetupList */
+   /* defaultConfigForCellFACH */
    if (present & ((uint64_t)1 << 30)) {
       pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH, cur);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "CellUpdateConfirm-r9-IEs");
    }
-   /* rab-InformationSetupList */
+   /* rab-InformationSetup */
    if (present & ((uint64_t)1 << 29)) {
       pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_RAB_InformationSetup_r8(ctx, &pvalue->rab_InformationSetup, cur);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetup", -1, "CellUpdateConfirm-r9-IEs");
    }
-   /* rab-InformationReconfigList */
+   /* rb-InformationReleaseList */
    if (present & ((uint64_t)1 << 28)) {
       pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* rb-InformationReconfigList */
    if (present & ((uint64_t)1 << 27)) {
       pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* rb-InformationAffectedList */
    if (present & ((uint64_t)1 << 26)) {
       pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* dl-CounterSynchronisationInfo */
    if (present & ((uint64_t)1 << 25)) {
       pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* pdcp-ROHC-TargetMode */
    if (present & ((uint64_t)1 << 24)) {
       pvalue->m |= 0x100000u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerSetup-r9-IEs");
+      stat = pd_ConsUnsignedAt(ctx, cur, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK_AT(ctx, cur, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* ul-CommonTransChInfo */
    if (present & ((uint64_t)1 << 23)) {
       pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* ul-deletedTransChInfoList */
    if (present & ((uint64_t)1 << 22)) {
       pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* ul-AddReconfTransChInfoList */
    if (present & ((uint64_t)1 << 21)) {
       pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* dl-CommonTransChInfo */
    if (present & ((uint64_t)1 << 20)) {
       pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* dl-DeletedTransChInfoList */
    if (present & ((uint64_t)1 << 19)) {
       pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* dl-AddReconfTransChInfoList */
    if (present & ((uint64_t)1 << 18)) {
       pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* frequencyInfo */
    if (present & ((uint64_t)1 << 17)) {
       pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* multi-frequencyInfo */
    if (present & ((uint64_t)1 << 16)) {
       pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* dtx-drx-TimingInfo */
    if (present & ((uint64_t)1 << 15)) {
       pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* dtx-drx-Info */
    if (present & ((uint64_t)1 << 14)) {
       pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* hs-scch-LessInfo */
    if (present & ((uint64_t)1 << 13)) {
       pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* mimoParameters */
    if (present & ((uint64_t)1 << 12)) {
       pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* maxAllowedUL-TX-Power */
    if (present & ((uint64_t)1 << 11)) {
       pvalue->m |= 0x200000000ull;
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r9-IEs");
+      stat = pd_ConsInt8At(ctx, cur, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_AT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* ul-DPCH-Info */
    if (present & ((uint64_t)1 << 10)) {
       pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* ul-EDCH-Information */
    if (present & ((uint64_t)1 << 9)) {
       pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* ul-SecondaryCellInfoFDD */
    if (present & ((uint64_t)1 << 8)) {
       pvalue->m |= 0x1000000000ull;
-      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* dl-HSPDSCH-Information */
    if (present & ((uint64_t)1 << 7)) {
       pvalue->m |= 0x2000000000ull;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* dl-CommonInformation */
    if (present & ((uint64_t)1 << 6)) {
       pvalue->m |= 0x4000000000ull;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* dl-InformationPerRL-List */
    if (present & ((uint64_t)1 << 5)) {
       pvalue->m |= 0x8000000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* dl-SecondaryCellInfoFDD */
    if (present & ((uint64_t)1 << 4)) {
       pvalue->m |= 0x10000000000ull;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* controlChannelDRXInfo-TDD128 */
    if (present & ((uint64_t)1 << 3)) {
       pvalue->m |= 0x20000000000ull;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128, cur);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* sps-Information-TDD128 */
    if (present & ((uint64_t)1 << 2)) {
       pvalue->m |= 0x40000000000ull;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128, cur);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "CellUpdateConfirm-r9-IEs");
    }
    /* mbms-PL-ServiceRestrictInfo */
    if (present & ((uint64_t)1 << 1)) {
       pvalue->m |= 0x80000000000ull;
       {
          uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r9-IEs");
+         stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 0);
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r9-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r9-IEs");
+         RT_CHECK_AT(ctx, cur, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r9-IEs");
          pvalue->mbms_PL_ServiceRestrictInfo = ui;
       }
    }
    /* cellDCHMeasOccasionInfo-TDD128 */
    if (present & ((uint64_t)1 << 0)) {
       pvalue->m |= 0x100000000000ull;
-      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
-      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "RadioBearerSetup-r9-IEs");
+      stat = dec_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128, cur);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "CellUpdateConfirm-r9-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_r9_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r9_IEs* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_r9_IEs, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetup-r9 */
-   stat = asn1PD_UMTS_RadioBearerSetup_r9_IEs(ctx, &pvalue->radioBearerSetup_r9);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r9", -1, 0);
-   /* radioBearerSetup-r9-add-ext */
+   stat = rtxDecBitsAt(ctx, cur, 2, &present);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r9 */
+   stat = dec_CellUpdateConfirm_r9_IEs(ctx, &pvalue->cellUpdateConfirm_r9, cur);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9", -1, 0);
+   /* cellUpdateConfirm-r9-add-ext */
    if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetup_r9_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r9-add-ext", -1, 0);
+      stat = pd_DynBitStringAt(ctx, cur, &pvalue->cellUpdateConfirm_r9_add_ext);
+      RT_CHECK_AT(ctx, cur, stat, 0, "cellUpdateConfirm-r9-add-ext", -1, 0);
    }
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pd_ConsUnsignedAt(ctx, cur, &ui, 0, 1);
+   RT_CHECK_AT(ctx, cur, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
       case 0: /* r9 */
-         pvalue->u.r9 = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         pvalue->u.r9 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9, cur);
          RT_CHECK(ctx, stat, 0, "r9", -1, 0);
          break;
       case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL_AT(ctx, cur, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions, cur);
          RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+         RT_FAIL_AT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r8 */
-         pvalue->u.r8 = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r7 */
-         pvalue->u.r7 = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r6 */
-         pvalue->u.r6 = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r5 */
-         pvalue->u.r5 = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5));
-         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r4 */
-         pvalue->u.r4 = (RadioBearerSetup_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup_later_than_r3(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetup(rtxContext* RT_RESTRICT ctx, RadioBearerSetup* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (RadioBearerSetup_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RadioBearerSetup");
-         asn1Init_UMTS_RadioBearerSetup_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_RadioBearerSetup_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "RadioBearerSetup");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (RadioBearerSetup_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "RadioBearerSetup");
-         asn1Init_UMTS_RadioBearerSetup_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RadioBearerSetup");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RadioBearerSetup");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetupComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete_v770ext_IEs_deferredMeasurementControlReading* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetupComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetupComplete-v770ext-IEs");
-   /* ext-UL-TimingAdvance */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "RadioBearerSetupComplete-v770ext-IEs");
-   }
-   /* deferredMeasurementControlReading */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerSetupComplete-v770ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerSetupComplete-v770ext-IEs");
-         pvalue->deferredMeasurementControlReading = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetupComplete-v770ext */
-   stat = asn1PD_UMTS_RadioBearerSetupComplete_v770ext_IEs(ctx, &pvalue->radioBearerSetupComplete_v770ext);
-   RT_CHECK(ctx, stat, 0, "radioBearerSetupComplete-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetupComplete-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetupComplete_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerSetupComplete-r3-add-ext", -1, 0);
-   }
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetupComplete(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetupComplete");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerSetupComplete");
-   /* ul-IntegProtActivationInfo */
-   if (present & ((uint32_t)1 << 6)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
-      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "RadioBearerSetupComplete");
-   }
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 5)) {
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "RadioBearerSetupComplete");
-   }
-   /* start-Value */
-   if (present & ((uint32_t)1 << 4)) {
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_Value);
-      RT_CHECK(ctx, stat, 0, "start-Value", -1, "RadioBearerSetupComplete");
-   }
-   /* count-C-ActivationTime */
-   if (present & ((uint32_t)1 << 3)) {
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "RadioBearerSetupComplete");
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 2)) {
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerSetupComplete");
-   }
-   /* ul-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "RadioBearerSetupComplete");
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerSetupComplete");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetupFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetupFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetupFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetupFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* radioBearerSetupFailure-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetupFailure_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "radioBearerSetupFailure-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerSetupFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerSetupFailure(rtxContext* RT_RESTRICT ctx, RadioBearerSetupFailure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetupFailure");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerSetupFailure");
-   /* failureCause */
-   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat, 0, "failureCause", -1, "RadioBearerSetupFailure");
-   /* potentiallySuccesfulBearerList */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RB_IdentityList(ctx, &pvalue->potentiallySuccesfulBearerList);
-      RT_CHECK(ctx, stat, 0, "potentiallySuccesfulBearerList", -1, "RadioBearerSetupFailure");
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerSetupFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerSetupFailure");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_r3_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject-r3-IEs");
-   /* initialUE-Identity */
-   stat = asn1PD_UMTS_InitialUE_Identity(ctx, &pvalue->initialUE_Identity);
-   RT_CHECK(ctx, stat, 0, "initialUE-Identity", -1, "RRCConnectionReject-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionReject-r3-IEs");
-   /* rejectionCause */
-   stat = pd_ConsUnsigned(ctx, &pvalue->rejectionCause, 0, 1);
-   RT_CHECK(ctx, stat, "RejectionCause", "rejectionCause", -1, "RRCConnectionReject-r3-IEs");
-   /* waitTime */
-   stat = pd_ConsUInt8(ctx, &pvalue->waitTime, 0, 15);
-   RT_CHECK(ctx, stat, "WaitTime", "waitTime", -1, "RRCConnectionReject-r3-IEs");
-   /* redirectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RedirectionInfo(ctx, &pvalue->redirectionInfo);
-      RT_CHECK(ctx, stat, 0, "redirectionInfo", -1, "RRCConnectionReject-r3-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject-v690ext-IEs");
-   /* redirectionInfo-v690ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GSM_TargetCellInfoList(ctx, &pvalue->redirectionInfo_v690ext);
-      RT_CHECK(ctx, stat, 0, "redirectionInfo-v690ext", -1, "RRCConnectionReject-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_v6f0ext_IEs_countingCompletion(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_v6f0ext_IEs_countingCompletion* RT_RESTRICT pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat, 0, 0, -1, 0);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_v6f0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_v6f0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject-v6f0ext-IEs");
-   /* countingCompletion */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, 0, "countingCompletion", -1, "RRCConnectionReject-v6f0ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, 0, "countingCompletion", -1, "RRCConnectionReject-v6f0ext-IEs");
-         pvalue->countingCompletion = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_v860ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject-v860ext-IEs");
-   /* redirectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RedirectionInfo_v860ext(ctx, &pvalue->redirectionInfo);
-      RT_CHECK(ctx, stat, 0, "redirectionInfo", -1, "RRCConnectionReject-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionReject-v860ext */
-   stat = asn1PD_UMTS_RRCConnectionReject_v860ext_IEs(ctx, &pvalue->rrcConnectionReject_v860ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionReject-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionReject-v6f0ext */
-   stat = asn1PD_UMTS_RRCConnectionReject_v6f0ext_IEs(ctx, &pvalue->rrcConnectionReject_v6f0ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionReject-v6f0ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionReject-v690ext */
-   stat = asn1PD_UMTS_RRCConnectionReject_v690ext_IEs(ctx, &pvalue->rrcConnectionReject_v690ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionReject-v690ext", -1, 0);
-   /* v6f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions(ctx, &pvalue->v6f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6f0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionReject-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionReject_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "rrcConnectionReject-r3-add-ext", -1, 0);
-   }
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionReject-r3 */
-   stat = asn1PD_UMTS_RRCConnectionReject_r3_IEs(ctx, &pvalue->rrcConnectionReject_r3);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionReject-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject_later_than_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* initialUE-Identity */
-   stat = asn1PD_UMTS_InitialUE_Identity(ctx, &pvalue->initialUE_Identity);
-   RT_CHECK(ctx, stat, 0, "initialUE-Identity", -1, 0);
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_RRCConnectionReject_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionReject(rtxContext* RT_RESTRICT ctx, RRCConnectionReject* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (RRCConnectionReject_r3*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionReject_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RRCConnectionReject");
-         asn1Init_UMTS_RRCConnectionReject_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_RRCConnectionReject_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "RRCConnectionReject");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (RRCConnectionReject_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionReject_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "RRCConnectionReject");
-         asn1Init_UMTS_RRCConnectionReject_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_RRCConnectionReject_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RRCConnectionReject");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRCConnectionReject");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_r3_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionRelease-r3-IEs");
-   /* n-308 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->n_308, 1, 8);
-      RT_CHECK(ctx, stat, "N-308", "n-308", -1, "RRCConnectionRelease-r3-IEs");
-   }
-   /* releaseCause */
-   stat = pd_ConsUnsigned(ctx, &pvalue->releaseCause, 0, 7);
-   RT_CHECK(ctx, stat, "ReleaseCause", "releaseCause", -1, "RRCConnectionRelease-r3-IEs");
-   /* rplmn-information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Rplmn_Information(ctx, &pvalue->rplmn_information);
-      RT_CHECK(ctx, stat, 0, "rplmn-information", -1, "RRCConnectionRelease-r3-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-v690ext-IEs");
-   /* redirectionInfo-v690ext */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RedirectionInfo_r6(ctx, &pvalue->redirectionInfo_v690ext);
-      RT_CHECK(ctx, stat, 0, "redirectionInfo-v690ext", -1, "RRCConnectionRelease-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-v770ext-IEs");
-   /* ueMobilityStateIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RRCConnectionRelease-v770ext-IEs");
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RRCConnectionRelease-v770ext-IEs");
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_v860ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-v860ext-IEs");
-   /* redirectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RedirectionInfo_v860ext(ctx, &pvalue->redirectionInfo);
-      RT_CHECK(ctx, stat, 0, "redirectionInfo", -1, "RRCConnectionRelease-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-v860ext */
-   stat = asn1PD_UMTS_RRCConnectionRelease_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-v770ext */
-   stat = asn1PD_UMTS_RRCConnectionRelease_v770ext_IEs(ctx, &pvalue->rrcConnectionRelease_v770ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v770ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-v690ext */
-   stat = asn1PD_UMTS_RRCConnectionRelease_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionRelease_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-r3-add-ext", -1, 0);
-   }
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-r3 */
-   stat = asn1PD_UMTS_RRCConnectionRelease_r3_IEs(ctx, &pvalue->rrcConnectionRelease_r3);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_r4_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r4_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-r4-IEs");
-   /* n-308 */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->n_308, 1, 8);
-      RT_CHECK(ctx, stat, "N-308", "n-308", -1, "RRCConnectionRelease-r4-IEs");
-   }
-   /* releaseCause */
-   stat = pd_ConsUnsigned(ctx, &pvalue->releaseCause, 0, 7);
-   RT_CHECK(ctx, stat, "ReleaseCause", "releaseCause", -1, "RRCConnectionRelease-r4-IEs");
-   /* rplmn-information */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Rplmn_Information_r4(ctx, &pvalue->rplmn_information);
-      RT_CHECK(ctx, stat, 0, "rplmn-information", -1, "RRCConnectionRelease-r4-IEs");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-v860ext */
-   stat = asn1PD_UMTS_RRCConnectionRelease_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-v770ext */
-   stat = asn1PD_UMTS_RRCConnectionRelease_v770ext_IEs(ctx, &pvalue->rrcConnectionRelease_v770ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v770ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-v690ext */
-   stat = asn1PD_UMTS_RRCConnectionRelease_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionRelease_r4_add_ext);
-      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-r4-add-ext", -1, 0);
-   }
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-r4 */
-   stat = asn1PD_UMTS_RRCConnectionRelease_r4_IEs(ctx, &pvalue->rrcConnectionRelease_r4);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-r4", -1, 0);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r4 */
-         pvalue->u.r4 = (RRCConnectionRelease_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
-         asn1Init_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
-         break;
-      case 1: /* criticalExtensions */
-         pvalue->u.criticalExtensions = (RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_later_than_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease* RT_RESTRICT pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease");
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0: /* r3 */
-         pvalue->u.r3 = (RRCConnectionRelease_r3*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease_r3));
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RRCConnectionRelease");
-         asn1Init_UMTS_RRCConnectionRelease_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_RRCConnectionRelease_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "RRCConnectionRelease");
-         break;
-      case 1: /* later-than-r3 */
-         pvalue->u.later_than_r3 = (RRCConnectionRelease_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "RRCConnectionRelease");
-         asn1Init_UMTS_RRCConnectionRelease_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RRCConnectionRelease");
-         break;
-      default:
-         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRCConnectionRelease");
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* u-RNTI */
-   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "RRCConnectionRelease-CCCH-r3-IEs");
-   /* rrcConnectionRelease */
-   stat = asn1PD_UMTS_RRCConnectionRelease_r3_IEs(ctx, &pvalue->rrcConnectionRelease);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease", -1, "RRCConnectionRelease-CCCH-r3-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = asn1PD_UMTS_RRCConnectionRelease_v690ext_IEs(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-CCCH-v690ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_v860ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat;
-   stat = asn1PD_UMTS_RRCConnectionRelease_v860ext_IEs(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-CCCH-v860ext-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-v860ext */
-   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-v690ext */
-   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-CCCH-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionRelease_CCCH_r3_add_ext);
-      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r3-add-ext", -1, 0);
-   }
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-CCCH-r3 */
-   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_IEs(ctx, &pvalue->rrcConnectionRelease_CCCH_r3);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_r4_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r4_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   /* rrcConnectionRelease */
-   stat = asn1PD_UMTS_RRCConnectionRelease_r4_IEs(ctx, &pvalue->rrcConnectionRelease);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease", -1, "RRCConnectionRelease-CCCH-r4-IEs");
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-v860ext */
-   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-v690ext */
-   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
-   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rrcConnectionRelease-CCCH-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionRelease_CCCH_r4_add_ext);
-      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r4-add-ext", -1, 0);
-   }
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_DECODE_ENTRY(ctx, dec_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions, pvalue);
 }
 

@@ -355,11 +355,51 @@ int pd_DynOctetString(rtxContext* ctx, rtxDynOctStr* pvalue) {
   return 0;
 }
 
+uint64_t rtxLoadWindowTail(const rtxContext* ctx, uint32_t bi) {
+  const uint8_t* data = ctx->buffer_data;
+  const uint32_t size = ctx->buffer_size;
+  uint64_t w;
+  if ((uint64_t)bi + 8u <= size) {
+    std::memcpy(&w, data + bi, 8);
+    return rtxBigEndian64(w);
+  }
+  if (bi >= size) return 0;
+  if (size >= 8u) {
+    /* The last 8 bytes, shifted into place. */
+    std::memcpy(&w, data + size - 8u, 8);
+    return rtxBigEndian64(w) << (8u * (bi + 8u - size));
+  }
+  w = 0;
+  for (uint32_t i = bi; i < size; i++) w |= static_cast<uint64_t>(data[i]) << (56u - 8u * (i - bi));
+  return w;
+}
+
+uint64_t rtxLoadTail(const rtxContext* ctx, uint64_t pos) {
+  const uint32_t size = ctx->buffer_size;
+  const uint64_t end = static_cast<uint64_t>(size) * 8u;
+  if (pos >= end) return 0;
+  const uint32_t bi = static_cast<uint32_t>(pos >> 3);
+  if (size >= 8u && static_cast<uint64_t>(bi) + 8u > size) {
+    /* The last 8 bytes, shifted so that bit `pos` comes on top. */
+    uint64_t w;
+    std::memcpy(&w, ctx->buffer_data + size - 8u, 8);
+    return rtxBigEndian64(w) << (pos + 64u - end);
+  }
+  return rtxLoadWindow(ctx, bi) << (pos & 7u);
+}
+
 int rtxDecBitsToBytes(rtxContext* ctx, uint8_t* dst, uint32_t nbits) {
+  uint64_t pos = rtxBitPos(ctx);
+  int stat = rtxDecBitsToBytesAt(ctx, &pos, dst, nbits);
+  if (stat == 0) rtxSetBitPos(ctx, pos);
+  return stat;
+}
+
+int rtxDecBitsToBytesAt(const rtxContext* ctx, uint64_t* ppos, uint8_t* dst, uint32_t nbits) {
   if (nbits == 0) return 0;
-  if (!haveBits(ctx, nbits)) return RT_ERR_ENDOFBUF;
-  const uint64_t pos = rtxBitPos(ctx);
-  const uint32_t bi = ctx->byte_index;
+  const uint64_t pos = *ppos;
+  if (pos + nbits > static_cast<uint64_t>(ctx->buffer_size) * 8u) return RT_ERR_ENDOFBUF;
+  const uint32_t bi = static_cast<uint32_t>(pos >> 3);
   const uint32_t shift = static_cast<uint32_t>(pos & 7u);
   const uint32_t nbytes = (nbits + 7u) / 8u;
   if (shift == 0) {
@@ -386,6 +426,6 @@ int rtxDecBitsToBytes(rtxContext* ctx, uint8_t* dst, uint32_t nbits) {
     }
   }
   if (nbits & 7u) dst[nbytes - 1] &= static_cast<uint8_t>(0xFFu << (8u - (nbits & 7u)));
-  rtxSetBitPos(ctx, pos + nbits);
+  *ppos = pos + nbits;
   return 0;
 }
